@@ -1,0 +1,21 @@
+# SPDX-License-Identifier: GPL-3.0-or-later
+# The compiler's options, linked by every target of the project.
+add_library(tallyroll_flags INTERFACE)
+target_compile_options(tallyroll_flags INTERFACE -Wall -Wextra -Wpedantic -Wshadow=local -Wconversion -Wno-sign-conversion)
+if(CMAKE_CXX_COMPILER_ID STREQUAL "Clang")
+  target_compile_options(tallyroll_flags INTERFACE -Wno-shadow)
+endif()
+target_compile_definitions(tallyroll_flags INTERFACE
+  TALLYROLL_VERSION="${PROJECT_VERSION}" $<$<CONFIG:Debug>:_GLIBCXX_ASSERTIONS>)
+if(TALLYROLL_WERROR)
+  target_compile_options(tallyroll_flags INTERFACE -Werror)
+endif()
+if(TALLYROLL_SANITIZE)
+  target_compile_options(tallyroll_flags INTERFACE
+    -fsanitize=${TALLYROLL_SANITIZE} -fno-omit-frame-pointer -fno-sanitize-recover=undefined)
+  target_link_options(tallyroll_flags INTERFACE -fsanitize=${TALLYROLL_SANITIZE})
+endif()
+if(TALLYROLL_COVERAGE)
+  target_compile_options(tallyroll_flags INTERFACE --coverage -O0 -fprofile-update=atomic)
+  target_link_options(tallyroll_flags INTERFACE --coverage)
+endif()
