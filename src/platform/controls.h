@@ -1,0 +1,75 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The controls of a Portal as plain values. What a screen shows of them is the binder's matter.
+#pragma once
+
+#include <string>
+#include <vector>
+
+namespace tallyroll {
+
+struct Control {
+  bool Enabled = true;
+  bool Visible = true;
+};
+
+struct Label : Control {
+  std::string Caption;
+};
+
+struct TextBox : Control {
+  std::string Text;
+  int MaxLength = 0;   // characters; 0 is no limit of the box's own, -1 lets nothing in
+  int SelStart = 0;    // caret or start of the selection, in characters; follows the user
+  int SelLength = 0;
+};
+
+struct CommandButton : Control {
+  std::string Caption;
+};
+
+struct CheckBox : Control {
+  std::string Caption;
+  bool Value = false;
+};
+
+// One of a group; the form groups those that exclude one another.
+struct OptionButton : Control {
+  std::string Caption;
+  bool Value = false;
+};
+
+struct ListBox : Control {
+  std::vector<std::string> List;  // a tab parts the columns of a line
+  int ListIndex = -1;             // from 0; -1 is none chosen
+};
+
+struct ComboBox : Control {
+  std::vector<std::string> List;
+  int ListIndex = -1;
+  std::string Text;               // what is typed or chosen
+};
+
+// A group with a caption, switched as one.
+struct Frame : Control {
+  std::string Caption;
+};
+
+// Pages of which one is shown; the form holds what stands on each.
+struct Pages : Control {
+  int Current = 0;  // from 0
+};
+
+// Pages with tabs that the user picks.
+struct TabStrip : Control {
+  std::vector<std::string> Tabs;  // captions, one a page
+  int Selected = 0;               // from 0
+};
+
+struct DTPicker : Control {
+  double Value = 0;  // day serial
+};
+
+// An ornament; the form says which picture.
+struct PictureBox : Control {};
+
+}  // namespace tallyroll

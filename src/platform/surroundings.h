@@ -1,0 +1,82 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// What the logic asks of the machine and the screen it runs on.
+#pragma once
+
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include "base/date_serial.h"
+
+namespace tallyroll {
+
+class Portal;
+
+inline constexpr std::string_view kNoteToTheTeacher = "Note to the Teacher";
+
+enum class BoxButtons { kOk, kOkCancel, kYesNo, kYesNoCancel };
+enum class BoxIcon { kNone, kCritical, kQuestion, kExclamation, kInformation };
+enum class BoxAnswer { kOk = 1, kCancel = 2, kYes = 6, kNo = 7 };
+
+struct MessageRequest {
+  std::string text;
+  std::string title = std::string(kNoteToTheTeacher);
+  BoxButtons buttons = BoxButtons::kOk;
+  BoxIcon icon = BoxIcon::kNone;
+  bool second_is_default = false;  // Enter presses the second button
+};
+
+struct FileDialogRequest {
+  bool save = false;
+  std::string title;              // empty: the dialog's own
+  std::string folder;             // where it starts
+  std::string filename;           // what it offers
+  std::string filter;             // "Data Files (*.tyr)|*.TYR"
+  std::string default_extension;  // without the point; added to a name that has none
+  bool file_must_exist = false;
+  bool overwrite_prompt = false;
+  int help_context = 0;
+};
+
+// One object stands for the whole surroundings: Qt's in the desktop program, a scripted one in
+// tests, a mute one on the command line.
+class Surroundings {
+ public:
+  virtual ~Surroundings() = default;
+
+  virtual BoxAnswer MessageBox(const MessageRequest& request) = 0;
+  // The chosen path, in file system bytes; nothing when the dialog was cancelled.
+  virtual std::optional<std::string> FileDialog(const FileDialogRequest& request) = 0;
+  // Runs a loaded Portal until it is unloaded.
+  virtual void ShowModal(Portal& portal) = 0;
+  virtual void ShowHelp(int context) = 0;
+
+  virtual std::string ClipboardText() = 0;
+  virtual void SetClipboardText(std::string_view text) = 0;
+
+  // Settings by application name, section and key. Sections are compared without case.
+  virtual std::string ReadSetting(std::string_view application, std::string_view section, std::string_view key,
+                                  std::string_view default_value) = 0;
+  virtual void WriteSetting(std::string_view application, std::string_view section, std::string_view key,
+                            std::string_view value) = 0;
+
+  virtual double Now() = 0;     // local date and time as a day serial
+  virtual double Random() = 0;  // 0 up to but not 1
+  virtual DateOrder ShortDateOrder() = 0;
+
+  virtual std::string ProfileFolder() = 0;  // the user's folder for program data, without a final slash
+  virtual std::string ProgramFolder() = 0;  // where the sample file lies
+
+  virtual void PumpEvents() = 0;
+  virtual void SetWaitCursor(bool on) = 0;
+};
+
+Surroundings& Platform();
+void SetPlatform(Surroundings* surroundings);
+
+// The usual boxes in one line.
+BoxAnswer ShowMessage(std::string_view text, BoxIcon icon = BoxIcon::kNone, std::string_view title = kNoteToTheTeacher);
+BoxAnswer Ask(std::string_view text, BoxButtons buttons, BoxIcon icon = BoxIcon::kNone,
+              std::string_view title = kNoteToTheTeacher);
+
+}  // namespace tallyroll

@@ -1,0 +1,31 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// Fresh values of a class, and what is rebuilt from a class after it was read.
+#pragma once
+
+#include "store/records.h"
+
+namespace tallyroll {
+
+// Empties Classes[CurrentClass] for a new or about-to-be-read class, and clears FileErrorCode.
+// ChartRows, ChartColumns, Categories, Magic and SlotState are not touched.
+void ResetClassSlot();
+
+// The 14 default letter values: [0] = 100 says that the defaults were loaded.
+void SetDefaultLetterValues();
+// The default scale, column 0 of RoundTable: it always comes from the program, never from a file.
+void SetDefaultRoundScale();
+// Scale 4 from the letter values, put in force: how Skip Rounding finds its letters.
+void UseLetterValuesAsScale();
+
+// Gives the last student, whose count was just raised, its lists: marks "NEW", summaries "0",
+// seats -1. DailyMarks is left alone: the text import relies on that.
+void AddStudentDefaults();
+
+// Reads Method, the four flags and TypeWeights from AverageSettings when it is not blank, and
+// enables the entries that need a method.
+void ParseAverageSettings();
+
+// After every read: Weights, InstrumentUse and TypePercents by Method, and the scale of Skip Rounding.
+void RebuildDerivedFields();
+
+}  // namespace tallyroll
