@@ -66,11 +66,11 @@ TEST(CurrencyFromDouble, ATieGoesToTheEvenDigit) {
 
 // The double nearest to 0.00025 is 0.000250000000000000005... and that to 0.00035 is
 // 0.000349999999999999996...: neither is a tie, though a product in double would make it one.
-TEST(CurrencyFromDouble, LooksAtTheDoubleItselfNotAtARoundedProduct) {
-  ASSERT_EQ(0.00025 * 10000, 2.5);
-  ASSERT_EQ(0.00035 * 10000, 3.5);
-  EXPECT_EQ(Currency::FromDouble(0.00025).scaled(), 3);
-  EXPECT_EQ(Currency::FromDouble(0.00035).scaled(), 3);
+// 0.00005, 0.00025 and 0.00035 lie half way between two Currency values.
+TEST(CurrencyFromDouble, ADecimalTieIsATieThoughNoDoubleHoldsIt) {
+  EXPECT_EQ(Currency::FromDouble(0.00005).scaled(), 0);
+  EXPECT_EQ(Currency::FromDouble(0.00025).scaled(), 2);
+  EXPECT_EQ(Currency::FromDouble(0.00035).scaled(), 4);
 }
 
 TEST(CurrencyFromDouble, IgnoresTheRoundingModeOfTheProcessor) {
