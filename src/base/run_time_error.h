@@ -6,11 +6,11 @@
 
 namespace tallyroll {
 
-inline constexpr int kErrorOverflow = 6;          // a number beyond Currency or 16 bits
-inline constexpr int kErrorDivisionByZero = 11;   // a division by nothing
-inline constexpr int kErrorTypeMismatch = 13;     // a text that is no number where one is needed
+inline constexpr int kErrorOverflow = 6;         // a number beyond Currency or 16 bits
+inline constexpr int kErrorDivisionByZero = 11;  // a division by nothing
+inline constexpr int kErrorTypeMismatch = 13;    // a text that is no number where one is needed
 inline constexpr int kErrorFileNotFound = 53;
-inline constexpr int kErrorDevice = 57;           // also a file whose descriptors contradict themselves
+inline constexpr int kErrorDevice = 57;  // also a file whose descriptors contradict themselves
 inline constexpr int kErrorDiskFull = 61;
 inline constexpr int kErrorPastEnd = 62;
 inline constexpr int kErrorPermission = 70;

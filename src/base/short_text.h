@@ -2,7 +2,9 @@
 // ShortText: a string in eight bytes, made for marks.
 #pragma once
 
+#include <bit>
 #include <cstddef>
+#include <cstring>
 #include <string>
 #include <string_view>
 
@@ -13,35 +15,56 @@ namespace tallyroll {
 // the heap. Converts from and to std::string_view, so it is used like a string.
 class ShortText {
  public:
-  ShortText() noexcept : bytes_{} {}
-  ShortText(std::string_view text) { Assign(text); }
+  ShortText() noexcept : bytes_{kInline} {}
+  ShortText(std::string_view text);
   ShortText(const char* text) : ShortText(std::string_view(text)) {}
   ShortText(const std::string& text) : ShortText(std::string_view(text)) {}
-  ShortText(const ShortText& other);
+  ShortText(const ShortText& other) : ShortText(other.view()) {}
   ShortText(ShortText&& other) noexcept;
-  ShortText& operator=(const ShortText& other);
-  ShortText& operator=(ShortText&& other) noexcept;
+  ShortText& operator=(ShortText other) noexcept;
   ~ShortText();
 
-  std::string_view view() const noexcept;
+  std::string_view view() const noexcept {
+    if (IsInline()) return {reinterpret_cast<const char*>(bytes_ + 1), std::size_t{bytes_[0]} >> 1};
+    std::size_t length;
+    std::memcpy(&length, Block(), sizeof length);
+    return {Block() + sizeof length, length};
+  }
   operator std::string_view() const noexcept { return view(); }
   std::string str() const { return std::string(view()); }
   std::size_t size() const noexcept { return view().size(); }
   bool empty() const noexcept { return view().empty(); }
 
-  friend bool operator==(const ShortText& a, const ShortText& b) noexcept { return a.view() == b.view(); }
+  void swap(ShortText& other) noexcept;
+
+  friend bool operator==(const ShortText& a, const ShortText& b) noexcept {
+    return a.view() == b.view();
+  }
   friend bool operator==(const ShortText& a, std::string_view b) noexcept { return a.view() == b; }
+  friend bool operator==(const ShortText& a, const std::string& b) noexcept {
+    return a.view() == b;
+  }
   friend bool operator==(const ShortText& a, const char* b) noexcept { return a.view() == b; }
 
  private:
-  void Assign(std::string_view text);
-  void Release() noexcept;
+  static constexpr unsigned char kInline = 1;
+  static constexpr std::size_t kMostInline = 7;
 
-  // bytes_[7] is the length when the text stands here, kOnHeap when the first bytes hold a pointer
-  // (x86-64 and AArch64 user pointers leave the top byte free; see short_text.cpp).
+  bool IsInline() const noexcept { return (bytes_[0] & kInline) != 0; }
+  char* Block() const noexcept {
+    char* block;
+    std::memcpy(&block, bytes_, sizeof block);
+    return block;
+  }
+
+  // The low bit of the first byte tells two forms apart:
+  // 1: the text stands here, its length in the other bits of the first byte;
+  // 0: the bytes are a pointer to a heap block, which is its length and then its characters. A
+  //    block is aligned, so the low bit of its address, which comes first, is free.
   alignas(8) unsigned char bytes_[8];
 };
 
 static_assert(sizeof(ShortText) == 8);
+static_assert(std::endian::native == std::endian::little, "a pointer's low byte comes first");
 
 }  // namespace tallyroll

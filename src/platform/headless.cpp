@@ -1,0 +1,105 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "platform/headless.h"
+
+#include <utility>
+
+#include "base/text.h"
+
+namespace tallyroll {
+namespace {
+
+std::string SettingName(std::string_view application, std::string_view section, std::string_view key) {
+  return std::string(application) + "/" + LowerCase(section) + "/" + std::string(key);
+}
+
+// What a teacher who wants nothing presses.
+BoxAnswer Refusal(BoxButtons buttons) {
+  switch (buttons) {
+    case BoxButtons::kOk: return BoxAnswer::kOk;
+    case BoxButtons::kYesNo: return BoxAnswer::kNo;
+    case BoxButtons::kOkCancel:
+    case BoxButtons::kYesNoCancel: break;
+  }
+  return BoxAnswer::kCancel;
+}
+
+}  // namespace
+
+void HeadlessSurroundings::ExpectBox(std::string text, BoxAnswer answer) {
+  scripted_boxes_.push_back({std::move(text), answer});
+}
+
+void HeadlessSurroundings::ExpectFileDialog(std::optional<std::string> path) {
+  scripted_dialogs_.push_back(std::move(path));
+}
+
+void HeadlessSurroundings::ExpectPortal(std::string name, std::function<void(PortalDriver&)> work) {
+  scripted_portals_.push_back({std::move(name), std::move(work)});
+}
+
+std::vector<std::string> HeadlessSurroundings::Complaints() const {
+  std::vector<std::string> all = complaints_;
+  for (const ScriptedBox& box : scripted_boxes_) all.push_back("box never shown: " + box.text);
+  for (const auto& dialog : scripted_dialogs_) all.push_back("file dialog never shown: " + dialog.value_or("(cancel)"));
+  for (const ScriptedPortal& portal : scripted_portals_) all.push_back("portal never shown: " + portal.name);
+  return all;
+}
+
+BoxAnswer HeadlessSurroundings::MessageBox(const MessageRequest& request) {
+  boxes.push_back(request);
+  if (scripted_boxes_.empty()) {
+    complaints_.push_back("unexpected box: " + request.text);
+    return Refusal(request.buttons);
+  }
+  const ScriptedBox box = std::move(scripted_boxes_.front());
+  scripted_boxes_.pop_front();
+  if (box.text != request.text)
+    complaints_.push_back("box shown: \"" + request.text + "\", expected: \"" + box.text + "\"");
+  return box.answer;
+}
+
+std::optional<std::string> HeadlessSurroundings::FileDialog(const FileDialogRequest& request) {
+  file_dialogs.push_back(request);
+  if (scripted_dialogs_.empty()) {
+    complaints_.push_back("unexpected file dialog " + request.title);
+    return std::nullopt;
+  }
+  std::optional<std::string> path = std::move(scripted_dialogs_.front());
+  scripted_dialogs_.pop_front();
+  return path;
+}
+
+void HeadlessSurroundings::ShowModal(Portal& portal) {
+  if (scripted_portals_.empty()) {
+    complaints_.push_back("unexpected portal: " + portal.Name());
+    return;
+  }
+  const ScriptedPortal script = std::move(scripted_portals_.front());
+  scripted_portals_.pop_front();
+  if (script.name != portal.Name())
+    complaints_.push_back("portal shown: " + portal.Name() + ", expected: " + script.name);
+  PortalDriver driver(portal);
+  if (script.work) script.work(driver);
+  for (const std::string& complaint : driver.Complaints()) complaints_.push_back(portal.Name() + ": " + complaint);
+  if (!portal.Unloaded()) complaints_.push_back("portal left open: " + portal.Name());
+}
+
+std::string HeadlessSurroundings::ReadSetting(std::string_view application, std::string_view section,
+                                              std::string_view key, std::string_view default_value) {
+  const auto found = settings.find(SettingName(application, section, key));
+  return found == settings.end() ? std::string(default_value) : found->second;
+}
+
+void HeadlessSurroundings::WriteSetting(std::string_view application, std::string_view section, std::string_view key,
+                                        std::string_view value) {
+  settings[SettingName(application, section, key)] = value;
+}
+
+double HeadlessSurroundings::Random() {
+  if (random_numbers.empty()) return 0;
+  const double next = random_numbers.front();
+  random_numbers.pop_front();
+  return next;
+}
+
+}  // namespace tallyroll

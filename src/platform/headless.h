@@ -1,0 +1,76 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// Surroundings without a screen: answers come from a script, settings and clipboard are memory.
+#pragma once
+
+#include <deque>
+#include <functional>
+#include <map>
+#include <string>
+#include <vector>
+
+#include "platform/portal_driver.h"
+#include "platform/surroundings.h"
+
+namespace tallyroll {
+
+// A box that the script did not expect, and an answer that was never asked for, are complaints.
+class HeadlessSurroundings : public Surroundings {
+ public:
+  // The next message box must have this text; it is answered so.
+  void ExpectBox(std::string text, BoxAnswer answer = BoxAnswer::kOk);
+  // The next file dialog gives this path; nothing is Cancel.
+  void ExpectFileDialog(std::optional<std::string> path);
+  // The next Portal shown must be this one; `work` does what the teacher does in it. A Portal that
+  // is still open afterwards is a complaint and is taken down.
+  void ExpectPortal(std::string name, std::function<void(PortalDriver&)> work);
+
+  // What went against the script, and what of it is left over. Empty when all went as told.
+  std::vector<std::string> Complaints() const;
+
+  BoxAnswer MessageBox(const MessageRequest& request) override;
+  std::optional<std::string> FileDialog(const FileDialogRequest& request) override;
+  void ShowModal(Portal& portal) override;
+  void ShowHelp(int context) override { help_shown = context; }
+  std::string ClipboardText() override { return clipboard; }
+  void SetClipboardText(std::string_view text) override { clipboard = text; }
+  std::string ReadSetting(std::string_view application, std::string_view section, std::string_view key,
+                          std::string_view default_value) override;
+  void WriteSetting(std::string_view application, std::string_view section, std::string_view key,
+                    std::string_view value) override;
+  double Now() override { return now; }
+  double Random() override;
+  DateOrder ShortDateOrder() override { return date_order; }
+  std::string ProfileFolder() override { return profile_folder; }
+  std::string ProgramFolder() override { return program_folder; }
+  void PumpEvents() override { ++pumped; }
+  void SetWaitCursor(bool on) override { wait_cursor = on; }
+
+  std::vector<MessageRequest> boxes;            // every box that was shown
+  std::vector<FileDialogRequest> file_dialogs;  // every dialog that was shown
+  std::map<std::string, std::string> settings;  // "APP/section/KEY", the section in lower case
+  std::string clipboard;
+  std::deque<double> random_numbers;            // what Random gives next; 0 when empty
+  double now = 46266;                           // 1 September 2026
+  DateOrder date_order = DateOrder::kMonthFirst;
+  std::string profile_folder;
+  std::string program_folder;
+  int help_shown = -1;
+  int pumped = 0;
+  bool wait_cursor = false;
+
+ private:
+  struct ScriptedBox {
+    std::string text;
+    BoxAnswer answer;
+  };
+  struct ScriptedPortal {
+    std::string name;
+    std::function<void(PortalDriver&)> work;
+  };
+  std::deque<ScriptedBox> scripted_boxes_;
+  std::deque<std::optional<std::string>> scripted_dialogs_;
+  std::deque<ScriptedPortal> scripted_portals_;
+  std::vector<std::string> complaints_;
+};
+
+}  // namespace tallyroll

@@ -1,0 +1,64 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// PortalDriver: does with a Portal what a teacher does, without a screen.
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "platform/portal.h"
+
+namespace tallyroll {
+
+// Every act goes to the control by its declared name. An act that a teacher could not do (no such
+// control, one that is disabled or hidden, a text longer than the box takes) is a complaint and
+// does nothing. The Portal must be loaded.
+class PortalDriver {
+ public:
+  explicit PortalDriver(Portal& portal);
+
+  // Replaces the text of a box, character by character, so that each one raises Change.
+  void Type(std::string_view box, std::string_view text);
+  // Presses a button, or clicks a list or a grid.
+  void Press(std::string_view button);
+  void DoubleClick(std::string_view control);
+  // Puts a check box or an option to this value, if it is not so already.
+  void Tick(std::string_view box, bool on = true);
+  // Chooses a line of a list or combo box, from 0.
+  void Choose(std::string_view list, int index);
+  // Picks a tab, from 0.
+  void PickTab(std::string_view strip, int index);
+  void PickDate(std::string_view picker, double serial);
+  // Makes a grid cell the current one, as a click does.
+  void PickCell(std::string_view grid, int row, int col);
+  void PressKey(std::string_view control, Key key);
+  void TypeKeys(std::string_view control, std::string_view characters);
+  // Moves the focus: the control that had it is left, this one gets it.
+  void Focus(std::string_view control);
+  // The window's close box, or Escape.
+  void CloseWindow();
+
+  // What stands on the screen.
+  std::string Text(std::string_view control) const;  // text of a box, caption of anything else
+  bool Enabled(std::string_view control) const;
+  bool Visible(std::string_view control) const;
+  // The name of the control that has the focus; empty at first.
+  const std::string& Focused() const { return focused_; }
+
+  Portal& portal() { return portal_; }
+  const std::vector<std::string>& Complaints() const { return complaints_; }
+
+ private:
+  ControlRow* Reach(std::string_view name, std::string_view act);
+  template <typename C>
+  C* As(std::string_view name, std::string_view act);
+  void MoveFocus(const ControlRow& row);
+  void Settle();
+
+  Portal& portal_;
+  ControlTable table_;
+  std::string focused_;
+  std::vector<std::string> complaints_;
+};
+
+}  // namespace tallyroll

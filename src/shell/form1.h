@@ -1,0 +1,71 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// Form1: the class window. One exists per open class; nearly all work starts here.
+#pragma once
+
+#include <array>
+#include <memory>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "platform/grid.h"
+#include "platform/surroundings.h"
+#include "shell/menu.h"
+#include "store/program_state.h"
+
+namespace tallyroll {
+
+// A button of Toolbar2. Its place counts from 1, as the enabling of the class menus counts it.
+struct ToolButton {
+  std::string key;      // "New", "Open", ...: also the name of its icon
+  std::string tip;      // what it does, for the pointer and for screen readers
+  std::function<void()> click;
+  bool enabled = true;
+};
+
+class Form1 {
+ public:
+  Form1();
+  Form1(const Form1&) = delete;
+  Form1& operator=(const Form1&) = delete;
+
+  // What the window shows.
+  std::string Caption;       // the class file's name, or "NewClass 2"
+  std::string Tag;           // its slot as text; empty while it has no class
+  Grid Grid1;
+  Menu menu;                 // the program's full menu
+  std::vector<ToolButton> Toolbar2;
+  std::string StatusText;    // StatusBar1
+  bool Busy = false;         // the busy picture is shown
+
+  // The window's own working fields.
+  int SlotIndex = -1;
+  BoxAnswer SaveAnswer = BoxAnswer::kOk;  // of the save prompt
+  bool SaveCancelled = false;             // the Save As dialog was cancelled
+
+  // What a screen calls. Load acts on PendingAction; a window that got no class has an empty Tag
+  // afterwards and is to be destroyed.
+  void Load();
+  void Activate();
+  // Offers to save. True: the slot is free and the window may go.
+  bool QueryUnload();
+  void Grid1_DblClick();     // on the cell of Grid1.MouseRow and MouseCol
+  void Grid1_MouseMove();    // tells in StatusText what a double click would do
+  // Runs the entry or button of that name if it is enabled.
+  void ClickMenu(std::string_view name);
+  void ClickTool(std::string_view key);
+
+  // Operations of the class window.
+  void showform3();
+  void EnableClassMenus(bool on);
+  bool readyopen(std::string_view name) const;  // a slot already holds that file
+  void findfree();           // takes the lowest free slot into SlotIndex, -1 when there is none
+  std::string setsave();     // the save dialog; empty, with SaveCancelled set, when it was cancelled
+  void saveas();
+  void mnusave_Click();
+  void mnusaveas_Click();
+  void mnuAverage_Click();   // the Portal of the current method
+  void ShowStatus(std::string_view text) { StatusText = text; }
+};
+
+}  // namespace tallyroll

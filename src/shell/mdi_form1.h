@@ -1,0 +1,41 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// MDIForm1: the frame. It starts the program, makes class windows and ends the program.
+#pragma once
+
+#include <array>
+#include <memory>
+#include <string>
+#include <string_view>
+
+#include "shell/form1.h"
+#include "shell/menu.h"
+
+namespace tallyroll {
+
+class MDIForm1 {
+ public:
+  MDIForm1();
+
+  Menu menu;                 // the frame's own small menu, shown while no class is open
+  std::string CommandFile;   // the class file named on the command line
+
+  // Starts the program: settings, data folder, sample, greeting or the file of the command line.
+  void Load(std::string_view command_file);
+  // Closes every class window; false when one of them refuses.
+  bool QueryUnload();
+  // Saves the settings.
+  void Unload();
+  void ClickMenu(std::string_view name);
+
+  // The frame's commands, also reached from a class window.
+  void NewClass(int pending_action);       // 10 by frmAdd, 15 by the wizard
+  void mnuOpen_Click();
+  void OpenRecent(std::string_view path);  // an entry of the recent list, or the command line's file
+  void mnuExit_Click();
+  void RebuildRecentMenu();                // in the frame and in every class window
+
+  // Asks a window's QueryUnload and destroys it when it may go. False when it stays.
+  bool CloseWindow(Form1& window);
+};
+
+}  // namespace tallyroll
