@@ -68,12 +68,12 @@ std::string FirstOfMonthDate(int month, int year) {
 
 void RecalculateRangeSummaries() {
   Class& c = Current();
-  for (std::size_t k = 1; k < c.Summaries.size(); ++k) {
+  for (std::size_t k = 1; k <= static_cast<std::size_t>(c.NumSummaries); ++k) {
     if (c.Summaries[k].kind != kFromDates) continue;
     const DayRange range = RangeOf(c, c.Summaries[k]);
-    for (std::size_t i = 1; i < c.Students.size(); ++i) {
+    for (std::size_t i = 1; i <= static_cast<std::size_t>(c.NumStudents); ++i) {
       Student& s = c.Students[i];
-      s.SummaryAbsent[k] = PlainNumberText(CountOf(s, range, 'A'));
+      s.SummaryAbsent[k] = FixedText<5>(PlainNumberText(CountOf(s, range, 'A')));
       s.SummaryLate[k] = PlainNumberText(CountOf(s, range, 'L'));
       s.SummaryDetail[k] = DetailText(s, range);
     }
