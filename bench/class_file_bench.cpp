@@ -12,6 +12,7 @@
 
 #include "bench/big_class.h"
 #include "platform/headless.h"
+#include "store/class_defaults.h"
 #include "store/class_file.h"
 
 extern "C" int fsync(int) { return 0; }
