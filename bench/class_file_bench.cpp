@@ -66,7 +66,9 @@ void OpenClass(benchmark::State& state) {
   const Folder folder;
   WriteBare(folder.file, BigClassBytes());
   for (auto _ : state) {
+    state.PauseTiming();
     ResetClassSlot();
+    state.ResumeTiming();
     Current().FileName = folder.file;
     ReadClassFile();
   }
