@@ -15,12 +15,20 @@
 
 namespace tallyroll {
 
-// A button of Toolbar2. Its place counts from 1, as the enabling of the class menus counts it.
+// A place of Toolbar2. Places count from 1, as the enabling of the class menus counts them, and the
+// gap between file buttons and the others takes one.
 struct ToolButton {
-  std::string key;      // "New", "Open", ...: also the name of its icon
+  std::string key;      // "New", "Open", ...: also the name of its icon; empty for a gap
   std::string tip;      // what it does, for the pointer and for screen readers
   std::function<void()> click;
   bool enabled = true;
+};
+
+// What follows when a Portal that a menu opened is left.
+enum class AfterPortal {
+  kNothing,
+  kRefill,       // the grid is filled again
+  kSaveIfDone,   // the class is saved at once, if the Portal answered that it did its work
 };
 
 class Form1 {
@@ -54,6 +62,8 @@ class Form1 {
   // Runs the entry or button of that name if it is enabled.
   void ClickMenu(std::string_view name);
   void ClickTool(std::string_view key);
+  // Sets OpenState and shows the Portal; the menus follow what it changed.
+  void RunPortal(std::string_view portal, int open_state, AfterPortal after);
 
   // Operations of the class window.
   void showform3();
@@ -65,7 +75,29 @@ class Form1 {
   void mnusave_Click();
   void mnusaveas_Click();
   void mnuAverage_Click();   // the Portal of the current method
+  void mnuStatistic_Click();
+  void SetNameMode(i16 mode);
   void ShowStatus(std::string_view text) { StatusText = text; }
+
+ private:
+  int Slot() const;          // from Tag
+  void ImportText();
+  void CheckNameMode();
+
+  // Opening.
+  bool TakeSlot();           // findfree, with the message when there is none
+  void GiveSlotBack();
+  void OpenByDialog();
+  void OpenRecentPick();
+  void OpenNewClass(int pending_action);
+  void ReadInto(std::string_view path);
+  void ShowOpenedClass();
+
+  // Saving.
+  bool Save();               // WriteClassFile; false when it failed
+  void AskToSave();
+
+  std::string save_title_;   // title of the save dialog; empty is the dialog's own
 };
 
 }  // namespace tallyroll

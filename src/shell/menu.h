@@ -27,6 +27,8 @@ class Menu {
   // The entry of that name, which must exist.
   MenuEntry& operator[](std::string_view name);
   const MenuEntry* Find(std::string_view name) const;
+  // It is shown and enabled, and so is every menu it stands in.
+  bool Reachable(std::string_view name) const;
   void Enable(std::string_view name, bool on) { (*this)[name].enabled = on; }
   void Check(std::string_view name, bool on) { (*this)[name].checked = on; }
 
