@@ -73,4 +73,9 @@ QAction* MenuView::Action(const QString& name) const {
   return nullptr;
 }
 
+void MenuView::PopUp(const QString& name, const QPoint& place) const {
+  const QAction* heading = Action(name);
+  if (heading != nullptr && heading->menu() != nullptr) heading->menu()->popup(place);
+}
+
 }  // namespace tallyroll

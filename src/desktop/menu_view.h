@@ -4,6 +4,7 @@
 
 #include <QAction>
 #include <QObject>
+#include <QPoint>
 #include <QString>
 #include <vector>
 
@@ -31,6 +32,8 @@ class MenuView : public QObject {
 
   // The action of that entry; null when there is none.
   QAction* Action(const QString& name) const;
+  // Drops down the menu of that heading below `place`; without such a menu nothing happens.
+  void PopUp(const QString& name, const QPoint& place) const;
 
  Q_SIGNALS:
   // An entry was pressed. Comes after the press has answered, so that whoever pressed it (a screen

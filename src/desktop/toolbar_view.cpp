@@ -12,10 +12,10 @@ namespace tallyroll {
 
 namespace {
 
-// Buttons that begin a group: the file's, the students', the grades', attendance, what is made of
-// it all, and the program's.
+// Buttons that begin a group, beside the gap that the data has after the file's: grades,
+// attendance, what is made of them, and the program's.
 bool BeginsGroup(std::string_view key) {
-  return key == "Student" || key == "Grades" || key == "Attendance" || key == "View" || key == "Exit";
+  return key == "Grades" || key == "Attendance" || key == "View" || key == "Exit";
 }
 
 }  // namespace
@@ -31,6 +31,10 @@ ToolbarView::ToolbarView(const std::vector<ToolButton>& buttons, QWidget* parent
 }
 
 void ToolbarView::AddButton(const ToolButton& button) {
+  if (button.key.empty()) {
+    actions_.push_back(addSeparator());
+    return;
+  }
   if (BeginsGroup(button.key)) addSeparator();
   const QString key = FromText(button.key);
   QAction* action = addAction(FromText(button.tip));
@@ -46,12 +50,14 @@ void ToolbarView::AddButton(const ToolButton& button) {
 
 void ToolbarView::Sync() {
   if (buttons_ == nullptr) return;
-  for (std::size_t i = 0; i < actions_.size(); ++i) actions_[i]->setEnabled((*buttons_)[i].enabled);
+  for (std::size_t i = 0; i < actions_.size(); ++i) {
+    if (!actions_[i]->isSeparator()) actions_[i]->setEnabled((*buttons_)[i].enabled);
+  }
 }
 
 void ToolbarView::FocusFirst() {
   for (QAction* action : actions_) {
-    if (!action->isEnabled() || !widgetForAction(action)->isVisible()) continue;
+    if (action->isSeparator() || !action->isEnabled() || !widgetForAction(action)->isVisible()) continue;
     widgetForAction(action)->setFocus(Qt::TabFocusReason);
     return;
   }
@@ -63,7 +69,9 @@ void ToolbarView::changeEvent(QEvent* event) {
 }
 
 void ToolbarView::DrawIcons() {
-  for (QAction* action : actions_) action->setIcon(PaletteIcon(action->objectName(), palette()));
+  for (QAction* action : actions_) {
+    if (!action->isSeparator()) action->setIcon(PaletteIcon(action->objectName(), palette()));
+  }
 }
 
 }  // namespace tallyroll
