@@ -16,7 +16,7 @@ namespace tallyroll {
 void ShowHelpTopic(QWidget* frame, int context) {
   QWidget* owner = QApplication::activeModalWidget();
   if (owner == nullptr) owner = frame;
-  auto* window = owner->findChild<HelpWindow*>(Qt::FindDirectChildrenOnly);
+  auto* window = owner->findChild<HelpWindow*>(QString(), Qt::FindDirectChildrenOnly);
   if (window == nullptr) window = new HelpWindow(owner);
   window->ShowTopic(context);
   window->show();
