@@ -15,7 +15,7 @@ class FrameScreen {
  public:
   virtual ~FrameScreen() = default;
   virtual void ShowFrame() {}
-  virtual void CloseFrame() {}                    // the frame was allowed to go
+  virtual void CloseFrame() {}                      // the frame was allowed to go
   virtual void ShowWindow(Form1& /*window*/) {}     // a new class window, in front
   virtual void DestroyWindow(Form1& /*window*/) {}  // its Form1 is about to be destroyed
   virtual void BringToFront(Form1& /*window*/) {}
