@@ -14,9 +14,6 @@ __extension__ typedef __int128 Wide;
 
 constexpr std::int64_t kScale = 10000;
 
-// A double has 53 bits and 10000 needs 10 beside its powers of two, so the product is exact.
-static_assert(std::numeric_limits<long double>::digits >= 63);
-
 template <typename Integer>
 Integer Narrow(Wide value) {
   if (value < std::numeric_limits<Integer>::min() || value > std::numeric_limits<Integer>::max()) {
@@ -55,7 +52,12 @@ Currency Currency::FromWhole(std::int64_t units) {
   return FromScaled(Narrow<std::int64_t>(Wide{units} * kScale));
 }
 
+// The product is a double while one holds fractions, so that a decimal tie such as 0.00025, which
+// no double holds exactly, is the tie that a reader sees; beyond that it is exact.
 Currency Currency::FromDouble(double value) {
+  constexpr double kLastFraction = 4503599627370496.0;  // 2 to the power 52
+  const double product = value * static_cast<double>(kScale);
+  if (std::abs(product) < kLastFraction) return FromScaled(RoundedWhole(product));
   return FromScaled(RoundedWhole(static_cast<long double>(value) * kScale));
 }
 
