@@ -2,18 +2,30 @@
 // Fresh values of a class, and what is rebuilt from a class after it was read.
 #pragma once
 
+#include <string_view>
+
 #include "store/records.h"
 
 namespace tallyroll {
 
+// What stands in the lists of a new student.
+inline constexpr std::string_view kNewMark = "NEW";
+inline constexpr std::string_view kNewSummaryCount = "0";
+inline constexpr std::string_view kNewSummaryDetail = " 0/ 0/ 0/ 0/";
+inline constexpr i16 kNotSeated = -1;
+
 // Empties Classes[CurrentClass] for a new or about-to-be-read class, and clears FileErrorCode.
 // ChartRows, ChartColumns, Categories, Magic and SlotState are not touched.
 void ResetClassSlot();
+// The same for any record, without the globals.
+void ResetRecord(Class& c);
 
 // The 14 default letter values: [0] = 100 says that the defaults were loaded.
 void SetDefaultLetterValues();
+void SetDefaultLetterValues(Class& c);
 // The default scale, column 0 of RoundTable: it always comes from the program, never from a file.
 void SetDefaultRoundScale();
+void SetDefaultRoundScale(Class& c);
 // Scale 4 from the letter values, put in force: how Skip Rounding finds its letters.
 void UseLetterValuesAsScale();
 
@@ -22,10 +34,12 @@ void UseLetterValuesAsScale();
 void AddStudentDefaults();
 
 // Reads Method, the four flags and TypeWeights from AverageSettings when it is not blank, and
-// enables the entries that need a method.
-void ParseAverageSettings();
+// enables the entries that need a method. Returns 0, or 6 when a number in it is out of range;
+// what stood before that number has been taken.
+int ParseAverageSettings();
 
-// After every read: Weights, InstrumentUse and TypePercents by Method, and the scale of Skip Rounding.
-void RebuildDerivedFields();
+// After every read: Weights, InstrumentUse and TypePercents by Method, and the scale of Skip
+// Rounding. Returns 0, or 6 when a number of PercentsText is out of range.
+int RebuildDerivedFields();
 
 }  // namespace tallyroll

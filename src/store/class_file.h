@@ -1,38 +1,40 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Class files: bytes to record and back, and the two routines that open and save.
+// Opening and saving a class file, as the teacher sees it.
 #pragma once
 
-#include <cstddef>
+#include <array>
 #include <string>
-#include <string_view>
 
-#include "store/records.h"
+#include "store/class_format.h"
+#include "store/program_state.h"
+#include "store/safe_file.h"
 
 namespace tallyroll {
 
-inline constexpr std::size_t kLongestText = 65535;  // bytes of one text in a class file
-
-// How far a class could be read. `error` is 0 or a run-time error number; what stood before the
-// fault is in the class, with counts that fit its lists. `consumed` counts the bytes read.
-struct ParseOutcome {
-  int error = 0;
-  std::size_t consumed = 0;
+// What is known of the file behind a slot: set by reading and writing, forgotten by ResetClassSlot.
+struct ClassFile {
+  std::string path;          // the file that was read or written last
+  FileStamp stamp;           // what it was then
+  bool read_failed = false;  // it could not be read whole and was not saved since
 };
 
-// The current format from bytes. Trusts nothing: counts are held against the bytes that remain.
-ParseOutcome ParseClass(std::string_view bytes, Class& out);
-// The header alone: what is known before the password was given.
-ParseOutcome ParseHeader(std::string_view bytes, Class& out);
+extern std::array<ClassFile, kClassSlots> ClassFiles;
+// That of CurrentClass.
+ClassFile& CurrentClassFile();
 
-// The bytes of the current format. Magic is written as it stands. Throws nothing; a text longer
-// than kLongestText or a list beyond its count's range is an overflow: returns its error number.
-int SerializeClass(const Class& c, std::string& bytes);
-
-// Reads FileName into Classes[CurrentClass] as the teacher opens it, with every message. On a
-// refusal FileName is empty; after a fault in the file it stays, and so does what was read.
+// Reads FileName into Classes[CurrentClass], with every message. FileName is empty afterwards when
+// nothing was opened: the file could not be read at all, its mark is unknown, or the password was
+// refused. After a fault inside the file it stays, and so does what was read before the fault,
+// made fit to work on. An older file is converted and keeps its Magic; the caller then runs
+// RecalculateRangeSummaries, which lies beyond the store.
 void ReadClassFile();
-// Writes Classes[CurrentClass] to FileName, whole or not at all. On failure the class stays
-// Changed and FileErrorCode holds the number.
+
+// Writes Classes[CurrentClass] to FileName, whole or not at all. On failure the class is Changed,
+// FileErrorCode holds the number, and the file is what it was. Clearing Changed after a success
+// is left to the caller.
 void WriteClassFile();
+
+// "File Error: " and the number; 76 also takes DataFolder back to the program's folder.
+void ReportReadError(int error);
 
 }  // namespace tallyroll

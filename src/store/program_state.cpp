@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "store/program_state.h"
 
+#include "store/class_file.h"
+#include "store/settings.h"
+
 namespace tallyroll {
 
 std::array<Class, kClassSlots> Classes;
@@ -15,10 +18,13 @@ std::string DataFolder;
 std::string ProgramFolder;
 std::string LastFolder;
 
-Class& Current() { return Classes[static_cast<std::size_t>(CurrentClass)]; }
+Class& Current() {
+  return Classes[static_cast<std::size_t>(CurrentClass)];
+}
 
 void ResetStore() {
   for (Class& each : Classes) each = Class();
+  ClassFiles.fill(ClassFile());
   MaxClassSlots = 6;
   CurrentClass = 1;
   CurrentStudent = 0;
@@ -29,6 +35,7 @@ void ResetStore() {
   DataFolder.clear();
   ProgramFolder.clear();
   LastFolder.clear();
+  ResetSettings();
 }
 
 }  // namespace tallyroll

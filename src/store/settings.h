@@ -1,9 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Settings that outlive a class, and the side files of older versions.
+// Settings that outlive a class.
 #pragma once
 
 #include <array>
 #include <string>
+#include <string_view>
+
+#include "store/records.h"
 
 namespace tallyroll {
 
@@ -12,17 +15,26 @@ inline constexpr const char* kApplicationKey = "TALLYRLG8";
 extern std::array<std::string, 5> RecentFiles;  // full paths, most recent first
 extern std::string PrinterFontName;
 extern float PrinterFontSize;
-extern std::string SenderAddress;   // e-mail address of the sender
-extern std::string MailServer;      // outgoing mail server
-extern std::string MarginTop;       // margins as text, "-500" when never set
+extern std::string SenderAddress;  // e-mail address of the sender
+extern std::string MailServer;     // outgoing mail server
+extern std::string MarginTop;      // margins as text, "-500" when never set
 extern std::string MarginLeft;
 extern std::string MarginBottom;
 extern std::string MarginRight;
 
+// Fills the globals above, DataFolder and NameMode. An earlier version's folder serves while this
+// one has written no settings of its own. The shell fills the menu with the recent files itself.
 void LoadProgramSettings();
 void SaveProgramSettings();
-// Fills LetterValues of the current class from the teacher's setting for new classes, if there is one.
+// Fills LetterValues of the current class from the teacher's setting for new classes, if there is
+// one.
 void LoadLetterString();
+
+// The numbers of a LetterString, each closed by a single quote, into the letter values from [0] on:
+// as many as there are, at most 14. A number out of range ends it.
+void ParseLetterString(std::string_view text, Class& c);
+// A recent file as it is stored. Older versions put the menu number before it: "1. C:\A.TYR".
+std::string RecentFileOf(std::string_view stored);
 
 void ResetSettings();
 

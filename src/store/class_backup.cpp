@@ -1,0 +1,67 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "store/class_backup.h"
+
+#include <unistd.h>
+
+#include <cerrno>
+
+#include "base/code_page.h"
+#include "base/run_time_error.h"
+#include "platform/surroundings.h"
+#include "store/safe_file.h"
+
+namespace tallyroll {
+namespace {
+
+bool IsMiddleOfCharacter(char byte) {
+  return (static_cast<unsigned char>(byte) & 0xC0) == 0x80;
+}
+
+bool IsSameFile(const std::string& a, const std::string& b) {
+  const FileStamp stamp = StampOf(a);
+  return stamp.size >= 0 && stamp == StampOf(b);
+}
+
+}  // namespace
+
+std::string BackupName(const std::string& path, std::string_view ending) {
+  std::size_t end = path.size();
+  for (int characters = 0; characters < 3 && end > 0; ++characters) {
+    --end;
+    while (end > 0 && IsMiddleOfCharacter(path[end])) --end;
+  }
+  return path.substr(0, end).append(ending);
+}
+
+Backup BackUpConvertedFile(const std::string& path) {
+  const std::string first = BackupName(path, "old");
+  std::string backup = first;
+  // A save that was killed between backup and writing has already done this.
+  if (IsSameFile(path, first)) return {true, {}};
+  if (PathExists(first)) {
+    backup = BackupName(path, "ol6");
+    ShowMessage("A file with the name " + PathForDisplay(first) +
+                " exists. The backup of the pre-converted file will therefore be saved as " +
+                PathForDisplay(backup));
+  }
+  if (KeepUnderName(path, backup) != 0) return {};
+  return {true, backup};
+}
+
+void TakeBack(const Backup& backup) {
+  if (!backup.made_now.empty()) ::unlink(backup.made_now.c_str());
+}
+
+int BackUpUnreadFile(const std::string& path, std::string& kept) {
+  int error = EEXIST;
+  for (const char* ending : {"bad", "ba2", "ba3", "ba4", "ba5", "ba6", "ba7", "ba8", "ba9"}) {
+    kept = BackupName(path, ending);
+    if (IsSameFile(path, kept)) return 0;
+    error = KeepUnderName(path, kept);
+    if (error != EEXIST) break;
+  }
+  if (error == EEXIST) return kErrorPathAccess;
+  return error == 0 ? 0 : RunTimeErrorOf(error);
+}
+
+}  // namespace tallyroll
