@@ -1,0 +1,111 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "roster/frmAdd.h"
+
+#include "platform/class_window.h"
+#include "platform/surroundings.h"
+#include "store/class_defaults.h"
+#include "store/program_state.h"
+#include "store/sort_students.h"
+
+namespace tallyroll {
+
+frmAdd::frmAdd() : StudentForm("frmAdd") {
+  Caption = "Add Student Portal";
+  PREVIOUS.Caption = "&Previous";
+  nextt.Caption = "&Next";
+  addclip.Caption = "&From Clipbd";
+  Exitt.Caption = "E&xit";
+  cancel.Caption = "&Cancel";
+}
+
+void frmAdd::Declare(ControlTable& table) {
+  table.Add("TabStrip1", TabStrip1);
+  DeclareFirstPage(table, "comments");
+  DeclareOtherPages(table);
+  table.Add("PREVIOUS", PREVIOUS).Click([this] { PREVIOUS_Click(); });
+  table.Add("nextt", nextt).Click([this] { nextt_Click(); });
+  table.Add("addclip", addclip).Click([this] { addclip_Click(); });
+  table.Add("Exitt", Exitt).Click([this] { Exitt_Click(); });
+  table.Add("cancel", cancel).Click([this] { cancel_Click(); });
+}
+
+void frmAdd::Load() {
+  GoTo(Current().NumStudents + 1);
+}
+
+bool frmAdd::RecordExists() const {
+  return Position <= Current().NumStudents;
+}
+
+void frmAdd::GoTo(int position) {
+  Position = static_cast<i16>(position);
+  if (RecordExists()) return ShowStudent();
+  ClearFields();
+  TabStrip1.Selected = 0;
+  SetFocus(lastname);
+}
+
+void frmAdd::NewStudentRecord() {
+  Class& c = Current();
+  Position = ++c.NumStudents;
+  ReDimPreserve(c.Students, c.NumStudents);
+  Student& student = c.Students[Position];
+  ReDim(student.SeatRow, 1);
+  ReDim(student.SeatColumn, 1);
+  ReDim(student.DailyMarks, c.NumDays);
+  AddStudentDefaults();
+  begun_ = true;
+}
+
+// Both checks, then the record is made if need be and stored if anything changed. False: refused.
+bool frmAdd::KeepStudent() {
+  if (IdChanged && !CheckUniqueId()) return false;
+  if (!CheckRequired()) return false;
+  if (!RecordExists()) NewStudentRecord();
+  if (Dirty) {
+    StoreStudent();
+    begun_ = false;
+  }
+  return true;
+}
+
+void frmAdd::nextt_Click() {
+  if (KeepStudent()) GoTo(Position + 1);
+}
+
+void frmAdd::PREVIOUS_Click() {
+  const bool nothing_to_keep = !RecordExists() && AllBlank();
+  if (!nothing_to_keep && !KeepStudent()) return;
+  GoTo(Position > 1 ? Position - 1 : Position);
+}
+
+void frmAdd::addclip_Click() {
+  ClassWindow().ShowStatus(kPortalNotAvailable);
+}
+
+void frmAdd::Exitt_Click() {
+  if (RequiredBlank())
+    WithdrawBegun();
+  else if (!KeepStudent())
+    return;
+  SortStudents();
+  Unload();
+}
+
+void frmAdd::cancel_Click() {
+  const bool asks = Dirty && !RequiredBlank();
+  if (asks && Ask("Data has been entered. Are you sure you want to CANCEL?", BoxButtons::kYesNo,
+                  BoxIcon::kQuestion, "Cancel") != BoxAnswer::kYes)
+    return;
+  WithdrawBegun();
+  Unload();
+}
+
+void frmAdd::WithdrawBegun() {
+  if (!begun_) return;
+  Class& c = Current();
+  ReDimPreserve(c.Students, --c.NumStudents);
+  begun_ = false;
+}
+
+}  // namespace tallyroll

@@ -1,0 +1,38 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// frmAdd: the Add Student Portal. It adds students to the class one after another.
+#pragma once
+
+#include "roster/student_form.h"
+
+namespace tallyroll {
+
+// Position walks from NumStudents + 1, which has no record yet, back among the students and forward
+// again. What was stored stays stored: cancel only withdraws the record in progress.
+struct frmAdd : StudentForm {
+  frmAdd();
+  void Declare(ControlTable& table) override;
+  void Load() override;
+  void QueryUnload() override { cancel_Click(); }
+
+  CommandButton PREVIOUS, nextt, addclip, Exitt, cancel;
+
+  // Position has its record in the class.
+  bool RecordExists() const;
+  // Makes the record of the next student; it counts as begun until it is stored.
+  void NewStudentRecord();
+
+  void PREVIOUS_Click();
+  void nextt_Click();
+  void addclip_Click();
+  void Exitt_Click();
+  void cancel_Click();
+
+ private:
+  bool KeepStudent();
+  void GoTo(int position);
+  void WithdrawBegun();
+
+  bool begun_ = false;  // the record at Position was made and not yet stored
+};
+
+}  // namespace tallyroll
