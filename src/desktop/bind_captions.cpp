@@ -1,0 +1,64 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// Labels, frames, pictures: what is only looked at.
+#include <QGroupBox>
+#include <QLabel>
+
+#include "desktop/control_binding.h"
+#include "desktop/text_conversion.h"
+
+namespace tallyroll {
+namespace {
+
+class LabelBinding : public Binding<Label, QLabel> {
+ public:
+  using Binding::Binding;
+  void TakeCaption() override {
+    // What stands in a class file is never markup.
+    widget_.setTextFormat(Qt::PlainText);
+    if (control_.Caption.empty()) control_.Caption = ToTextLines(widget_.text()).value_or("");
+  }
+
+ protected:
+  void ShowValue() override {
+    const QString text = LinesFromText(control_.Caption);
+    if (widget_.text() != text) widget_.setText(text);
+  }
+};
+
+class GroupBinding : public Binding<Frame, QGroupBox> {
+ public:
+  using Binding::Binding;
+  void TakeCaption() override {
+    if (control_.Caption.empty()) control_.Caption = ToText(widget_.title()).value_or("");
+  }
+
+ protected:
+  void ShowValue() override {
+    const QString text = FromText(control_.Caption);
+    if (widget_.title() != text) widget_.setTitle(text);
+  }
+};
+
+// A frame without a caption is any widget that holds others.
+using PlainFrameBinding = Binding<Frame, QWidget>;
+using PictureBinding = Binding<PictureBox, QWidget>;
+
+}  // namespace
+
+BoundControl BindControl(Label& control, ControlRow& row, QObject& target, BindingOwner& owner) {
+  return BindAs<LabelBinding, QLabel>(control, row, target, owner);
+}
+
+BoundControl BindControl(Frame& control, ControlRow& row, QObject& target, BindingOwner& owner) {
+  if (auto group = BindAs<GroupBinding, QGroupBox>(control, row, target, owner)) return group;
+  if (IsInput(target) || qobject_cast<QLabel*>(&target)) return nullptr;
+  return BindAs<PlainFrameBinding, QWidget>(control, row, target, owner);
+}
+
+BoundControl BindControl(PictureBox& control, ControlRow& row, QObject& target,
+                         BindingOwner& owner) {
+  if (IsInput(target)) return nullptr;
+  return BindAs<PictureBinding, QWidget>(control, row, target, owner);
+}
+
+}  // namespace tallyroll

@@ -1,0 +1,158 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// Combo boxes, tabs, pages and date pickers.
+#include <QComboBox>
+#include <QDateEdit>
+#include <QLineEdit>
+#include <QSignalBlocker>
+#include <QStackedWidget>
+#include <QTabWidget>
+#include <cmath>
+
+#include "desktop/control_binding.h"
+#include "desktop/field_validator.h"
+#include "desktop/text_conversion.h"
+
+namespace tallyroll {
+namespace {
+
+class ComboBinding : public Binding<ComboBox, QComboBox> {
+ public:
+  ComboBinding(ComboBox& control, ControlRow& row, QComboBox& combo, BindingOwner& owner)
+      : Binding(control, row, combo, owner) {
+    combo.setInsertPolicy(QComboBox::NoInsert);
+    QObject::connect(&combo, &QComboBox::activated, this, [this](int index) {
+      index_ = index;
+      UserDid({&ControlRow::change, &ControlRow::click});
+    });
+    if (!combo.isEditable()) return;
+    // What is typed stands as typed; completing it would be the program's doing.
+    combo.setCompleter(nullptr);
+    new FieldValidator(*combo.lineEdit());
+    QObject::connect(&combo, &QComboBox::editTextChanged, this, [this] {
+      if (!combo_typing()) return;
+      index_ = -1;
+      UserDid({&ControlRow::change});
+    });
+  }
+
+  void Read() override {
+    control_.ListIndex = index_;
+    if (const std::optional<std::string> text = ToText(widget_.currentText()))
+      control_.Text = text_ = *text;
+  }
+
+ protected:
+  void ShowValue() override {
+    const QSignalBlocker silence(widget_);
+    if (control_.List != list_ || widget_.count() != static_cast<int>(list_.size())) FillList();
+    if (control_.ListIndex != index_ || (!typed() && widget_.currentIndex() != index_)) {
+      index_ = control_.ListIndex;
+      widget_.setCurrentIndex(index_);
+      if (control_.Text == text_) control_.Text = ToText(widget_.currentText()).value_or("");
+    }
+    text_ = control_.Text;
+    const QString text = FromText(text_);
+    if (widget_.isEditable() && widget_.currentText() != text) widget_.setEditText(text);
+  }
+
+ private:
+  bool typed() const { return widget_.isEditable() && index_ == -1; }
+  // A choice changes the text as well, and is told by `activated` alone.
+  bool combo_typing() const { return widget_.lineEdit()->isModified(); }
+
+  void FillList() {
+    list_ = control_.List;
+    widget_.clear();
+    for (const std::string& line : list_) widget_.addItem(FromText(line));
+    widget_.setCurrentIndex(-1);
+    index_ = -1;
+  }
+
+  std::vector<std::string> list_;
+  int index_ = -1;
+  std::string text_;
+};
+
+class TabBinding : public Binding<TabStrip, QTabWidget> {
+ public:
+  TabBinding(TabStrip& control, ControlRow& row, QTabWidget& tabs, BindingOwner& owner)
+      : Binding(control, row, tabs, owner) {
+    QObject::connect(&tabs, &QTabWidget::currentChanged, this, [this] {
+      UserDid({&ControlRow::change, &ControlRow::click});
+    });
+  }
+
+  void TakeCaption() override {
+    if (!control_.Tabs.empty()) return;
+    for (int i = 0; i < widget_.count(); ++i)
+      control_.Tabs.push_back(ToText(widget_.tabText(i)).value_or(""));
+  }
+  void Read() override { control_.Selected = widget_.currentIndex(); }
+
+ protected:
+  void ShowValue() override {
+    const QSignalBlocker silence(widget_);
+    const int count = std::min(widget_.count(), static_cast<int>(control_.Tabs.size()));
+    for (int i = 0; i < count; ++i) {
+      const QString text = FromText(control_.Tabs[static_cast<std::size_t>(i)]);
+      if (widget_.tabText(i) != text) widget_.setTabText(i, text);
+    }
+    if (widget_.currentIndex() != control_.Selected) widget_.setCurrentIndex(control_.Selected);
+  }
+};
+
+class PagesBinding : public Binding<Pages, QStackedWidget> {
+ public:
+  using Binding::Binding;
+
+ protected:
+  void ShowValue() override {
+    if (widget_.currentIndex() != control_.Current) widget_.setCurrentIndex(control_.Current);
+  }
+};
+
+// Day 0 of the logic's day serials.
+QDate DayOf(double serial) {
+  return QDate(1899, 12, 30).addDays(static_cast<qint64>(std::floor(serial)));
+}
+
+class DateBinding : public Binding<DTPicker, QDateEdit> {
+ public:
+  DateBinding(DTPicker& control, ControlRow& row, QDateEdit& edit, BindingOwner& owner)
+      : Binding(control, row, edit, owner) {
+    edit.setCalendarPopup(true);
+    QObject::connect(&edit, &QDateEdit::dateChanged, this,
+                     [this] { UserDid({&ControlRow::change}); });
+  }
+
+  void Read() override {
+    if (widget_.date() == DayOf(control_.Value)) return;
+    control_.Value = static_cast<double>(DayOf(0).daysTo(widget_.date()));
+  }
+
+ protected:
+  void ShowValue() override {
+    const QSignalBlocker silence(widget_);
+    if (widget_.date() != DayOf(control_.Value)) widget_.setDate(DayOf(control_.Value));
+  }
+};
+
+}  // namespace
+
+BoundControl BindControl(ComboBox& control, ControlRow& row, QObject& target, BindingOwner& owner) {
+  return BindAs<ComboBinding, QComboBox>(control, row, target, owner);
+}
+
+BoundControl BindControl(TabStrip& control, ControlRow& row, QObject& target, BindingOwner& owner) {
+  return BindAs<TabBinding, QTabWidget>(control, row, target, owner);
+}
+
+BoundControl BindControl(Pages& control, ControlRow& row, QObject& target, BindingOwner& owner) {
+  return BindAs<PagesBinding, QStackedWidget>(control, row, target, owner);
+}
+
+BoundControl BindControl(DTPicker& control, ControlRow& row, QObject& target, BindingOwner& owner) {
+  return BindAs<DateBinding, QDateEdit>(control, row, target, owner);
+}
+
+}  // namespace tallyroll

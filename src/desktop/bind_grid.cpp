@@ -1,0 +1,35 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// Grids: the widget reads the Grid in place, so there is nothing to copy.
+#include "desktop/control_binding.h"
+#include "desktop/grid_widget.h"
+
+namespace tallyroll {
+namespace {
+
+class GridBinding : public Binding<Grid, GridWidget> {
+ public:
+  GridBinding(Grid& control, ControlRow& row, GridWidget& widget, BindingOwner& owner)
+      : Binding(control, row, widget, owner) {
+    widget.SetGrid(&control);
+    widget.SetEnterDoubleClicks(static_cast<bool>(row.dbl_click));
+    QObject::connect(&widget, &GridWidget::currentCellChanged, this,
+                     [this] { UserDid({&ControlRow::change}); });
+    QObject::connect(&widget, &GridWidget::cellClicked, this,
+                     [this] { UserDid({&ControlRow::click}); });
+    QObject::connect(&widget, &GridWidget::cellDoubleClicked, this,
+                     [this] { UserDid({&ControlRow::dbl_click}); });
+  }
+  // The Portal, and the grid with it, may be gone before the widget.
+  ~GridBinding() override { widget_.SetGrid(nullptr); }
+
+ protected:
+  void ShowValue() override { widget_.UpdateFromGrid(); }
+};
+
+}  // namespace
+
+BoundControl BindControl(Grid& control, ControlRow& row, QObject& target, BindingOwner& owner) {
+  return BindAs<GridBinding, GridWidget>(control, row, target, owner);
+}
+
+}  // namespace tallyroll

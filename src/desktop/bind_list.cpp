@@ -1,0 +1,78 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// List boxes.
+#include <QListWidget>
+#include <QMouseEvent>
+
+#include "desktop/control_binding.h"
+#include "desktop/list_columns.h"
+#include "desktop/text_conversion.h"
+
+namespace tallyroll {
+namespace {
+
+class ListBinding : public Binding<ListBox, QListWidget> {
+ public:
+  ListBinding(ListBox& control, ControlRow& row, QListWidget& list, BindingOwner& owner)
+      : Binding(control, row, list, owner), columns_(new ListColumns(&list)) {
+    list.setItemDelegate(columns_);
+    list.viewport()->installEventFilter(this);
+    QObject::connect(&list, &QListWidget::currentRowChanged, this, [this] {
+      chosen_by_press_ = true;
+      UserDid({&ControlRow::change, &ControlRow::click});
+    });
+    QObject::connect(&list, &QListWidget::itemClicked, this, [this] {
+      // A press on another line has raised its click when it chose the line.
+      if (!chosen_by_press_) UserDid({&ControlRow::click});
+    });
+    QObject::connect(&list, &QListWidget::itemDoubleClicked, this,
+                     [this] { UserDid({&ControlRow::dbl_click}); });
+  }
+
+  void Read() override { control_.ListIndex = widget_.currentRow(); }
+
+ protected:
+  void ShowValue() override {
+    const QSignalBlocker silence(widget_);
+    if (control_.List != list_) Fill();
+    if (widget_.currentRow() != control_.ListIndex) {
+      widget_.setCurrentRow(control_.ListIndex);
+      if (control_.ListIndex < 0) widget_.clearSelection();
+    }
+  }
+
+  bool eventFilter(QObject* watched, QEvent* event) override {
+    if (event->type() == QEvent::MouseButtonPress) {
+      chosen_by_press_ = false;
+      // A press below the last line would take away the mark but not the choice.
+      if (!widget_.itemAt(static_cast<QMouseEvent*>(event)->position().toPoint())) return true;
+    }
+    return ControlBinding::eventFilter(watched, event);
+  }
+
+ private:
+  void Fill() {
+    const bool same_length = list_.size() == control_.List.size();
+    list_ = control_.List;
+    if (!same_length) widget_.clear();
+    for (std::size_t i = 0; i < list_.size(); ++i) {
+      const int row = static_cast<int>(i);
+      QListWidgetItem* item = same_length ? widget_.item(row) : new QListWidgetItem(&widget_);
+      QString text = FromText(list_[i]);
+      item->setText(text);
+      item->setData(Qt::AccessibleTextRole, text.replace(QLatin1Char('\t'), QLatin1Char(' ')));
+    }
+    columns_->Measure(widget_);
+  }
+
+  ListColumns* columns_;  // the list's
+  std::vector<std::string> list_;
+  bool chosen_by_press_ = false;
+};
+
+}  // namespace
+
+BoundControl BindControl(ListBox& control, ControlRow& row, QObject& target, BindingOwner& owner) {
+  return BindAs<ListBinding, QListWidget>(control, row, target, owner);
+}
+
+}  // namespace tallyroll

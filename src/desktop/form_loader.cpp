@@ -1,0 +1,123 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "desktop/form_loader.h"
+
+#include <QAction>
+#include <QActionGroup>
+#include <QCoreApplication>
+#include <QFile>
+#include <QLayout>
+#include <utility>
+
+#include "desktop/code_page_text_edit.h"
+#include "desktop/grid_widget.h"
+#include "desktop/text_conversion.h"
+
+namespace tallyroll {
+namespace {
+
+// The classes that the system brings itself; null for the toolkit's own.
+QWidget* MakeOwnWidget(const QString& class_name, QWidget* parent) {
+  if (class_name == QLatin1String("tallyroll::GridWidget") ||
+      class_name == QLatin1String("GridWidget"))
+    return new GridWidget(parent);
+  if (class_name == QLatin1String("QPlainTextEdit")) return new CodePageTextEdit(parent);
+  return nullptr;
+}
+
+bool IsOfClass(const QObject& object, const QString& class_name) {
+  // A line in a form is a frame without a class of its own.
+  if (class_name == QLatin1String("Line")) return true;
+  return class_name == QLatin1String(object.metaObject()->className());
+}
+
+}  // namespace
+
+FormLoader::FormLoader(QObject* parent) : QUiLoader(parent) {
+  setTranslationEnabled(false);
+  setLanguageChangeEnabled(false);
+}
+
+LoadedForm FormLoader::Load(const QString& file, QDialog& dialog) {
+  form_ = {};
+  names_.clear();
+  dialog_ = &dialog;
+  QFile device(file);
+  if (!device.open(QIODevice::ReadOnly)) {
+    form_.complaints << tr("%1 cannot be read").arg(file);
+  } else if (!load(&device, nullptr)) {
+    form_.complaints << tr("%1: %2").arg(file, errorString());
+  }
+  dialog_ = nullptr;
+  ComplainOfDynamicProperties();
+  return std::exchange(form_, {});
+}
+
+QWidget* FormLoader::createWidget(const QString& class_name, QWidget* parent, const QString& name) {
+  QWidget* widget = nullptr;
+  if (!parent && dialog_) {
+    widget = std::exchange(dialog_, nullptr);
+    widget->setObjectName(name);
+    if (class_name != QLatin1String("QDialog"))
+      form_.complaints << tr("%1 is a %2, not a QDialog").arg(name, class_name);
+  } else if (QWidget* own = MakeOwnWidget(class_name, parent)) {
+    widget = own;
+    widget->setObjectName(name);
+  } else {
+    widget = QUiLoader::createWidget(class_name, parent, name);
+    if (!widget || !IsOfClass(*widget, class_name))
+      form_.complaints << tr("%1: the class %2 is unknown").arg(name, class_name);
+  }
+  Note(widget, name);
+  return widget;
+}
+
+QLayout* FormLoader::createLayout(const QString& class_name, QObject* parent, const QString& name) {
+  QLayout* layout = QUiLoader::createLayout(class_name, parent, name);
+  Note(layout, name);
+  return layout;
+}
+
+QAction* FormLoader::createAction(QObject* parent, const QString& name) {
+  QAction* action = QUiLoader::createAction(parent, name);
+  Note(action, name);
+  return action;
+}
+
+QActionGroup* FormLoader::createActionGroup(QObject* parent, const QString& name) {
+  QActionGroup* group = QUiLoader::createActionGroup(parent, name);
+  Note(group, name);
+  return group;
+}
+
+void FormLoader::Note(QObject* object, const QString& name) {
+  if (!object) return;
+  form_.objects << object;
+  if (name.isEmpty()) return;
+  if (names_.contains(name)) form_.complaints << tr("the name %1 is given twice").arg(name);
+  names_.insert(name);
+}
+
+void FormLoader::ComplainOfDynamicProperties() {
+  for (const QObject* object : std::as_const(form_.objects)) {
+    for (const QByteArray& property : object->dynamicPropertyNames()) {
+      if (property.startsWith("_q_")) continue;  // the toolkit's own notes
+      form_.complaints
+          << tr("%1 has no property %2").arg(object->objectName(), QString::fromUtf8(property));
+    }
+  }
+}
+
+FormLoader& Forms() {
+  if (auto* loader = qApp->findChild<FormLoader*>()) return *loader;
+  const QStringList paths = QCoreApplication::libraryPaths();
+  QCoreApplication::setLibraryPaths({});
+  auto* loader = new FormLoader(qApp);
+  QCoreApplication::setLibraryPaths(paths);
+  return *loader;
+}
+
+QString FormFile(std::string_view portal_name) {
+  return QStringLiteral(":/forms/%1.ui").arg(FromText(portal_name));
+}
+
+}  // namespace tallyroll

@@ -1,0 +1,63 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// Paints the visible cells of a Grid straight from its bytes.
+#pragma once
+
+#include <QFont>
+#include <QPainter>
+#include <array>
+#include <string_view>
+#include <vector>
+
+#include "desktop/grid_colors.h"
+#include "desktop/grid_layout.h"
+
+namespace tallyroll {
+
+// A font with the width of each character of the code page, so that the usual text, which fits,
+// is placed without asking the font engine.
+class CellFont {
+ public:
+  CellFont() = default;
+  explicit CellFont(const QFont& font);
+  const QFont& font() const { return font_; }
+  int WidthOf(std::string_view text) const;
+  QString Elided(std::string_view text, int width) const;
+  int Ascent() const { return ascent_; }
+  int Height() const { return height_; }
+
+ private:
+  QFont font_;
+  std::array<float, 256> widths_{};
+  int ascent_ = 0;
+  int height_ = 0;
+};
+
+struct GridFonts {
+  explicit GridFonts(const QFont& font);
+  CellFont plain;
+  CellFont bold;
+};
+
+inline constexpr int kCellMargin = 4;
+
+// What is painted: the grid, where its cells stand, and how they look.
+struct GridPicture {
+  const Grid& grid;
+  const GridAxis& rows;
+  const GridAxis& columns;
+  const GridColors& colors;
+  const GridFonts& fonts;
+  QColor focus_frame;  // of the current cell
+};
+
+// The columns that a heading of the merged row spans, as far as they can be seen.
+struct HeadingSpan {
+  int first = 0;  // positions in the visible columns
+  int last = 0;
+};
+std::vector<HeadingSpan> MergedSpans(const Grid& grid, const std::vector<Band>& columns);
+
+// Paints what lies in `area` of a view of that size.
+void PaintGrid(QPainter& painter, const GridPicture& picture, const QSize& view, const QRect& area);
+
+}  // namespace tallyroll

@@ -1,0 +1,227 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "desktop/grid_widget.h"
+
+#include <QAccessible>
+#include <QFontInfo>
+#include <QHelpEvent>
+#include <QKeyEvent>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QScrollBar>
+#include <QToolTip>
+#include <algorithm>
+#include <utility>
+
+#include "desktop/grid_accessibility.h"
+#include "desktop/text_conversion.h"
+
+namespace tallyroll {
+namespace {
+
+constexpr QSize kUsualSize(640, 360);
+
+void NoteFocus(GridWidget& widget) {
+  if (!QAccessible::isActive() || !widget.grid()) return;
+  QAccessibleEvent event(&widget, QAccessible::Focus);
+  event.setChild(widget.grid()->Row * widget.grid()->Cols() + widget.grid()->Col);
+  QAccessible::updateAccessibility(&event);
+}
+
+}  // namespace
+
+GridWidget::GridWidget(QWidget* parent)
+    : QAbstractScrollArea(parent), fonts_(font()), colors_(palette()) {
+  setFocusPolicy(Qt::StrongFocus);
+  // Each paint fills what it is asked for; while Redraw is off the old picture stays.
+  viewport()->setAttribute(Qt::WA_OpaquePaintEvent);
+  viewport()->setMouseTracking(true);
+  InstallGridAccessibility();
+}
+
+GridWidget::~GridWidget() = default;
+
+void GridWidget::SetGrid(Grid* grid) {
+  grid_ = grid;
+  shown_ = {};
+  if (!grid) return;
+  Measure();
+  UpdateFromGrid();
+  viewport()->update();
+}
+
+void GridWidget::UpdateFromGrid() {
+  if (!grid_ || !grid_->Redraw()) return;
+  const bool refilled = shown_.revision != grid_->Revision();
+  MeasureIfChanged();
+  const bool moved = shown_.row != grid_->Row || shown_.col != grid_->Col;
+  const bool scrolled = shown_.top_row != grid_->TopRow || shown_.left_col != grid_->LeftCol;
+  // A view that the logic set is obeyed; otherwise the current cell stays in sight.
+  if (moved && !scrolled) ShowCell(grid_->Row, grid_->Col);
+  ClampView();
+  SetScrollBars();
+  shown_ = {grid_->Revision(), grid_->Row, grid_->Col, grid_->TopRow, grid_->LeftCol};
+  if (refilled || moved || scrolled) viewport()->update();
+  if (moved && hasFocus()) NoteFocus(*this);
+}
+
+void GridWidget::Measure() {
+  if (!grid_) return;
+  const int text_height = std::max(fonts_.plain.Height(), fonts_.bold.Height());
+  const double points = QFontInfo(font()).pointSizeF();
+  rows_ = RowsOf(*grid_, logicalDpiY(), points, text_height);
+  columns_ = ColumnsOf(*grid_, logicalDpiX(), points);
+  measured_ = grid_->Revision();
+}
+
+// The logic may have changed the grid since it was shown; no event may meet old measures.
+void GridWidget::MeasureIfChanged() {
+  const bool fits = rows_.Count() == grid_->Rows() && columns_.Count() == grid_->Cols() &&
+                    rows_.Fixed() == grid_->FixedRows && columns_.Fixed() == grid_->FixedCols;
+  if (measured_ != grid_->Revision() || !fits) Measure();
+  ClampView();
+}
+
+void GridWidget::ClampView() {
+  const auto clamp = [](int first, const GridAxis& axis, int extent) {
+    return std::clamp(first, axis.Fixed(), std::max(axis.LastFirst(extent), axis.Fixed()));
+  };
+  grid_->TopRow = clamp(grid_->TopRow, rows_, viewport()->height());
+  grid_->LeftCol = clamp(grid_->LeftCol, columns_, viewport()->width());
+}
+
+void GridWidget::SetScrollBars() {
+  setting_bars_ = true;
+  const auto set = [](QScrollBar& bar, const GridAxis& axis, int first, int extent) {
+    const int last = std::max(axis.LastFirst(extent), axis.Fixed());
+    bar.setRange(0, last - axis.Fixed());
+    bar.setPageStep(std::max(1, axis.Count() - last));
+    bar.setValue(first - axis.Fixed());
+  };
+  set(*verticalScrollBar(), rows_, grid_->TopRow, viewport()->height());
+  set(*horizontalScrollBar(), columns_, grid_->LeftCol, viewport()->width());
+  setting_bars_ = false;
+}
+
+void GridWidget::ShowCell(int row, int col) {
+  grid_->TopRow = rows_.FirstToShow(row, grid_->TopRow, viewport()->height());
+  grid_->LeftCol = columns_.FirstToShow(col, grid_->LeftCol, viewport()->width());
+}
+
+void GridWidget::scrollContentsBy(int, int) {
+  if (setting_bars_ || !grid_) return;
+  MeasureIfChanged();
+  const int top = grid_->FixedRows + verticalScrollBar()->value();
+  const int left = grid_->FixedCols + horizontalScrollBar()->value();
+  const int dy = rows_.Start(top, grid_->TopRow) - rows_.Start(top, top);
+  const int dx = columns_.Start(left, grid_->LeftCol) - columns_.Start(left, left);
+  grid_->TopRow = shown_.top_row = top;
+  grid_->LeftCol = shown_.left_col = left;
+  const int fixed_width = columns_.FixedSize(), fixed_height = rows_.FixedSize();
+  // Moves the pixels that stay in view, so that only what comes into view is painted.
+  if (dy != 0) viewport()->scroll(0, -dy, viewport()->rect().adjusted(0, fixed_height, 0, 0));
+  if (dx != 0) {
+    viewport()->scroll(-dx, 0, viewport()->rect().adjusted(fixed_width, 0, 0, 0));
+    viewport()->update(0, 0, viewport()->width(), fixed_height);
+  }
+}
+
+void GridWidget::MoveTo(int row, int col) {
+  if (!grid_ || (row == grid_->Row && col == grid_->Col)) return;
+  grid_->Row = row;
+  grid_->Col = col;
+  MeasureIfChanged();
+  ShowCell(row, col);
+  UpdateFromGrid();
+  Q_EMIT currentCellChanged(row, col);
+}
+
+QRect GridWidget::CellRect(int row, int col) const {
+  if (!grid_ || row < 0 || col < 0 || row >= rows_.Count() || col >= columns_.Count()) return {};
+  const auto scrolled_away = [](int index, int first, const GridAxis& axis) {
+    return index >= axis.Fixed() && index < first;
+  };
+  if (scrolled_away(row, grid_->TopRow, rows_) || scrolled_away(col, grid_->LeftCol, columns_))
+    return {};
+  QRect rect(columns_.Start(col, grid_->LeftCol), rows_.Start(row, grid_->TopRow),
+             columns_.SizeOf(col), rows_.SizeOf(row));
+  if (!grid_->MergeRow(row)) return rect;
+  const auto bands = columns_.Visible(grid_->LeftCol, viewport()->width());
+  for (const HeadingSpan& span : MergedSpans(*grid_, bands)) {
+    const Band& first = bands[static_cast<std::size_t>(span.first)];
+    const Band& last = bands[static_cast<std::size_t>(span.last)];
+    if (first.index > col || last.index < col) continue;
+    rect.setLeft(first.start);
+    rect.setRight(std::min(last.start + last.size, viewport()->width()) - 1);
+  }
+  return rect;
+}
+
+GridWidget::Cell GridWidget::CellAt(const QPoint& place) const {
+  if (!grid_ || !viewport()->rect().contains(place)) return {};
+  const Cell cell{rows_.At(place.y(), grid_->TopRow), columns_.At(place.x(), grid_->LeftCol)};
+  return cell.row < 0 || cell.col < 0 ? Cell{} : cell;
+}
+
+bool GridWidget::IsCut(int row, int col) const {
+  const bool bold = colors_.Look(grid_->Style(row, col)).bold;
+  const CellFont& cell_font = bold ? fonts_.bold : fonts_.plain;
+  return cell_font.WidthOf(grid_->TextMatrix(row, col)) >
+         CellRect(row, col).width() - 2 * kCellMargin;
+}
+
+void GridWidget::paintEvent(QPaintEvent* event) {
+  if (grid_ && !grid_->Redraw()) return;
+  QPainter painter(viewport());
+  if (!grid_) {
+    painter.fillRect(event->rect(), palette().color(QPalette::Base));
+    return;
+  }
+  MeasureIfChanged();
+  const QColor frame = palette().color(hasFocus() ? QPalette::Highlight : QPalette::Mid);
+  const GridPicture picture{*grid_, rows_, columns_, colors_, fonts_, frame};
+  PaintGrid(painter, picture, viewport()->size(), event->rect());
+}
+
+void GridWidget::resizeEvent(QResizeEvent*) {
+  if (!grid_) return;
+  MeasureIfChanged();
+  SetScrollBars();
+  shown_.top_row = grid_->TopRow;
+  shown_.left_col = grid_->LeftCol;
+}
+
+QSize GridWidget::sizeHint() const {
+  const int frame = 2 * frameWidth();
+  const QSize scroll_bars(verticalScrollBar()->sizeHint().width(),
+                          horizontalScrollBar()->sizeHint().height());
+  const QSize whole = QSize(columns_.TotalSize() + frame, rows_.TotalSize() + frame) + scroll_bars;
+  return grid_ ? whole.boundedTo(kUsualSize) : kUsualSize;
+}
+
+QSize GridWidget::minimumSizeHint() const {
+  return QSize(columns_.FixedSize() / 2 + 80, rows_.FixedSize() + 4 * fonts_.plain.Height());
+}
+
+void GridWidget::changeEvent(QEvent* event) {
+  QAbstractScrollArea::changeEvent(event);
+  const auto type = event->type();
+  if (type == QEvent::PaletteChange || type == QEvent::StyleChange) colors_ = GridColors(palette());
+  if (type == QEvent::FontChange || type == QEvent::StyleChange) {
+    fonts_ = GridFonts(font());
+    Measure();
+    updateGeometry();
+    if (grid_) SetScrollBars();
+  }
+  viewport()->update();
+}
+
+void GridWidget::focusInEvent(QFocusEvent*) {
+  viewport()->update();
+  NoteFocus(*this);
+}
+
+void GridWidget::focusOutEvent(QFocusEvent*) {
+  viewport()->update();
+}
+
+}  // namespace tallyroll

@@ -1,0 +1,103 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// Shows a Grid in place: nothing is copied, only the cells in view are painted.
+#pragma once
+
+#include <QAbstractScrollArea>
+#include <optional>
+
+#include "desktop/grid_layout.h"
+#include "desktop/grid_painter.h"
+#include "platform/grid.h"
+
+namespace tallyroll {
+
+class GridWidget : public QAbstractScrollArea {
+  Q_OBJECT
+
+ public:
+  explicit GridWidget(QWidget* parent = nullptr);
+  ~GridWidget() override;
+
+  // The grid must outlive its time here; null shows nothing.
+  void SetGrid(Grid* grid);
+  Grid* grid() const { return grid_; }
+
+  // Shows what changed since the last time. While Redraw is off nothing happens.
+  void UpdateFromGrid();
+
+  // Whether Enter and the blank stand for a double click on the current cell. Off, Enter is left
+  // to the dialog.
+  void SetEnterDoubleClicks(bool on) { enter_double_clicks_ = on; }
+
+  // Moves the current cell as a user does, and shows it.
+  void MoveTo(int row, int col);
+
+  // The cell's place in the viewport; empty when it is hidden. A merged heading is one place.
+  QRect CellRect(int row, int col) const;
+  // The cell under a place of the viewport; -1 outside.
+  struct Cell {
+    int row = -1;
+    int col = -1;
+  };
+  Cell CellAt(const QPoint& place) const;
+  // Whether the text is wider than its cell, so that its end does not show.
+  bool IsCut(int row, int col) const;
+
+  QSize sizeHint() const override;
+  QSize minimumSizeHint() const override;
+
+ Q_SIGNALS:
+  // All of these come only from the user.
+  void cellClicked(int row, int col);
+  void cellDoubleClicked(int row, int col);
+  void currentCellChanged(int row, int col);
+  void hovered(int row, int col);  // -1, -1 when the pointer has left
+
+ protected:
+  bool event(QEvent* event) override;
+  bool viewportEvent(QEvent* event) override;
+  void paintEvent(QPaintEvent* event) override;
+  void resizeEvent(QResizeEvent* event) override;
+  void scrollContentsBy(int dx, int dy) override;
+  void keyPressEvent(QKeyEvent* event) override;
+  void mousePressEvent(QMouseEvent* event) override;
+  void mouseMoveEvent(QMouseEvent* event) override;
+  void mouseDoubleClickEvent(QMouseEvent* event) override;
+  void focusInEvent(QFocusEvent* event) override;
+  void focusOutEvent(QFocusEvent* event) override;
+  void changeEvent(QEvent* event) override;
+
+ private:
+  // What of the grid stands on the screen now.
+  struct Shown {
+    std::uint64_t revision = 0;
+    int row = -1;
+    int col = -1;
+    int top_row = -1;
+    int left_col = -1;
+  };
+
+  void Measure();
+  void MeasureIfChanged();
+  void ClampView();
+  void SetScrollBars();
+  void ShowCell(int row, int col);
+  void PointAt(const QPoint& place);
+  void DoubleClick(int row, int col);
+  void ShowToolTip(const QPoint& place, const QPoint& global);
+  std::optional<Cell> TargetOf(const QKeyEvent& event) const;
+  int PageStep(int direction) const;
+  int EdgeOf(const GridAxis& axis, int direction) const;
+
+  Grid* grid_ = nullptr;
+  bool enter_double_clicks_ = true;
+  bool setting_bars_ = false;
+  Shown shown_;
+  std::uint64_t measured_ = 0;
+  GridAxis rows_;
+  GridAxis columns_;
+  GridFonts fonts_;
+  GridColors colors_;
+};
+
+}  // namespace tallyroll

@@ -1,0 +1,56 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "desktop/list_columns.h"
+
+#include <QApplication>
+#include <QListWidget>
+#include <QPainter>
+#include <algorithm>
+
+namespace tallyroll {
+namespace {
+
+constexpr int kGap = 16;
+constexpr int kMargin = 4;
+
+}  // namespace
+
+void ListColumns::Measure(const QListWidget& list) {
+  const QFontMetrics metrics(list.font());
+  QList<int> widths;
+  for (int row = 0; row < list.count(); ++row) {
+    const QStringList parts = list.item(row)->text().split(QLatin1Char('\t'));
+    widths.resize(std::max(widths.size(), parts.size()));
+    for (qsizetype i = 0; i < parts.size(); ++i)
+      widths[i] = std::max(widths[i], metrics.horizontalAdvance(parts[i]));
+  }
+  starts_ = {0};
+  for (const int width : std::as_const(widths)) starts_ << starts_.last() + width + kGap;
+}
+
+void ListColumns::paint(QPainter* painter, const QStyleOptionViewItem& option,
+                        const QModelIndex& index) const {
+  QStyleOptionViewItem line = option;
+  initStyleOption(&line, index);
+  if (!line.text.contains(QLatin1Char('\t')))
+    return QStyledItemDelegate::paint(painter, option, index);
+  const QStringList parts = std::exchange(line.text, QString()).split(QLatin1Char('\t'));
+  const QStyle& style = line.widget ? *line.widget->style() : *QApplication::style();
+  style.drawControl(QStyle::CE_ItemViewItem, &line, painter, line.widget);
+  const bool selected = line.state & QStyle::State_Selected;
+  const auto role = selected ? QPalette::HighlightedText : QPalette::Text;
+  painter->setPen(line.palette.color(role));
+  painter->setFont(line.font);
+  for (int i = 0; i < parts.size(); ++i) {
+    const QRect place = line.rect.adjusted(kMargin + Start(i), 0, 0, 0);
+    painter->drawText(place, Qt::AlignVCenter | Qt::TextSingleLine, parts[i]);
+  }
+}
+
+QSize ListColumns::sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const {
+  QSize size = QStyledItemDelegate::sizeHint(option, index);
+  const auto columns = index.data().toString().count(QLatin1Char('\t')) + 1;
+  if (columns > 1) size.setWidth(2 * kMargin + Start(static_cast<int>(columns)));
+  return size;
+}
+
+}  // namespace tallyroll

@@ -1,0 +1,31 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// Paints the lines of a list whose columns are parted by tabs, each column as wide as its longest.
+#pragma once
+
+#include <QList>
+#include <QStyledItemDelegate>
+
+class QListWidget;
+
+namespace tallyroll {
+
+class ListColumns : public QStyledItemDelegate {
+  Q_OBJECT
+
+ public:
+  using QStyledItemDelegate::QStyledItemDelegate;
+
+  // After each fill.
+  void Measure(const QListWidget& list);
+  // Where a column begins.
+  int Start(int column) const { return starts_.value(column); }
+
+  void paint(QPainter* painter, const QStyleOptionViewItem& option,
+             const QModelIndex& index) const override;
+  QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override;
+
+ private:
+  QList<int> starts_{0};
+};
+
+}  // namespace tallyroll
