@@ -38,6 +38,7 @@ FrameWindow::FrameWindow() {
   auto* first = new QWidget;
   start_ = new StartPage(Frame->menu);
   status_ = new QLabel;
+  status_->setObjectName(QStringLiteral("FrameStatus"));
   status_->setMargin(3);
   auto* rows = new QVBoxLayout(first);
   rows->setContentsMargins(0, 0, 0, 0);
@@ -75,18 +76,19 @@ FrameWindow::~FrameWindow() {
   for (QMdiSubWindow* window : area_->subWindowList()) window->disconnect(this);
 }
 
+// Beside Ctrl+W and Ctrl+Tab, which the menu and the area bring along.
 void FrameWindow::AddWindowKeys() {
-  const auto add = [this](const QList<QKeySequence>& keys, const std::function<void()>& act) {
+  const auto add = [this](const QKeySequence& key, const std::function<void()>& act) {
     auto* action = new QAction(this);
-    action->setShortcuts(keys);
+    action->setShortcut(key);
     connect(action, &QAction::triggered, this, act);
     addAction(action);
   };
-  add({QKeySequence(Qt::CTRL | Qt::Key_F4), QKeySequence(Qt::CTRL | Qt::Key_W)}, [this] {
+  add(Qt::CTRL | Qt::Key_F4, [this] {
     if (front_ != nullptr) front_->close();
   });
-  add({QKeySequence(Qt::CTRL | Qt::Key_F6)}, [this] { area_->activateNextSubWindow(); });
-  add({QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_F6)},
+  add(Qt::CTRL | Qt::Key_F6, [this] { area_->activateNextSubWindow(); });
+  add(Qt::CTRL | Qt::SHIFT | Qt::Key_F6,
       [this] { area_->activatePreviousSubWindow(); });
 }
 

@@ -29,11 +29,12 @@ QLabel* Heading(const QString& text, double scale) {
 // A button's text shows "&" only when it is doubled.
 QString Plain(QString text) { return text.replace(QLatin1Char('&'), QStringLiteral("&&")); }
 
-// "2. /home/ann/MATH.TYR" stands as the file's name above its folder.
+// "&2. /home/ann/MATH.TYR" stands as the file's name above its folder.
 void ShowRecent(QCommandLinkButton* button, const QString& caption) {
   if (button->property("caption") == caption) return;
   button->setProperty("caption", caption);
-  const QString path = caption.mid(caption.indexOf(QStringLiteral(". ")) + 2);
+  const QString path = caption.mid(caption.indexOf(QStringLiteral(". ")) + 2)
+                           .replace(QStringLiteral("&&"), QStringLiteral("&"));
   const auto slash = path.lastIndexOf(QLatin1Char('/'));
   button->setText(Plain(path.mid(slash + 1)));
   button->setDescription(path.left(slash + 1));
