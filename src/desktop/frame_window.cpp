@@ -179,6 +179,7 @@ void FrameWindow::ShowWindow(Form1& window) {
     view->show();
   }
   area_->setActiveSubWindow(view);
+  view->widget()->setFocus();  // the grid, rather than the first button
   FollowFront();
 }
 

@@ -93,6 +93,9 @@ StartPage::StartPage(const Menu& menu, QWidget* parent) : QWidget(parent), menu_
 QCommandLinkButton* StartPage::AddButton(const QString& entry, QVBoxLayout* column) {
   auto* button = new QCommandLinkButton;
   button->setObjectName(entry);
+  QSizePolicy policy = button->sizePolicy();
+  policy.setVerticalPolicy(QSizePolicy::Fixed);  // the room that is left goes below the column
+  button->setSizePolicy(policy);
   connect(button, &QCommandLinkButton::clicked, this, [this, entry] { Q_EMIT Pressed(entry); },
           Qt::QueuedConnection);
   column->addWidget(button);
