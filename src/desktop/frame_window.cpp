@@ -26,7 +26,9 @@ namespace tallyroll {
 
 namespace {
 
-QString PlaceName() { return QStringLiteral("MDIForm1"); }
+QString PlaceName() {
+  return QStringLiteral("MDIForm1");
+}
 
 }  // namespace
 
@@ -88,8 +90,7 @@ void FrameWindow::AddWindowKeys() {
     if (front_ != nullptr) front_->close();
   });
   add(Qt::CTRL | Qt::Key_F6, [this] { area_->activateNextSubWindow(); });
-  add(Qt::CTRL | Qt::SHIFT | Qt::Key_F6,
-      [this] { area_->activatePreviousSubWindow(); });
+  add(Qt::CTRL | Qt::SHIFT | Qt::Key_F6, [this] { area_->activatePreviousSubWindow(); });
 }
 
 void FrameWindow::Connect(ClassWindowView* view) {
@@ -123,9 +124,13 @@ void FrameWindow::RunInFront(ClassWindowView* view, const std::function<void(For
   });
 }
 
-ClassWindowView* FrameWindow::Current() const { return front_; }
+ClassWindowView* FrameWindow::Current() const {
+  return front_;
+}
 
-MenuView& FrameWindow::CurrentMenu() const { return front_ != nullptr ? front_->menu() : *menu_; }
+MenuView& FrameWindow::CurrentMenu() const {
+  return front_ != nullptr ? front_->menu() : *menu_;
+}
 
 ClassWindowView* FrameWindow::ViewOf(const Form1& window) const {
   for (QMdiSubWindow* sub_window : area_->subWindowList()) {
@@ -146,7 +151,8 @@ void FrameWindow::FollowFront() {
 void FrameWindow::Sync() {
   menu_->Sync();
   start_->Sync();
-  for (QMdiSubWindow* window : area_->subWindowList()) static_cast<ClassWindowView*>(window)->Sync();
+  for (QMdiSubWindow* window : area_->subWindowList())
+    static_cast<ClassWindowView*>(window)->Sync();
   pages_->setCurrentIndex(front_ != nullptr ? 1 : 0);
   const QString status = hint_.isEmpty() ? FromText(Frame->StatusText) : hint_;
   if (status != status_->text()) status_->setText(status);
@@ -221,7 +227,9 @@ void FrameWindow::Arrange(Arrangement how) {
   }
 }
 
-void FrameWindow::ShowAbout() { ShowAboutBox(this); }
+void FrameWindow::ShowAbout() {
+  ShowAboutBox(this);
+}
 
 void FrameWindow::closeEvent(QCloseEvent* event) {
   if (!may_close_) {

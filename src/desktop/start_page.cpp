@@ -27,7 +27,9 @@ QLabel* Heading(const QString& text, double scale) {
 }
 
 // A button's text shows "&" only when it is doubled.
-QString Plain(QString text) { return text.replace(QLatin1Char('&'), QStringLiteral("&&")); }
+QString Plain(QString text) {
+  return text.replace(QLatin1Char('&'), QStringLiteral("&&"));
+}
 
 // "&2. /home/ann/MATH.TYR" stands as the file's name above its folder.
 void ShowRecent(QCommandLinkButton* button, const QString& caption) {
@@ -96,8 +98,9 @@ QCommandLinkButton* StartPage::AddButton(const QString& entry, QVBoxLayout* colu
   QSizePolicy policy = button->sizePolicy();
   policy.setVerticalPolicy(QSizePolicy::Fixed);  // the room that is left goes below the column
   button->setSizePolicy(policy);
-  connect(button, &QCommandLinkButton::clicked, this, [this, entry] { Q_EMIT Pressed(entry); },
-          Qt::QueuedConnection);
+  connect(
+      button, &QCommandLinkButton::clicked, this, [this, entry] { Q_EMIT Pressed(entry); },
+      Qt::QueuedConnection);
   column->addWidget(button);
   return button;
 }

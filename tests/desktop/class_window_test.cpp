@@ -24,9 +24,7 @@ class ClassWindowTest : public FrameTest {
 
   ClassWindowView& view() const { return *window->Current(); }
   GridWidget& grid() const { return *view().findChild<GridWidget*>(); }
-  QString Status() const {
-    return view().findChild<QLabel*>(QStringLiteral("StatusBar1"))->text();
-  }
+  QString Status() const { return view().findChild<QLabel*>(QStringLiteral("StatusBar1"))->text(); }
   QToolButton* Tool(const char* key) const {
     auto* toolbar = view().findChild<ToolbarView*>();
     auto* action = toolbar->findChild<QAction*>(QString::fromLatin1(key));
@@ -66,8 +64,8 @@ TEST_F(ClassWindowTest, AToolbarButtonRunsItsCommand) {
 }
 
 TEST_F(ClassWindowTest, TheToolbarFollowsWhatTheClassHas) {
-  EXPECT_TRUE(Tool("Cgrades")->isEnabled());   // it has a grade
-  EXPECT_FALSE(Tool("Eatt")->isEnabled());     // and no attendance
+  EXPECT_TRUE(Tool("Cgrades")->isEnabled());  // it has a grade
+  EXPECT_FALSE(Tool("Eatt")->isEnabled());    // and no attendance
 }
 
 TEST_F(ClassWindowTest, ThePrintButtonDropsThePrintMenu) {

@@ -27,9 +27,7 @@ using testing::ElementsAre;
 class FrameWindowTest : public FrameTest {
  protected:
   QMdiArea& area() const { return *window->findChild<QMdiArea*>(); }
-  void Change(Form1& form) {
-    Classes[static_cast<std::size_t>(form.SlotIndex)].Changed = kTrue;
-  }
+  void Change(Form1& form) { Classes[static_cast<std::size_t>(form.SlotIndex)].Changed = kTrue; }
   const std::string save_question = " Data has been changed. Save File?  ";
 };
 
