@@ -27,13 +27,16 @@ QLabel* Heading(const QString& text, double scale) {
 }
 
 // A button's text shows "&" only when it is doubled.
-QString Plain(QString text) { return text.replace(QLatin1Char('&'), QStringLiteral("&&")); }
+QString Plain(QString text) {
+  return text.replace(QLatin1Char('&'), QStringLiteral("&&"));
+}
 
-// "2. /home/ann/MATH.TYR" stands as the file's name above its folder.
+// "&2. /home/ann/MATH.TYR" stands as the file's name above its folder.
 void ShowRecent(QCommandLinkButton* button, const QString& caption) {
   if (button->property("caption") == caption) return;
   button->setProperty("caption", caption);
-  const QString path = caption.mid(caption.indexOf(QStringLiteral(". ")) + 2);
+  const QString path = caption.mid(caption.indexOf(QStringLiteral(". ")) + 2)
+                           .replace(QStringLiteral("&&"), QStringLiteral("&"));
   const auto slash = path.lastIndexOf(QLatin1Char('/'));
   button->setText(Plain(path.mid(slash + 1)));
   button->setDescription(path.left(slash + 1));
@@ -92,8 +95,12 @@ StartPage::StartPage(const Menu& menu, QWidget* parent) : QWidget(parent), menu_
 QCommandLinkButton* StartPage::AddButton(const QString& entry, QVBoxLayout* column) {
   auto* button = new QCommandLinkButton;
   button->setObjectName(entry);
-  connect(button, &QCommandLinkButton::clicked, this, [this, entry] { Q_EMIT Pressed(entry); },
-          Qt::QueuedConnection);
+  QSizePolicy policy = button->sizePolicy();
+  policy.setVerticalPolicy(QSizePolicy::Fixed);  // the room that is left goes below the column
+  button->setSizePolicy(policy);
+  connect(
+      button, &QCommandLinkButton::clicked, this, [this, entry] { Q_EMIT Pressed(entry); },
+      Qt::QueuedConnection);
   column->addWidget(button);
   return button;
 }
