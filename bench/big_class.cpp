@@ -10,7 +10,7 @@ namespace tallyroll {
 namespace {
 
 constexpr const char* kFirst[] = {"Ana", "Ben", "Chlo\xE9", "David", "Emma", "Farid", "Grace", "Hugo"};
-constexpr const char* kLast[] = {"Alvarez", "Brown", "Chen", "Dubois", "Evans", "Fischer", "Garc\xEDa", "Haddad"};
+constexpr const char* kLast[] = {"Alvarez", "Brown", "Chen", "Dubois", "Evans", "Fischer", "Garc\xED" "a", "Haddad"};
 constexpr const char* kMarks[] = {"A", "B+", "ABS", "EXC", "C-", "NEW"};
 
 std::string Mark(std::mt19937& random) {

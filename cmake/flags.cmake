@@ -5,6 +5,10 @@ target_compile_options(tallyroll_flags INTERFACE -Wall -Wextra -Wpedantic -Wshad
 if(CMAKE_CXX_COMPILER_ID STREQUAL "Clang")
   target_compile_options(tallyroll_flags INTERFACE -Wno-shadow)
 endif()
+if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
+  # GCC 12 sees overlaps in std::string that are not there.
+  target_compile_options(tallyroll_flags INTERFACE -Wno-restrict)
+endif()
 target_compile_definitions(tallyroll_flags INTERFACE
   TALLYROLL_VERSION="${PROJECT_VERSION}" $<$<CONFIG:Debug>:_GLIBCXX_ASSERTIONS>)
 if(TALLYROLL_WERROR)

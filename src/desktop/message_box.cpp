@@ -1,0 +1,93 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "desktop/message_box.h"
+
+#include <QCloseEvent>
+#include <QKeyEvent>
+#include <QMessageBox>
+
+#include "desktop/text_conversion.h"
+
+namespace tallyroll {
+namespace {
+
+QMessageBox::Icon IconOf(BoxIcon icon) {
+  switch (icon) {
+    case BoxIcon::kNone:
+      return QMessageBox::NoIcon;
+    case BoxIcon::kCritical:
+      return QMessageBox::Critical;
+    case BoxIcon::kQuestion:
+      return QMessageBox::Question;
+    case BoxIcon::kExclamation:
+      return QMessageBox::Warning;
+    case BoxIcon::kInformation:
+      return QMessageBox::Information;
+  }
+  return QMessageBox::NoIcon;
+}
+
+// In the order of the box: the first is the default unless the second is asked for.
+QList<QMessageBox::StandardButton> ButtonsOf(BoxButtons buttons) {
+  switch (buttons) {
+    case BoxButtons::kOk:
+      return {QMessageBox::Ok};
+    case BoxButtons::kOkCancel:
+      return {QMessageBox::Ok, QMessageBox::Cancel};
+    case BoxButtons::kYesNo:
+      return {QMessageBox::Yes, QMessageBox::No};
+    case BoxButtons::kYesNoCancel:
+      return {QMessageBox::Yes, QMessageBox::No, QMessageBox::Cancel};
+  }
+  return {};
+}
+
+BoxAnswer AnswerOf(int button) {
+  switch (button) {
+    case QMessageBox::Cancel:
+      return BoxAnswer::kCancel;
+    case QMessageBox::Yes:
+      return BoxAnswer::kYes;
+    case QMessageBox::No:
+      return BoxAnswer::kNo;
+    default:
+      return BoxAnswer::kOk;
+  }
+}
+
+// Yes and No alone leave no way out but a choice: the toolkit would take Escape for No, and No may
+// throw work away.
+class DecisionBox : public QMessageBox {
+ public:
+  using QMessageBox::QMessageBox;
+  bool must_choose = false;
+
+ protected:
+  void keyPressEvent(QKeyEvent* event) override {
+    if (!must_choose || event->key() != Qt::Key_Escape) QMessageBox::keyPressEvent(event);
+  }
+  void closeEvent(QCloseEvent* event) override {
+    if (must_choose)
+      event->ignore();
+    else
+      QMessageBox::closeEvent(event);
+  }
+};
+
+}  // namespace
+
+BoxAnswer ShowMessageBox(const MessageRequest& request, QWidget* parent) {
+  DecisionBox box(parent);
+  // A name in a class file may hold "<"; it is no markup.
+  box.setTextFormat(Qt::PlainText);
+  box.setWindowTitle(FromText(request.title));
+  box.setText(LinesFromText(request.text));
+  box.setIcon(IconOf(request.icon));
+  const auto buttons = ButtonsOf(request.buttons);
+  for (const auto button : buttons) box.addButton(button);
+  box.setDefaultButton(buttons[request.second_is_default && buttons.size() > 1 ? 1 : 0]);
+  box.must_choose = request.buttons == BoxButtons::kYesNo;
+  if (!box.must_choose) box.setEscapeButton(buttons.last());
+  return AnswerOf(box.exec());
+}
+
+}  // namespace tallyroll

@@ -1,0 +1,145 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "desktop/qt_surroundings.h"
+
+#include <QApplication>
+#include <QClipboard>
+#include <QDateTime>
+#include <QDir>
+#include <QFileInfo>
+#include <QLocale>
+#include <QRandomGenerator>
+#include <QSettings>
+#include <QStandardPaths>
+
+#include "desktop/message_box.h"
+#include "desktop/open_save_dialog.h"
+#include "desktop/portal_dialog.h"
+#include "desktop/text_conversion.h"
+#include "platform/class_window.h"
+
+namespace tallyroll {
+namespace {
+
+constexpr std::string_view kClipboardRefused =
+    "The clipboard holds a character that cannot be stored in a class file.";
+constexpr double kMillisecondsADay = 24.0 * 60 * 60 * 1000;
+
+// Sections are compared without case; the settings of other windows lie beside those of the
+// applications, never among them.
+QString SettingKey(std::string_view application, std::string_view section, std::string_view key) {
+  return QStringLiteral("%1/%2/%3")
+      .arg(FromText(application), FromText(section).toLower(), FromText(key));
+}
+
+// The sample lies beside the program in the build tree, and in the shared folder once installed.
+QStringList ProgramFolders() {
+  const QString beside = QCoreApplication::applicationDirPath();
+  return {beside, beside + QStringLiteral("/../share/tallyroll"),
+          beside + QStringLiteral("/../../sample")};
+}
+
+}  // namespace
+
+void ShowOpenPortals() {
+  for (QWidget* window : QApplication::topLevelWidgets()) {
+    auto* portal = qobject_cast<PortalDialog*>(window);
+    if (portal && portal->isVisible()) portal->ShowControls();
+  }
+}
+
+BoxAnswer QtSurroundings::MessageBox(const MessageRequest& request) {
+  ShowOpenPortals();
+  return ShowMessageBox(request, QApplication::activeWindow());
+}
+
+std::optional<std::string> QtSurroundings::FileDialog(const FileDialogRequest& request) {
+  ShowOpenPortals();
+  return ShowFileDialog(request, QApplication::activeWindow());
+}
+
+void QtSurroundings::ShowModal(Portal& portal) {
+  ShowOpenPortals();
+  PortalDialog dialog(portal, QApplication::activeWindow());
+  if (!dialog.Complaints().isEmpty()) {
+    for (const QString& complaint : dialog.Complaints())
+      qCritical("%s: %s", portal.Name().c_str(), qUtf8Printable(complaint));
+    ClassWindow().ShowStatus(kPortalNotAvailable);
+    return;
+  }
+  dialog.RunModal();
+}
+
+void QtSurroundings::ShowHelp(int context) {
+  if (help_hook) help_hook(context);
+}
+
+std::string QtSurroundings::ClipboardText() {
+  QString text = QApplication::clipboard()->text();
+  text.replace(QLatin1String("\r\n"), QLatin1String("\n"));
+  if (const std::optional<std::string> kept = ToTextLines(text)) return *kept;
+  // Another program's text: it is refused whole and visibly, as a paste into a field is.
+  ClassWindow().ShowStatus(kClipboardRefused);
+  return {};
+}
+
+void QtSurroundings::SetClipboardText(std::string_view text) {
+  QApplication::clipboard()->setText(LinesFromText(text));
+}
+
+std::string QtSurroundings::ReadSetting(std::string_view application, std::string_view section,
+                                        std::string_view key, std::string_view default_value) {
+  const QVariant value = QSettings().value(SettingKey(application, section, key));
+  if (!value.isValid()) return std::string(default_value);
+  return ToText(value.toString()).value_or(std::string(default_value));
+}
+
+void QtSurroundings::WriteSetting(std::string_view application, std::string_view section,
+                                  std::string_view key, std::string_view value) {
+  QSettings().setValue(SettingKey(application, section, key), FromText(value));
+}
+
+double QtSurroundings::Now() {
+  const QDateTime now = QDateTime::currentDateTime();
+  const auto days = static_cast<double>(QDate(1899, 12, 30).daysTo(now.date()));
+  return days + now.time().msecsSinceStartOfDay() / kMillisecondsADay;
+}
+
+double QtSurroundings::Random() {
+  return QRandomGenerator::global()->generateDouble();
+}
+
+DateOrder QtSurroundings::ShortDateOrder() {
+  const QString pattern = QLocale::system().dateFormat(QLocale::ShortFormat);
+  if (pattern.startsWith(QLatin1Char('d'), Qt::CaseInsensitive)) return DateOrder::kDayFirst;
+  if (pattern.startsWith(QLatin1Char('y'), Qt::CaseInsensitive)) return DateOrder::kYearFirst;
+  return DateOrder::kMonthFirst;
+}
+
+std::string QtSurroundings::ProfileFolder() {
+  const QString data = QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation);
+  return ToPath(data + QStringLiteral("/Tallyroll"));
+}
+
+std::string QtSurroundings::ProgramFolder() {
+  for (const QString& folder : ProgramFolders()) {
+    if (QFileInfo::exists(folder + QStringLiteral("/Sample8.TYR")))
+      return ToPath(QDir(folder).canonicalPath());
+  }
+  return ToPath(QDir(ProgramFolders().front()).absolutePath());
+}
+
+void QtSurroundings::PumpEvents() {
+  ShowOpenPortals();
+  QApplication::processEvents();
+}
+
+void QtSurroundings::SetWaitCursor(bool on) {
+  if (on == waiting_) return;
+  waiting_ = on;
+  if (on)
+    QApplication::setOverrideCursor(Qt::WaitCursor);
+  else
+    QApplication::restoreOverrideCursor();
+}
+
+}  // namespace tallyroll

@@ -1,0 +1,46 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The surroundings of the desktop program, by Qt.
+#pragma once
+
+#include <functional>
+
+#include "platform/surroundings.h"
+
+namespace tallyroll {
+
+class QtSurroundings : public Surroundings {
+ public:
+  BoxAnswer MessageBox(const MessageRequest& request) override;
+  std::optional<std::string> FileDialog(const FileDialogRequest& request) override;
+  void ShowModal(Portal& portal) override;
+  void ShowHelp(int context) override;
+
+  std::string ClipboardText() override;
+  void SetClipboardText(std::string_view text) override;
+
+  std::string ReadSetting(std::string_view application, std::string_view section,
+                          std::string_view key, std::string_view default_value) override;
+  void WriteSetting(std::string_view application, std::string_view section, std::string_view key,
+                    std::string_view value) override;
+
+  double Now() override;
+  double Random() override;
+  DateOrder ShortDateOrder() override;
+
+  std::string ProfileFolder() override;
+  std::string ProgramFolder() override;
+
+  void PumpEvents() override;
+  void SetWaitCursor(bool on) override;
+
+  // Set by the frame, which owns the help window.
+  std::function<void(int context)> help_hook;
+
+ private:
+  bool waiting_ = false;
+};
+
+// Shows in every open Portal what its handler has done so far, before the user looks at anything.
+void ShowOpenPortals();
+
+}  // namespace tallyroll

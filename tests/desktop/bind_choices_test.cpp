@@ -1,0 +1,238 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include <QCheckBox>
+#include <QComboBox>
+#include <QDateEdit>
+#include <QListWidget>
+#include <QRadioButton>
+#include <QTabBar>
+#include <QTabWidget>
+
+#include "desktop/grid_widget.h"
+#include "tests/desktop/everything_portal.h"
+
+namespace tallyroll {
+namespace {
+
+class BindChoicesTest : public EverythingTest {
+ protected:
+  QComboBox& pick() { return Find<QComboBox>("pick"); }
+  QComboBox& typed() { return Find<QComboBox>("typed"); }
+  QListWidget& list() { return Find<QListWidget>("list"); }
+  QPoint PlaceOf(int line) { return list().visualItemRect(list().item(line)).center(); }
+};
+
+TEST_F(BindChoicesTest, TickingACheckBoxRaisesChangeAndClick) {
+  Open();
+  Focus("tick");
+  QTest::keyClick(&Find<QCheckBox>("tick"), Qt::Key_Space);
+  EXPECT_EQ(Events(), (Lines{"tick change", "tick click"}));
+  EXPECT_TRUE(portal.tick.Value);
+}
+
+TEST_F(BindChoicesTest, OneOptionPutsOutTheOther) {
+  portal.one.Value = true;
+  Open();
+  Focus("two");
+  Find<QRadioButton>("two").click();
+  EXPECT_EQ(Events(), (Lines{"two change", "two click"}));
+  EXPECT_TRUE(portal.two.Value);
+  EXPECT_FALSE(portal.one.Value);
+}
+
+TEST_F(BindChoicesTest, AHandlerPutsOutAllOptions) {
+  portal.one.Value = true;
+  portal.when = [this](const std::string& line) {
+    if (line == "other click") portal.one.Value = false;
+  };
+  Open();
+  Find<QAbstractButton>("other").click();
+  EXPECT_FALSE(Find<QRadioButton>("one").isChecked());
+  EXPECT_FALSE(Find<QRadioButton>("two").isChecked());
+  Find<QRadioButton>("one").click();
+  Find<QRadioButton>("two").click();
+  EXPECT_FALSE(Find<QRadioButton>("one").isChecked());
+}
+
+TEST_F(BindChoicesTest, ACombinationBoxMayShowNothingChosen) {
+  Open();
+  EXPECT_EQ(pick().count(), 3);
+  EXPECT_EQ(pick().currentIndex(), -1);
+}
+
+TEST_F(BindChoicesTest, ChoosingInAComboBoxRaisesChangeAndClick) {
+  Open();
+  Focus("pick");
+  QTest::keyClick(&pick(), Qt::Key_Down);
+  EXPECT_EQ(Events(), (Lines{"pick change", "pick click"}));
+  EXPECT_EQ(portal.pick.ListIndex, 0);
+  EXPECT_EQ(portal.pick.Text, "red");
+}
+
+TEST_F(BindChoicesTest, ANewListShowsItsIndexAfterItsLines) {
+  portal.pick.ListIndex = 0;
+  portal.when = [this](const std::string& line) {
+    if (line != "other click") return;
+    portal.pick.List = {"north", "south"};
+    portal.pick.ListIndex = -1;
+  };
+  Open();
+  EXPECT_EQ(pick().currentText(), QStringLiteral("red"));
+  Find<QAbstractButton>("other").click();
+  EXPECT_EQ(pick().count(), 2);
+  EXPECT_EQ(pick().currentIndex(), -1);
+  EXPECT_EQ(portal.pick.ListIndex, -1);
+}
+
+TEST_F(BindChoicesTest, ANewListKeepsTheIndexThatTheControlHolds) {
+  portal.pick.ListIndex = 1;
+  portal.when = [this](const std::string& line) {
+    if (line == "other click") portal.pick.List = {"north", "south"};
+  };
+  Open();
+  Find<QAbstractButton>("other").click();
+  EXPECT_EQ(pick().currentText(), QStringLiteral("south"));
+  EXPECT_EQ(portal.pick.ListIndex, 1);
+}
+
+TEST_F(BindChoicesTest, TypingInAComboBoxIsNoChoice) {
+  Open();
+  Focus("typed");
+  QTest::keyClicks(&typed(), QStringLiteral("tw"));
+  EXPECT_EQ(Events(), (Lines{"typed change", "typed change"}));
+  EXPECT_EQ(portal.typed.Text, "tw");
+  EXPECT_EQ(portal.typed.ListIndex, -1);
+  EXPECT_EQ(typed().currentText(), QStringLiteral("tw"));
+}
+
+TEST_F(BindChoicesTest, AChoiceInATypedComboBoxTakesItsText) {
+  Open();
+  Focus("typed");
+  QTest::keyClicks(&typed(), QStringLiteral("x"));
+  Events();
+  QTest::keyClick(&typed(), Qt::Key_Down);
+  EXPECT_EQ(Events(), (Lines{"typed change", "typed click"}));
+  EXPECT_EQ(portal.typed.Text, "ten");
+  EXPECT_EQ(portal.typed.ListIndex, 0);
+}
+
+TEST_F(BindChoicesTest, AComboBoxRefusesWhatTheCodePageLacks) {
+  Open();
+  Focus("typed");
+  QTest::sendKeyEvent(QTest::Click, &typed(), Qt::Key_unknown, QStringLiteral(u"\u0141"),
+                      Qt::NoModifier);
+  EXPECT_EQ(typed().currentText(), QString());
+  EXPECT_EQ(Events(), Lines{});
+}
+
+TEST_F(BindChoicesTest, ListLinesAreSplitByTabsAndReadWithoutThem) {
+  Open();
+  EXPECT_EQ(list().item(1)->text(), QStringLiteral("Bertha\tB2"));
+  EXPECT_EQ(list().item(1)->data(Qt::AccessibleTextRole).toString(), QStringLiteral("Bertha B2"));
+}
+
+TEST_F(BindChoicesTest, ChoosingALineRaisesChangeAndOneClick) {
+  Open();
+  Focus("list");
+  QTest::mouseClick(list().viewport(), Qt::LeftButton, {}, PlaceOf(2));
+  EXPECT_EQ(Events(), (Lines{"list change", "list click"}));
+  EXPECT_EQ(portal.list.ListIndex, 2);
+}
+
+TEST_F(BindChoicesTest, ClickingTheChosenLineIsAClickAndNoChange) {
+  portal.list.ListIndex = 2;
+  Open();
+  Focus("list");
+  QTest::mouseClick(list().viewport(), Qt::LeftButton, {}, PlaceOf(2));
+  EXPECT_EQ(Events(), Lines{"list click"});
+}
+
+TEST_F(BindChoicesTest, ArrowKeysChooseLines) {
+  portal.list.ListIndex = 0;
+  Open();
+  Focus("list");
+  QTest::keyClick(&list(), Qt::Key_Down);
+  EXPECT_EQ(Events(), (Lines{"list change", "list click"}));
+  EXPECT_EQ(portal.list.ListIndex, 1);
+}
+
+TEST_F(BindChoicesTest, DoubleClickOnALine) {
+  portal.list.ListIndex = 1;
+  Open();
+  Focus("list");
+  QTest::mouseDClick(list().viewport(), Qt::LeftButton, {}, PlaceOf(1));
+  EXPECT_EQ(portal.log.back(), "list dblclick");
+}
+
+TEST_F(BindChoicesTest, AClickBelowTheLastLineKeepsTheChoice) {
+  portal.list.ListIndex = 1;
+  Open();
+  Focus("list");
+  QTest::mouseClick(list().viewport(), Qt::LeftButton, {},
+                    QPoint(5, list().viewport()->height() - 2));
+  EXPECT_EQ(Events(), Lines{});
+  EXPECT_TRUE(list().item(1)->isSelected());
+}
+
+TEST_F(BindChoicesTest, AHandlerTakesTheChoiceAway) {
+  portal.list.ListIndex = 1;
+  portal.when = [this](const std::string& line) {
+    if (line == "other click") portal.list.ListIndex = -1;
+  };
+  Open();
+  Find<QAbstractButton>("other").click();
+  EXPECT_EQ(list().currentRow(), -1);
+  EXPECT_TRUE(list().selectedItems().isEmpty());
+  EXPECT_EQ(portal.list.ListIndex, -1);
+}
+
+TEST_F(BindChoicesTest, APickedTabIsShownAndTold) {
+  Open();
+  Focus("tabs");
+  QTabBar& bar = *Find<QTabWidget>("tabs").tabBar();
+  QTest::mouseClick(&bar, Qt::LeftButton, {}, bar.tabRect(1).center());
+  EXPECT_EQ(Events(), (Lines{"tabs change", "tabs click"}));
+  EXPECT_EQ(portal.tabs.Selected, 1);
+}
+
+TEST_F(BindChoicesTest, ADateIsADaySerial) {
+  Open();
+  auto& day = Find<QDateEdit>("day");
+  EXPECT_EQ(day.date(), QDate(2026, 9, 1));
+  EXPECT_TRUE(day.calendarPopup());
+  Focus("day");
+  day.setSelectedSection(QDateTimeEdit::DaySection);
+  QTest::keyClick(&day, Qt::Key_Up);
+  EXPECT_EQ(Events(), Lines{"day change"});
+  EXPECT_EQ(portal.day.Value, 46267);
+}
+
+TEST_F(BindChoicesTest, ADateThatNobodyPickedKeepsItsTimeOfDay) {
+  portal.day.Value = 46266.75;
+  Open();
+  Find<QAbstractButton>("other").click();
+  EXPECT_EQ(portal.day.Value, 46266.75);
+}
+
+TEST_F(BindChoicesTest, AClickInTheGridMovesTheCurrentCell) {
+  Open();
+  auto& grid = Find<GridWidget>("grid");
+  grid.setFixedSize(500, 200);
+  QTest::qWait(1);
+  Focus("grid");
+  QTest::mouseClick(grid.viewport(), Qt::LeftButton, {}, grid.CellRect(2, 2).center());
+  EXPECT_EQ(Events(), (Lines{"grid change", "grid click"}));
+  EXPECT_EQ(portal.grid.Row, 2);
+  EXPECT_EQ(portal.grid.MouseCol, 2);
+}
+
+TEST_F(BindChoicesTest, EnterInTheGridIsTheDoubleClickOfTheKeyboard) {
+  Open();
+  Focus("grid");
+  QTest::keyClick(&Find<GridWidget>("grid"), Qt::Key_Return);
+  EXPECT_EQ(Events(), Lines{"grid dblclick"});
+  EXPECT_EQ(portal.grid.MouseRow, 1);
+  EXPECT_EQ(portal.grid.MouseCol, 1);
+}
+
+}  // namespace
+}  // namespace tallyroll
