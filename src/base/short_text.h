@@ -5,6 +5,7 @@
 #include <bit>
 #include <cstddef>
 #include <cstring>
+#include <new>
 #include <string>
 #include <string_view>
 
@@ -16,13 +17,25 @@ namespace tallyroll {
 class ShortText {
  public:
   ShortText() noexcept : bytes_{kInline} {}
-  ShortText(std::string_view text);
+  ShortText(std::string_view text) : ShortText() {
+    if (text.size() <= kMostInline) {
+      bytes_[0] = static_cast<unsigned char>(text.size() << 1 | kInline);
+      CopyInline(text.data(), text.size());
+    } else {
+      Allocate(text);
+    }
+  }
   ShortText(const char* text) : ShortText(std::string_view(text)) {}
   ShortText(const std::string& text) : ShortText(std::string_view(text)) {}
   ShortText(const ShortText& other) : ShortText(other.view()) {}
-  ShortText(ShortText&& other) noexcept;
-  ShortText& operator=(ShortText other) noexcept;
-  ~ShortText();
+  ShortText(ShortText&& other) noexcept : ShortText() { swap(other); }
+  ShortText& operator=(ShortText other) noexcept {
+    swap(other);
+    return *this;
+  }
+  ~ShortText() {
+    if (!IsInline()) ::operator delete(Block());
+  }
 
   std::string_view view() const noexcept {
     if (IsInline()) return {reinterpret_cast<const char*>(bytes_ + 1), std::size_t{bytes_[0]} >> 1};
@@ -35,7 +48,12 @@ class ShortText {
   std::size_t size() const noexcept { return view().size(); }
   bool empty() const noexcept { return view().empty(); }
 
-  void swap(ShortText& other) noexcept;
+  void swap(ShortText& other) noexcept {
+    unsigned char mine[sizeof bytes_];
+    std::memcpy(mine, bytes_, sizeof mine);
+    std::memcpy(bytes_, other.bytes_, sizeof mine);
+    std::memcpy(other.bytes_, mine, sizeof mine);
+  }
 
   friend bool operator==(const ShortText& a, const ShortText& b) noexcept {
     return a.view() == b.view();
@@ -56,6 +74,22 @@ class ShortText {
     std::memcpy(&block, bytes_, sizeof block);
     return block;
   }
+
+  // Copies of a size known to the compiler, which may overlap: a call of memcpy for two bytes costs
+  // more than the bytes.
+  void CopyInline(const char* from, std::size_t count) noexcept {
+    unsigned char* const to = bytes_ + 1;
+    if (count >= 4) {
+      std::memcpy(to, from, 4);
+      std::memcpy(to + count - 4, from + count - 4, 4);
+    } else if (count >= 2) {
+      std::memcpy(to, from, 2);
+      std::memcpy(to + count - 2, from + count - 2, 2);
+    } else if (count == 1) {
+      *to = static_cast<unsigned char>(*from);
+    }
+  }
+  void Allocate(std::string_view text);
 
   // The low bit of the first byte tells two forms apart:
   // 1: the text stands here, its length in the other bits of the first byte;

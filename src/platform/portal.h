@@ -15,7 +15,7 @@
 namespace tallyroll {
 
 using ControlPointer = std::variant<Label*, TextBox*, CommandButton*, CheckBox*, OptionButton*, ListBox*, ComboBox*,
-                                    Frame*, Pages*, TabStrip*, DTPicker*, PictureBox*, Grid*>;
+                                    struct Frame*, Pages*, TabStrip*, DTPicker*, PictureBox*, Grid*>;
 
 // Keys that a Portal asks for by name; characters come by KeyPress.
 enum class Key { kUp, kDown, kLeft, kRight, kPageUp, kPageDown, kHome, kEnd, kTab, kEnter, kDelete, kInsert,

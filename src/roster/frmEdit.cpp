@@ -29,6 +29,7 @@ std::pair<std::size_t, std::size_t> SelectionOf(const TextBox& box) {
 
 frmEdit::frmEdit() : StudentForm("frmEdit") {
   Caption = "Edit Portal";
+  HelpContext = 260;
   copy.Caption = "Copy &To";
   paste.Caption = "Paste &From";
   PREVIOUS.Caption = "&Previous";

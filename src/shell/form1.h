@@ -15,12 +15,20 @@
 
 namespace tallyroll {
 
-// A button of Toolbar2. Its place counts from 1, as the enabling of the class menus counts it.
+// A place of Toolbar2. Places count from 1, as the enabling of the class menus counts them, and the
+// gap between file buttons and the others takes one.
 struct ToolButton {
-  std::string key;      // "New", "Open", ...: also the name of its icon
-  std::string tip;      // what it does, for the pointer and for screen readers
+  std::string key;  // "New", "Open", ...: also the name of its icon; empty for a gap
+  std::string tip;  // what it does, for the pointer and for screen readers
   std::function<void()> click;
   bool enabled = true;
+};
+
+// What follows when a Portal that a menu opened is left.
+enum class AfterPortal {
+  kNothing,
+  kRefill,      // the grid is filled again
+  kSaveIfDone,  // the class is saved at once, if the Portal answered that it did its work
 };
 
 class Form1 {
@@ -30,13 +38,13 @@ class Form1 {
   Form1& operator=(const Form1&) = delete;
 
   // What the window shows.
-  std::string Caption;       // the class file's name, or "NewClass 2"
-  std::string Tag;           // its slot as text; empty while it has no class
+  std::string Caption;  // the class file's name, or "NewClass 2"
+  std::string Tag;      // its slot as text; empty while it has no class
   Grid Grid1;
-  Menu menu;                 // the program's full menu
+  Menu menu;  // the program's full menu
   std::vector<ToolButton> Toolbar2;
-  std::string StatusText;    // StatusBar1
-  bool Busy = false;         // the busy picture is shown
+  std::string StatusText;  // StatusBar1
+  bool Busy = false;       // the busy picture is shown
 
   // The window's own working fields.
   int SlotIndex = -1;
@@ -49,23 +57,47 @@ class Form1 {
   void Activate();
   // Offers to save. True: the slot is free and the window may go.
   bool QueryUnload();
-  void Grid1_DblClick();     // on the cell of Grid1.MouseRow and MouseCol
-  void Grid1_MouseMove();    // tells in StatusText what a double click would do
+  void Grid1_DblClick();   // on the cell of Grid1.MouseRow and MouseCol
+  void Grid1_MouseMove();  // tells in StatusText what a double click would do
   // Runs the entry or button of that name if it is enabled.
   void ClickMenu(std::string_view name);
   void ClickTool(std::string_view key);
+  // Sets OpenState and shows the Portal; the menus follow what it changed.
+  void RunPortal(std::string_view portal, int open_state, AfterPortal after);
 
   // Operations of the class window.
   void showform3();
   void EnableClassMenus(bool on);
   bool readyopen(std::string_view name) const;  // a slot already holds that file
-  void findfree();           // takes the lowest free slot into SlotIndex, -1 when there is none
-  std::string setsave();     // the save dialog; empty, with SaveCancelled set, when it was cancelled
+  void findfree();        // takes the lowest free slot into SlotIndex, -1 when there is none
+  std::string setsave();  // the save dialog; empty, with SaveCancelled set, when it was cancelled
   void saveas();
   void mnusave_Click();
   void mnusaveas_Click();
-  void mnuAverage_Click();   // the Portal of the current method
+  void mnuAverage_Click();  // the Portal of the current method
+  void mnuStatistic_Click();
+  void SetNameMode(i16 mode);
   void ShowStatus(std::string_view text) { StatusText = text; }
+
+ private:
+  int Slot() const;  // from Tag
+  void ImportText();
+  void CheckNameMode();
+
+  // Opening.
+  bool TakeSlot();  // findfree, with the message when there is none
+  void GiveSlotBack();
+  void OpenByDialog();
+  void OpenRecentPick();
+  void OpenNewClass(int pending_action);
+  void ReadInto(std::string_view path);
+  void ShowOpenedClass();
+
+  // Saving.
+  bool Save();  // WriteClassFile; false when it failed
+  void AskToSave();
+
+  std::string save_title_;  // title of the save dialog; empty is the dialog's own
 };
 
 }  // namespace tallyroll

@@ -2,6 +2,8 @@
 // What the frame asks of the screen it is shown on.
 #pragma once
 
+#include <string_view>
+
 namespace tallyroll {
 
 class Form1;
@@ -13,10 +15,12 @@ class FrameScreen {
  public:
   virtual ~FrameScreen() = default;
   virtual void ShowFrame() {}
-  virtual void CloseFrame() {}                    // the frame was allowed to go
+  virtual void CloseFrame() {}                      // the frame was allowed to go
   virtual void ShowWindow(Form1& /*window*/) {}     // a new class window, in front
   virtual void DestroyWindow(Form1& /*window*/) {}  // its Form1 is about to be destroyed
   virtual void BringToFront(Form1& /*window*/) {}
+  // Drops down one menu of the window, as its toolbar's Print button does.
+  virtual void PopUpMenu(Form1& /*window*/, std::string_view /*entry*/) {}
   virtual void Arrange(Arrangement /*how*/) {}
   virtual void ShowAbout() {}
 };

@@ -5,6 +5,7 @@ namespace tallyroll {
 
 frmstartup::frmstartup() : Portal("frmstartup") {
   Caption = "Welcome to Tallyroll";
+  HelpContext = 150;
   program.Caption = "Tallyroll";
   version.Caption = "Version " TALLYROLL_VERSION;
   greeting.Caption = "Good to see you. Your classes are ready when you are.";

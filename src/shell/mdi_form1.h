@@ -16,8 +16,9 @@ class MDIForm1 {
  public:
   MDIForm1();
 
-  Menu menu;                 // the frame's own small menu, shown while no class is open
-  std::string CommandFile;   // the class file named on the command line
+  Menu menu;                // the frame's own small menu, shown while no class is open
+  std::string CommandFile;  // the class file named on the command line
+  std::string StatusText;   // shown while no class window is there to show it
 
   // Starts the program: settings, data folder, sample, greeting or the file of the command line.
   void Load(std::string_view command_file);
@@ -28,14 +29,21 @@ class MDIForm1 {
   void ClickMenu(std::string_view name);
 
   // The frame's commands, also reached from a class window.
-  void NewClass(int pending_action);       // 10 by frmAdd, 15 by the wizard
+  void NewClass(int pending_action);  // 10 by frmAdd, 15 by the wizard
   void mnuOpen_Click();
-  void OpenRecent(std::string_view path);  // an entry of the recent list, or the command line's file
+  void mnuLoadText_Click();  // a new class from a text file
+  void OpenRecent(
+      std::string_view path);         // an entry of the recent list, or the command line's file
+  void mnuFileList_Click(int index);  // the entry's place in RecentFiles
+  void mnucloseall_Click();           // each window is asked, also behind one that refuses
   void mnuExit_Click();
-  void RebuildRecentMenu();                // in the frame and in every class window
+  void RebuildRecentMenu();  // in the frame and in every class window
 
   // Asks a window's QueryUnload and destroys it when it may go. False when it stays.
   bool CloseWindow(Form1& window);
+
+ private:
+  void OpenClassWindow(int pending_action);
 };
 
 }  // namespace tallyroll

@@ -1,16 +1,16 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "shell/program.h"
 
-#include "platform/class_window.h"
-#include "platform/portal.h"
+#include "shell/shell_state.h"
 #include "store/program_state.h"
+#include "store/settings.h"
 
 namespace tallyroll {
 
 void ResetProgram() {
-  SetClassWindow(nullptr);
-  MakePortal = nullptr;
   ResetStore();
+  ResetSettings();
+  ResetShell();
 }
 
 }  // namespace tallyroll

@@ -12,10 +12,16 @@
 
 namespace tallyroll {
 
-extern int PendingAction;       // what the next class window does on load; from the menu handler to the load
+extern int
+    PendingAction;  // what the next class window does on load; from the menu handler to the load
 extern std::string RecentPick;  // the path chosen from mnuFileList or the command line
-extern std::array<std::unique_ptr<Form1>, kClassSlots> ClassWindows;  // by slot, from open to close
-extern std::unique_ptr<MDIForm1> Frame;     // from start to end of the program
-extern FrameScreen* Screen;                 // never null
+// By slot, from open to close. Slot 0, which is never handed out, holds a window that loads and has
+// no slot yet.
+extern std::array<std::unique_ptr<Form1>, kClassSlots> ClassWindows;
+extern std::unique_ptr<MDIForm1> Frame;  // from start to end of the program
+extern FrameScreen* Screen;              // never null
+
+// Puts everything above to its start value.
+void ResetShell();
 
 }  // namespace tallyroll

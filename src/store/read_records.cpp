@@ -29,7 +29,7 @@ int FaultOfCounts(const Class& c) {
 }
 
 void FitCounts(Class& c) {
-  const bool cut = UpperBound(c.Students) == c.NumStudents + 1;
+  const bool cut = !c.Students.empty() && UpperBound(c.Students) == c.NumStudents + 1;
   if (cut && !c.Students.back().lastname.empty()) ++c.NumStudents;
   FitCount(c.Students, c.NumStudents);
   FitCount(c.Instruments, c.NumInstruments);

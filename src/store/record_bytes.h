@@ -77,7 +77,19 @@ class FieldReader {
     list.clear();
     const std::size_t count = TakeElementCount(kLeastBytes<ShortText>);
     list.reserve(count);
-    for (std::size_t i = 0; i < count; ++i) list.emplace_back(TakeText());
+    const char* at = bytes_.data() + at_;
+    const char* const end = bytes_.data() + bytes_.size();
+    // Marks are most of a class file, so this loop keeps its place in a register.
+    for (std::size_t i = 0; i < count; ++i) {
+      std::uint16_t length = 0;
+      if (end - at < static_cast<std::ptrdiff_t>(sizeof length)) throw RunTimeError{kErrorPastEnd};
+      std::memcpy(&length, at, sizeof length);
+      at += sizeof length;
+      if (end - at < length) throw RunTimeError{kErrorPastEnd};
+      list.emplace_back(std::string_view(at, length));
+      at += length;
+    }
+    at_ = static_cast<std::size_t>(at - bytes_.data());
   }
   template <std::size_t N>
   void Read(List<FixedText<N>>& list) {

@@ -106,7 +106,8 @@ void ReadToEnd(int handle, std::string& bytes, std::size_t limit) {
   for (;;) {
     const std::size_t had = bytes.size();
     if (had > limit) throw RunTimeError{kErrorDevice};
-    bytes.resize(std::max(bytes.capacity(), had + kAtOnce));
+    // Room that was reserved is used up before more is asked for; the end is seen in what is left.
+    bytes.resize(had < bytes.capacity() ? bytes.capacity() : had + kAtOnce);
     const ssize_t count = ::read(handle, bytes.data() + had, bytes.size() - had);
     bytes.resize(had + static_cast<std::size_t>(std::max<ssize_t>(count, 0)));
     if (count == 0) return;

@@ -1,0 +1,67 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "bench/big_class.h"
+
+#include <random>
+
+#include "base/date_serial.h"
+#include "base/number_text.h"
+
+namespace tallyroll {
+namespace {
+
+constexpr const char* kFirst[] = {"Ana", "Ben", "Chlo\xE9", "David", "Emma", "Farid", "Grace", "Hugo"};
+constexpr const char* kLast[] = {"Alvarez", "Brown", "Chen", "Dubois", "Evans", "Fischer", "Garc\xED" "a", "Haddad"};
+constexpr const char* kMarks[] = {"A", "B+", "ABS", "EXC", "C-", "NEW"};
+
+std::string Mark(std::mt19937& random) {
+  if (random() % 12 == 0) return kMarks[random() % 6];
+  return PlainNumberText(static_cast<int>(50 + random() % 51));
+}
+
+Student MakeStudent(std::mt19937& random, int number, int grades, int days) {
+  Student s;
+  const std::string id = PlainNumberText(100000 + number);
+  s.lastname = std::string(kLast[random() % 8]) + PlainNumberText(static_cast<int>(random() % 900));
+  s.firstname = kFirst[random() % 8];
+  s.id = id;
+  s.parent = "Parent of " + s.firstname;
+  s.phone = "555-0100";
+  s.address = id + " School Street";
+  s.city = "Springfield";
+  s.state = "NY";
+  s.zip = "10001";
+  s.email = "s" + id + "@example.org";
+  ReDim(s.Marks, grades);
+  for (int i = 1; i <= grades; ++i) s.Marks[static_cast<std::size_t>(i)] = Mark(random);
+  ReDim(s.DailyMarks, days, FixedText<1>(" "));
+  return s;
+}
+
+}  // namespace
+
+Class BigClass(int students, int grades, int days) {
+  std::mt19937 random(2026);
+  Class c;
+  c.Magic = "ty8";
+  c.description = "Benchmark";
+  c.NumStudents = static_cast<i16>(students);
+  c.NumInstruments = static_cast<i16>(grades);
+  c.NumDays = static_cast<i16>(days);
+  ReDim(c.Instruments, grades);
+  for (int i = 1; i <= grades; ++i) {
+    Instrument& grade = c.Instruments[static_cast<std::size_t>(i)];
+    grade.title = "Grade " + PlainNumberText(i);
+    grade.code = "G" + PlainNumberText(i % 100);
+    grade.mvalue = 100;
+    grade.dropyn = "Y";
+    grade.testdate = "9/1/2026";
+    grade.typecode = "Q ";
+  }
+  ReDim(c.AttendanceDays, days);
+  for (int i = 1; i <= days; ++i) c.AttendanceDays[static_cast<std::size_t>(i)].date = DateSerial({2026, 9, 1}) + i - 1;
+  ReDim(c.Students, students);
+  for (int i = 1; i <= students; ++i) c.Students[static_cast<std::size_t>(i)] = MakeStudent(random, i, grades, days);
+  return c;
+}
+
+}  // namespace tallyroll

@@ -1,0 +1,27 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// What this program is.
+#include "desktop/about_box.h"
+
+#include <QMessageBox>
+
+namespace tallyroll {
+
+void ShowAboutBox(QWidget* parent) {
+  QMessageBox box(parent);
+  box.setWindowTitle(QObject::tr("About Tallyroll"));
+  box.setTextFormat(Qt::RichText);
+  box.setText(QObject::tr("<h2>Tallyroll %1</h2><p>A teacher's desktop grade book.</p>")
+                  .arg(QStringLiteral(TALLYROLL_VERSION)));
+  box.setInformativeText(QObject::tr(
+      "<p>It keeps each class in one file on your own computer: the students, their grades and "
+      "attendance, and the averages that come of them. Nothing leaves the computer unless you "
+      "send it.</p>"
+      "<p>Tallyroll is free software under the GNU General Public License, version 3 or any later "
+      "version. It comes with no warranty.</p>"));
+  box.setIconPixmap(box.windowIcon().pixmap(64, 64));
+  box.setStandardButtons(QMessageBox::Close);
+  box.setEscapeButton(QMessageBox::Close);
+  box.exec();
+}
+
+}  // namespace tallyroll

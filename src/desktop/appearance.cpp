@@ -1,0 +1,74 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// How the program looks: its style, its dark palette and its icons.
+#include "desktop/appearance.h"
+
+#include <QApplication>
+#include <QFile>
+#include <QPainter>
+#include <QStyleFactory>
+#include <QSvgRenderer>
+
+namespace tallyroll {
+
+namespace {
+
+// The two colours in which every icon is drawn.
+constexpr char kLine[] = "#000000";
+constexpr char kAccent[] = "#1f6fbf";
+constexpr char kAccentOnDark[] = "#7db8f0";
+
+QPixmap DrawIcon(QByteArray svg, const QColor& line, const QColor& accent, int size) {
+  svg.replace(kLine, line.name().toLatin1());
+  svg.replace(kAccent, accent.name().toLatin1());
+  QPixmap pixmap(size, size);
+  pixmap.fill(Qt::transparent);
+  QPainter painter(&pixmap);
+  QSvgRenderer(svg).render(&painter);
+  return pixmap;
+}
+
+}  // namespace
+
+QPalette DarkPalette() {
+  const QColor window(0x2b, 0x2d, 0x30), base(0x1e, 0x1f, 0x22), text(0xe6, 0xe6, 0xe6);
+  const QColor grey(0x8a, 0x8d, 0x91), blue(0x2f, 0x6f, 0xb5);
+  QPalette palette(text, QColor(0x3a, 0x3d, 0x41), QColor(0x55, 0x58, 0x5c),
+                   QColor(0x18, 0x19, 0x1b), QColor(0x24, 0x26, 0x29), text, Qt::white, base,
+                   window);
+  palette.setColor(QPalette::AlternateBase, window);
+  palette.setColor(QPalette::ToolTipBase, QColor(0x3a, 0x3d, 0x41));
+  palette.setColor(QPalette::ToolTipText, text);
+  palette.setColor(QPalette::PlaceholderText, grey);
+  palette.setColor(QPalette::Highlight, blue);
+  palette.setColor(QPalette::HighlightedText, Qt::white);
+  palette.setColor(QPalette::Link, QColor(QLatin1StringView(kAccentOnDark)));
+  palette.setColor(QPalette::LinkVisited, QColor(0xb9, 0xa3, 0xf0));
+  for (QPalette::ColorRole role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText}) {
+    palette.setColor(QPalette::Disabled, role, grey);
+  }
+  palette.setColor(QPalette::Disabled, QPalette::Highlight, QColor(0x4a, 0x4d, 0x51));
+  return palette;
+}
+
+void SetAppearance(QApplication& application, bool dark) {
+  application.setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
+  if (dark) application.setPalette(DarkPalette());
+}
+
+QIcon PaletteIcon(const QString& name, const QPalette& palette) {
+  QFile file(QStringLiteral(":/icons/%1.svg").arg(name));
+  if (!file.open(QIODevice::ReadOnly)) return {};
+  const QByteArray svg = file.readAll();
+  const QColor line = palette.color(QPalette::Active, QPalette::ButtonText);
+  const QColor off = palette.color(QPalette::Disabled, QPalette::ButtonText);
+  const bool on_dark = palette.color(QPalette::Active, QPalette::Button).lightness() < 128;
+  const QColor accent(QLatin1StringView(on_dark ? kAccentOnDark : kAccent));
+  QIcon icon;
+  for (int size : {24, 36, 48, 72}) {
+    icon.addPixmap(DrawIcon(svg, line, accent, size), QIcon::Normal);
+    icon.addPixmap(DrawIcon(svg, off, off, size), QIcon::Disabled);
+  }
+  return icon;
+}
+
+}  // namespace tallyroll

@@ -1,0 +1,117 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// A class window on the screen: toolbar, grid and status bar of one Form1.
+#include "desktop/class_window_view.h"
+
+#include <QAction>
+#include <QCloseEvent>
+#include <QLabel>
+#include <QVBoxLayout>
+
+#include "desktop/grid_widget.h"
+#include "desktop/menu_view.h"
+#include "desktop/text_conversion.h"
+#include "desktop/toolbar_view.h"
+
+namespace tallyroll {
+
+ClassWindowView::ClassWindowView(Form1& form) : form_(&form) {
+  auto* page = new QWidget(this);
+  menu_ = new MenuView(form.menu, this);
+  toolbar_ = new ToolbarView(form.Toolbar2, page);
+  grid_ = new GridWidget(page);
+  grid_->setObjectName(QStringLiteral("Grid1"));
+  grid_->setAccessibleName(tr("Students and grades"));
+  grid_->SetGrid(&form.Grid1);
+  status_ = new QLabel(page);
+  status_->setObjectName(QStringLiteral("StatusBar1"));
+  status_->setMargin(3);
+  status_->setTextFormat(Qt::PlainText);
+  // A long status must not widen the window.
+  status_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
+
+  auto* rows = new QVBoxLayout(page);
+  rows->setContentsMargins(0, 0, 0, 0);
+  rows->setSpacing(0);
+  rows->addWidget(toolbar_);
+  rows->addWidget(grid_, 1);
+  rows->addWidget(status_);
+  page->setFocusProxy(grid_);
+  setWidget(page);
+
+  auto* switch_focus = new QAction(this);
+  switch_focus->setShortcut(Qt::Key_F6);
+  switch_focus->setShortcutContext(Qt::WidgetWithChildrenShortcut);
+  addAction(switch_focus);
+  connect(switch_focus, &QAction::triggered, this, &ClassWindowView::SwitchBetweenGridAndToolbar);
+
+  connect(menu_, &MenuView::Pressed, this, &ClassWindowView::MenuPressed);
+  connect(toolbar_, &ToolbarView::Pressed, this, &ClassWindowView::ToolPressed);
+  connect(grid_, &GridWidget::hovered, this, &ClassWindowView::PointAt);
+  // Queued: a Portal that the double click opens must not run inside the mouse event.
+  connect(grid_, &GridWidget::cellDoubleClicked, this, &ClassWindowView::CellChosen,
+          Qt::QueuedConnection);
+  Sync();
+}
+
+void ClassWindowView::Sync() {
+  if (form_ == nullptr) return;
+  menu_->Sync();
+  toolbar_->Sync();
+  grid_->UpdateFromGrid();
+  if (const QString caption = FromText(form_->Caption); caption != windowTitle()) {
+    setWindowTitle(caption);
+  }
+  const QString status = hint_.isEmpty() ? FromText(form_->StatusText) : hint_;
+  if (status != status_->text()) status_->setText(status);
+  if (form_->Busy != testAttribute(Qt::WA_SetCursor)) {
+    if (form_->Busy) {
+      setCursor(Qt::BusyCursor);
+    } else {
+      unsetCursor();
+    }
+  }
+}
+
+void ClassWindowView::ShowHint(const QString& hint) {
+  hint_ = hint;
+  Sync();
+}
+
+void ClassWindowView::PopUpMenu(const QString& menu) {
+  const QWidget* below = toolbar_;
+  for (const QAction* action : toolbar_->actions()) {
+    if (action->objectName() == QStringLiteral("Print")) {
+      below = toolbar_->widgetForAction(const_cast<QAction*>(action));
+    }
+  }
+  menu_->PopUp(menu, below->mapToGlobal(QPoint(0, below->height())));
+}
+
+void ClassWindowView::LetGo() {
+  menu_->LetGo();
+  toolbar_->LetGo();
+  grid_->SetGrid(&no_grid_);
+  form_ = nullptr;
+}
+
+void ClassWindowView::closeEvent(QCloseEvent* event) {
+  // The class is asked first; when it may go, the frame takes this window down.
+  event->ignore();
+  if (form_ != nullptr) Q_EMIT CloseAsked();
+}
+
+void ClassWindowView::PointAt() {
+  if (form_ == nullptr) return;
+  form_->Grid1_MouseMove();
+  Sync();
+}
+
+void ClassWindowView::SwitchBetweenGridAndToolbar() {
+  if (grid_->hasFocus()) {
+    toolbar_->FocusFirst();
+  } else {
+    grid_->setFocus(Qt::ShortcutFocusReason);
+  }
+}
+
+}  // namespace tallyroll

@@ -1,0 +1,58 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// A class window on the screen: toolbar, grid and status bar of one Form1.
+#pragma once
+
+#include <QMdiSubWindow>
+
+#include "shell/form1.h"
+
+class QLabel;
+
+namespace tallyroll {
+
+class GridWidget;
+class MenuView;
+class ToolbarView;
+
+class ClassWindowView : public QMdiSubWindow {
+  Q_OBJECT
+
+ public:
+  explicit ClassWindowView(Form1& form);
+
+  // Null once the class has been let go.
+  Form1* form() const { return form_; }
+  MenuView& menu() const { return *menu_; }
+
+  // Shows what the class window says now; writes differences only.
+  void Sync();
+  // What the highlighted menu entry does; empty shows the window's own status again.
+  void ShowHint(const QString& hint);
+  // Drops down a menu below its toolbar button.
+  void PopUpMenu(const QString& menu);
+  // The class is about to go, and this window after it.
+  void LetGo();
+
+ Q_SIGNALS:
+  void MenuPressed(const QString& entry);
+  void ToolPressed(const QString& key);
+  void CellChosen();  // by a double click or by Enter
+  void CloseAsked();
+
+ protected:
+  void closeEvent(QCloseEvent* event) override;
+
+ private:
+  void PointAt();
+  void SwitchBetweenGridAndToolbar();
+
+  Form1* form_;
+  Grid no_grid_;  // shown between LetGo and the end
+  MenuView* menu_;
+  ToolbarView* toolbar_;
+  GridWidget* grid_;
+  QLabel* status_;
+  QString hint_;
+};
+
+}  // namespace tallyroll

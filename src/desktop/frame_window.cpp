@@ -1,0 +1,261 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The frame on the screen: one menu bar, the start page, and the class windows.
+#include "desktop/frame_window.h"
+
+#include <QAbstractEventDispatcher>
+#include <QAction>
+#include <QApplication>
+#include <QCloseEvent>
+#include <QLabel>
+#include <QMdiArea>
+#include <QMenuBar>
+#include <QStackedWidget>
+#include <QStatusTipEvent>
+#include <QVBoxLayout>
+
+#include "desktop/about_box.h"
+#include "desktop/class_window_view.h"
+#include "desktop/menu_view.h"
+#include "desktop/start_page.h"
+#include "desktop/text_conversion.h"
+#include "desktop/tile_windows.h"
+#include "desktop/window_places.h"
+#include "shell/shell_state.h"
+
+namespace tallyroll {
+
+namespace {
+
+QString PlaceName() {
+  return QStringLiteral("MDIForm1");
+}
+
+}  // namespace
+
+FrameWindow::FrameWindow() {
+  setObjectName(QStringLiteral("MDIForm1"));
+  setWindowTitle(QStringLiteral("Tallyroll"));
+  setContextMenuPolicy(Qt::NoContextMenu);
+
+  auto* first = new QWidget;
+  start_ = new StartPage(Frame->menu);
+  status_ = new QLabel;
+  status_->setObjectName(QStringLiteral("FrameStatus"));
+  status_->setMargin(3);
+  auto* rows = new QVBoxLayout(first);
+  rows->setContentsMargins(0, 0, 0, 0);
+  rows->addWidget(start_, 1);
+  rows->addWidget(status_);
+
+  area_ = new QMdiArea;
+  area_->setActivationOrder(QMdiArea::ActivationHistoryOrder);
+  pages_ = new QStackedWidget;
+  pages_->addWidget(first);
+  pages_->addWidget(area_);
+  setCentralWidget(pages_);
+
+  menu_ = new MenuView(Frame->menu, this);
+  menu_->ShowIn(menuBar());
+  shown_menu_ = menu_;
+  AddWindowKeys();
+
+  const auto press = [this](const QString& entry) {
+    Run([&entry] { Frame->ClickMenu(entry.toStdString()); });
+  };
+  connect(menu_, &MenuView::Pressed, this, press);
+  connect(start_, &StartPage::Pressed, this, press);
+  connect(area_, &QMdiArea::subWindowActivated, this, &FrameWindow::FollowFront);
+  // What a Portal changes while it runs shows as soon as the program waits for the user.
+  connect(QAbstractEventDispatcher::instance(), &QAbstractEventDispatcher::aboutToBlock, this,
+          &FrameWindow::Sync);
+  resize(1024, 700);
+  RestorePlace(*this, PlaceName());
+}
+
+FrameWindow::~FrameWindow() {
+  // The area tells of its windows while it goes; nobody is left to listen.
+  area_->disconnect(this);
+  for (QMdiSubWindow* window : area_->subWindowList()) window->disconnect(this);
+}
+
+// Beside Ctrl+W and Ctrl+Tab, which the menu and the area bring along.
+void FrameWindow::AddWindowKeys() {
+  const auto add = [this](const QKeySequence& key, const std::function<void()>& act) {
+    auto* action = new QAction(this);
+    action->setShortcut(key);
+    connect(action, &QAction::triggered, this, act);
+    addAction(action);
+  };
+  add(Qt::CTRL | Qt::Key_F4, [this] {
+    if (front_ != nullptr) front_->close();
+  });
+  add(Qt::CTRL | Qt::Key_F6, [this] { area_->activateNextSubWindow(); });
+  add(Qt::CTRL | Qt::SHIFT | Qt::Key_F6, [this] { area_->activatePreviousSubWindow(); });
+}
+
+void FrameWindow::Connect(ClassWindowView* view) {
+  connect(view, &ClassWindowView::MenuPressed, this, [this, view](const QString& entry) {
+    RunInFront(view, [&entry](Form1& form) { form.ClickMenu(entry.toStdString()); });
+  });
+  connect(view, &ClassWindowView::ToolPressed, this, [this, view](const QString& key) {
+    RunInFront(view, [&key](Form1& form) { form.ClickTool(key.toStdString()); });
+  });
+  connect(view, &ClassWindowView::CellChosen, this,
+          [this, view] { RunInFront(view, [](Form1& form) { form.Grid1_DblClick(); }); });
+  // Queued: the window must not go while its own close event runs.
+  connect(
+      view, &ClassWindowView::CloseAsked, this,
+      [this, view] { RunInFront(view, [](Form1& form) { Frame->CloseWindow(form); }); },
+      Qt::QueuedConnection);
+}
+
+void FrameWindow::Run(const std::function<void()>& command) {
+  if (QApplication::activeModalWidget() != nullptr) return;
+  command();
+  Sync();
+}
+
+void FrameWindow::RunInFront(ClassWindowView* view, const std::function<void(Form1&)>& command) {
+  if (view->form() == nullptr) return;
+  Run([&] {
+    // A press from outside (a script, a screen reader) may reach a window that lies behind.
+    area_->setActiveSubWindow(view);
+    command(*view->form());
+  });
+}
+
+ClassWindowView* FrameWindow::Current() const {
+  return front_;
+}
+
+MenuView& FrameWindow::CurrentMenu() const {
+  return front_ != nullptr ? front_->menu() : *menu_;
+}
+
+ClassWindowView* FrameWindow::ViewOf(const Form1& window) const {
+  for (QMdiSubWindow* sub_window : area_->subWindowList()) {
+    auto* view = static_cast<ClassWindowView*>(sub_window);
+    if (view->form() == &window) return view;
+  }
+  return nullptr;
+}
+
+void FrameWindow::FollowFront() {
+  auto* view = static_cast<ClassWindowView*>(area_->currentSubWindow());
+  if (view == nullptr || view->form() == nullptr || view == front_) return;
+  front_ = view;
+  front_->form()->Activate();
+  Sync();
+}
+
+void FrameWindow::Sync() {
+  menu_->Sync();
+  start_->Sync();
+  for (QMdiSubWindow* window : area_->subWindowList())
+    static_cast<ClassWindowView*>(window)->Sync();
+  pages_->setCurrentIndex(front_ != nullptr ? 1 : 0);
+  const QString status = hint_.isEmpty() ? FromText(Frame->StatusText) : hint_;
+  if (status != status_->text()) status_->setText(status);
+  if (shown_menu_ == &CurrentMenu()) return;
+  shown_menu_ = &CurrentMenu();
+  shown_menu_->ShowIn(menuBar());
+}
+
+void FrameWindow::ShowFrame() {
+  show();
+  raise();
+  Sync();
+}
+
+void FrameWindow::CloseFrame() {
+  may_close_ = true;
+  close();
+}
+
+void FrameWindow::ShowWindow(Form1& window) {
+  const bool alone = area_->subWindowList().isEmpty();
+  auto* view = new ClassWindowView(window);
+  Connect(view);
+  area_->addSubWindow(view);
+  pages_->setCurrentWidget(area_);
+  view->resize(view->sizeHint().expandedTo(QSize(640, 420)));
+  if (alone) {
+    view->showMaximized();
+  } else {
+    view->show();
+  }
+  area_->setActiveSubWindow(view);
+  view->widget()->setFocus();  // the grid, rather than the first button
+  FollowFront();
+}
+
+void FrameWindow::DestroyWindow(Form1& window) {
+  ClassWindowView* view = ViewOf(window);
+  if (view == nullptr) return;
+  const bool maximised = view->isMaximized();
+  if (view == front_) front_ = nullptr;
+  if (shown_menu_ == &view->menu()) {
+    shown_menu_ = menu_;
+    menu_->ShowIn(menuBar());
+  }
+  view->LetGo();
+  area_->removeSubWindow(view);
+  view->deleteLater();
+  if (front_ == nullptr && !area_->subWindowList().isEmpty()) {
+    QMdiSubWindow* next = area_->subWindowList(QMdiArea::ActivationHistoryOrder).last();
+    if (maximised) next->showMaximized();
+    area_->setActiveSubWindow(next);
+    FollowFront();
+  }
+  Sync();
+}
+
+void FrameWindow::BringToFront(Form1& window) {
+  if (ClassWindowView* view = ViewOf(window)) area_->setActiveSubWindow(view);
+  FollowFront();
+}
+
+void FrameWindow::PopUpMenu(Form1& window, std::string_view entry) {
+  if (ClassWindowView* view = ViewOf(window)) view->PopUpMenu(FromText(entry));
+}
+
+void FrameWindow::Arrange(Arrangement how) {
+  if (how == Arrangement::kCascade) {
+    area_->cascadeSubWindows();
+  } else {
+    TileWindows(*area_, how == Arrangement::kTileHorizontal ? Qt::Vertical : Qt::Horizontal);
+  }
+}
+
+void FrameWindow::ShowAbout() {
+  ShowAboutBox(this);
+}
+
+void FrameWindow::closeEvent(QCloseEvent* event) {
+  if (!may_close_) {
+    may_close_ = Frame->QueryUnload();
+    if (may_close_) Frame->Unload();
+  }
+  event->setAccepted(may_close_);
+  if (!may_close_) return;
+  SavePlace(*this, PlaceName());
+  // The help window, when it is still open, does not keep the program.
+  QCoreApplication::quit();
+}
+
+bool FrameWindow::event(QEvent* event) {
+  if (event->type() != QEvent::StatusTip) return QMainWindow::event(event);
+  ShowHint(static_cast<QStatusTipEvent*>(event)->tip());
+  return true;
+}
+
+void FrameWindow::ShowHint(const QString& hint) {
+  if (front_ != nullptr) {
+    front_->ShowHint(hint);
+    return;
+  }
+  hint_ = hint;
+  Sync();
+}
+
+}  // namespace tallyroll

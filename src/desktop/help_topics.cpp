@@ -1,0 +1,40 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The topics of the help by their context numbers.
+#include "desktop/help_topics.h"
+
+#include <algorithm>
+#include <array>
+
+namespace tallyroll {
+
+namespace {
+
+constexpr std::array kContexts = {
+    0,    // contents
+    110,  // opening a class
+    120,  // saving a class
+    130,  // backups and files of older versions
+    140,  // recent classes, several classes at a time
+    150,  // starting the program: frmstartup
+    200,  // the class window: Form1
+    210,  // all keys
+    220,  // sorting by name or by ID
+    230,  // the new class wizard: frmWizard
+    240,  // class information: frmclassinfo
+    250,  // adding students: frmAdd
+    260,  // editing students: frmEdit
+    270,  // passwords: frmpassword
+};
+
+}  // namespace
+
+std::span<const int> HelpContexts() {
+  return kContexts;
+}
+
+QUrl HelpPage(int context) {
+  const bool known = std::ranges::find(kContexts, context) != kContexts.end();
+  return QUrl(QStringLiteral("qrc:/help/topic_%1.html").arg(known ? context : 0));
+}
+
+}  // namespace tallyroll

@@ -1,0 +1,14 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The folder in which class files are looked for first.
+#pragma once
+
+namespace tallyroll {
+
+// On a first run: makes DataFolder below the user's profile, copies the sample class there, and
+// keeps the folder in the settings. Where none can be made the program's own folder serves.
+void MakeDataFolder();
+
+// Makes DataFolder the working directory. 0, or a run-time error number.
+int EnterDataFolder();
+
+}  // namespace tallyroll

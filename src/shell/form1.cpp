@@ -1,0 +1,138 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "shell/form1.h"
+
+#include <algorithm>
+
+#include "base/number_text.h"
+#include "platform/portal.h"
+#include "shell/class_menu.h"
+#include "shell/class_toolbar.h"
+#include "shell/shell_state.h"
+#include "store/sort_students.h"
+
+namespace tallyroll {
+namespace {
+
+constexpr int kPasswordDone = 50;  // frmpassword's answer
+
+// The portals of the methods 0 to 3 by their menu entries.
+std::string_view AverageEntry(i16 method) {
+  switch (method) {
+    case 1:
+      return "mnupercent";
+    case 2:
+      return "mnupoints";
+    case 3:
+      return "mnuPointsType";
+    default:
+      return "mnuindweights";
+  }
+}
+
+std::string_view NameModeEntry(i16 mode) {
+  switch (mode) {
+    case 57:
+      return "mnuname";
+    case 82:
+      return "mnuidfirst";
+    case 73:
+      return "mnuid";
+    default:
+      return "mnunamefirst";
+  }
+}
+
+}  // namespace
+
+Form1::Form1() : menu(MakeClassMenu(*this)), Toolbar2(MakeClassToolbar(*this)) {
+  EnableClassMenus(false);
+  menu.Enable("mnuoptions", false);
+  menu.Enable("mnuprtgrade", false);
+}
+
+int Form1::Slot() const {
+  return static_cast<int>(LeadingNumber(Tag));
+}
+
+void Form1::Load() {
+  switch (PendingAction) {
+    case 9:
+      OpenRecentPick();
+      break;
+    case 10:
+    case 15:
+      OpenNewClass(PendingAction);
+      break;
+    case 20:
+      OpenByDialog();
+      break;
+    case 501:
+      ImportText();
+      break;
+    default:
+      break;
+  }
+  PendingAction = 0;
+}
+
+void Form1::Activate() {
+  if (Tag.empty()) return;
+  CurrentClass = static_cast<i16>(Slot());
+  if (Current().NumStudents == 0) return;
+  SortStudents();
+  CheckNameMode();
+  showform3();
+}
+
+void Form1::CheckNameMode() {
+  for (const std::string_view entry : {"mnunamefirst", "mnuname", "mnuidfirst", "mnuid"})
+    menu.Check(entry, false);
+  menu.Check(NameModeEntry(NameMode), true);
+}
+
+void Form1::SetNameMode(i16 mode) {
+  NameMode = mode;
+  Activate();
+}
+
+// What is clicked may destroy this window, so its handler runs from a copy.
+void Form1::ClickMenu(std::string_view name) {
+  if (!menu.Reachable(name)) return;
+  const std::function<void()> click = menu[name].click;
+  if (click) click();
+}
+
+void Form1::ClickTool(std::string_view key) {
+  const auto button = std::find_if(Toolbar2.begin(), Toolbar2.end(),
+                                   [&](const ToolButton& b) { return b.key == key; });
+  if (button == Toolbar2.end() || !button->enabled) return;
+  const std::function<void()> click = button->click;
+  if (click) click();
+}
+
+void Form1::RunPortal(std::string_view portal, int open_state, AfterPortal after) {
+  OpenState = open_state;
+  ShowPortal(portal);
+  const bool done = OpenState == kPasswordDone;
+  OpenState = 0;
+  if (Tag.empty()) return;
+  EnableClassMenus(true);
+  if (after == AfterPortal::kRefill) showform3();
+  if (after == AfterPortal::kSaveIfDone && done) mnusave_Click();
+}
+
+void Form1::mnuAverage_Click() {
+  menu[AverageEntry(Current().Method)].click();
+}
+
+void Form1::mnuStatistic_Click() {
+  CurrentStudent = 0;
+  RunPortal("frmstatistic", 0, AfterPortal::kNothing);
+  if (CurrentStudent > 0) RunPortal("frmgraph", 0, AfterPortal::kNothing);
+}
+
+void Form1::ImportText() {
+  RunPortal("frmtxt", 501, AfterPortal::kNothing);
+}
+
+}  // namespace tallyroll

@@ -1,0 +1,102 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "shell/mdi_form1.h"
+
+#include "shell/frame_menu.h"
+#include "shell/recent_list.h"
+#include "shell/shell_state.h"
+#include "store/settings.h"
+
+namespace tallyroll {
+namespace {
+
+constexpr int kOpenRecent = 9;
+constexpr int kOpenByDialog = 20;
+constexpr int kImportText = 501;
+
+}  // namespace
+
+MDIForm1::MDIForm1() : menu(MakeFrameMenu(*this)) {
+  ShowRecentFiles(menu, true);
+}
+
+void MDIForm1::ClickMenu(std::string_view name) {
+  if (!menu.Reachable(name)) return;
+  if (const auto& click = menu[name].click) click();
+}
+
+// A window that got no class goes at once, and the one that was in front is in work again.
+void MDIForm1::OpenClassWindow(int pending_action) {
+  const auto before = static_cast<std::size_t>(CurrentClass);
+  PendingAction = pending_action;
+  ClassWindows[0] = std::make_unique<Form1>();
+  Form1& window = *ClassWindows[0];
+  window.Load();
+  if (!window.Tag.empty()) {
+    ShowRecentFiles(window.menu, false);
+    Screen->ShowWindow(window);
+    return;
+  }
+  ClassWindows[0].reset();
+  if (ClassWindows[before]) ClassWindows[before]->Activate();
+}
+
+void MDIForm1::NewClass(int pending_action) {
+  OpenClassWindow(pending_action);
+}
+
+void MDIForm1::mnuOpen_Click() {
+  OpenClassWindow(kOpenByDialog);
+}
+
+void MDIForm1::mnuLoadText_Click() {
+  OpenClassWindow(kImportText);
+}
+
+void MDIForm1::OpenRecent(std::string_view path) {
+  RecentPick = path;
+  OpenClassWindow(kOpenRecent);
+}
+
+void MDIForm1::mnuFileList_Click(int index) {
+  OpenRecent(RecentFiles[static_cast<std::size_t>(index)]);
+}
+
+void MDIForm1::RebuildRecentMenu() {
+  ShowRecentFiles(menu, true);
+  for (const auto& window : ClassWindows)
+    if (window) ShowRecentFiles(window->menu, false);
+}
+
+bool MDIForm1::CloseWindow(Form1& window) {
+  if (!window.QueryUnload()) return false;
+  Screen->DestroyWindow(window);
+  for (auto& each : ClassWindows)
+    if (each.get() == &window) each.reset();
+  RebuildRecentMenu();
+  return true;
+}
+
+void MDIForm1::mnucloseall_Click() {
+  for (int slot = 1; slot < MaxClassSlots; ++slot) {
+    const auto& window = ClassWindows[static_cast<std::size_t>(slot)];
+    if (window && Classes[static_cast<std::size_t>(slot)].SlotState == 10) CloseWindow(*window);
+  }
+}
+
+bool MDIForm1::QueryUnload() {
+  for (const auto& window : ClassWindows)
+    if (window && !CloseWindow(*window)) return false;
+  return true;
+}
+
+void MDIForm1::Unload() {
+  SaveProgramSettings();
+}
+
+void MDIForm1::mnuExit_Click() {
+  if (!QueryUnload()) return;
+  Unload();
+  Screen->CloseFrame();
+}
+
+}  // namespace tallyroll

@@ -1,0 +1,54 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "shell/portal_list.h"
+
+#include <array>
+
+namespace tallyroll {
+namespace {
+
+struct PortalRow {
+  std::string_view name;
+  std::unique_ptr<Portal> (*make)() = nullptr;  // null while the Portal is not built
+};
+
+constexpr std::array kPortals{
+    PortalRow{"frmpassword"}, PortalRow{"frmWizard"},     PortalRow{"frmclassinfo"},
+    PortalRow{"frmAdd"},      PortalRow{"frmEdit"},       PortalRow{"frmstartup"},
+    PortalRow{"frmdelete"},   PortalRow{"frmMarks"},      PortalRow{"frmAtt"},
+    PortalRow{"frmAtsum"},    PortalRow{"frmdGrade"},     PortalRow{"frmEmarks"},
+    PortalRow{"frmEMarksS"},  PortalRow{"frmcategories"}, PortalRow{"frmletter"},
+    PortalRow{"frmEatt"},     PortalRow{"frmDatt"},       PortalRow{"frmsingles"},
+    PortalRow{"frminfo"},     PortalRow{"FRMROLLBOOK"},   PortalRow{"frmMgrade"},
+    PortalRow{"frmweights"},  PortalRow{"frmpercents"},   PortalRow{"frmpoints"},
+    PortalRow{"frmoptions"},  PortalRow{"frmprintall"},   PortalRow{"frmstatistic"},
+    PortalRow{"frmgraph"},    PortalRow{"frmwrdproc"},    PortalRow{"frmseating"},
+    PortalRow{"frmtxt"},
+};
+
+std::vector<std::string_view> NamesOf(bool built) {
+  std::vector<std::string_view> names;
+  for (const PortalRow& row : kPortals)
+    if ((row.make != nullptr) == built) names.push_back(row.name);
+  return names;
+}
+
+const std::vector<std::string_view> built_portals = NamesOf(true);
+const std::vector<std::string_view> missing_portals = NamesOf(false);
+
+}  // namespace
+
+const std::vector<std::string_view>& PortalNames() {
+  return built_portals;
+}
+
+const std::vector<std::string_view>& MissingPortals() {
+  return missing_portals;
+}
+
+std::unique_ptr<Portal> MakePortalByName(std::string_view name) {
+  for (const PortalRow& row : kPortals)
+    if (row.name == name && row.make) return row.make();
+  return nullptr;
+}
+
+}  // namespace tallyroll

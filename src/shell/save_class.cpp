@@ -1,0 +1,123 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// Saving a class, and the question before it is closed.
+#include "base/code_page.h"
+#include "base/text.h"
+#include "shell/recent_list.h"
+#include "shell/shell_state.h"
+#include "store/class_defaults.h"
+#include "store/class_file.h"
+
+namespace tallyroll {
+namespace {
+
+constexpr int kClosingRefused = -20;
+constexpr int kSaveHelp = 120;
+constexpr std::string_view kNewClass = "NewClass ";
+
+bool HasClassExtension(std::string_view path) {
+  return path.size() >= 4 && UpperCase(path.substr(path.size() - 4)) == ".TYR";
+}
+
+FileDialogRequest SaveRequest(const std::string& title) {
+  FileDialogRequest request;
+  request.save = true;
+  request.title = title;
+  request.folder = LastFolder;
+  request.filename = Current().FileName;
+  request.filter = "Data Files (*.tyr)|*.TYR";
+  request.default_extension = "TYR";
+  request.overwrite_prompt = true;
+  request.help_context = kSaveHelp;
+  return request;
+}
+
+}  // namespace
+
+std::string Form1::setsave() {
+  SaveCancelled = false;
+  for (;;) {
+    const auto path = Platform().FileDialog(SaveRequest(save_title_));
+    if (!path || path->empty()) {
+      SaveCancelled = true;
+      return "";
+    }
+    if (HasClassExtension(*path)) return *path;
+    ShowMessage("The file extension must be .TYR", BoxIcon::kCritical);
+  }
+}
+
+bool Form1::Save() {
+  WriteClassFile();
+  if (FileErrorCode != 0) return false;
+  Current().Changed = kFalse;
+  return true;
+}
+
+void Form1::saveas() {
+  const std::string path = setsave();
+  if (SaveCancelled) {
+    FileErrorCode = 0;
+    if (!Current().FileName.empty())
+      Caption = UpperCase(FileNameOf(PathForDisplay(Current().FileName)));
+    else if (!Caption.starts_with(kNewClass))
+      Caption = std::string(kNewClass) + Caption;
+    return;
+  }
+  Current().FileName = path;
+  Caption = UpperCase(FileNameOf(PathForDisplay(path)));
+  LastFolder = FolderOf(path);
+  if (!Save()) return;
+  AddRecentFile(path);
+  Frame->RebuildRecentMenu();
+}
+
+// A class on its first save may replace a file of the same name; as "ty7" it makes the writer keep
+// a copy of that file.
+void Form1::mnusaveas_Click() {
+  if (Current().FileName.empty() && Current().NumStudents > 0) Current().Magic = "ty7";
+  save_title_ = "Save As";
+  saveas();
+}
+
+void Form1::mnusave_Click() {
+  if (Current().FileName.empty() && Current().NumStudents > 0) {
+    saveas();
+    EnableClassMenus(true);
+  } else {
+    Save();
+  }
+}
+
+void Form1::AskToSave() {
+  if (Current().Changed == kFalse) return;
+  Screen->BringToFront(*this);
+  SaveAnswer = Ask(Caption + " Data has been changed. Save File?  ", BoxButtons::kYesNoCancel,
+                   BoxIcon::kQuestion);
+  if (SaveAnswer != BoxAnswer::kYes) return;
+  if (Current().FileName.empty())
+    saveas();
+  else
+    Save();
+}
+
+bool Form1::QueryUnload() {
+  if (Tag.empty()) return true;
+  CurrentClass = static_cast<i16>(Slot());
+  SaveCancelled = false;
+  SaveAnswer = BoxAnswer::kOk;
+  AskToSave();
+  OpenState = 0;
+  const bool not_saved = SaveAnswer == BoxAnswer::kYes && SaveCancelled;
+  if (SaveAnswer == BoxAnswer::kCancel || FileErrorCode != 0 || not_saved) {
+    OpenState = kClosingRefused;
+    SaveAnswer = BoxAnswer::kCancel;
+    FileErrorCode = 0;
+    return false;
+  }
+  EnableClassMenus(false);
+  ResetClassSlot();
+  Current().SlotState = 0;
+  return true;
+}
+
+}  // namespace tallyroll

@@ -1,0 +1,32 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "shell/shell_state.h"
+
+#include "platform/class_window.h"
+#include "platform/portal.h"
+#include "shell/current_window.h"
+#include "shell/portal_list.h"
+
+namespace tallyroll {
+namespace {
+
+FrameScreen no_screen;
+
+}  // namespace
+
+int PendingAction = 0;
+std::string RecentPick;
+std::array<std::unique_ptr<Form1>, kClassSlots> ClassWindows;
+std::unique_ptr<MDIForm1> Frame;
+FrameScreen* Screen = &no_screen;
+
+void ResetShell() {
+  PendingAction = 0;
+  RecentPick.clear();
+  for (auto& window : ClassWindows) window.reset();
+  Frame.reset();
+  Screen = &no_screen;
+  SetClassWindow(&CurrentWindow());
+  MakePortal = &MakePortalByName;
+}
+
+}  // namespace tallyroll
