@@ -139,7 +139,8 @@ void Form1::ShowOpenedClass() {
   if (Current().NumStudents > 0) CheckNameMode();
   FileErrorCode = 0;
   if (Current().Magic == "ty8") return;
-  // The conversion left the range summaries to be counted, and menus and grid follow the older data.
+  // The conversion left the range summaries to be counted, and menus and grid follow the older
+  // data.
   RecalculateRangeSummaries();
   EnableClassMenus(true);
   Activate();
