@@ -7,7 +7,9 @@ namespace tallyroll {
 namespace {
 
 // Two fixed rows of 10, then rows of 20, 30, 0 (hidden), 40, 50.
-GridAxis Sample() { return GridAxis({10, 10, 20, 30, 0, 40, 50}, 2); }
+GridAxis Sample() {
+  return GridAxis({10, 10, 20, 30, 0, 40, 50}, 2);
+}
 
 TEST(GridAxis, FixedOnesStandAtTheStartAndTheOthersBehindThem) {
   const GridAxis axis = Sample();

@@ -83,7 +83,8 @@ TEST_F(GridWidgetTest, AMergedHeadingIsOnePlace) {
   widget.UpdateFromGrid();
   const QRect heading = widget.CellRect(0, 3);
   EXPECT_EQ(heading.left(), widget.CellRect(1, 2).left());
-  EXPECT_EQ(heading.right(), std::min(widget.CellRect(1, 4).right(), widget.viewport()->width() - 1));
+  EXPECT_EQ(heading.right(),
+            std::min(widget.CellRect(1, 4).right(), widget.viewport()->width() - 1));
   EXPECT_NE(widget.CellRect(0, 5), heading);
 }
 
@@ -105,7 +106,8 @@ TEST_F(GridWidgetTest, MergingStopsAtTheFixedColumnsAndAtEmptyText) {
   std::vector<std::pair<int, int>> spans;
   std::vector<Band> bands;
   for (int c = 0; c < 6; ++c) bands.push_back({c, c * 10, 10});
-  for (const HeadingSpan& span : MergedSpans(small, bands)) spans.push_back({span.first, span.last});
+  for (const HeadingSpan& span : MergedSpans(small, bands))
+    spans.push_back({span.first, span.last});
   EXPECT_EQ(spans, (std::vector<std::pair<int, int>>{{0, 0}, {1, 1}, {2, 3}, {4, 4}, {5, 5}}));
 }
 
