@@ -202,11 +202,10 @@ void FrameWindow::DestroyWindow(Form1& window) {
   area_->removeSubWindow(view);
   view->deleteLater();
   if (front_ == nullptr && !area_->subWindowList().isEmpty()) {
-    QMdiSubWindow* next = area_->subWindowList(QMdiArea::ActivationHistoryOrder).last();
-    if (maximised) next->showMaximized();
-    area_->setActiveSubWindow(next);
+    area_->setActiveSubWindow(area_->subWindowList(QMdiArea::ActivationHistoryOrder).last());
     FollowFront();
   }
+  if (front_ != nullptr && maximised) front_->showMaximized();
   Sync();
 }
 

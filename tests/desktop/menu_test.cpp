@@ -88,10 +88,10 @@ TEST_F(MenuTest, FollowsTheModel) {
   EXPECT_FALSE(Action("mnuown")->isChecked());
 }
 
-TEST_F(MenuTest, GreysAWholeMenu) {
+TEST_F(MenuTest, GreysTheHeadingOfAMenu) {
   menu.Enable("mnuNew", false);
   view.Sync();
-  EXPECT_FALSE(Action("mnuNew")->menu()->isEnabled());
+  EXPECT_FALSE(Action("mnuNew")->isEnabled());
 }
 
 TEST_F(MenuTest, KeepsACheckAsTheModelSaysAfterAPress) {

@@ -34,6 +34,7 @@ TEST_F(StartPageTest, IsThereWhileNoClassIsOpen) {
 TEST_F(StartPageTest, EachWayToBeginPressesItsMenuEntry) {
   QSignalSpy pressed(page(), &StartPage::Pressed);
   RecordPortals();
+  DataFolder = folder;
   Button("mnuwizard")->click();
   Settle();
   Button("mnuown")->click();

@@ -97,7 +97,7 @@ TEST_F(FrameTest, EveryButtonHasAnIconThatCanBeSeenInLightAndDark) {
     const int on_light = Lightness(PaletteIcon(key, light).pixmap(48));
     const int on_dark = Lightness(PaletteIcon(key, DarkPalette()).pixmap(48));
     EXPECT_GE(on_light, 0);
-    EXPECT_LT(on_light, 110);
+    EXPECT_LT(on_light, 128);
     EXPECT_GT(on_dark, 170);
     const int off = Lightness(PaletteIcon(key, DarkPalette()).pixmap(48, 48, QIcon::Disabled));
     EXPECT_LT(off, on_dark - 30);
