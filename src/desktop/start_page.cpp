@@ -31,6 +31,12 @@ QString Plain(QString text) {
   return text.replace(QLatin1Char('&'), QStringLiteral("&&"));
 }
 
+// As high as its text needs; the room that is left goes below the column.
+void FitHeight(QCommandLinkButton* button) {
+  constexpr int kNarrowest = 320;
+  button->setFixedHeight(button->heightForWidth(kNarrowest));
+}
+
 // "&2. /home/ann/MATH.TYR" stands as the file's name above its folder.
 void ShowRecent(QCommandLinkButton* button, const QString& caption) {
   if (button->property("caption") == caption) return;
@@ -41,6 +47,7 @@ void ShowRecent(QCommandLinkButton* button, const QString& caption) {
   button->setText(Plain(path.mid(slash + 1)));
   button->setDescription(path.left(slash + 1));
   button->setAccessibleName(path);
+  FitHeight(button);
 }
 
 }  // namespace
@@ -95,9 +102,7 @@ StartPage::StartPage(const Menu& menu, QWidget* parent) : QWidget(parent), menu_
 QCommandLinkButton* StartPage::AddButton(const QString& entry, QVBoxLayout* column) {
   auto* button = new QCommandLinkButton;
   button->setObjectName(entry);
-  QSizePolicy policy = button->sizePolicy();
-  policy.setVerticalPolicy(QSizePolicy::Fixed);  // the room that is left goes below the column
-  button->setSizePolicy(policy);
+  button->setIconSize(QSize(24, 24));
   connect(
       button, &QCommandLinkButton::clicked, this, [this, entry] { Q_EMIT Pressed(entry); },
       Qt::QueuedConnection);
@@ -111,6 +116,7 @@ void StartPage::AddBeginning(const QString& entry, const QString& icon, const QS
   button->setText(title);
   button->setDescription(description);
   button->setProperty("icon_name", icon);
+  FitHeight(button);
   beginnings_.push_back(button);
 }
 
@@ -139,11 +145,9 @@ void StartPage::showEvent(QShowEvent* event) {
 void StartPage::DrawIcons() {
   for (QCommandLinkButton* button : beginnings_) {
     button->setIcon(PaletteIcon(button->property("icon_name").toString(), palette()));
-    button->setIconSize(QSize(24, 24));
   }
   for (QCommandLinkButton* button : recent_) {
     button->setIcon(PaletteIcon(QStringLiteral("Grades"), palette()));
-    button->setIconSize(QSize(24, 24));
   }
 }
 
