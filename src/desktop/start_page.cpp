@@ -16,6 +16,7 @@ namespace tallyroll {
 namespace {
 
 constexpr int kRecentFiles = 5;
+constexpr int kRowSpacing = 8;
 
 QLabel* Heading(const QString& text, double scale) {
   auto* label = new QLabel(text);
@@ -31,12 +32,6 @@ QString Plain(QString text) {
   return text.replace(QLatin1Char('&'), QStringLiteral("&&"));
 }
 
-// As high as its text needs; the room that is left goes below the column.
-void FitHeight(QCommandLinkButton* button) {
-  constexpr int kNarrowest = 320;
-  button->setFixedHeight(button->heightForWidth(kNarrowest));
-}
-
 // "&2. /home/ann/MATH.TYR" stands as the file's name above its folder.
 void ShowRecent(QCommandLinkButton* button, const QString& caption) {
   if (button->property("caption") == caption) return;
@@ -47,13 +42,13 @@ void ShowRecent(QCommandLinkButton* button, const QString& caption) {
   button->setText(Plain(path.mid(slash + 1)));
   button->setDescription(path.left(slash + 1));
   button->setAccessibleName(path);
-  FitHeight(button);
 }
 
 }  // namespace
 
 StartPage::StartPage(const Menu& menu, QWidget* parent) : QWidget(parent), menu_(menu) {
   auto* begin = new QVBoxLayout;
+  begin->setSpacing(kRowSpacing);
   begin->addWidget(Heading(tr("Begin"), 1.2));
   AddBeginning(QStringLiteral("mnuwizard"), QStringLiteral("New"), tr("New class with the &wizard"),
                tr("A few questions lead you to your first class."), begin);
@@ -64,6 +59,7 @@ StartPage::StartPage(const Menu& menu, QWidget* parent) : QWidget(parent), menu_
   begin->addStretch();
 
   auto* recent = new QVBoxLayout;
+  recent->setSpacing(kRowSpacing);
   recent_heading_ = Heading(tr("Recent classes"), 1.2);
   recent->addWidget(recent_heading_);
   for (int i = 0; i < kRecentFiles; ++i) {
@@ -75,7 +71,7 @@ StartPage::StartPage(const Menu& menu, QWidget* parent) : QWidget(parent), menu_
   recent->addStretch();
 
   auto* columns = new QHBoxLayout;
-  columns->setSpacing(48);
+  columns->setSpacing(48);  // between the columns; they would take it over for their rows
   columns->addLayout(begin, 1);
   columns->addLayout(recent, 1);
 
@@ -116,7 +112,6 @@ void StartPage::AddBeginning(const QString& entry, const QString& icon, const QS
   button->setText(title);
   button->setDescription(description);
   button->setProperty("icon_name", icon);
-  FitHeight(button);
   beginnings_.push_back(button);
 }
 
