@@ -16,6 +16,7 @@ namespace tallyroll {
 namespace {
 
 constexpr int kRecentFiles = 5;
+constexpr int kRowSpacing = 8;
 
 QLabel* Heading(const QString& text, double scale) {
   auto* label = new QLabel(text);
@@ -47,6 +48,7 @@ void ShowRecent(QCommandLinkButton* button, const QString& caption) {
 
 StartPage::StartPage(const Menu& menu, QWidget* parent) : QWidget(parent), menu_(menu) {
   auto* begin = new QVBoxLayout;
+  begin->setSpacing(kRowSpacing);
   begin->addWidget(Heading(tr("Begin"), 1.2));
   AddBeginning(QStringLiteral("mnuwizard"), QStringLiteral("New"), tr("New class with the &wizard"),
                tr("A few questions lead you to your first class."), begin);
@@ -57,6 +59,7 @@ StartPage::StartPage(const Menu& menu, QWidget* parent) : QWidget(parent), menu_
   begin->addStretch();
 
   auto* recent = new QVBoxLayout;
+  recent->setSpacing(kRowSpacing);
   recent_heading_ = Heading(tr("Recent classes"), 1.2);
   recent->addWidget(recent_heading_);
   for (int i = 0; i < kRecentFiles; ++i) {
@@ -68,7 +71,7 @@ StartPage::StartPage(const Menu& menu, QWidget* parent) : QWidget(parent), menu_
   recent->addStretch();
 
   auto* columns = new QHBoxLayout;
-  columns->setSpacing(48);
+  columns->setSpacing(48);  // between the columns; they would take it over for their rows
   columns->addLayout(begin, 1);
   columns->addLayout(recent, 1);
 
@@ -95,9 +98,7 @@ StartPage::StartPage(const Menu& menu, QWidget* parent) : QWidget(parent), menu_
 QCommandLinkButton* StartPage::AddButton(const QString& entry, QVBoxLayout* column) {
   auto* button = new QCommandLinkButton;
   button->setObjectName(entry);
-  QSizePolicy policy = button->sizePolicy();
-  policy.setVerticalPolicy(QSizePolicy::Fixed);  // the room that is left goes below the column
-  button->setSizePolicy(policy);
+  button->setIconSize(QSize(24, 24));
   connect(
       button, &QCommandLinkButton::clicked, this, [this, entry] { Q_EMIT Pressed(entry); },
       Qt::QueuedConnection);
@@ -139,11 +140,9 @@ void StartPage::showEvent(QShowEvent* event) {
 void StartPage::DrawIcons() {
   for (QCommandLinkButton* button : beginnings_) {
     button->setIcon(PaletteIcon(button->property("icon_name").toString(), palette()));
-    button->setIconSize(QSize(24, 24));
   }
   for (QCommandLinkButton* button : recent_) {
     button->setIcon(PaletteIcon(QStringLiteral("Grades"), palette()));
-    button->setIconSize(QSize(24, 24));
   }
 }
 

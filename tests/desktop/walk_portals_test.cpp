@@ -44,12 +44,15 @@ TEST(FormChecks, AFormThatIsInOrderRaisesNoComplaint) {
 TEST(FormChecks, EachFaultIsNamed) {
   EverythingPortal portal;
   portal.ok.Caption = "Go";
-  EXPECT_EQ(CheckPortalForm(portal, QStringLiteral(":/test/forms/faults.ui")),
-            QStringList({QStringLiteral("ok: the form says \"O&K\", the struct \"Go\""),
-                         QStringLiteral("tab comes to second where first is read next"),
-                         QStringLiteral("second has no accessible name"),
-                         QStringLiteral("other and cancel share Alt+C"),
-                         QStringLiteral("choice has no layout")}));
+  EXPECT_EQ(
+      CheckPortalForm(portal, QStringLiteral(":/test/forms/faults.ui")).join(u'\n').toStdString(),
+      QStringList({QStringLiteral("ok: the form says \"O&K\", the struct \"Go\""),
+                   QStringLiteral("tab comes to second where first is read next"),
+                   QStringLiteral("second has no accessible name"),
+                   QStringLiteral("other and cancel share Alt+C"),
+                   QStringLiteral("choice has no layout")})
+          .join(u'\n')
+          .toStdString());
 }
 
 }  // namespace
