@@ -241,7 +241,9 @@ TEST_F(CommandsTest, DoubleClickOpensWhatStandsUnderThePointer) {
     ASSERT_EQ(openings.size(), 1u) << row << "," << col;
     EXPECT_EQ(openings[0].portal, portal) << row << "," << col;
     EXPECT_EQ(openings[0].open_state, open_state) << row << "," << col;
-    if (student >= 0) EXPECT_EQ(openings[0].student, student) << row << "," << col;
+    if (student >= 0) {
+      EXPECT_EQ(openings[0].student, student) << row << "," << col;
+    }
   }
 }
 
