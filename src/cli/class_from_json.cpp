@@ -5,6 +5,7 @@
 #include <limits>
 #include <vector>
 
+#include "base/code_page.h"
 #include "base/number_text.h"
 #include "cli/json_values.h"
 #include "store/check_class.h"
@@ -19,7 +20,9 @@ constexpr std::size_t kMostGivenItems = std::size_t{1} << 24;
 
 constexpr const char* kTopLevelLists[] = {"Instruments", "AttendanceDays", "Summaries", "Students"};
 
-bool Has(const Json& json, const char* field) { return json.contains(field); }
+bool Has(const Json& json, const char* field) {
+  return json.contains(field);
+}
 
 void NeedObject(const Json& json, const JsonPlace& at) {
   if (!json.is_object()) at.Refuse("must be an object");
@@ -78,8 +81,8 @@ void ReadRecords(const Json& json, const JsonPlace& at, const char* name, List<R
 
 // A missing count is taken from its list. One that contradicts it is refused at once: the lists of
 // new students are sized by it.
-void SettleCount(const Json& json, const JsonPlace& at, const char* count_name, const char* list_name,
-                 std::size_t items, i16& count) {
+void SettleCount(const Json& json, const JsonPlace& at, const char* count_name,
+                 const char* list_name, std::size_t items, i16& count) {
   if (!Has(json, count_name)) count = static_cast<i16>(items);
   if (count >= 0 && static_cast<std::size_t>(count) == items) return;
   at.Field(list_name).Refuse("has " + ItemsText(items) + ", " + count_name + " is " +
@@ -94,6 +97,8 @@ void ReadHeader(const Json& json, const JsonPlace& at, Class& c) {
     }
   }
   ReadFields(json, at, c);
+  if (c.Magic != "ty8")
+    at.Field("Magic").Refuse("must be \"ty8\": only the current format is written");
   const auto charts = static_cast<std::size_t>(UpperBound(c.ChartRows));
   if (charts > std::size_t{std::numeric_limits<i16>::max()}) {
     at.Field("ChartRows").Refuse("has " + ItemsText(charts) + ", it may have 32767");
@@ -168,7 +173,7 @@ std::string ReadClassFromJson(std::string_view text) {
     return refusal.Text();
   }
   const std::vector<std::string> broken = BrokenInvariants(c);
-  return broken.empty() ? "" : broken.front();
+  return broken.empty() ? "" : Utf8FromCodePage(broken.front());
 }
 
 }  // namespace tallyroll

@@ -12,10 +12,18 @@
 namespace tallyroll {
 namespace {
 
-Json ToJson(i16 value) { return value; }
-Json ToJson(std::string_view text) { return Utf8FromCodePage(text); }
-Json ToJson(Currency value) { return PlainNumberText(value); }
-Json ToJson(const Bytes8& bytes) { return HexText(bytes); }
+Json ToJson(i16 value) {
+  return value;
+}
+Json ToJson(std::string_view text) {
+  return Utf8FromCodePage(text);
+}
+Json ToJson(Currency value) {
+  return PlainNumberText(value);
+}
+Json ToJson(const Bytes8& bytes) {
+  return HexText(bytes);
+}
 
 // JSON has no numbers beyond the finite ones, so their bytes stand for them.
 Json ToJson(double value) {

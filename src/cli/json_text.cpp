@@ -20,12 +20,22 @@ class StrictWatch {
  public:
   bool operator()(int /*depth*/, Json::parse_event_t event, const Json& parsed) {
     switch (event) {
-      case Json::parse_event_t::object_start: Open(false); break;
-      case Json::parse_event_t::array_start: Open(true); break;
+      case Json::parse_event_t::object_start:
+        Open(false);
+        break;
+      case Json::parse_event_t::array_start:
+        Open(true);
+        break;
       case Json::parse_event_t::object_end:
-      case Json::parse_event_t::array_end: open_.pop_back(); break;
-      case Json::parse_event_t::key: Key(parsed.get_ref<const std::string&>()); break;
-      case Json::parse_event_t::value: NextItem(); break;
+      case Json::parse_event_t::array_end:
+        open_.pop_back();
+        break;
+      case Json::parse_event_t::key:
+        Key(parsed.get_ref<const std::string&>());
+        break;
+      case Json::parse_event_t::value:
+        NextItem();
+        break;
     }
     return true;
   }

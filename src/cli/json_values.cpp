@@ -44,7 +44,9 @@ std::string JsonPlace::Path() const {
   return before + "[" + PlainNumberText(static_cast<std::int64_t>(index)) + "]";
 }
 
-void JsonPlace::Refuse(std::string reason) const { throw JsonRefusal{Path(), std::move(reason)}; }
+void JsonPlace::Refuse(std::string reason) const {
+  throw JsonRefusal{Path(), std::move(reason)};
+}
 
 std::string ItemsText(std::size_t count) {
   return PlainNumberText(static_cast<std::int64_t>(count)) + (count == 1 ? " item" : " items");
@@ -78,7 +80,8 @@ void ReadValue(const Json& json, const JsonPlace& at, float& value) {
   }
   double wide = 0;
   ReadValue(json, at, wide);
-  if (std::abs(wide) > double{std::numeric_limits<float>::max()}) at.Refuse("is too large for a Single");
+  if (std::abs(wide) > double{std::numeric_limits<float>::max()})
+    at.Refuse("is too large for a Single");
   value = static_cast<float>(wide);
 }
 

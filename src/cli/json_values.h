@@ -42,7 +42,8 @@ void ReadValue(const Json& json, const JsonPlace& at, FixedText<N>& value) {
 template <typename T, std::size_t N>
 void ReadValue(const Json& json, const JsonPlace& at, std::array<T, N>& items) {
   if (!json.is_array()) at.Refuse("must be an array");
-  if (json.size() != N) at.Refuse("has " + ItemsText(json.size()) + ", it must have " + ItemsText(N));
+  if (json.size() != N)
+    at.Refuse("has " + ItemsText(json.size()) + ", it must have " + ItemsText(N));
   for (std::size_t i = 0; i < N; ++i) ReadValue(json[i], at.Item(i), items[i]);
 }
 

@@ -1,0 +1,53 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include <CLI/CLI.hpp>
+#include <istream>
+#include <iterator>
+#include <memory>
+
+#include "cli/class_from_json.h"
+#include "cli/class_in_file.h"
+#include "cli/commands.h"
+#include "store/program_state.h"
+#include "store/safe_file.h"
+
+namespace tallyroll {
+namespace {
+
+struct BuildOptions {
+  std::string json;
+  std::string file;
+};
+
+// The JSON text; `reason` says why there is none.
+std::string ReadJson(const std::string& path, std::istream& in, std::string& reason) {
+  if (path == "-") return std::string(std::istreambuf_iterator<char>(in), {});
+  FileContents contents = ReadWholeFile(path);
+  if (contents.error != 0) reason = FileErrorText(contents.error);
+  return std::move(contents.bytes);
+}
+
+CommandResult Build(const BuildOptions& options, std::istream& in) {
+  if (IsSameFile(options.json, options.file)) {
+    return Refused(options.file, "is the JSON file itself");
+  }
+  std::string reason;
+  const std::string text = ReadJson(options.json, in, reason);
+  if (reason.empty()) reason = ReadClassFromJson(text);
+  if (!reason.empty()) return Refused(options.json, reason);
+  reason = WriteClassTo(options.file, Current());
+  return reason.empty() ? Done() : Refused(options.file, reason);
+}
+
+}  // namespace
+
+void AddBuildCommand(CLI::App& app, ChosenCommand& chosen) {
+  CLI::App* command =
+      app.add_subcommand("build", "Writes the class file that a JSON text describes");
+  const auto options = std::make_shared<BuildOptions>();
+  command->add_option("JSON", options->json, "the JSON file, - for standard input")->required();
+  command->add_option("FILE", options->file, "the class file to write")->required();
+  command->callback(
+      [&chosen, options] { chosen = [options](std::istream& in) { return Build(*options, in); }; });
+}
+
+}  // namespace tallyroll

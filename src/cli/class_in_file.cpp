@@ -1,0 +1,95 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "cli/class_in_file.h"
+
+#include <filesystem>
+
+#include "attendance/calendar.h"
+#include "base/number_text.h"
+#include "base/run_time_error.h"
+#include "cli/command_line_surroundings.h"
+#include "store/class_defaults.h"
+#include "store/class_file.h"
+#include "store/older_class_file.h"
+#include "store/program_state.h"
+#include "store/safe_file.h"
+
+namespace tallyroll {
+namespace {
+
+constexpr const char* kUnknownFormat = "This file is NOT in a recognized Tallyroll format";
+
+std::string_view ErrorInWords(int error) {
+  switch (error) {
+    case kErrorOverflow:
+      return "a number or a text is too large";
+    case kErrorFileNotFound:
+      return "there is no such file";
+    case kErrorDevice:
+      return "the file contradicts itself";
+    case kErrorDiskFull:
+      return "the disk is full";
+    case kErrorPastEnd:
+      return "the file ends too early";
+    case kErrorPermission:
+      return "permission denied";
+    case kErrorPathAccess:
+      return "the path cannot be used";
+    case kErrorPathNotFound:
+      return "there is no such folder";
+    default:
+      return {};
+  }
+}
+
+bool IsOlderMark(std::string_view mark) {
+  return mark == "ty7" || mark == "ty5";
+}
+
+}  // namespace
+
+std::string FileErrorText(int error) {
+  const std::string_view words = ErrorInWords(error);
+  std::string text = "File Error: " + PlainNumberText(error);
+  if (!words.empty()) text += " (" + std::string(words) + ")";
+  return text;
+}
+
+std::string ParseClassFile(const std::string& path, Class& c) {
+  const FileContents file = ReadWholeFile(path);
+  if (file.error != 0) return FileErrorText(file.error);
+  const std::string_view mark = std::string_view(file.bytes).substr(0, 3);
+  if (mark != "ty8" && !IsOlderMark(mark)) return kUnknownFormat;
+  const ParseOutcome outcome =
+      mark == "ty8" ? ParseClass(file.bytes, c) : ParseOldClass(file.bytes, c);
+  return outcome.error == 0 ? "" : FileErrorText(outcome.error);
+}
+
+std::string OpenClassFile(const std::string& path, const std::optional<std::string>& password) {
+  CommandLineSurroundings surroundings(password);
+  CurrentClass = 1;
+  ResetClassSlot();
+  Current().FileName = path;
+  ReadClassFile();
+  if (!surroundings.Refusal().empty()) return surroundings.Refusal();
+  if (Current().FileName.empty()) return "cannot be opened";
+  if (IsOlderFormat(Current())) RecalculateRangeSummaries();
+  return {};
+}
+
+std::string WriteClassTo(const std::string& path, const Class& c) {
+  std::string bytes;
+  int error = SerializeClass(c, bytes);
+  if (error == 0) error = ReplaceFile(path, bytes, OldTail::kDrop);
+  return error == 0 ? "" : FileErrorText(error);
+}
+
+bool IsSameFile(const std::string& a, const std::string& b) {
+  std::error_code ignored;  // a path without a file is the same as no other
+  return a == b || std::filesystem::equivalent(a, b, ignored);
+}
+
+bool IsOlderFormat(const Class& c) {
+  return IsOlderMark(c.Magic.view());
+}
+
+}  // namespace tallyroll

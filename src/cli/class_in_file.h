@@ -1,0 +1,31 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// How the commands come by a class in a file, and how they write one.
+#pragma once
+
+#include <optional>
+#include <string>
+
+#include "store/records.h"
+
+namespace tallyroll {
+
+// Each answers nothing when all went well, otherwise the reason for a refusal.
+
+// The class as it stands on disk, an older one in its converted form; no step of opening is taken.
+std::string ParseClassFile(const std::string& path, Class& c);
+
+// The class in slot 1 as the program holds it after every step of opening.
+std::string OpenClassFile(const std::string& path, const std::optional<std::string>& password);
+
+// Writes a class completely or not at all; nothing of an earlier file stays behind it.
+std::string WriteClassTo(const std::string& path, const Class& c);
+
+// "File Error: 53 (there is no such file)".
+std::string FileErrorText(int error);
+
+// Whether two paths name one file.
+bool IsSameFile(const std::string& a, const std::string& b);
+
+bool IsOlderFormat(const Class& c);
+
+}  // namespace tallyroll

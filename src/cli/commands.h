@@ -1,0 +1,37 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The commands of tallyroll-cli: one file each.
+#pragma once
+
+#include <functional>
+#include <iosfwd>
+#include <string>
+
+namespace CLI {
+class App;
+}
+
+namespace tallyroll {
+
+// What a command gives: the whole of its output, or why it was refused.
+struct CommandResult {
+  bool refused = false;
+  std::string text;  // UTF-8
+};
+
+// "FILE: reason" on one line, whatever the name or the message holds.
+std::string ReasonLine(const std::string& file, const std::string& reason);
+
+CommandResult Done(std::string text = {});
+CommandResult Refused(const std::string& file, const std::string& reason);
+
+// The command that the command line chose, with its options; run when the line was read whole.
+using ChosenCommand = std::function<CommandResult(std::istream& in)>;
+
+// Each adds its command and its options, and fills `chosen` when it is the one.
+void AddDumpCommand(CLI::App& app, ChosenCommand& chosen);
+void AddBuildCommand(CLI::App& app, ChosenCommand& chosen);
+void AddCheckCommand(CLI::App& app, ChosenCommand& chosen);
+void AddConvertCommand(CLI::App& app, ChosenCommand& chosen);
+void AddShowCommand(CLI::App& app, ChosenCommand& chosen);
+
+}  // namespace tallyroll

@@ -1,0 +1,45 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include <CLI/CLI.hpp>
+#include <memory>
+
+#include "cli/class_in_file.h"
+#include "cli/commands.h"
+#include "store/program_state.h"
+
+namespace tallyroll {
+namespace {
+
+struct ConvertOptions {
+  std::string from;
+  std::string to;
+  std::optional<std::string> password;
+};
+
+CommandResult Convert(const ConvertOptions& options) {
+  if (IsSameFile(options.from, options.to)) {
+    return Refused(options.to, "is the old file itself, which is left as it is");
+  }
+  std::string reason = OpenClassFile(options.from, options.password);
+  if (!reason.empty()) return Refused(options.from, reason);
+  if (!IsOlderFormat(Current())) {
+    return Refused(options.from, "is already in the current format");
+  }
+  Current().Magic = "ty8";
+  reason = WriteClassTo(options.to, Current());
+  return reason.empty() ? Done() : Refused(options.to, reason);
+}
+
+}  // namespace
+
+void AddConvertCommand(CLI::App& app, ChosenCommand& chosen) {
+  CLI::App* command =
+      app.add_subcommand("convert", "Writes an older class file in the current format");
+  const auto options = std::make_shared<ConvertOptions>();
+  command->add_option("OLD", options->from, "the older class file")->required();
+  command->add_option("NEW", options->to, "the class file to write")->required();
+  command->add_option("--password", options->password, "the password of the old file");
+  command->callback(
+      [&chosen, options] { chosen = [options](std::istream&) { return Convert(*options); }; });
+}
+
+}  // namespace tallyroll

@@ -1,0 +1,45 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include <CLI/CLI.hpp>
+#include <memory>
+
+#include "cli/class_in_file.h"
+#include "cli/class_json.h"
+#include "cli/commands.h"
+#include "store/program_state.h"
+
+namespace tallyroll {
+namespace {
+
+struct DumpOptions {
+  std::string file;
+  bool opened = false;
+  std::optional<std::string> password;
+};
+
+CommandResult Dump(const DumpOptions& options) {
+  if (!options.opened) {
+    Class c;
+    const std::string reason = ParseClassFile(options.file, c);
+    return reason.empty() ? Done(JsonText(ClassToJson(c))) : Refused(options.file, reason);
+  }
+  const std::string reason = OpenClassFile(options.file, options.password);
+  if (!reason.empty()) return Refused(options.file, reason);
+  Json json = ClassToJson(Current());
+  AddDerivedFields(Current(), json);
+  return Done(JsonText(json));
+}
+
+}  // namespace
+
+void AddDumpCommand(CLI::App& app, ChosenCommand& chosen) {
+  CLI::App* command = app.add_subcommand("dump", "Writes a class file as JSON");
+  const auto options = std::make_shared<DumpOptions>();
+  command->add_option("FILE", options->file, "the class file")->required();
+  CLI::Option* opened = command->add_flag("--opened", options->opened,
+                                          "the class as the program holds it after opening");
+  command->add_option("--password", options->password, "the password of the file")->needs(opened);
+  command->callback(
+      [&chosen, options] { chosen = [options](std::istream&) { return Dump(*options); }; });
+}
+
+}  // namespace tallyroll
