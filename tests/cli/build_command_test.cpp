@@ -219,15 +219,15 @@ const RefusedJson kRefusals[] = {
 };
 
 INSTANTIATE_TEST_SUITE_P(All, RefusedJsonTest, ::testing::ValuesIn(kRefusals),
-                         [](const auto& info) { return std::string(info.param.name); });
+                         [](const auto& test) { return std::string(test.param.name); });
 
 // A short text must not ask for gigabytes.
 TEST_F(BuildCommandTest, ListsOfNewStudentsHaveABound) {
   std::string items = "{}";
-  for (int i = 1; i < 20000; ++i) items += ",{}";
+  for (int i = 1; i < 5000; ++i) items += ",{}";
   const CliRun run = RunCli({"build", "-", Path("a.TYR")},
                             "{\"Instruments\": [" + items + "], \"Students\": [" + items + "]}");
-  // 838 students of 20,000 marks are the last below 2^24.
+  // 838 students of 5,000 marks are the last below 2^22.
   ExpectRefused(run, "-: Students[839] leaves out lists that would be too large");
 }
 

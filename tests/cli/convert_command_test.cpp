@@ -40,7 +40,7 @@ std::string OlderClass(bool seven) {
 class ConvertCommandTest : public CliTest, public ::testing::WithParamInterface<bool> {};
 
 INSTANTIATE_TEST_SUITE_P(BothMarks, ConvertCommandTest, ::testing::Bool(),
-                         [](const auto& info) { return info.param ? "ty7" : "ty5"; });
+                         [](const auto& test) { return test.param ? "ty7" : "ty5"; });
 
 TEST_P(ConvertCommandTest, WritesTheCurrentFormatAndLeavesTheOldFile) {
   const std::string old = Put("old.TYR", OlderClass(GetParam()));
