@@ -1,13 +1,10 @@
 # SPDX-License-Identifier: GPL-3.0-or-later
 # The compiler's options, linked by every target of the project.
 add_library(tallyroll_flags INTERFACE)
-target_compile_options(tallyroll_flags INTERFACE -Wall -Wextra -Wpedantic -Wshadow=local -Wconversion -Wno-sign-conversion)
-if(CMAKE_CXX_COMPILER_ID STREQUAL "Clang")
-  target_compile_options(tallyroll_flags INTERFACE -Wno-shadow)
-endif()
+target_compile_options(tallyroll_flags INTERFACE -Wall -Wextra -Wpedantic -Wconversion -Wno-sign-conversion)
 if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
   # GCC 12 sees overlaps in std::string that are not there.
-  target_compile_options(tallyroll_flags INTERFACE -Wno-restrict)
+  target_compile_options(tallyroll_flags INTERFACE -Wshadow=local -Wno-restrict)
 endif()
 target_compile_definitions(tallyroll_flags INTERFACE
   TALLYROLL_VERSION="${PROJECT_VERSION}" $<$<CONFIG:Debug>:_GLIBCXX_ASSERTIONS>)

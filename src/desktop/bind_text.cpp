@@ -91,7 +91,11 @@ class LineBinding : public TextBinding<QLineEdit> {
     else
       widget_.setCursorPosition(selection.start);
   }
-  void Write(std::string_view text) override { widget_.setText(FromText(text)); }
+  void Write(std::string_view text) override {
+    // What the program sets is shown whole, whatever the user could type.
+    validator_->SetKnownText(FromText(text));
+    widget_.setText(FromText(text));
+  }
   void Limit(int max_length) override { validator_->SetMaxLength(max_length); }
 
  private:

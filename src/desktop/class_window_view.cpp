@@ -5,6 +5,7 @@
 #include <QAction>
 #include <QCloseEvent>
 #include <QLabel>
+#include <QMenu>
 #include <QVBoxLayout>
 
 #include "desktop/grid_widget.h"
@@ -38,6 +39,8 @@ ClassWindowView::ClassWindowView(Form1& form) : form_(&form) {
   page->setFocusProxy(grid_);
   setWidget(page);
 
+  // The window's own menu would claim Ctrl+W and Ctrl+F4 beside the entry that stands for them.
+  for (QAction* action : systemMenu()->actions()) action->setShortcuts(QList<QKeySequence>());
   auto* switch_focus = new QAction(this);
   switch_focus->setShortcut(Qt::Key_F6);
   switch_focus->setShortcutContext(Qt::WidgetWithChildrenShortcut);

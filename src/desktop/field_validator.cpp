@@ -22,13 +22,14 @@ QValidator::State FieldValidator::validate(QString& text, int& cursor) const {
   lacking_ = LackingCharacter(text);
   if (!lacking_.isEmpty()) return Invalid;
   if (max_length_ == 0 || text == known_) return Acceptable;
-  const qsizetype limit = std::max(max_length_, 0);
-  if (text.size() <= limit || text.size() <= known_.size()) return Acceptable;
+  // A text that is longer already may shrink and be changed, but not grow.
+  const qsizetype limit = std::max<qsizetype>({max_length_, 0, known_.size()});
+  if (text.size() <= limit) return Acceptable;
   // What came in last stands before the cursor; of a paste, what fits is kept.
-  const qsizetype excess = std::min(text.size() - std::max(limit, qsizetype{0}), qsizetype{cursor});
+  const qsizetype excess = std::min(text.size() - limit, qsizetype{cursor});
   QString cut = text;
   cut.remove(cursor - excess, excess);
-  if (cut == known_ || cut.size() > std::max(limit, known_.size())) return Invalid;
+  if (cut == known_) return Invalid;
   cursor -= static_cast<int>(excess);
   text = cut;
   return Acceptable;

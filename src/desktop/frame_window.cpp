@@ -26,7 +26,9 @@ namespace tallyroll {
 
 namespace {
 
-QString PlaceName() { return QStringLiteral("MDIForm1"); }
+QString PlaceName() {
+  return QStringLiteral("MDIForm1");
+}
 
 }  // namespace
 
@@ -38,6 +40,7 @@ FrameWindow::FrameWindow() {
   auto* first = new QWidget;
   start_ = new StartPage(Frame->menu);
   status_ = new QLabel;
+  status_->setObjectName(QStringLiteral("FrameStatus"));
   status_->setMargin(3);
   auto* rows = new QVBoxLayout(first);
   rows->setContentsMargins(0, 0, 0, 0);
@@ -75,19 +78,19 @@ FrameWindow::~FrameWindow() {
   for (QMdiSubWindow* window : area_->subWindowList()) window->disconnect(this);
 }
 
+// Beside Ctrl+W and Ctrl+Tab, which the menu and the area bring along.
 void FrameWindow::AddWindowKeys() {
-  const auto add = [this](const QList<QKeySequence>& keys, const std::function<void()>& act) {
+  const auto add = [this](const QKeySequence& key, const std::function<void()>& act) {
     auto* action = new QAction(this);
-    action->setShortcuts(keys);
+    action->setShortcut(key);
     connect(action, &QAction::triggered, this, act);
     addAction(action);
   };
-  add({QKeySequence(Qt::CTRL | Qt::Key_F4), QKeySequence(Qt::CTRL | Qt::Key_W)}, [this] {
+  add(Qt::CTRL | Qt::Key_F4, [this] {
     if (front_ != nullptr) front_->close();
   });
-  add({QKeySequence(Qt::CTRL | Qt::Key_F6)}, [this] { area_->activateNextSubWindow(); });
-  add({QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_F6)},
-      [this] { area_->activatePreviousSubWindow(); });
+  add(Qt::CTRL | Qt::Key_F6, [this] { area_->activateNextSubWindow(); });
+  add(Qt::CTRL | Qt::SHIFT | Qt::Key_F6, [this] { area_->activatePreviousSubWindow(); });
 }
 
 void FrameWindow::Connect(ClassWindowView* view) {
@@ -121,9 +124,13 @@ void FrameWindow::RunInFront(ClassWindowView* view, const std::function<void(For
   });
 }
 
-ClassWindowView* FrameWindow::Current() const { return front_; }
+ClassWindowView* FrameWindow::Current() const {
+  return front_;
+}
 
-MenuView& FrameWindow::CurrentMenu() const { return front_ != nullptr ? front_->menu() : *menu_; }
+MenuView& FrameWindow::CurrentMenu() const {
+  return front_ != nullptr ? front_->menu() : *menu_;
+}
 
 ClassWindowView* FrameWindow::ViewOf(const Form1& window) const {
   for (QMdiSubWindow* sub_window : area_->subWindowList()) {
@@ -144,7 +151,8 @@ void FrameWindow::FollowFront() {
 void FrameWindow::Sync() {
   menu_->Sync();
   start_->Sync();
-  for (QMdiSubWindow* window : area_->subWindowList()) static_cast<ClassWindowView*>(window)->Sync();
+  for (QMdiSubWindow* window : area_->subWindowList())
+    static_cast<ClassWindowView*>(window)->Sync();
   pages_->setCurrentIndex(front_ != nullptr ? 1 : 0);
   const QString status = hint_.isEmpty() ? FromText(Frame->StatusText) : hint_;
   if (status != status_->text()) status_->setText(status);
@@ -177,6 +185,7 @@ void FrameWindow::ShowWindow(Form1& window) {
     view->show();
   }
   area_->setActiveSubWindow(view);
+  view->widget()->setFocus();  // the grid, rather than the first button
   FollowFront();
 }
 
@@ -193,11 +202,10 @@ void FrameWindow::DestroyWindow(Form1& window) {
   area_->removeSubWindow(view);
   view->deleteLater();
   if (front_ == nullptr && !area_->subWindowList().isEmpty()) {
-    QMdiSubWindow* next = area_->subWindowList(QMdiArea::ActivationHistoryOrder).last();
-    if (maximised) next->showMaximized();
-    area_->setActiveSubWindow(next);
+    area_->setActiveSubWindow(area_->subWindowList(QMdiArea::ActivationHistoryOrder).last());
     FollowFront();
   }
+  if (front_ != nullptr && maximised) front_->showMaximized();
   Sync();
 }
 
@@ -218,7 +226,9 @@ void FrameWindow::Arrange(Arrangement how) {
   }
 }
 
-void FrameWindow::ShowAbout() { ShowAboutBox(this); }
+void FrameWindow::ShowAbout() {
+  ShowAboutBox(this);
+}
 
 void FrameWindow::closeEvent(QCloseEvent* event) {
   if (!may_close_) {

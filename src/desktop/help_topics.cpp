@@ -28,7 +28,9 @@ constexpr std::array kContexts = {
 
 }  // namespace
 
-std::span<const int> HelpContexts() { return kContexts; }
+std::span<const int> HelpContexts() {
+  return kContexts;
+}
 
 QUrl HelpPage(int context) {
   const bool known = std::ranges::find(kContexts, context) != kContexts.end();

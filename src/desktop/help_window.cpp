@@ -51,10 +51,8 @@ void HelpWindow::AddTools() {
     return action;
   };
   add(tr("Contents"), Qt::ALT | Qt::Key_Home, [this] { ShowTopic(0); });
-  QAction* back =
-      add(tr("Back"), Qt::ALT | Qt::Key_Left, [this] { browser_->backward(); });
-  QAction* forward =
-      add(tr("Forward"), Qt::ALT | Qt::Key_Right, [this] { browser_->forward(); });
+  QAction* back = add(tr("Back"), Qt::ALT | Qt::Key_Left, [this] { browser_->backward(); });
+  QAction* forward = add(tr("Forward"), Qt::ALT | Qt::Key_Right, [this] { browser_->forward(); });
   back->setEnabled(false);
   forward->setEnabled(false);
   connect(browser_, &QTextBrowser::backwardAvailable, back, &QAction::setEnabled);
@@ -82,7 +80,9 @@ void HelpWindow::AddTools() {
   add_key(Qt::Key_Escape, [this] { close(); });
 }
 
-void HelpWindow::ShowTopic(int context) { browser_->setSource(HelpPage(context)); }
+void HelpWindow::ShowTopic(int context) {
+  browser_->setSource(HelpPage(context));
+}
 
 bool HelpWindow::FindNext() {
   statusBar()->clearMessage();

@@ -2,7 +2,6 @@
 // tallyroll: the grade book on the screen.
 #include <QApplication>
 #include <QCommandLineParser>
-#include <QFileInfo>
 #include <QTimer>
 #include <algorithm>
 #include <string_view>
@@ -12,8 +11,6 @@
 #include "desktop/help_window.h"
 #include "desktop/qt_surroundings.h"
 #include "desktop/text_conversion.h"
-#include "platform/portal.h"
-#include "shell/portal_list.h"
 #include "shell/program.h"
 #include "shell/shell_state.h"
 
@@ -39,10 +36,9 @@ bool AsksForText(int argc, char** argv) {
   });
 }
 
-// Absolute, since the program goes to the folder of the class files when it starts.
 std::string CommandFileOf(const QCommandLineParser& parser) {
   const QStringList files = parser.positionalArguments();
-  return files.isEmpty() ? std::string() : ToPath(QFileInfo(files.front()).absoluteFilePath());
+  return files.isEmpty() ? std::string() : ToPath(files.front());
 }
 
 void NameApplication() {
@@ -60,7 +56,6 @@ int RunProgram(QApplication& application, const QCommandLineParser& parser) {
   ResetProgram();
   QtSurroundings surroundings;
   SetPlatform(&surroundings);
-  MakePortal = &MakePortalByName;
   Frame = std::make_unique<MDIForm1>();
   int result = 0;
   {

@@ -33,8 +33,9 @@ QAction* MenuView::AddEntry(const MenuEntry& entry, bool has_menu, QMenu* in) {
   } else {
     action = new QAction(this);
     const QString name = FromText(entry.name);
-    connect(action, &QAction::triggered, this, [this, name] { Q_EMIT Pressed(name); },
-            Qt::QueuedConnection);
+    connect(
+        action, &QAction::triggered, this, [this, name] { Q_EMIT Pressed(name); },
+        Qt::QueuedConnection);
   }
   action->setObjectName(FromText(entry.name));
   action->setShortcut(QKeySequence(FromText(entry.shortcut)));

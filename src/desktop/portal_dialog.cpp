@@ -46,8 +46,9 @@ PortalDialog::PortalDialog(Portal& portal, const QString& form_file, QWidget* pa
           [this](QWidget*, QWidget* now) { FocusMoved(now); });
 }
 
+// The widgets go after this object's own part has gone; nothing of theirs may come back to it.
 PortalDialog::~PortalDialog() {
-  ++silent_;
+  qApp->disconnect(this);
 }
 
 void PortalDialog::BindControls(const LoadedForm& form) {
@@ -172,10 +173,11 @@ ControlBinding* PortalDialog::BindingOf(const QWidget* widget) const {
 // Popups, boxes and other windows take the focus only for a while; the field is not left.
 void PortalDialog::FocusMoved(QWidget* now) {
   if (!now || now->window() != this) return;
+  const bool opening = std::exchange(opening_, false);
   ControlBinding* binding = BindingOf(now);
   if (binding == focused_) return;
   ControlBinding* left = std::exchange(focused_, binding);
-  if (silent_ > 0) return;
+  if (silent_ > 0 || opening) return;
   was_blocked_ = false;
   if (left) Raise(left->row().lost_focus);
   const bool stopped = was_blocked_ || focused_ != binding;

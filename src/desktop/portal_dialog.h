@@ -72,6 +72,7 @@ class PortalDialog : public QDialog, private BindingOwner {
   ControlBinding* focused_ = nullptr;
   QWidget* swallow_press_of_ = nullptr;  // its press began with leaving a field that must be mended
   bool was_blocked_ = false;             // another window came up in front
+  bool opening_ = true;                  // the first focus is given by opening, not by the user
   int silent_ = 1;                       // above 0 nothing is passed on; 0 once it shows
 };
 

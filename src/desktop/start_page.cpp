@@ -6,6 +6,7 @@
 #include <QEvent>
 #include <QHBoxLayout>
 #include <QLabel>
+#include <QPainter>
 #include <QVBoxLayout>
 
 #include "desktop/appearance.h"
@@ -16,6 +17,7 @@ namespace tallyroll {
 namespace {
 
 constexpr int kRecentFiles = 5;
+constexpr int kRowSpacing = 8;
 
 QLabel* Heading(const QString& text, double scale) {
   auto* label = new QLabel(text);
@@ -26,14 +28,30 @@ QLabel* Heading(const QString& text, double scale) {
   return label;
 }
 
-// A button's text shows "&" only when it is doubled.
-QString Plain(QString text) { return text.replace(QLatin1Char('&'), QStringLiteral("&&")); }
+// Shows where the keyboard is, which a command link by itself does not.
+class PageButton : public QCommandLinkButton {
+ protected:
+  void paintEvent(QPaintEvent* event) override {
+    QCommandLinkButton::paintEvent(event);
+    if (!hasFocus()) return;
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(QPen(palette().color(QPalette::Highlight), 2));
+    painter.drawRoundedRect(QRectF(rect()).adjusted(1, 1, -1, -1), 4, 4);
+  }
+};
 
-// "2. /home/ann/MATH.TYR" stands as the file's name above its folder.
+// A button's text shows "&" only when it is doubled.
+QString Plain(QString text) {
+  return text.replace(QLatin1Char('&'), QStringLiteral("&&"));
+}
+
+// "&2. /home/ann/MATH.TYR" stands as the file's name above its folder.
 void ShowRecent(QCommandLinkButton* button, const QString& caption) {
   if (button->property("caption") == caption) return;
   button->setProperty("caption", caption);
-  const QString path = caption.mid(caption.indexOf(QStringLiteral(". ")) + 2);
+  const QString path = caption.mid(caption.indexOf(QStringLiteral(". ")) + 2)
+                           .replace(QStringLiteral("&&"), QStringLiteral("&"));
   const auto slash = path.lastIndexOf(QLatin1Char('/'));
   button->setText(Plain(path.mid(slash + 1)));
   button->setDescription(path.left(slash + 1));
@@ -44,6 +62,7 @@ void ShowRecent(QCommandLinkButton* button, const QString& caption) {
 
 StartPage::StartPage(const Menu& menu, QWidget* parent) : QWidget(parent), menu_(menu) {
   auto* begin = new QVBoxLayout;
+  begin->setSpacing(kRowSpacing);
   begin->addWidget(Heading(tr("Begin"), 1.2));
   AddBeginning(QStringLiteral("mnuwizard"), QStringLiteral("New"), tr("New class with the &wizard"),
                tr("A few questions lead you to your first class."), begin);
@@ -54,6 +73,7 @@ StartPage::StartPage(const Menu& menu, QWidget* parent) : QWidget(parent), menu_
   begin->addStretch();
 
   auto* recent = new QVBoxLayout;
+  recent->setSpacing(kRowSpacing);
   recent_heading_ = Heading(tr("Recent classes"), 1.2);
   recent->addWidget(recent_heading_);
   for (int i = 0; i < kRecentFiles; ++i) {
@@ -65,7 +85,7 @@ StartPage::StartPage(const Menu& menu, QWidget* parent) : QWidget(parent), menu_
   recent->addStretch();
 
   auto* columns = new QHBoxLayout;
-  columns->setSpacing(48);
+  columns->setSpacing(48);  // between the columns; they would take it over for their rows
   columns->addLayout(begin, 1);
   columns->addLayout(recent, 1);
 
@@ -90,10 +110,12 @@ StartPage::StartPage(const Menu& menu, QWidget* parent) : QWidget(parent), menu_
 }
 
 QCommandLinkButton* StartPage::AddButton(const QString& entry, QVBoxLayout* column) {
-  auto* button = new QCommandLinkButton;
+  auto* button = new PageButton;
   button->setObjectName(entry);
-  connect(button, &QCommandLinkButton::clicked, this, [this, entry] { Q_EMIT Pressed(entry); },
-          Qt::QueuedConnection);
+  button->setIconSize(QSize(24, 24));
+  connect(
+      button, &QCommandLinkButton::clicked, this, [this, entry] { Q_EMIT Pressed(entry); },
+      Qt::QueuedConnection);
   column->addWidget(button);
   return button;
 }
@@ -132,11 +154,9 @@ void StartPage::showEvent(QShowEvent* event) {
 void StartPage::DrawIcons() {
   for (QCommandLinkButton* button : beginnings_) {
     button->setIcon(PaletteIcon(button->property("icon_name").toString(), palette()));
-    button->setIconSize(QSize(24, 24));
   }
   for (QCommandLinkButton* button : recent_) {
     button->setIcon(PaletteIcon(QStringLiteral("Grades"), palette()));
-    button->setIconSize(QSize(24, 24));
   }
 }
 

@@ -40,8 +40,9 @@ void ToolbarView::AddButton(const ToolButton& button) {
   QAction* action = addAction(FromText(button.tip));
   action->setObjectName(key);
   action->setStatusTip(FromText(button.tip));
-  connect(action, &QAction::triggered, this, [this, key] { Q_EMIT Pressed(key); },
-          Qt::QueuedConnection);
+  connect(
+      action, &QAction::triggered, this, [this, key] { Q_EMIT Pressed(key); },
+      Qt::QueuedConnection);
   QWidget* widget = widgetForAction(action);
   widget->setAccessibleName(FromText(button.tip));
   widget->setFocusPolicy(Qt::TabFocus);
@@ -57,7 +58,8 @@ void ToolbarView::Sync() {
 
 void ToolbarView::FocusFirst() {
   for (QAction* action : actions_) {
-    if (action->isSeparator() || !action->isEnabled() || !widgetForAction(action)->isVisible()) continue;
+    if (action->isSeparator() || !action->isEnabled() || !widgetForAction(action)->isVisible())
+      continue;
     widgetForAction(action)->setFocus(Qt::TabFocusReason);
     return;
   }

@@ -11,6 +11,7 @@ namespace tallyroll {
 
 frmAdd::frmAdd() : StudentForm("frmAdd") {
   Caption = "Add Student Portal";
+  HelpContext = 250;
   PREVIOUS.Caption = "&Previous";
   nextt.Caption = "&Next";
   addclip.Caption = "&From Clipbd";

@@ -29,6 +29,7 @@ std::pair<std::size_t, std::size_t> SelectionOf(const TextBox& box) {
 
 frmEdit::frmEdit() : StudentForm("frmEdit") {
   Caption = "Edit Portal";
+  HelpContext = 260;
   copy.Caption = "Copy &To";
   paste.Caption = "Paste &From";
   PREVIOUS.Caption = "&Previous";
@@ -38,7 +39,7 @@ frmEdit::frmEdit() : StudentForm("frmEdit") {
 }
 
 void frmEdit::Declare(ControlTable& table) {
-  table.Add("List1", List1).Change([this] { List1_Change(); }).Click([this] { List1_Click(); });
+  table.Add("List1", List1).Change([this] { List1_Change(); });
   table.Add("TabStrip1", TabStrip1).Change([this] { TabStrip1_Change(); });
   DeclareFirstPage(table, "comment");
   table.Add("copy", copy).Click([this] { copy_Click(); });
@@ -86,20 +87,16 @@ bool frmEdit::StoreShown() {
 
 void frmEdit::MoveTo(int position) {
   if (!StoreShown()) return;
-  if (position >= 1 && position <= Current().NumStudents) Show(position);
+  if (position < 1 || position > Current().NumStudents) return;
+  Show(position);
+  if (at_comment_) FocusComment();
 }
 
 // The list already shows the line that was picked: it goes back when the shown student is refused.
 void frmEdit::List1_Change() {
   const int picked = List1.ListIndex + 1;
   if (picked != Position) MoveTo(picked);
-  just_picked_ = picked > 0 && picked == Position;
   List1.ListIndex = Position - 1;
-}
-
-// The pointer picks and goes on to the comment; arrow keys only pick, so that they can go on.
-void frmEdit::List1_Click() {
-  if (std::exchange(just_picked_, false) && at_comment_) FocusComment();
 }
 
 void frmEdit::FocusComment() {

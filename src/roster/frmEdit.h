@@ -21,7 +21,6 @@ struct frmEdit : StudentForm {
   CommandButton copy, paste, PREVIOUS, nextt, exit, cancel;
 
   void List1_Change();
-  void List1_Click();
   void TabStrip1_Change();
   void copy_Click();
   void paste_Click();
@@ -37,8 +36,6 @@ struct frmEdit : StudentForm {
   void FocusComment();
 
   bool at_comment_ = false;  // opened to write comments
-  bool just_picked_ =
-      false;  // a line was chosen, and the click that may have done it is yet to come
 };
 
 }  // namespace tallyroll

@@ -77,6 +77,7 @@ void LimitNames(TextBox& lastname, TextBox& firstname) {
 StudentForm::StudentForm(std::string_view name) : Portal(name) {
   TabStrip1.Tabs = {"Name and ID", "Supplementary", "Address"};
   ForEachOptional([this](const Edits& e) { (this->*e.box).MaxLength = kLongestText; });
+  FieldsAreFresh();
 }
 
 void StudentForm::DeclareFirstPage(ControlTable& table, std::string_view comment_name) {

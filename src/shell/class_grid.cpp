@@ -2,9 +2,9 @@
 // The grid of the class window: the whole roster and every mark.
 #include <algorithm>
 
-#include "base/number_text.h"
 #include "base/text.h"
 #include "shell/form1.h"
+#include "store/student_names.h"
 
 namespace tallyroll {
 namespace {
@@ -32,13 +32,6 @@ int RowsFor(const Class& c) {
 int ColsFor(const Class& c) {
   if (c.NumInstruments >= 8) return c.NumInstruments + kFixedCols;
   return NameMode == 73 ? 13 : 11;
-}
-
-std::string PlainName(const Student& student) {
-  std::string name(Trim(student.lastname));
-  name += ", ";
-  name += Trim(student.firstname);
-  return name;
 }
 
 void LayOut(Grid& grid, const Class& c) {
@@ -79,9 +72,8 @@ void FillStudent(Grid& grid, const Class& c, int i) {
   const Student& student = c.Students[static_cast<std::size_t>(i)];
   const int row = i + 1;
   const std::string id = std::string(Trim(student.id)) + " ";
-  const std::string name = PlainName(student);
-  grid.SetTextMatrix(row, 0, IdFirst() ? id : SignedNumberText(i) + " " + name);
-  grid.SetTextMatrix(row, 1, IdFirst() ? name : id);
+  grid.SetTextMatrix(row, 0, IdFirst() ? id : NumberedName(i, student));
+  grid.SetTextMatrix(row, 1, IdFirst() ? PlainName(student) : id);
   const int marks = std::min<int>(c.NumInstruments, UpperBound(student.Marks));
   for (int col = kFixedCols; col < grid.Cols(); ++col) {
     const int j = col - 1;

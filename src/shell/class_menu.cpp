@@ -5,15 +5,15 @@
 
 #include "platform/class_window.h"
 #include "platform/surroundings.h"
+#include "roster/frmEdit.h"
 #include "shell/shell_state.h"
+#include "store/frmpassword.h"
 
 namespace tallyroll {
 namespace {
 
 constexpr auto kRefill = AfterPortal::kRefill;
 constexpr auto kSaveIfDone = AfterPortal::kSaveIfDone;
-constexpr int kEditFields = 25;
-constexpr int kEditAtComment = 27;
 
 void NotYet(Form1& window) {
   window.ShowStatus(kPortalNotAvailable);
@@ -56,11 +56,11 @@ constexpr ClassMenuRow kRows[] = {
      .shortcut = "Ctrl+Shift+S", .action = [](Form1& window) { window.mnusaveas_Click(); }},
     {.level = 1, .name = "mnuPassword", .caption = "Pass&word"},
     {.level = 2, .name = "mnupassenter", .caption = "Ente&r  Password", .status = "Lock this class with a password",
-     .portal = "frmpassword", .open_state = 17, .after = kSaveIfDone},
+     .portal = "frmpassword", .open_state = kNewPassword, .after = kSaveIfDone},
     {.level = 2, .name = "mnupasschange", .caption = "&Change Password", .status = "Give this class another password",
-     .portal = "frmpassword", .open_state = 19, .after = kSaveIfDone},
+     .portal = "frmpassword", .open_state = kChangePassword, .after = kSaveIfDone},
     {.level = 2, .name = "mnupassdelete", .caption = "&Delete Password", .status = "Open this class without a password again",
-     .portal = "frmpassword", .open_state = 21, .after = kSaveIfDone},
+     .portal = "frmpassword", .open_state = kDeletePassword, .after = kSaveIfDone},
     {.level = 1, .name = "mnuclassinfo", .caption = "Class &Information", .status = "School, teacher, room and term of this class",
      .portal = "frmclassinfo"},
     {.level = 1},
@@ -103,7 +103,7 @@ constexpr ClassMenuRow kRows[] = {
     {.level = 1, .name = "mmucomment", .caption = "Add &Comment", .status = "Write a comment on a student",
      .portal = "frmEdit", .action = [](Form1& window) { EditStudent(window, kEditAtComment); }},
     {.level = 1, .name = "mnuEdit", .caption = "&Edit ", .status = "Edit names, IDs and supplementary information",
-     .shortcut = "Ctrl+E", .portal = "frmEdit", .action = [](Form1& window) { EditStudent(window, kEditFields); }},
+     .shortcut = "Ctrl+E", .portal = "frmEdit", .action = [](Form1& window) { EditStudent(window, kEditStudent); }},
     {.level = 1, .name = "mnuDelete", .caption = "&Delete Student", .status = "Take a student off the roster",
      .portal = "frmdelete", .after = kRefill},
 

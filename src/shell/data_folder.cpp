@@ -6,7 +6,6 @@
 #include <cerrno>
 #include <filesystem>
 
-#include "base/number_text.h"
 #include "base/run_time_error.h"
 #include "platform/surroundings.h"
 #include "store/program_state.h"
@@ -37,11 +36,6 @@ void MakeDataFolder() {
 
 int EnterDataFolder() {
   return chdir(DataFolder.c_str()) == 0 ? 0 : RunTimeErrorOf(errno);
-}
-
-void ReportFileError(int number) {
-  if (number == kErrorPathNotFound) DataFolder = ProgramFolder;
-  ShowMessage("File Error: " + PlainNumberText(number), BoxIcon::kExclamation);
 }
 
 }  // namespace tallyroll

@@ -11,7 +11,4 @@ void MakeDataFolder();
 // Makes DataFolder the working directory. 0, or a run-time error number.
 int EnterDataFolder();
 
-// "File Error: 76"; a path that is not there puts DataFolder back to the program's folder.
-void ReportFileError(int number);
-
 }  // namespace tallyroll

@@ -2,6 +2,7 @@
 // Which commands of the class window can be given: what a class lacks cannot be worked on.
 #include <initializer_list>
 
+#include "base/text.h"
 #include "shell/form1.h"
 
 namespace tallyroll {
@@ -33,7 +34,7 @@ void Enable(Form1& window, const Names& names, const Places& places, bool on) {
 }
 
 void EnablePasswordEntries(Form1& window, bool on) {
-  const bool locked = Current().PasswordSet == 1;
+  const bool locked = Current().PasswordSet == 1 || !Trim(Current().Password).empty();
   window.menu.Enable("mnupassdelete", locked && on);
   window.menu.Enable("mnupasschange", locked && on);
   window.menu.Enable("mnupassenter", !locked || !on);

@@ -8,12 +8,11 @@
 #include "shell/class_menu.h"
 #include "shell/class_toolbar.h"
 #include "shell/shell_state.h"
+#include "store/frmpassword.h"
 #include "store/sort_students.h"
 
 namespace tallyroll {
 namespace {
-
-constexpr int kPasswordDone = 50;  // frmpassword's answer
 
 // The portals of the methods 0 to 3 by their menu entries.
 std::string_view AverageEntry(i16 method) {
@@ -113,7 +112,7 @@ void Form1::ClickTool(std::string_view key) {
 void Form1::RunPortal(std::string_view portal, int open_state, AfterPortal after) {
   OpenState = open_state;
   ShowPortal(portal);
-  const bool done = OpenState == kPasswordDone;
+  const bool done = OpenState == kPasswordChanged;
   OpenState = 0;
   if (Tag.empty()) return;
   EnableClassMenus(true);

@@ -18,9 +18,9 @@ namespace tallyroll {
 // A place of Toolbar2. Places count from 1, as the enabling of the class menus counts them, and the
 // gap between file buttons and the others takes one.
 struct ToolButton {
-  std::string key;  // "New", "Open", ...: also the name of its icon; empty for a gap
-  std::string tip;  // what it does, for the pointer and for screen readers
-  std::function<void()> click;
+  std::string key = {};  // "New", "Open", ...: also the name of its icon; empty for a gap
+  std::string tip = {};  // what it does, for the pointer and for screen readers
+  std::function<void()> click = {};
   bool enabled = true;
 };
 

@@ -31,6 +31,7 @@ std::string Trimmed(const TextBox& box) {
 
 frmWizard::frmWizard() : Portal("frmWizard") {
   Caption = "Start a New Class Wizard";
+  HelpContext = 230;
   cmdBack.Caption = "< &Back";
   cmdNext.Caption = "&Next >";
   button_skip.Caption = "&Skip";

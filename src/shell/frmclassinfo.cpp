@@ -37,6 +37,7 @@ double DateOrToday(const std::string& text) {
 
 frmclassinfo::frmclassinfo() : Portal("frmclassinfo") {
   Caption = "Class Information Portal";
+  HelpContext = 240;
   exit.Caption = "E&xit";
   cancel.Caption = "&Cancel";
 }

@@ -5,8 +5,8 @@ namespace tallyroll {
 
 frmstartup::frmstartup() : Portal("frmstartup") {
   Caption = "Welcome to Tallyroll";
+  HelpContext = 150;
   program.Caption = "Tallyroll";
-  version.Caption = "Version " TALLYROLL_VERSION;
   greeting.Caption = "Good to see you. Your classes are ready when you are.";
   Command1.Caption = "C&ontinue";
 }
@@ -17,6 +17,10 @@ void frmstartup::Declare(ControlTable& table) {
   table.Add("version", version);
   table.Add("greeting", greeting);
   table.Add("Command1", Command1).Click([this] { Unload(); });
+}
+
+void frmstartup::Load() {
+  version.Caption = "Version " TALLYROLL_VERSION;
 }
 
 }  // namespace tallyroll

@@ -9,6 +9,7 @@ namespace tallyroll {
 struct frmstartup : Portal {
   frmstartup();
   void Declare(ControlTable& table) override;
+  void Load() override;
 
   PictureBox Picture1;
   Label program, version, greeting;

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // What a double click on the class grid does, and what the status bar says it would do.
+#include "roster/frmEdit.h"
 #include "shell/form1.h"
 
 namespace tallyroll {
@@ -39,7 +40,7 @@ void Form1::Grid1_DblClick() {
       return ClickMenu("mnuMarks");
     case Spot::kStudent:
       CurrentStudent = ItemOrNone(row - 1, Current().NumStudents);
-      return RunPortal("frmEdit", 25, AfterPortal::kRefill);
+      return RunPortal("frmEdit", kEditStudent, AfterPortal::kRefill);
     case Spot::kGrade:
       CurrentStudent = ItemOrNone(col - 1, Current().NumInstruments);
       return RunPortal("frmEmarks", 0, AfterPortal::kRefill);

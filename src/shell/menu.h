@@ -10,12 +10,12 @@
 namespace tallyroll {
 
 struct MenuEntry {
-  std::string name;      // "mnuOpen"; empty for a separator
-  std::string caption;   // "&Open..."
-  int level = 0;         // 0 stands in the bar, 1 in its menu, 2 and more in submenus
-  std::string shortcut;  // "Ctrl+O"; empty for none
-  std::string status;    // what the status bar tells while the entry is highlighted
-  std::function<void()> click;
+  std::string name = {};      // "mnuOpen"; empty for a separator
+  std::string caption = {};   // "&Open..."
+  int level = 0;              // 0 stands in the bar, 1 in its menu, 2 and more in submenus
+  std::string shortcut = {};  // "Ctrl+O"; empty for none
+  std::string status = {};    // what the status bar tells while the entry is highlighted
+  std::function<void()> click = {};
   bool enabled = true;
   bool checked = false;
   bool visible = true;

@@ -3,9 +3,9 @@
 #include <filesystem>
 #include <utility>
 
+#include "attendance/calendar.h"
 #include "base/code_page.h"
 #include "base/number_text.h"
-#include "base/run_time_error.h"
 #include "base/text.h"
 #include "platform/portal.h"
 #include "shell/data_folder.h"
@@ -82,7 +82,7 @@ void Form1::OpenByDialog() {
     Busy = true;
     const int error = EnterDataFolder();
     const auto path = error == 0 ? Platform().FileDialog(OpenRequest()) : std::nullopt;
-    if (error != 0) ReportFileError(error);
+    if (error != 0) ReportReadError(error);
     if (!path || path->empty()) {
       GiveSlotBack();
     } else if (readyopen(*path)) {
@@ -139,7 +139,9 @@ void Form1::ShowOpenedClass() {
   if (Current().NumStudents > 0) CheckNameMode();
   FileErrorCode = 0;
   if (Current().Magic == "ty8") return;
-  // What an older file held was rebuilt by the conversion; menus and grid follow it.
+  // The conversion left the range summaries to be counted, and menus and grid follow the older
+  // data.
+  RecalculateRangeSummaries();
   EnableClassMenus(true);
   Activate();
 }

@@ -3,6 +3,13 @@
 
 #include <array>
 
+#include "roster/frmAdd.h"
+#include "roster/frmEdit.h"
+#include "shell/frmWizard.h"
+#include "shell/frmclassinfo.h"
+#include "shell/frmstartup.h"
+#include "store/frmpassword.h"
+
 namespace tallyroll {
 namespace {
 
@@ -11,17 +18,42 @@ struct PortalRow {
   std::unique_ptr<Portal> (*make)() = nullptr;  // null while the Portal is not built
 };
 
+template <typename P>
+std::unique_ptr<Portal> Make() {
+  return std::make_unique<P>();
+}
+
 constexpr std::array kPortals{
-    PortalRow{"frmpassword"}, PortalRow{"frmWizard"},     PortalRow{"frmclassinfo"},
-    PortalRow{"frmAdd"},      PortalRow{"frmEdit"},       PortalRow{"frmstartup"},
-    PortalRow{"frmdelete"},   PortalRow{"frmMarks"},      PortalRow{"frmAtt"},
-    PortalRow{"frmAtsum"},    PortalRow{"frmdGrade"},     PortalRow{"frmEmarks"},
-    PortalRow{"frmEMarksS"},  PortalRow{"frmcategories"}, PortalRow{"frmletter"},
-    PortalRow{"frmEatt"},     PortalRow{"frmDatt"},       PortalRow{"frmsingles"},
-    PortalRow{"frminfo"},     PortalRow{"FRMROLLBOOK"},   PortalRow{"frmMgrade"},
-    PortalRow{"frmweights"},  PortalRow{"frmpercents"},   PortalRow{"frmpoints"},
-    PortalRow{"frmoptions"},  PortalRow{"frmprintall"},   PortalRow{"frmstatistic"},
-    PortalRow{"frmgraph"},    PortalRow{"frmwrdproc"},    PortalRow{"frmseating"},
+    PortalRow{"frmpassword", Make<frmpassword>},
+    PortalRow{"frmWizard", Make<frmWizard>},
+    PortalRow{"frmclassinfo", Make<frmclassinfo>},
+    PortalRow{"frmAdd", Make<frmAdd>},
+    PortalRow{"frmEdit", Make<frmEdit>},
+    PortalRow{"frmstartup", Make<frmstartup>},
+    PortalRow{"frmdelete"},
+    PortalRow{"frmMarks"},
+    PortalRow{"frmAtt"},
+    PortalRow{"frmAtsum"},
+    PortalRow{"frmdGrade"},
+    PortalRow{"frmEmarks"},
+    PortalRow{"frmEMarksS"},
+    PortalRow{"frmcategories"},
+    PortalRow{"frmletter"},
+    PortalRow{"frmEatt"},
+    PortalRow{"frmDatt"},
+    PortalRow{"frmsingles"},
+    PortalRow{"frminfo"},
+    PortalRow{"FRMROLLBOOK"},
+    PortalRow{"frmMgrade"},
+    PortalRow{"frmweights"},
+    PortalRow{"frmpercents"},
+    PortalRow{"frmpoints"},
+    PortalRow{"frmoptions"},
+    PortalRow{"frmprintall"},
+    PortalRow{"frmstatistic"},
+    PortalRow{"frmgraph"},
+    PortalRow{"frmwrdproc"},
+    PortalRow{"frmseating"},
     PortalRow{"frmtxt"},
 };
 

@@ -46,9 +46,7 @@ std::string Form1::setsave() {
   }
 }
 
-// The number of an earlier failure must not stand for this attempt.
 bool Form1::Save() {
-  FileErrorCode = 0;
   WriteClassFile();
   if (FileErrorCode != 0) return false;
   Current().Changed = kFalse;

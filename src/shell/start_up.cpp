@@ -7,6 +7,7 @@
 #include "shell/data_folder.h"
 #include "shell/mdi_form1.h"
 #include "shell/shell_state.h"
+#include "store/class_file.h"
 #include "store/settings.h"
 
 namespace tallyroll {
@@ -26,7 +27,7 @@ void GoToDataFolder() {
   if (DataFolder.empty()) MakeDataFolder();
   const int error = EnterDataFolder();
   if (error == 0) return;
-  ReportFileError(error);
+  ReportReadError(error);
   EnterDataFolder();
 }
 

@@ -24,6 +24,7 @@ void EnablePasswordEntries(bool has_password) {
 
 frmpassword::frmpassword() : Portal("frmpassword") {
   Caption = "Password Window";
+  HelpContext = 270;
   okbt.Caption = "&OK";
   cancelbt.Caption = "&Cancel";
   for (TextBox& box : textcontrol) box.MaxLength = kLongestPassword;

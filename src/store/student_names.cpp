@@ -16,7 +16,7 @@ std::string NumberedName(int number, const Student& student) {
 }
 
 std::string StudentListLine(const Student& student) {
-  const std::string id(Trim(student.id));
+  std::string id(Trim(student.id));
   switch (NameMode) {
     case 57:
       return PlainName(student);

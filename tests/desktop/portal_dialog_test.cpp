@@ -22,7 +22,7 @@ TEST_F(EverythingTest, CaptionsThatTheStructLeavesEmptyAreTheForms) {
   EXPECT_EQ(portal.Caption, "Every control");
   EXPECT_EQ(portal.note.Caption, "A note");
   EXPECT_EQ(portal.choice.Caption, "Choice");
-  EXPECT_EQ(portal.tick.Caption, "Tic&k");
+  EXPECT_EQ(portal.tick.Caption, "&Tick");
   EXPECT_EQ(portal.two.Caption, "T&wo");
   EXPECT_EQ(portal.tabs.Tabs, (Lines{"Tab 1", "Tab 2"}));
   EXPECT_EQ(Find<QPushButton>("ok").text(), QStringLiteral("&Go"));

@@ -1,0 +1,134 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The class grid of 1,000 students and 300 grades beside a bare QTableView on a trivial model of
+// the same texts: filling and first paint, and a repaint while scrolling.
+#include <benchmark/benchmark.h>
+
+#include <QAbstractTableModel>
+#include <QApplication>
+#include <QScrollBar>
+#include <QTableView>
+#include <memory>
+
+#include "bench/big_class.h"
+#include "desktop/grid_widget.h"
+#include "desktop/text_conversion.h"
+#include "platform/headless.h"
+#include "shell/program.h"
+#include "shell/shell_state.h"
+#include "store/program_state.h"
+
+namespace tallyroll {
+namespace {
+
+constexpr int kStudents = 1000;
+constexpr int kGrades = 300;
+const QSize kWindow(1200, 800);
+
+// The class window's grid with its class, without the window around it.
+struct OpenClass {
+  OpenClass() {
+    ResetProgram();
+    SetPlatform(&screen);
+    CurrentClass = 1;
+    Current() = BigClass(kStudents, kGrades, 0);
+    Current().SlotState = 10;
+    window.Tag = "1";
+    window.SlotIndex = 1;
+  }
+  ~OpenClass() { SetPlatform(nullptr); }
+
+  HeadlessSurroundings screen;
+  Form1 window;
+};
+
+class Texts : public QAbstractTableModel {
+ public:
+  explicit Texts(const Grid& grid) {
+    for (int row = 0; row < grid.Rows(); ++row) {
+      QStringList line;
+      for (int col = 0; col < grid.Cols(); ++col) line << FromText(grid.TextMatrix(row, col));
+      rows_ << line;
+    }
+  }
+  int rowCount(const QModelIndex&) const override { return static_cast<int>(rows_.size()); }
+  int columnCount(const QModelIndex&) const override { return static_cast<int>(rows_[0].size()); }
+  QVariant data(const QModelIndex& at, int role) const override {
+    return role == Qt::DisplayRole ? QVariant(rows_[at.row()][at.column()]) : QVariant();
+  }
+
+ private:
+  QList<QStringList> rows_;
+};
+
+void PaintNow(QAbstractScrollArea& area) { area.viewport()->repaint(); }
+
+void ScrollOn(benchmark::State& state, QAbstractScrollArea& area, QScrollBar& bar, int step) {
+  area.resize(kWindow);
+  area.show();
+  QApplication::processEvents();
+  for (auto _ : state) {
+    bar.setValue(bar.value() + step > bar.maximum() ? bar.minimum() : bar.value() + step);
+    PaintNow(area);
+  }
+}
+
+void FirstPaintOfTableView(benchmark::State& state) {
+  OpenClass open;
+  open.window.showform3();
+  for (auto _ : state) {
+    Texts texts(open.window.Grid1);
+    QTableView view;
+    view.setModel(&texts);
+    view.resize(kWindow);
+    view.show();
+    PaintNow(view);
+  }
+}
+BENCHMARK(FirstPaintOfTableView)->Unit(benchmark::kMillisecond)->UseRealTime();
+
+void FirstPaintOfClassGrid(benchmark::State& state) {
+  OpenClass open;
+  for (auto _ : state) {
+    open.window.showform3();
+    GridWidget widget;
+    widget.SetGrid(&open.window.Grid1);
+    widget.resize(kWindow);
+    widget.show();
+    PaintNow(widget);
+    state.PauseTiming();
+    open.window.Grid1.SetSize(0, 0);
+    widget.SetGrid(nullptr);
+    state.ResumeTiming();
+  }
+}
+BENCHMARK(FirstPaintOfClassGrid)->Unit(benchmark::kMillisecond)->UseRealTime();
+
+void ScrollTableView(benchmark::State& state) {
+  OpenClass open;
+  open.window.showform3();
+  Texts texts(open.window.Grid1);
+  QTableView view;
+  view.setModel(&texts);
+  ScrollOn(state, view, *view.verticalScrollBar(), static_cast<int>(state.range(0)));
+}
+BENCHMARK(ScrollTableView)->Arg(1)->Arg(20)->Unit(benchmark::kMillisecond)->UseRealTime();
+
+void ScrollClassGrid(benchmark::State& state) {
+  OpenClass open;
+  open.window.showform3();
+  GridWidget widget;
+  widget.SetGrid(&open.window.Grid1);
+  ScrollOn(state, widget, *widget.verticalScrollBar(), static_cast<int>(state.range(0)));
+}
+BENCHMARK(ScrollClassGrid)->Arg(1)->Arg(20)->Unit(benchmark::kMillisecond)->UseRealTime();
+
+}  // namespace
+}  // namespace tallyroll
+
+int main(int argc, char** argv) {
+  QApplication application(argc, argv);
+  QApplication::setStyle("Fusion");
+  benchmark::Initialize(&argc, argv);
+  benchmark::RunSpecifiedBenchmarks();
+  return 0;
+}

@@ -1,0 +1,163 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The help window and its pages.
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <QDialog>
+#include <QDir>
+#include <QFile>
+#include <QLineEdit>
+#include <QRegularExpression>
+#include <QSignalSpy>
+#include <QStatusBar>
+#include <QTest>
+#include <QTextBrowser>
+#include <QTimer>
+#include <set>
+
+#include "desktop/help_topics.h"
+#include "desktop/help_window.h"
+
+namespace tallyroll {
+namespace {
+
+QString PageText(const QString& name) {
+  QFile file(QStringLiteral(":/help/") + name);
+  return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
+}
+
+std::vector<QString> LinksOf(const QString& page) {
+  static const QRegularExpression kLink(QStringLiteral("href=\"([^\"]*)\""));
+  std::vector<QString> links;
+  for (const auto& match : kLink.globalMatch(page)) links.push_back(match.captured(1));
+  return links;
+}
+
+TEST(HelpPages, EveryContextHasAPageWithATitle) {
+  for (int context : HelpContexts()) {
+    const QString page = PageText(HelpPage(context).fileName());
+    EXPECT_TRUE(page.contains(QStringLiteral("<h1>"))) << context;
+  }
+}
+
+TEST(HelpPages, OpeningAndSavingHaveTheContextsOfTheirDialogs) {
+  EXPECT_TRUE(PageText(HelpPage(110).fileName()).contains(QStringLiteral("Opening a class")));
+  EXPECT_TRUE(PageText(HelpPage(120).fileName()).contains(QStringLiteral("Saving a class")));
+}
+
+TEST(HelpPages, AnUnknownContextLeadsToTheContents) {
+  EXPECT_EQ(HelpPage(99999), HelpPage(0));
+  EXPECT_EQ(HelpPage(-1), HelpPage(0));
+}
+
+TEST(HelpPages, EveryLinkLeadsSomewhere) {
+  int links = 0;
+  for (int context : HelpContexts()) {
+    for (const QString& link : LinksOf(PageText(HelpPage(context).fileName()))) {
+      EXPECT_TRUE(QFile::exists(QStringLiteral(":/help/") + link))
+          << context << ": " << link.toStdString();
+      ++links;
+    }
+  }
+  EXPECT_GT(links, 0);
+}
+
+TEST(HelpPages, EveryPageIsReachedFromTheContents) {
+  const QString contents = PageText(HelpPage(0).fileName());
+  for (int context : HelpContexts()) {
+    if (context == 0) continue;
+    EXPECT_TRUE(contents.contains(HelpPage(context).fileName())) << context;
+  }
+}
+
+TEST(HelpPages, NoPageIsLeftWithoutAContext) {
+  std::set<QString> known;
+  for (int context : HelpContexts()) known.insert(HelpPage(context).fileName());
+  const QStringList pages = QDir(QStringLiteral(":/help")).entryList({QStringLiteral("*.html")});
+  EXPECT_EQ(std::set<QString>(pages.begin(), pages.end()), known);
+}
+
+TEST(HelpPages, HaveNoScripts) {
+  for (int context : HelpContexts()) {
+    EXPECT_FALSE(PageText(HelpPage(context).fileName()).contains(QStringLiteral("<script")));
+  }
+}
+
+class HelpWindowTest : public testing::Test {
+ protected:
+  QAction* Action(const char* text) {
+    for (QAction* action : help.findChildren<QAction*>()) {
+      if (action->text() == QString::fromLatin1(text)) return action;
+    }
+    ADD_FAILURE() << "no action " << text;
+    return new QAction(&help);
+  }
+  QString Shown() const { return help.browser()->source().fileName(); }
+
+  HelpWindow help{nullptr};
+};
+
+TEST_F(HelpWindowTest, ShowsThePageOfAContext) {
+  help.ShowTopic(110);
+  EXPECT_TRUE(help.browser()->toPlainText().startsWith(QStringLiteral("Opening a class")));
+}
+
+TEST_F(HelpWindowTest, GoesBackForwardAndToTheContents) {
+  help.ShowTopic(0);
+  EXPECT_FALSE(Action("Back")->isEnabled());
+  help.ShowTopic(110);
+  Action("Back")->trigger();
+  EXPECT_EQ(Shown(), QStringLiteral("topic_0.html"));
+  Action("Forward")->trigger();
+  EXPECT_EQ(Shown(), QStringLiteral("topic_110.html"));
+  EXPECT_FALSE(Action("Forward")->isEnabled());
+  Action("Contents")->trigger();
+  EXPECT_EQ(Shown(), QStringLiteral("topic_0.html"));
+}
+
+TEST_F(HelpWindowTest, FollowsALink) {
+  help.ShowTopic(0);
+  help.browser()->setSource(QUrl(QStringLiteral("topic_230.html")));
+  EXPECT_TRUE(help.browser()->toPlainText().contains(QStringLiteral("wizard")));
+}
+
+TEST_F(HelpWindowTest, FindsWordsAndBeginsAgainAtTheTop) {
+  help.ShowTopic(110);
+  auto* find = help.findChild<QLineEdit*>(QStringLiteral("find"));
+  find->setText(QStringLiteral("recent classes"));
+  EXPECT_TRUE(help.FindNext());
+  const int first = help.browser()->textCursor().position();
+  EXPECT_EQ(help.browser()->textCursor().selectedText(), QStringLiteral("recent classes"));
+  EXPECT_TRUE(help.FindNext());  // the page has it once
+  EXPECT_EQ(help.browser()->textCursor().position(), first);
+}
+
+TEST_F(HelpWindowTest, SaysWhenWordsAreNotThere) {
+  help.ShowTopic(110);
+  help.findChild<QLineEdit*>(QStringLiteral("find"))->setText(QStringLiteral("zebra"));
+  EXPECT_FALSE(help.FindNext());
+  EXPECT_EQ(help.statusBar()->currentMessage(), QStringLiteral("\"zebra\" is not on this page."));
+}
+
+TEST(HelpOnTop, KeepsOneWindowForTheFrame) {
+  QWidget frame;
+  ShowHelpTopic(&frame, 110);
+  ShowHelpTopic(&frame, 120);
+  ASSERT_EQ(frame.findChildren<HelpWindow*>().size(), 1);
+  EXPECT_EQ(frame.findChild<HelpWindow*>()->browser()->source(), HelpPage(120));
+}
+
+TEST(HelpOnTop, BelongsToThePortalThatAskedForIt) {
+  QWidget frame;
+  QDialog portal;
+  QTimer::singleShot(0, &portal, [&] {
+    ShowHelpTopic(&frame, 110);
+    EXPECT_NE(portal.findChild<HelpWindow*>(), nullptr);
+    portal.reject();
+  });
+  portal.exec();
+  EXPECT_EQ(frame.findChild<HelpWindow*>(), nullptr);
+}
+
+}  // namespace
+}  // namespace tallyroll

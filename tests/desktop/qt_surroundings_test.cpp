@@ -1,0 +1,156 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "desktop/qt_surroundings.h"
+
+#include <gtest/gtest.h>
+
+#include <QApplication>
+#include <QClipboard>
+#include <QFileDialog>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QTemporaryDir>
+#include <QTest>
+#include <QTimer>
+
+#include "desktop/open_save_dialog.h"
+#include "desktop/text_conversion.h"
+
+namespace tallyroll {
+namespace {
+
+// Does something with the window that comes up in front.
+template <typename W>
+void WithNextWindow(std::function<void(W&)> act) {
+  QTimer::singleShot(0, qApp, [act] {
+    auto* window = qobject_cast<W*>(QApplication::activeModalWidget());
+    ASSERT_NE(window, nullptr);
+    act(*window);
+  });
+}
+
+class QtSurroundingsTest : public testing::Test {
+ protected:
+  BoxAnswer AnswerTo(BoxButtons buttons, bool second, int key) {
+    MessageRequest request;
+    request.text = "Really?";
+    request.buttons = buttons;
+    request.second_is_default = second;
+    WithNextWindow<QMessageBox>([key](QMessageBox& box) {
+      QTest::keyClick(&box, static_cast<Qt::Key>(key));
+      if (box.isVisible()) box.button(QMessageBox::Yes)->click();
+    });
+    return surroundings.MessageBox(request);
+  }
+
+  QtSurroundings surroundings;
+};
+
+TEST_F(QtSurroundingsTest, ABoxShowsItsTextAsItStands) {
+  MessageRequest request;
+  request.text = "<b>Smith</b>\r\nsecond line";
+  request.title = "Note";
+  request.icon = BoxIcon::kExclamation;
+  WithNextWindow<QMessageBox>([](QMessageBox& box) {
+    EXPECT_EQ(box.text(), QStringLiteral("<b>Smith</b>\nsecond line"));
+    EXPECT_EQ(box.textFormat(), Qt::PlainText);
+    EXPECT_EQ(box.windowTitle(), QStringLiteral("Note"));
+    EXPECT_EQ(box.icon(), QMessageBox::Warning);
+    EXPECT_EQ(box.standardButtons(), QMessageBox::Ok);
+    box.accept();
+  });
+  EXPECT_EQ(surroundings.MessageBox(request), BoxAnswer::kOk);
+}
+
+TEST_F(QtSurroundingsTest, EnterPressesTheDefaultOfABox) {
+  EXPECT_EQ(AnswerTo(BoxButtons::kYesNo, false, Qt::Key_Return), BoxAnswer::kYes);
+  EXPECT_EQ(AnswerTo(BoxButtons::kYesNo, true, Qt::Key_Return), BoxAnswer::kNo);
+  EXPECT_EQ(AnswerTo(BoxButtons::kOkCancel, true, Qt::Key_Return), BoxAnswer::kCancel);
+}
+
+TEST_F(QtSurroundingsTest, EscapeIsCancelWhereThereIsOne) {
+  EXPECT_EQ(AnswerTo(BoxButtons::kOkCancel, false, Qt::Key_Escape), BoxAnswer::kCancel);
+  EXPECT_EQ(AnswerTo(BoxButtons::kYesNoCancel, false, Qt::Key_Escape), BoxAnswer::kCancel);
+  EXPECT_EQ(AnswerTo(BoxButtons::kOk, false, Qt::Key_Escape), BoxAnswer::kOk);
+}
+
+TEST_F(QtSurroundingsTest, EscapeDoesNotAnswerYesOrNo) {
+  // The box is still there after Escape, and Yes is pressed.
+  EXPECT_EQ(AnswerTo(BoxButtons::kYesNo, true, Qt::Key_Escape), BoxAnswer::kYes);
+}
+
+TEST_F(QtSurroundingsTest, SettingsComeBackAndSectionsHaveNoCase) {
+  EXPECT_EQ(surroundings.ReadSetting("TALLYRLG8", "startup", "FONT", "Times"), "Times");
+  surroundings.WriteSetting("TALLYRLG8", "startup", "FONT", "Caf\xE9, \"x\"=;1");
+  EXPECT_EQ(surroundings.ReadSetting("TALLYRLG8", "Startup", "FONT", ""), "Caf\xE9, \"x\"=;1");
+  EXPECT_EQ(surroundings.ReadSetting("TALLYRLW6", "startup", "FONT", "none"), "none");
+}
+
+TEST_F(QtSurroundingsTest, AnEmptySettingIsNotAMissingOne) {
+  surroundings.WriteSetting("TALLYRLG8", "FileUsed", "File0", "");
+  EXPECT_EQ(surroundings.ReadSetting("TALLYRLG8", "FileUsed", "File0", "default"), "");
+}
+
+TEST_F(QtSurroundingsTest, ASettingThatLooksLikeAListComesBackWhole) {
+  surroundings.WriteSetting("TALLYRLG8", "startup", "LetterString", "100'90, 80'");
+  EXPECT_EQ(surroundings.ReadSetting("TALLYRLG8", "startup", "LetterString", ""), "100'90, 80'");
+}
+
+TEST_F(QtSurroundingsTest, TheClipboardEndsLinesWithTwoBytes) {
+  surroundings.SetClipboardText("a\tb\r\nc");
+  EXPECT_EQ(QApplication::clipboard()->text(), QStringLiteral("a\tb\nc"));
+  EXPECT_EQ(surroundings.ClipboardText(), "a\tb\r\nc");
+}
+
+TEST_F(QtSurroundingsTest, AClipboardThatCannotBeKeptIsRefusedWhole) {
+  QApplication::clipboard()->setText(QStringLiteral(u"90\n\u4E2D"));
+  EXPECT_EQ(surroundings.ClipboardText(), "");
+}
+
+TEST_F(QtSurroundingsTest, RandomLiesFromNoneUpToOne) {
+  const double first = surroundings.Random(), second = surroundings.Random();
+  EXPECT_GE(first, 0);
+  EXPECT_LT(first, 1);
+  EXPECT_NE(first, second);
+}
+
+TEST_F(QtSurroundingsTest, HelpGoesToTheFrame) {
+  int shown = 0;
+  surroundings.help_hook = [&shown](int context) { shown = context; };
+  surroundings.ShowHelp(152);
+  EXPECT_EQ(shown, 152);
+}
+
+TEST_F(QtSurroundingsTest, TheProfileFolderHasNoFinalSlash) {
+  EXPECT_TRUE(surroundings.ProfileFolder().ends_with("/Tallyroll"));
+}
+
+TEST(FileFilters, PatternsMatchBothCases) {
+  EXPECT_EQ(FiltersOf(QStringLiteral("Data Files (*.tyr)|*.TYR")),
+            QStringList(QStringLiteral("Data Files (*.tyr *.TYR)")));
+  EXPECT_EQ(FiltersOf(QStringLiteral("Text (*.txt)|*.txt;*.csv|All Files|*.*")),
+            QStringList({QStringLiteral("Text (*.txt *.TXT *.csv *.CSV)"),
+                         QStringLiteral("All Files (*.*)")}));
+  EXPECT_EQ(FiltersOf(QString()), QStringList());
+}
+
+TEST_F(QtSurroundingsTest, ANameWithoutAnExtensionGetsTheDefaultOne) {
+  const QTemporaryDir folder;
+  FileDialogRequest request;
+  request.save = true;
+  request.folder = ToPath(folder.path());
+  request.filter = "Data Files (*.tyr)|*.TYR";
+  request.default_extension = "TYR";
+  WithNextWindow<QFileDialog>([](QFileDialog& dialog) {
+    dialog.selectFile(QStringLiteral("class"));
+    QMetaObject::invokeMethod(&dialog, "accept");
+  });
+  EXPECT_EQ(surroundings.FileDialog(request), ToPath(folder.path()) + "/class.TYR");
+}
+
+TEST_F(QtSurroundingsTest, CancellingTheDialogGivesNoPath) {
+  WithNextWindow<QFileDialog>([](QFileDialog& dialog) { dialog.reject(); });
+  EXPECT_EQ(surroundings.FileDialog({}), std::nullopt);
+}
+
+}  // namespace
+}  // namespace tallyroll

@@ -1,0 +1,91 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// What the frame shows while no class is open.
+#include "desktop/start_page.h"
+
+#include <gtest/gtest.h>
+
+#include <QCommandLinkButton>
+#include <QLabel>
+#include <QSignalSpy>
+#include <QTest>
+
+#include "store/settings.h"
+#include "tests/desktop/frame_fixture.h"
+
+namespace tallyroll {
+namespace {
+
+class StartPageTest : public FrameTest {
+ protected:
+  StartPage* page() const { return window->findChild<StartPage*>(); }
+  QCommandLinkButton* Button(const char* entry) const {
+    return page()->findChild<QCommandLinkButton*>(QString::fromLatin1(entry));
+  }
+};
+
+TEST_F(StartPageTest, IsThereWhileNoClassIsOpen) {
+  EXPECT_TRUE(page()->isVisible());
+  Form1& form = OpenClass("MATH.TYR");
+  EXPECT_FALSE(page()->isVisible());
+  EXPECT_TRUE(Frame->CloseWindow(form));
+  Settle();
+  EXPECT_TRUE(page()->isVisible());
+}
+
+TEST_F(StartPageTest, EachWayToBeginPressesItsMenuEntry) {
+  QSignalSpy pressed(page(), &StartPage::Pressed);
+  RecordPortals();
+  DataFolder = folder;
+  Button("mnuwizard")->click();
+  Settle();
+  Button("mnuown")->click();
+  Settle();
+  EXPECT_EQ(portals_asked_for, (std::vector<std::string>{"frmWizard", "frmAdd"}));
+  screen.ExpectFileDialog(std::nullopt);
+  Button("mnuOpen")->click();
+  Settle();
+  EXPECT_EQ(screen.file_dialogs.size(), 1U);
+  EXPECT_EQ(pressed.count(), 3);
+}
+
+TEST_F(StartPageTest, ListsRecentClassesByNameAndFolder) {
+  RecentFiles[0] = Path("MATH & MORE.TYR");
+  Frame->RebuildRecentMenu();
+  window->Sync();
+  EXPECT_TRUE(Button("mnuFileList0")->isVisible());
+  EXPECT_EQ(Button("mnuFileList0")->text(), QStringLiteral("MATH && MORE.TYR"));
+  EXPECT_EQ(Button("mnuFileList0")->description().toStdString(), folder + "/");
+  EXPECT_EQ(Button("mnuFileList0")->accessibleName().toStdString(), Path("MATH & MORE.TYR"));
+  EXPECT_FALSE(Button("mnuFileList1")->isVisible());
+}
+
+TEST_F(StartPageTest, OpensARecentClass) {
+  RecentFiles[0] = WriteClass("MATH.TYR");
+  Frame->RebuildRecentMenu();
+  window->Sync();
+  Button("mnuFileList0")->click();
+  Settle();
+  ASSERT_NE(ClassWindows[1], nullptr);
+  EXPECT_EQ(ClassWindows[1]->Caption, "MATH.TYR");
+}
+
+TEST_F(StartPageTest, CanBeWorkedByKeyboard) {
+  window->activateWindow();
+  Settle();
+  for (const QCommandLinkButton* button : page()->findChildren<QCommandLinkButton*>()) {
+    EXPECT_TRUE(button->focusPolicy() & Qt::TabFocus) << button->objectName().toStdString();
+  }
+  EXPECT_EQ(window->focusWidget(), Button("mnuwizard"));
+}
+
+TEST_F(StartPageTest, ShowsWhereTheKeyboardIs) {
+  window->activateWindow();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(window.get()));
+  Button("mnuOpen")->setFocus();
+  const QImage with_focus = Button("mnuOpen")->grab().toImage();
+  Button("mnuown")->setFocus();
+  EXPECT_NE(Button("mnuOpen")->grab().toImage(), with_focus);
+}
+
+}  // namespace
+}  // namespace tallyroll

@@ -1,0 +1,118 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The toolbar of a class window, and its icons.
+#include <gtest/gtest.h>
+
+#include <QFile>
+#include <QIcon>
+#include <QSignalSpy>
+#include <QSvgRenderer>
+#include <QToolButton>
+
+#include "desktop/appearance.h"
+#include "desktop/toolbar_view.h"
+#include "tests/desktop/frame_fixture.h"
+
+namespace tallyroll {
+namespace {
+
+class ToolbarTest : public testing::Test {
+ protected:
+  QAction* Action(const char* key) { return view.findChild<QAction*>(QString::fromLatin1(key)); }
+  QToolButton* Button(const char* key) {
+    return qobject_cast<QToolButton*>(view.widgetForAction(Action(key)));
+  }
+
+  std::vector<ToolButton> buttons = {
+      {"New", "New Class"}, {"Save", "Save this Class"}, {}, {"Help", "Help"}};
+  ToolbarView view{buttons, nullptr};
+};
+
+TEST_F(ToolbarTest, ShowsEachButtonWithItsTipAndName) {
+  ASSERT_NE(Button("Save"), nullptr);
+  EXPECT_EQ(Button("Save")->toolTip(), QStringLiteral("Save this Class"));
+  EXPECT_EQ(Button("Save")->accessibleName(), QStringLiteral("Save this Class"));
+  EXPECT_FALSE(Button("Save")->icon().isNull());
+  EXPECT_EQ(view.actions().size(), 4);
+  EXPECT_TRUE(view.actions()[2]->isSeparator());
+}
+
+TEST_F(ToolbarTest, FollowsWhatIsEnabled) {
+  buttons[1].enabled = false;
+  EXPECT_TRUE(Button("Save")->isEnabled());
+  view.Sync();
+  EXPECT_FALSE(Button("Save")->isEnabled());
+  EXPECT_TRUE(Button("Help")->isEnabled());
+  buttons[1].enabled = true;
+  view.Sync();
+  EXPECT_TRUE(Button("Save")->isEnabled());
+}
+
+TEST_F(ToolbarTest, TellsWhichButtonWasPressed) {
+  QSignalSpy pressed(&view, &ToolbarView::Pressed);
+  Button("Help")->click();
+  EXPECT_EQ(pressed.count(), 0);
+  Settle();
+  ASSERT_EQ(pressed.count(), 1);
+  EXPECT_EQ(pressed[0][0].toString(), QStringLiteral("Help"));
+}
+
+TEST_F(ToolbarTest, ButtonsTakeTheFocusByKey) {
+  view.show();
+  buttons[0].enabled = false;
+  view.Sync();
+  view.FocusFirst();
+  EXPECT_EQ(view.focusWidget(), Button("Save"));
+}
+
+TEST_F(ToolbarTest, DrawsItsIconsAnewForAnotherPalette) {
+  const QImage light = Button("Save")->icon().pixmap(24).toImage();
+  view.setPalette(DarkPalette());
+  EXPECT_NE(Button("Save")->icon().pixmap(24).toImage(), light);
+}
+
+// The mean lightness of what is drawn, 0 to 255.
+int Lightness(const QPixmap& pixmap) {
+  const QImage image = pixmap.toImage().convertToFormat(QImage::Format_ARGB32);
+  int sum = 0, count = 0;
+  for (int y = 0; y < image.height(); ++y) {
+    for (int x = 0; x < image.width(); ++x) {
+      const QColor colour = image.pixelColor(x, y);
+      if (colour.alpha() < 200) continue;
+      sum += colour.lightness();
+      ++count;
+    }
+  }
+  return count > 0 ? sum / count : -1;
+}
+
+TEST_F(FrameTest, EveryButtonHasAnIconThatCanBeSeenInLightAndDark) {
+  const Form1 form;
+  int icons = 0;
+  for (const ToolButton& button : form.Toolbar2) {
+    if (button.key.empty()) continue;
+    SCOPED_TRACE(button.key);
+    const QString key = QString::fromStdString(button.key);
+    EXPECT_TRUE(QSvgRenderer(QStringLiteral(":/icons/%1.svg").arg(key)).isValid());
+    const QPalette light(Qt::black, Qt::white);
+    const int on_light = Lightness(PaletteIcon(key, light).pixmap(48));
+    const int on_dark = Lightness(PaletteIcon(key, DarkPalette()).pixmap(48));
+    EXPECT_GE(on_light, 0);
+    EXPECT_LT(on_light, 128);
+    EXPECT_GT(on_dark, 170);
+    const int off = Lightness(PaletteIcon(key, DarkPalette()).pixmap(48, 48, QIcon::Disabled));
+    EXPECT_LT(off, on_dark - 30);
+    ++icons;
+  }
+  EXPECT_EQ(icons, 15);
+}
+
+TEST(PaletteIcon, IsEmptyForANameWithoutAnIcon) {
+  EXPECT_TRUE(PaletteIcon(QStringLiteral("NoSuchButton"), QPalette()).isNull());
+}
+
+TEST(ProgramIcon, TravelsInsideTheProgram) {
+  EXPECT_TRUE(QSvgRenderer(QStringLiteral(":/icons/tallyroll.svg")).isValid());
+}
+
+}  // namespace
+}  // namespace tallyroll

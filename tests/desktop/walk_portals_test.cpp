@@ -1,0 +1,59 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// Walks every Portal of the list, and every form.
+#include <gtest/gtest.h>
+
+#include <QDir>
+
+#include "desktop/form_loader.h"
+#include "desktop/text_conversion.h"
+#include "shell/portal_list.h"
+#include "tests/desktop/everything_portal.h"
+#include "tests/desktop/form_checks.h"
+
+namespace tallyroll {
+namespace {
+
+TEST(WalkPortals, EveryPortalFitsItsForm) {
+  HeadlessSurroundings surroundings;
+  SetPlatform(&surroundings);
+  for (const std::string_view name : PortalNames()) {
+    const std::unique_ptr<Portal> portal = MakePortalByName(name);
+    ASSERT_NE(portal, nullptr) << name;
+    EXPECT_EQ(portal->Name(), name);
+    EXPECT_EQ(CheckPortalForm(*portal, FormFile(name)).join(u'\n').toStdString(), "") << name;
+  }
+  SetPlatform(nullptr);
+}
+
+TEST(WalkPortals, EveryFormBelongsToAPortal) {
+  QStringList known;
+  for (const std::string_view name : PortalNames()) known << FromText(name) + QStringLiteral(".ui");
+  for (const std::string_view name : MissingPortals())
+    known << FromText(name) + QStringLiteral(".ui");
+  for (const QString& file : QDir(QStringLiteral(":/forms")).entryList())
+    EXPECT_TRUE(known.contains(file)) << file.toStdString();
+  EXPECT_FALSE(known.isEmpty());
+}
+
+TEST(FormChecks, AFormThatIsInOrderRaisesNoComplaint) {
+  EverythingPortal portal;
+  portal.ok.Caption = "O&K";
+  EXPECT_EQ(CheckPortalForm(portal, EverythingForm()).join(u'\n').toStdString(), "");
+}
+
+TEST(FormChecks, EachFaultIsNamed) {
+  EverythingPortal portal;
+  portal.ok.Caption = "Go";
+  EXPECT_EQ(
+      CheckPortalForm(portal, QStringLiteral(":/test/forms/faults.ui")).join(u'\n').toStdString(),
+      QStringList({QStringLiteral("ok: the form says \"O&K\", the struct \"Go\""),
+                   QStringLiteral("tab comes to second where first is read next"),
+                   QStringLiteral("second has no accessible name"),
+                   QStringLiteral("other and cancel share Alt+C"),
+                   QStringLiteral("choice has no layout")})
+          .join(u'\n')
+          .toStdString());
+}
+
+}  // namespace
+}  // namespace tallyroll

@@ -1,0 +1,107 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include <fstream>
+
+#include "store/settings.h"
+#include "tests/shell/shell_test.h"
+
+namespace tallyroll {
+namespace {
+
+class StartUpTest : public ShellTest {
+ protected:
+  StartUpTest() {
+    DataFolder.clear();
+    ProgramFolder.clear();
+  }
+  void ExpectGreeting() {
+    screen.ExpectPortal("frmstartup", [this](PortalDriver& portal) {
+      EXPECT_TRUE(frame_screen.calls.empty()) << "the greeting comes before the frame";
+      portal.CloseWindow();
+    });
+  }
+};
+
+TEST_F(StartUpTest, FirstRunMakesTheDataFolderWithTheSample) {
+  WriteFile(Path("Sample8.TYR"), "sample");
+  ExpectGreeting();
+  Frame->Load("");
+  EXPECT_EQ(DataFolder, Path("Tallyroll"));
+  EXPECT_EQ(screen.settings.at("TALLYRLG8/startup/DIRFILE"), Path("Tallyroll"));
+  EXPECT_TRUE(std::filesystem::exists(Path("Tallyroll/Sample8.TYR")));
+  EXPECT_EQ(std::filesystem::current_path(), Path("Tallyroll"));
+  EXPECT_EQ(ProgramFolder, folder);
+  EXPECT_EQ(frame_screen.calls, std::vector<std::string>{"frame shown"});
+  EXPECT_EQ(CurrentClass, 1);
+  EXPECT_EQ(OpenState, 0);
+}
+
+TEST_F(StartUpTest, SampleThatTheTeacherWorkedOnIsKept) {
+  WriteFile(Path("Sample8.TYR"), "sample");
+  std::filesystem::create_directory(Path("Tallyroll"));
+  WriteFile(Path("Tallyroll/Sample8.TYR"), "mine");
+  ExpectGreeting();
+  Frame->Load("");
+  EXPECT_EQ(std::filesystem::file_size(Path("Tallyroll/Sample8.TYR")), 4u);
+}
+
+TEST_F(StartUpTest, WhereNoFolderCanBeMadeTheProgramsOwnServes) {
+  WriteFile(Path("file"), "");
+  screen.profile_folder = Path("file");
+  ExpectGreeting();
+  Frame->Load("");
+  EXPECT_EQ(DataFolder, folder);
+  EXPECT_EQ(screen.settings.at("TALLYRLG8/startup/DIRFILE"), folder);
+}
+
+TEST_F(StartUpTest, KnownFolderIsUsedAsItIs) {
+  std::filesystem::create_directory(Path("classes"));
+  screen.settings["TALLYRLG8/startup/DIRFILE"] = Path("classes");
+  ExpectGreeting();
+  Frame->Load("");
+  EXPECT_EQ(DataFolder, Path("classes"));
+  EXPECT_FALSE(std::filesystem::exists(Path("Tallyroll")));
+}
+
+TEST_F(StartUpTest, KnownFolderThatIsGoneIsReported) {
+  screen.settings["TALLYRLG8/startup/DIRFILE"] = Path("gone");
+  screen.ExpectBox("File Error: 76");
+  ExpectGreeting();
+  Frame->Load("");
+  EXPECT_EQ(DataFolder, folder);
+  EXPECT_EQ(std::filesystem::current_path(), folder);
+}
+
+TEST_F(StartUpTest, RecentFilesStandInTheMenu) {
+  screen.settings["TALLYRLG8/fileused/File0"] = "/a/A.TYR";
+  screen.settings["TALLYRLG8/startup/NAMEID"] = "73";
+  ExpectGreeting();
+  Frame->Load("");
+  EXPECT_EQ(Frame->menu.Find("mnuFileList0")->caption, "&1. /a/A.TYR");
+  EXPECT_FALSE(Frame->menu.Find("mnuFileList1")->visible);
+  EXPECT_EQ(NameMode, 73);
+}
+
+TEST_F(StartUpTest, FileOfTheCommandLineOpensWithoutAGreeting) {
+  const std::string path = MakeFile("maths.tyr");
+  Frame->Load(path);
+  EXPECT_EQ(Frame->CommandFile, path);
+  EXPECT_EQ(frame_screen.calls, (std::vector<std::string>{"frame shown", "shown MATHS.TYR"}));
+  EXPECT_EQ(Classes[1].FileName, path);
+}
+
+TEST_F(StartUpTest, FileOfTheCommandLineIsFoundFromWhereTheProgramStarted) {
+  MakeFile("maths.tyr");
+  std::filesystem::current_path(folder);
+  Frame->Load("./maths.tyr");
+  EXPECT_EQ(Classes[1].FileName, Path("maths.tyr"));
+}
+
+TEST_F(StartUpTest, FileOfTheCommandLineThatIsGoneLeavesTheFrame) {
+  screen.ExpectBox("Tallyroll cannot open the file " + Path("gone.tyr"));
+  Frame->Load(Path("gone.tyr"));
+  EXPECT_EQ(WindowCount(), 0);
+  EXPECT_EQ(frame_screen.calls, std::vector<std::string>{"frame shown"});
+}
+
+}  // namespace
+}  // namespace tallyroll

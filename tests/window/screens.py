@@ -1,0 +1,91 @@
+# SPDX-License-Identifier: GPL-3.0-or-later
+# Draws the pictures of the documents anew: cmake --build build/release --target screens.
+import pathlib
+import subprocess
+import sys
+
+from gi.repository import Atspi
+from support import story
+from support.program import xdotool
+from support.steps import pass_greeting
+
+PICTURES = pathlib.Path(__file__).resolve().parents[2] / "docs" / "pictures"
+
+
+def take(program, name):
+    """The window in front, settled, without its frame; few colours keep the file small."""
+    xdotool("mousemove", 1599, 1099)
+    path = PICTURES / f"{name}.png"
+    window = xdotool("getactivewindow")
+    before = None
+    for _ in range(20):  # until two pictures in a row are the same
+        shot = subprocess.run(["import", "-window", window, "rgb:-"], capture_output=True,
+                              timeout=20, check=True).stdout
+        if shot == before:
+            break
+        before = shot
+    subprocess.run(["import", "-window", window, "-strip", "-dither", "None", "-colors", "128",
+                    f"PNG8:{path}"], timeout=20, check=True)
+
+
+def sample_window(this, name, *options, **surroundings):
+    program = this.start(*options, this.sample("SAMPLE8.TYR"), **surroundings)
+    program.frame("SAMPLE8.TYR")
+    xdotool("windowsize", "--sync", xdotool("getactivewindow"), *SIZES.get(name, (1100, 720)))
+    program.table()
+    take(program, name)
+    return program
+
+
+SIZES = {"sample-150": (1500, 1000)}
+
+
+def portal(program, keys, title, name, prepare=()):
+    program.keys(*keys)
+    program.window(title)
+    program.keys(*prepare)
+    take(program, name)
+    program.keys("Escape")
+    program.gone(title)
+
+
+def greeting(this):
+    program = this.start()
+    program.window("Welcome to Tallyroll")
+    take(program, "frmstartup")
+    pass_greeting(program)
+    xdotool("windowsize", "--sync", xdotool("getactivewindow"), 1100, 720)
+    take(program, "start-page")
+    program.keys("ctrl+shift+n")
+    program.window("Start a New Class Wizard")
+    take(program, "frmWizard")
+    program.stop()
+
+
+def portals(this):
+    program = sample_window(this, "sample-light")
+    portal(program, ["ctrl+Insert"], "Add Student Portal", "frmAdd")
+    portal(program, ["ctrl+e"], "Edit Portal", "frmEdit", ["Down"])
+    portal(program, ["alt+f", "i"], "Class Information Portal", "frmclassinfo")
+    program.keys("F1")
+    program.window("Tallyroll Help")
+    take(program, "help")
+    program.keys("alt+F4")
+    program.frame("SAMPLE8.TYR")
+    program.keys("alt+f", "w", "r")
+    program.window("Password Window")
+    take(program, "frmpassword")
+    program.stop()
+
+
+def tell(this):
+    PICTURES.mkdir(parents=True, exist_ok=True)
+    greeting(this)
+    portals(this)
+    sample_window(this, "sample-dark", "--dark").stop()
+    sample_window(this, "sample-150", environment={"QT_SCALE_FACTOR": "1.5"}).stop()
+
+
+if __name__ == "__main__":
+    story.run(tell)
+    sys.exit(0)
