@@ -6,6 +6,7 @@
 #include <QEvent>
 #include <QHBoxLayout>
 #include <QLabel>
+#include <QPainter>
 #include <QVBoxLayout>
 
 #include "desktop/appearance.h"
@@ -26,6 +27,19 @@ QLabel* Heading(const QString& text, double scale) {
   label->setFont(font);
   return label;
 }
+
+// Shows where the keyboard is, which a command link by itself does not.
+class PageButton : public QCommandLinkButton {
+ protected:
+  void paintEvent(QPaintEvent* event) override {
+    QCommandLinkButton::paintEvent(event);
+    if (!hasFocus()) return;
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(QPen(palette().color(QPalette::Highlight), 2));
+    painter.drawRoundedRect(QRectF(rect()).adjusted(1, 1, -1, -1), 4, 4);
+  }
+};
 
 // A button's text shows "&" only when it is doubled.
 QString Plain(QString text) {
@@ -96,7 +110,7 @@ StartPage::StartPage(const Menu& menu, QWidget* parent) : QWidget(parent), menu_
 }
 
 QCommandLinkButton* StartPage::AddButton(const QString& entry, QVBoxLayout* column) {
-  auto* button = new QCommandLinkButton;
+  auto* button = new PageButton;
   button->setObjectName(entry);
   button->setIconSize(QSize(24, 24));
   connect(

@@ -75,15 +75,14 @@ ParseOutcome ParseClass(std::string_view bytes, Class& out) {
 }
 
 int SerializeClass(const Class& c, std::string& bytes) {
-  bytes.clear();
-  bytes.reserve(ProbableSize(c));
-  FieldWriter write(bytes);
+  FieldWriter write(bytes, ProbableSize(c));
   try {
     ForEachField(c, write);
     WriteRecords(write, c.Instruments, c.NumInstruments);
     WriteRecords(write, c.AttendanceDays, c.NumDays);
     WriteRecords(write, c.Summaries, c.NumSummaries);
     WriteRecords(write, c.Students, c.NumStudents);
+    write.Finish();
   } catch (const RunTimeError& fault) {
     bytes.clear();
     return fault.number;

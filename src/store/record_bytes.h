@@ -51,7 +51,10 @@ class FieldReader {
   void Read(double& field) { field = TakeNumber<double>(); }
   void Read(Currency& field) { field = Currency::FromScaled(TakeNumber<std::int64_t>()); }
   void Read(std::string& field) { field = TakeText(); }
-  void Read(ShortText& field) { field = ShortText(TakeText()); }
+  void Read(ShortText& field) {
+    const std::string_view text = TakeText();
+    if (!text.empty() || !field.empty()) field = ShortText(text);
+  }
   void Read(Bytes8& field) { field = TakeNumber<Bytes8>(); }
   template <std::size_t N>
   void Read(FixedText<N>& field) {
@@ -129,7 +132,12 @@ class FieldReader {
 // Appends fields to a buffer. A text or list that its length field cannot hold throws 6.
 class FieldWriter {
  public:
-  explicit FieldWriter(std::string& bytes) : bytes_(bytes) {}
+  // `bytes` gets its final length by Finish; until then it is longer, since growing it field by
+  // field would take most of the time.
+  FieldWriter(std::string& bytes, std::size_t probable_size) : bytes_(bytes) {
+    bytes_.resize(probable_size);
+  }
+  void Finish() { bytes_.resize(used_); }
 
   // As a visitor of ForEachField.
   template <typename T>
@@ -146,7 +154,7 @@ class FieldWriter {
   void Write(const Bytes8& field) { PutNumber(field); }
   template <std::size_t N>
   void Write(const FixedText<N>& field) {
-    bytes_.append(field.view());
+    Put(field.view());
   }
   template <typename T, std::size_t N>
   void Write(const std::array<T, N>& fields) {
@@ -159,21 +167,27 @@ class FieldWriter {
   }
   template <std::size_t N>
   void Write(const List<FixedText<N>>& list) {
-    if (PutDescriptor(list.size())) bytes_.append(list.data()->view().data(), list.size() * N);
+    if (PutDescriptor(list.size())) Put({list.data()->view().data(), list.size() * N});
   }
 
  private:
+  char* Room(std::size_t count) {
+    if (bytes_.size() - used_ < count) bytes_.resize(2 * bytes_.size() + count);
+    used_ += count;
+    return bytes_.data() + used_ - count;
+  }
+  void Put(std::string_view raw) {
+    if (!raw.empty()) std::memcpy(Room(raw.size()), raw.data(), raw.size());
+  }
   template <typename T>
   void PutNumber(const T& value) {
-    char raw[sizeof(T)];
-    std::memcpy(raw, &value, sizeof(T));
-    bytes_.append(raw, sizeof(T));
+    std::memcpy(Room(sizeof(T)), &value, sizeof(T));
   }
 
   void PutText(std::string_view text) {
     if (text.size() > kLongestText) throw RunTimeError{kErrorOverflow};
     PutNumber(static_cast<std::uint16_t>(text.size()));
-    bytes_.append(text);
+    Put(text);
   }
 
   bool PutDescriptor(std::size_t size) {
@@ -186,6 +200,7 @@ class FieldWriter {
   }
 
   std::string& bytes_;
+  std::size_t used_ = 0;
 };
 
 }  // namespace tallyroll

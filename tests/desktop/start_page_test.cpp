@@ -7,6 +7,7 @@
 #include <QCommandLinkButton>
 #include <QLabel>
 #include <QSignalSpy>
+#include <QTest>
 
 #include "store/settings.h"
 #include "tests/desktop/frame_fixture.h"
@@ -75,6 +76,15 @@ TEST_F(StartPageTest, CanBeWorkedByKeyboard) {
     EXPECT_TRUE(button->focusPolicy() & Qt::TabFocus) << button->objectName().toStdString();
   }
   EXPECT_EQ(window->focusWidget(), Button("mnuwizard"));
+}
+
+TEST_F(StartPageTest, ShowsWhereTheKeyboardIs) {
+  window->activateWindow();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(window.get()));
+  Button("mnuOpen")->setFocus();
+  const QImage with_focus = Button("mnuOpen")->grab().toImage();
+  Button("mnuown")->setFocus();
+  EXPECT_NE(Button("mnuOpen")->grab().toImage(), with_focus);
 }
 
 }  // namespace
