@@ -33,12 +33,19 @@ bool IsOfClass(const QObject& object, const QString& class_name) {
 }
 
 // A list does not take its name from its label by itself, as a field does.
-void NameLists(const QObjectList& objects) {
+void NameList(const QLabel& label) {
+  auto* list = qobject_cast<QAbstractItemView*>(label.buddy());
+  if (list && list->accessibleName().isEmpty())
+    list->setAccessibleName(label.text().remove(QLatin1Char('&')));
+}
+
+void PrepareLabels(const QObjectList& objects) {
   for (QObject* object : objects) {
-    const auto* label = qobject_cast<QLabel*>(object);
-    auto* list = label ? qobject_cast<QAbstractItemView*>(label->buddy()) : nullptr;
-    if (list && list->accessibleName().isEmpty())
-      list->setAccessibleName(label->text().remove(QLatin1Char('&')));
+    auto* label = qobject_cast<QLabel*>(object);
+    if (!label || !label->buddy()) continue;
+    NameList(*label);
+    // Underlining a letter parts it from its neighbour: "Teacher" comes out wider than measured.
+    label->setContentsMargins(0, 0, 2, 0);
   }
 }
 
@@ -62,7 +69,7 @@ LoadedForm FormLoader::Load(const QString& file, QDialog& dialog) {
   dialog_ = nullptr;
   // Its place in the form is one on the designer's desk: the dialog shall open over its window.
   dialog.setAttribute(Qt::WA_Moved, false);
-  NameLists(form_.objects);
+  PrepareLabels(form_.objects);
   ComplainOfDynamicProperties();
   return std::exchange(form_, {});
 }
