@@ -17,6 +17,7 @@ class ListBinding : public Binding<ListBox, QListWidget> {
     list.setItemDelegate(columns_);
     list.viewport()->installEventFilter(this);
     QObject::connect(&list, &QListWidget::currentRowChanged, this, [this] {
+      if (TakeBackUnchosen()) return;
       chosen_by_press_ = true;
       UserDid({&ControlRow::change, &ControlRow::click});
     });
@@ -50,6 +51,15 @@ class ListBinding : public Binding<ListBox, QListWidget> {
   }
 
  private:
+  // With the focus the list makes its first line the current one, which nobody chose.
+  bool TakeBackUnchosen() {
+    const QListWidgetItem* item = widget_.currentItem();
+    if (!item || item->isSelected()) return false;
+    const QSignalBlocker silence(widget_);
+    widget_.selectionModel()->clearCurrentIndex();
+    return true;
+  }
+
   void Fill() {
     const bool same_length = list_.size() == control_.List.size();
     list_ = control_.List;

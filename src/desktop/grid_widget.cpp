@@ -21,9 +21,12 @@ namespace {
 constexpr QSize kUsualSize(640, 360);
 
 void NoteFocus(GridWidget& widget) {
-  if (!QAccessible::isActive() || !widget.grid()) return;
+  const Grid* grid = widget.grid();
+  if (!QAccessible::isActive() || !grid) return;
   QAccessibleEvent event(&widget, QAccessible::Focus);
-  event.setChild(widget.grid()->Row * widget.grid()->Cols() + widget.grid()->Col);
+  // A grid of headings alone has no cell that could have the focus.
+  if (grid->Row < grid->Rows() && grid->Col < grid->Cols())
+    event.setChild(grid->Row * grid->Cols() + grid->Col);
   QAccessible::updateAccessibility(&event);
 }
 
