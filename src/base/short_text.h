@@ -48,6 +48,10 @@ class ShortText {
   std::size_t size() const noexcept { return view().size(); }
   bool empty() const noexcept { return view().empty(); }
 
+  // The text when it stands here, with kMostInline bytes that may be read; null when it does not.
+  const unsigned char* InlineBytes() const noexcept { return IsInline() ? bytes_ + 1 : nullptr; }
+  static constexpr std::size_t kMostInline = 7;
+
   void swap(ShortText& other) noexcept {
     unsigned char mine[sizeof bytes_];
     std::memcpy(mine, bytes_, sizeof mine);
@@ -66,7 +70,6 @@ class ShortText {
 
  private:
   static constexpr unsigned char kInline = 1;
-  static constexpr std::size_t kMostInline = 7;
 
   bool IsInline() const noexcept { return (bytes_[0] & kInline) != 0; }
   char* Block() const noexcept {

@@ -2,17 +2,11 @@
 // tallyroll: the grade book on the screen.
 #include <QApplication>
 #include <QCommandLineParser>
-#include <QTimer>
 #include <algorithm>
 #include <string_view>
 
-#include "desktop/appearance.h"
-#include "desktop/frame_window.h"
-#include "desktop/help_window.h"
-#include "desktop/qt_surroundings.h"
+#include "desktop/program.h"
 #include "desktop/text_conversion.h"
-#include "shell/program.h"
-#include "shell/shell_state.h"
 
 namespace {
 
@@ -47,35 +41,6 @@ void NameApplication() {
   QCoreApplication::setApplicationVersion(QStringLiteral(TALLYROLL_VERSION));
 }
 
-int RunProgram(QApplication& application, const QCommandLineParser& parser) {
-  SetAppearance(application, parser.isSet(QStringLiteral("dark")));
-  application.setWindowIcon(QIcon(QStringLiteral(":/icons/tallyroll.svg")));
-  // The frame ends the program; the greeting, which may be the only window, must not.
-  application.setQuitOnLastWindowClosed(false);
-
-  ResetProgram();
-  QtSurroundings surroundings;
-  SetPlatform(&surroundings);
-  Frame = std::make_unique<MDIForm1>();
-  int result = 0;
-  {
-    FrameWindow window;
-    Screen = &window;
-    surroundings.help_hook = [&window](int context) { ShowHelpTopic(&window, context); };
-    window.ShowFrame();
-    // Within the event loop, so that the greeting can be shown and the program be left from it.
-    const std::string file = CommandFileOf(parser);
-    QTimer::singleShot(0, &window, [&window, file] {
-      Frame->Load(file);
-      window.Sync();
-    });
-    result = QApplication::exec();
-  }
-  ResetProgram();
-  SetPlatform(nullptr);
-  return result;
-}
-
 }  // namespace
 
 int main(int argc, char** argv) {
@@ -91,5 +56,5 @@ int main(int argc, char** argv) {
   NameApplication();
   QGuiApplication::setDesktopFileName(QStringLiteral("org.tallyroll.Tallyroll"));
   parser.process(application);
-  return RunProgram(application, parser);
+  return RunProgram(application, parser.isSet(QStringLiteral("dark")), CommandFileOf(parser));
 }

@@ -41,6 +41,9 @@ void LayOut(Grid& grid, const Class& c) {
   grid.SetRowHeight(1, 2 * Grid::kDefaultRowHeight);
   grid.SetColWidth(0, IdFirst() ? kIdWidth : kNameWidth);
   grid.SetColWidth(1, OneColumn() ? 0 : IdFirst() ? kNameWidth : kIdWidth);
+  // Marks are mostly numbers: they stand right, their titles over them.
+  for (int col = kFixedCols; col < grid.Cols(); ++col)
+    grid.SetColAlignment(col, ColumnAlign::kRight);
   grid.SetMergeRow(0);
   // A class that lost students or grades must not leave the current cell outside.
   grid.Row = std::clamp(grid.Row, kFixedRows, grid.Rows() - 1);

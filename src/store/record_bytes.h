@@ -150,7 +150,16 @@ class FieldWriter {
   void Write(double field) { PutNumber(field); }
   void Write(Currency field) { PutNumber(field.scaled()); }
   void Write(const std::string& field) { PutText(field); }
-  void Write(const ShortText& field) { PutText(field); }
+  // A short text is copied in one piece of fixed size; what is behind it is written over next.
+  void Write(const ShortText& field) {
+    const unsigned char* const text = field.InlineBytes();
+    if (!text) return PutText(field);
+    const auto length = static_cast<std::uint16_t>(field.size());
+    char* const at = Room(sizeof length + ShortText::kMostInline);
+    std::memcpy(at, &length, sizeof length);
+    std::memcpy(at + sizeof length, text, ShortText::kMostInline);
+    used_ -= ShortText::kMostInline - length;
+  }
   void Write(const Bytes8& field) { PutNumber(field); }
   template <std::size_t N>
   void Write(const FixedText<N>& field) {

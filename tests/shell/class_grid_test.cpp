@@ -54,6 +54,14 @@ TEST_F(ClassGridTest, CodesAndMarksStandUnderTheHeading) {
   EXPECT_EQ(grid.TextMatrix(3, 3), "A-");
 }
 
+TEST_F(ClassGridTest, MarksStandRightAndNamesLeft) {
+  const Grid& grid = Open("A.TYR", Sample(2, 9)).Grid1;
+  EXPECT_EQ(grid.ColAlignment(0), ColumnAlign::kLeft);
+  EXPECT_EQ(grid.ColAlignment(1), ColumnAlign::kLeft);
+  for (int col = 2; col < grid.Cols(); ++col)
+    EXPECT_EQ(grid.ColAlignment(col), ColumnAlign::kRight) << col;
+}
+
 TEST_F(ClassGridTest, EachDisplayModeHasItsTwoColumns) {
   Class c = Sample(1);
   c.Students[1].lastname = " Ng ";
