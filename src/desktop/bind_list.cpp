@@ -15,8 +15,10 @@ class ListBinding : public Binding<ListBox, QListWidget> {
   ListBinding(ListBox& control, ControlRow& row, QListWidget& list, BindingOwner& owner)
       : Binding(control, row, list, owner), columns_(new ListColumns(&list)) {
     list.setItemDelegate(columns_);
+    list.installEventFilter(this);
     list.viewport()->installEventFilter(this);
     QObject::connect(&list, &QListWidget::currentRowChanged, this, [this] {
+      if (TakeBackUnchosen()) return;
       chosen_by_press_ = true;
       UserDid({&ControlRow::change, &ControlRow::click});
     });
@@ -41,7 +43,10 @@ class ListBinding : public Binding<ListBox, QListWidget> {
   }
 
   bool eventFilter(QObject* watched, QEvent* event) override {
-    if (event->type() == QEvent::MouseButtonPress) {
+    const bool pressed = event->type() == QEvent::MouseButtonPress;
+    if (event->type() == QEvent::FocusIn) focus_comes_ = true;
+    if (event->type() == QEvent::KeyPress || pressed) focus_comes_ = false;
+    if (pressed && watched == widget_.viewport()) {
       chosen_by_press_ = false;
       // A press below the last line would take away the mark but not the choice.
       if (!widget_.itemAt(static_cast<QMouseEvent*>(event)->position().toPoint())) return true;
@@ -50,6 +55,14 @@ class ListBinding : public Binding<ListBox, QListWidget> {
   }
 
  private:
+  // With the focus the list makes its first line the current one, which nobody chose.
+  bool TakeBackUnchosen() {
+    if (!focus_comes_) return false;
+    const QSignalBlocker silence(widget_);
+    widget_.selectionModel()->clearCurrentIndex();
+    return true;
+  }
+
   void Fill() {
     const bool same_length = list_.size() == control_.List.size();
     list_ = control_.List;
@@ -67,6 +80,7 @@ class ListBinding : public Binding<ListBox, QListWidget> {
   ListColumns* columns_;  // the list's
   std::vector<std::string> list_;
   bool chosen_by_press_ = false;
+  bool focus_comes_ = false;  // until the user does something in the list
 };
 
 }  // namespace

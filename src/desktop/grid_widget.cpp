@@ -21,9 +21,12 @@ namespace {
 constexpr QSize kUsualSize(640, 360);
 
 void NoteFocus(GridWidget& widget) {
-  if (!QAccessible::isActive() || !widget.grid()) return;
+  const Grid* grid = widget.grid();
+  if (!QAccessible::isActive() || !grid) return;
   QAccessibleEvent event(&widget, QAccessible::Focus);
-  event.setChild(widget.grid()->Row * widget.grid()->Cols() + widget.grid()->Col);
+  // A grid of headings alone has no cell that could have the focus.
+  if (grid->Row < grid->Rows() && grid->Col < grid->Cols())
+    event.setChild(grid->Row * grid->Cols() + grid->Col);
   QAccessible::updateAccessibility(&event);
 }
 
@@ -179,7 +182,11 @@ void GridWidget::paintEvent(QPaintEvent* event) {
   MeasureIfChanged();
   const QColor frame = palette().color(hasFocus() ? QPalette::Highlight : QPalette::Mid);
   const GridPicture picture{*grid_, rows_, columns_, colors_, fonts_, frame};
-  PaintGrid(painter, picture, viewport()->size(), event->rect());
+  // Scrolling sideways asks for a strip and the headings; their common rectangle is everything.
+  for (const QRect& area : event->region()) {
+    painter.setClipRect(area);
+    PaintGrid(painter, picture, viewport()->size(), area);
+  }
 }
 
 void GridWidget::resizeEvent(QResizeEvent*) {

@@ -109,6 +109,8 @@ double QtSurroundings::Random() {
 }
 
 DateOrder QtSurroundings::ShortDateOrder() {
+  // A system without a country has no custom either; its pattern is no one's way to write a date.
+  if (QLocale::system().language() == QLocale::C) return DateOrder::kMonthFirst;
   const QString pattern = QLocale::system().dateFormat(QLocale::ShortFormat);
   if (pattern.startsWith(QLatin1Char('d'), Qt::CaseInsensitive)) return DateOrder::kDayFirst;
   if (pattern.startsWith(QLatin1Char('y'), Qt::CaseInsensitive)) return DateOrder::kYearFirst;

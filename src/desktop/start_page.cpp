@@ -66,7 +66,7 @@ StartPage::StartPage(const Menu& menu, QWidget* parent) : QWidget(parent), menu_
   begin->addWidget(Heading(tr("Begin"), 1.2));
   AddBeginning(QStringLiteral("mnuwizard"), QStringLiteral("New"), tr("New class with the &wizard"),
                tr("A few questions lead you to your first class."), begin);
-  AddBeginning(QStringLiteral("mnuown"), QStringLiteral("Student"), tr("New class on my &own"),
+  AddBeginning(QStringLiteral("mnuown"), QStringLiteral("Student"), tr("New class on &my own"),
                tr("Type in the students one after another."), begin);
   AddBeginning(QStringLiteral("mnuOpen"), QStringLiteral("Open"), tr("&Open a class..."),
                tr("Go on with a class that you saved before."), begin);

@@ -130,6 +130,23 @@ TEST_F(BindChoicesTest, ListLinesAreSplitByTabsAndReadWithoutThem) {
   EXPECT_EQ(list().item(1)->data(Qt::AccessibleTextRole).toString(), QStringLiteral("Bertha B2"));
 }
 
+TEST_F(BindChoicesTest, AListTakesItsNameFromItsLabel) {
+  Open();
+  EXPECT_EQ(list().accessibleName(), QStringLiteral("List"));
+}
+
+TEST_F(BindChoicesTest, TheFocusChoosesNoLine) {
+  Open();
+  Events();
+  list().setFocus(Qt::TabFocusReason);
+  EXPECT_EQ(Events(), (Lines{"first lost", "list got"}));
+  EXPECT_EQ(portal.list.ListIndex, -1);
+  EXPECT_EQ(list().currentRow(), -1);
+  QTest::keyClick(&list(), Qt::Key_Down);
+  EXPECT_EQ(Events(), (Lines{"list change", "list click"}));
+  EXPECT_EQ(portal.list.ListIndex, 0);
+}
+
 TEST_F(BindChoicesTest, ChoosingALineRaisesChangeAndOneClick) {
   Open();
   Focus("list");

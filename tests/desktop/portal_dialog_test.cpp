@@ -28,6 +28,11 @@ TEST_F(EverythingTest, CaptionsThatTheStructLeavesEmptyAreTheForms) {
   EXPECT_EQ(Find<QPushButton>("ok").text(), QStringLiteral("&Go"));
 }
 
+TEST_F(EverythingTest, ThePlaceInTheFormIsNoPlaceOnTheScreen) {
+  const PortalDialog fresh(portal, EverythingForm());
+  EXPECT_FALSE(fresh.testAttribute(Qt::WA_Moved));
+}
+
 TEST_F(EverythingTest, OpeningRaisesNoEvent) {
   portal.first.Text = "Smith";
   portal.tick.Value = portal.two.Value = true;

@@ -32,6 +32,15 @@ TEST_F(StartPageTest, IsThereWhileNoClassIsOpen) {
   EXPECT_TRUE(page()->isVisible());
 }
 
+TEST_F(StartPageTest, EachWayToBeginHasALetterOfItsOwn) {
+  QSet<QKeySequence> letters;
+  for (const char* entry : {"mnuwizard", "mnuown", "mnuOpen"})
+    letters << QKeySequence::mnemonic(Button(entry)->text());
+  letters << QKeySequence::mnemonic(QStringLiteral("&File"))
+          << QKeySequence::mnemonic(QStringLiteral("&Help"));
+  EXPECT_EQ(letters.size(), 5);
+}
+
 TEST_F(StartPageTest, EachWayToBeginPressesItsMenuEntry) {
   QSignalSpy pressed(page(), &StartPage::Pressed);
   RecordPortals();

@@ -14,12 +14,12 @@ def tell(this):
     whole = path.read_bytes()
     torn = whole[: len(whole) * 2 // 3]
     path.write_bytes(torn)
-    names = {s["lastname"].strip() for s in dump(story.SAMPLE)["Students"]}
+    names = [s["lastname"].strip() for s in dump(story.SAMPLE)["Students"]]
 
     program = this.start(path)
     program.box("File Error: 62", "Return")
     program.frame("TORN.TYR")
-    shown = [text for text in program.column(0, len(names)) if text]
+    shown = [text for text in program.column(0, 26) if text]
     expect("some students were read, not all", 0 < len(shown) < len(names), True)
     expect("a name of the class", shown[0].split(" ", 1)[1].split(",")[0] in names, True)
 

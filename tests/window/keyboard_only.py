@@ -2,7 +2,7 @@
 # A class is made, a student changed and all saved without the mouse.
 from gi.repository import Atspi
 from support import story
-from support.program import dump, expect, states
+from support.program import dump, expect, states, wait_for
 from support.steps import pass_greeting
 
 
@@ -22,14 +22,13 @@ def make_class(program, path):
 def walk_grid(program):
     """The arrows move the current cell, and F6 goes to the toolbar and back."""
     program.keys("F6")
-    program.await_focus(Atspi.Role.PUSH_BUTTON, "New Class Wizard")
+    program.await_focus(Atspi.Role.PUSH_BUTTON, "New Class by the Wizard")
     program.keys("F6", "Home", "ctrl+Home", "Right", "Down", "Down", "Up")
-    cell = program.cell(3, 3)
-    for state in (Atspi.StateType.FOCUSED,):
-        expect("the current cell is row 3, column 3", states(cell).contains(state), True)
+    wait_for("the current cell in row 3, column 3",
+             lambda: states(program.cell(3, 3)).contains(Atspi.StateType.FOCUSED))
 
 
-def change_phone(program):
+def change_name(program):
     program.keys("alt+s", "e")
     program.window("Edit Portal")
     program.await_focus(Atspi.Role.LIST, "Students")
@@ -52,7 +51,7 @@ def tell(this):
     make_class(program, path)
     expect("names", program.column(0, 2), ["1 Abbott, Ben", "2 Young, Carla"])
     walk_grid(program)
-    change_phone(program)
+    change_name(program)
     program.frame("KEYS.TYR")
     expect("names", program.column(0, 2), ["1 Abbott, Ben", "2 Younger, Carla"])
 

@@ -19,7 +19,7 @@ def tell(this):
     program.box(PROMPT, "Escape")
     program.frame("MATH.TYR")
     program.keys("ctrl+q")
-    program.box(PROMPT, "alt+c")
+    program.box(PROMPT, "Tab", "Tab", "Return")
     program.frame("MATH.TYR")
     expect("the file after Cancel", pathlib.Path(path).read_bytes(), original)
 
