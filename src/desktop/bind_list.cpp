@@ -15,9 +15,9 @@ class ListBinding : public Binding<ListBox, QListWidget> {
   ListBinding(ListBox& control, ControlRow& row, QListWidget& list, BindingOwner& owner)
       : Binding(control, row, list, owner), columns_(new ListColumns(&list)) {
     list.setItemDelegate(columns_);
+    list.installEventFilter(this);
     list.viewport()->installEventFilter(this);
     QObject::connect(&list, &QListWidget::currentRowChanged, this, [this] {
-      if (TakeBackUnchosen()) return;
       chosen_by_press_ = true;
       UserDid({&ControlRow::change, &ControlRow::click});
     });
@@ -42,6 +42,7 @@ class ListBinding : public Binding<ListBox, QListWidget> {
   }
 
   bool eventFilter(QObject* watched, QEvent* event) override {
+    if (event->type() == QEvent::FocusIn && watched == &widget_) return TakeFocus(event);
     if (event->type() == QEvent::MouseButtonPress) {
       chosen_by_press_ = false;
       // A press below the last line would take away the mark but not the choice.
@@ -52,11 +53,11 @@ class ListBinding : public Binding<ListBox, QListWidget> {
 
  private:
   // With the focus the list makes its first line the current one, which nobody chose.
-  bool TakeBackUnchosen() {
-    const QListWidgetItem* item = widget_.currentItem();
-    if (!item || item->isSelected()) return false;
+  bool TakeFocus(QEvent* event) {
     const QSignalBlocker silence(widget_);
-    widget_.selectionModel()->clearCurrentIndex();
+    const bool chosen = widget_.currentRow() >= 0;
+    static_cast<QObject&>(widget_).event(event);
+    if (!chosen) widget_.selectionModel()->clearCurrentIndex();
     return true;
   }
 
