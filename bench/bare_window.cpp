@@ -10,7 +10,8 @@ class Bare : public QWidget {
  protected:
   void paintEvent(QPaintEvent*) override {
     QPainter(this).drawText(20, 40, "bare");
-    if (!qEnvironmentVariableIsSet("BENCH_STAY")) QMetaObject::invokeMethod(qApp, &QApplication::quit, Qt::QueuedConnection);
+    if (!qEnvironmentVariableIsSet("BENCH_STAY"))
+      QMetaObject::invokeMethod(qApp, &QApplication::quit, Qt::QueuedConnection);
   }
 };
 

@@ -9,8 +9,17 @@
 namespace tallyroll {
 namespace {
 
-constexpr const char* kFirst[] = {"Ana", "Ben", "Chlo\xE9", "David", "Emma", "Farid", "Grace", "Hugo"};
-constexpr const char* kLast[] = {"Alvarez", "Brown", "Chen", "Dubois", "Evans", "Fischer", "Garc\xED" "a", "Haddad"};
+constexpr const char* kFirst[] = {"Ana",  "Ben",   "Chlo\xE9", "David",
+                                  "Emma", "Farid", "Grace",    "Hugo"};
+constexpr const char* kLast[] = {"Alvarez",
+                                 "Brown",
+                                 "Chen",
+                                 "Dubois",
+                                 "Evans",
+                                 "Fischer",
+                                 "Garc\xED"
+                                 "a",
+                                 "Haddad"};
 constexpr const char* kMarks[] = {"A", "B+", "ABS", "EXC", "C-", "NEW"};
 
 std::string Mark(std::mt19937& random) {
@@ -58,9 +67,11 @@ Class BigClass(int students, int grades, int days) {
     grade.typecode = "Q ";
   }
   ReDim(c.AttendanceDays, days);
-  for (int i = 1; i <= days; ++i) c.AttendanceDays[static_cast<std::size_t>(i)].date = DateSerial({2026, 9, 1}) + i - 1;
+  for (int i = 1; i <= days; ++i)
+    c.AttendanceDays[static_cast<std::size_t>(i)].date = DateSerial({2026, 9, 1}) + i - 1;
   ReDim(c.Students, students);
-  for (int i = 1; i <= students; ++i) c.Students[static_cast<std::size_t>(i)] = MakeStudent(random, i, grades, days);
+  for (int i = 1; i <= students; ++i)
+    c.Students[static_cast<std::size_t>(i)] = MakeStudent(random, i, grades, days);
   return c;
 }
 

@@ -15,8 +15,12 @@
 #include "store/class_defaults.h"
 #include "store/class_file.h"
 
-extern "C" int fsync(int) { return 0; }
-extern "C" int fdatasync(int) { return 0; }
+extern "C" int fsync(int) {
+  return 0;
+}
+extern "C" int fdatasync(int) {
+  return 0;
+}
 
 namespace tallyroll {
 namespace {
@@ -72,7 +76,8 @@ void OpenClass(benchmark::State& state) {
     Current().FileName = folder.file;
     ReadClassFile();
   }
-  if (Current().NumStudents != 200 || !screen.boxes.empty()) state.SkipWithError("the class did not open");
+  if (Current().NumStudents != 200 || !screen.boxes.empty())
+    state.SkipWithError("the class did not open");
   SetPlatform(nullptr);
 }
 BENCHMARK(OpenClass)->Unit(benchmark::kMicrosecond);

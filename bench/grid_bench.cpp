@@ -60,7 +60,9 @@ class Texts : public QAbstractTableModel {
   QList<QStringList> rows_;
 };
 
-void PaintNow(QAbstractScrollArea& area) { area.viewport()->repaint(); }
+void PaintNow(QAbstractScrollArea& area) {
+  area.viewport()->repaint();
+}
 
 void ScrollOn(benchmark::State& state, QAbstractScrollArea& area, QScrollBar& bar, int step) {
   area.resize(kWindow);

@@ -13,6 +13,10 @@ int main(int argc, char** argv) {
     return 2;
   }
   std::string bytes;
-  tallyroll::SerializeClass(tallyroll::BigClass(std::atoi(argv[1]), std::atoi(argv[2]), std::atoi(argv[3])), bytes);
-  return std::ofstream(argv[4], std::ios::binary).write(bytes.data(), static_cast<std::streamsize>(bytes.size())) ? 0 : 1;
+  tallyroll::SerializeClass(
+      tallyroll::BigClass(std::atoi(argv[1]), std::atoi(argv[2]), std::atoi(argv[3])), bytes);
+  return std::ofstream(argv[4], std::ios::binary)
+                 .write(bytes.data(), static_cast<std::streamsize>(bytes.size()))
+             ? 0
+             : 1;
 }

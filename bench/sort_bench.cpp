@@ -23,7 +23,8 @@ void SortBareNames(benchmark::State& state) {
     state.PauseTiming();
     Shuffle(c.Students, random);
     std::vector<std::string> names;
-    for (std::size_t i = 1; i < c.Students.size(); ++i) names.push_back(c.Students[i].lastname + c.Students[i].firstname);
+    for (std::size_t i = 1; i < c.Students.size(); ++i)
+      names.push_back(c.Students[i].lastname + c.Students[i].firstname);
     state.ResumeTiming();
     std::stable_sort(names.begin(), names.end());
     benchmark::DoNotOptimize(names.data());

@@ -16,7 +16,7 @@
 namespace tallyroll {
 namespace {
 
-constexpr std::size_t kMostGivenItems = std::size_t{1} << 24;
+constexpr std::size_t kMostGivenItems = std::size_t{1} << 22;
 
 constexpr const char* kTopLevelLists[] = {"Instruments", "AttendanceDays", "Summaries", "Students"};
 

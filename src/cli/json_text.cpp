@@ -2,8 +2,6 @@
 #include "cli/json_text.h"
 
 #include <cmath>
-#include <functional>
-#include <set>
 #include <vector>
 
 #include "base/number_text.h"
@@ -15,55 +13,74 @@ constexpr std::size_t kDeepest = 8;        // a class needs 4: lists of students
 constexpr std::size_t kMostFields = 100;   // no record has half as many
 constexpr std::size_t kWidestObject = 96;  // columns of an object that stands on one line
 
-// Follows the parser through the text, to know the path of what it sees.
-class StrictWatch {
+// Builds the value and knows at each step where in it the parser stands. The library's own builder
+// with a callback looks at every item of a list again at the end of each.
+class StrictBuilder : public nlohmann::json_sax<Json> {
  public:
-  bool operator()(int /*depth*/, Json::parse_event_t event, const Json& parsed) {
-    switch (event) {
-      case Json::parse_event_t::object_start:
-        Open(false);
-        break;
-      case Json::parse_event_t::array_start:
-        Open(true);
-        break;
-      case Json::parse_event_t::object_end:
-      case Json::parse_event_t::array_end:
-        open_.pop_back();
-        break;
-      case Json::parse_event_t::key:
-        Key(parsed.get_ref<const std::string&>());
-        break;
-      case Json::parse_event_t::value:
-        NextItem();
-        break;
-    }
+  Json root;
+
+  bool null() override { return Take(nullptr); }
+  bool boolean(bool value) override { return Take(value); }
+  bool number_integer(std::int64_t value) override { return Take(value); }
+  bool number_unsigned(std::uint64_t value) override { return Take(value); }
+  bool number_float(double value, const std::string&) override { return Take(value); }
+  bool string(std::string& value) override { return Take(std::move(value)); }
+  bool binary(Json::binary_t&) override { return false; }  // no JSON text holds one
+  bool start_object(std::size_t) override { return Open(Json::object()); }
+  bool start_array(std::size_t) override { return Open(Json::array()); }
+  bool end_object() override { return Close(); }
+  bool end_array() override { return Close(); }
+
+  bool key(std::string& key) override {
+    Level& level = open_.back();
+    level.key = std::move(key);
+    if (level.value->contains(level.key)) throw JsonRefusal{Path(), "stands twice"};
+    if (level.value->size() == kMostFields) throw JsonRefusal{Path(), "is an unknown field"};
     return true;
+  }
+
+  bool parse_error(std::size_t, const std::string&, const Json::exception& error) override {
+    throw JsonRefusal{"", "is no valid JSON" + PlaceOf(error.what())};
   }
 
  private:
   struct Level {
-    bool is_array = false;
-    std::size_t items = 0;
-    std::string key;
-    std::set<std::string> keys;
+    Json* value = nullptr;  // stays in place while it is open: nothing is added beside it
+    std::string key;        // of an object
   };
 
-  void NextItem() {
-    if (!open_.empty() && open_.back().is_array) ++open_.back().items;
+  // "line 3, column 5" out of the parser's own words, which are long and name the library.
+  static std::string PlaceOf(std::string_view what) {
+    constexpr std::string_view kBefore = "parse error at ";
+    const std::size_t start = what.find(kBefore);
+    if (start == std::string_view::npos) return {};
+    const std::size_t from = start + kBefore.size();
+    return " at " + std::string(what.substr(from, what.find(':', from) - from));
   }
 
-  void Open(bool is_array) {
-    NextItem();
+  Json& Add(Json value) {
+    if (open_.empty()) return root = std::move(value);
+    Json& parent = *open_.back().value;
+    if (parent.is_object()) return parent[open_.back().key] = std::move(value);
+    parent.push_back(std::move(value));
+    return parent.back();
+  }
+
+  bool Take(Json value) {
+    Add(std::move(value));
+    return true;
+  }
+
+  bool Open(Json value) {
+    Json& added = Add(std::move(value));
     if (open_.size() == kDeepest) throw JsonRefusal{Path(), "is nested too deeply"};
-    open_.push_back({});
-    open_.back().is_array = is_array;
+    open_.push_back({&added, {}});
+    return true;
   }
 
-  void Key(const std::string& key) {
-    Level& level = open_.back();
-    level.key = key;
-    if (!level.keys.insert(key).second) throw JsonRefusal{Path(), "stands twice"};
-    if (level.keys.size() > kMostFields) throw JsonRefusal{Path(), "is an unknown field"};
+  bool Close() {
+    open_.pop_back();
+    return true;
   }
 
   // Items of the top-level lists count from 1, those of lists in records from 0.
@@ -71,34 +88,24 @@ class StrictWatch {
     std::string path;
     for (std::size_t i = 0; i < open_.size(); ++i) {
       const Level& level = open_[i];
-      if (level.is_array) {
-        const std::size_t first = i == 1 && LevelHoldsRecords(i) ? 1 : 0;
-        const std::size_t index = level.items + first - (level.items == 0 ? 0 : 1);
-        path += "[" + PlainNumberText(static_cast<std::int64_t>(index)) + "]";
-      } else if (!level.key.empty()) {
+      if (level.value->is_object()) {
         path += (path.empty() ? "" : ".") + level.key;
+      } else {
+        const bool of_records = i == 1 && HoldsRecords(open_[0].key);
+        const std::size_t index = level.value->size() - (of_records ? 0 : 1);
+        path += "[" + PlainNumberText(static_cast<std::int64_t>(index)) + "]";
       }
     }
     return path;
   }
 
-  bool LevelHoldsRecords(std::size_t i) const {
-    const std::string& list = open_[i - 1].key;
+  static bool HoldsRecords(const std::string& list) {
     return list == "Instruments" || list == "AttendanceDays" || list == "Summaries" ||
            list == "Students";
   }
 
   std::vector<Level> open_;
 };
-
-// "line 3, column 5" out of the parser's own words, which are long and name the library.
-std::string PlaceOf(std::string_view what) {
-  constexpr std::string_view kBefore = "parse error at ";
-  const std::size_t start = what.find(kBefore);
-  if (start == std::string_view::npos) return {};
-  const std::size_t from = start + kBefore.size();
-  return " at " + std::string(what.substr(from, what.find(':', from) - from));
-}
 
 std::string NumberText(double value) {
   // JSON readers take "-0" for a whole number, which has no sign.
@@ -148,12 +155,9 @@ void Write(const Json& value, const std::string& indent, std::string& text) {
 }  // namespace
 
 Json ParseJson(std::string_view text) {
-  StrictWatch watch;
-  try {
-    return Json::parse(text.begin(), text.end(), std::ref(watch));
-  } catch (const Json::exception& e) {
-    throw JsonRefusal{"", "is no valid JSON" + PlaceOf(e.what())};
-  }
+  StrictBuilder builder;
+  Json::sax_parse(text.begin(), text.end(), &builder);
+  return std::move(builder.root);
 }
 
 std::string JsonText(const Json& value) {

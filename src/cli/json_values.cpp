@@ -49,7 +49,7 @@ void JsonPlace::Refuse(std::string reason) const {
 }
 
 std::string ItemsText(std::size_t count) {
-  return PlainNumberText(static_cast<std::int64_t>(count)) + (count == 1 ? " item" : " items");
+  return PlainNumberText(static_cast<std::int64_t>(count)) + " items";
 }
 
 void ReadValue(const Json& json, const JsonPlace& at, i16& value) {

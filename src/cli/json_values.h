@@ -21,7 +21,7 @@ struct JsonPlace {
   [[noreturn]] void Refuse(std::string reason) const;
 };
 
-// "3 items", "1 item".
+// "3 items", and "1 items" as everywhere a list is checked.
 std::string ItemsText(std::size_t count);
 
 void ReadValue(const Json& json, const JsonPlace& at, i16& value);

@@ -23,7 +23,6 @@
 namespace tallyroll {
 namespace {
 
-// A label that names a field goes and comes with it, unless it is a control of its own.
 void ShowVisible(QWidget& widget, bool visible) {
   // The pages of a stack are shown by the stack.
   if (qobject_cast<QStackedWidget*>(widget.parentWidget())) return;

@@ -182,7 +182,11 @@ void GridWidget::paintEvent(QPaintEvent* event) {
   MeasureIfChanged();
   const QColor frame = palette().color(hasFocus() ? QPalette::Highlight : QPalette::Mid);
   const GridPicture picture{*grid_, rows_, columns_, colors_, fonts_, frame};
-  PaintGrid(painter, picture, viewport()->size(), event->rect());
+  // Scrolling sideways asks for a strip and the headings; their common rectangle is everything.
+  for (const QRect& area : event->region()) {
+    painter.setClipRect(area);
+    PaintGrid(painter, picture, viewport()->size(), area);
+  }
 }
 
 void GridWidget::resizeEvent(QResizeEvent*) {

@@ -11,11 +11,12 @@ inline constexpr std::string_view kPortalNotAvailable = "This portal is not avai
 class ClassWindowCalls {
  public:
   virtual ~ClassWindowCalls() = default;
-  virtual void showform3() {}                                        // fill the grid again
-  virtual void mnusave() {}                                          // File, Save
+  virtual void showform3() {}  // fill the grid again
+  virtual void mnusave() {}    // File, Save
   virtual void EnableClassMenus(bool /*on*/) {}
-  virtual void EnableEntry(std::string_view /*entry*/, bool /*on*/) {}  // one menu entry by its name
-  virtual void ShowStatus(std::string_view /*text*/) {}              // the status bar
+  virtual void EnableEntry(std::string_view /*entry*/, bool /*on*/) {
+  }                                                      // one menu entry by its name
+  virtual void ShowStatus(std::string_view /*text*/) {}  // the status bar
 };
 
 // The window of CurrentClass. Where there is none (the command line), calls do nothing.

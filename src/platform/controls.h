@@ -18,8 +18,8 @@ struct Label : Control {
 
 struct TextBox : Control {
   std::string Text;
-  int MaxLength = 0;   // characters; 0 is no limit of the box's own, -1 lets nothing in
-  int SelStart = 0;    // caret or start of the selection, in characters; follows the user
+  int MaxLength = 0;  // characters; 0 is no limit of the box's own, -1 lets nothing in
+  int SelStart = 0;   // caret or start of the selection, in characters; follows the user
   int SelLength = 0;
 };
 
@@ -46,7 +46,7 @@ struct ListBox : Control {
 struct ComboBox : Control {
   std::vector<std::string> List;
   int ListIndex = -1;
-  std::string Text;               // what is typed or chosen
+  std::string Text;  // what is typed or chosen
 };
 
 // A group with a caption, switched as one.

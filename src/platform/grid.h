@@ -38,14 +38,14 @@ class Grid : public Control {
   void SetStyle(int row, int col, CellStyle style);
 
   int ColWidth(int col) const { return columns_[static_cast<std::size_t>(col)].width; }
-  void SetColWidth(int col, int twips);   // 0 hides the column
+  void SetColWidth(int col, int twips);  // 0 hides the column
   ColumnAlign ColAlignment(int col) const { return columns_[static_cast<std::size_t>(col)].align; }
   void SetColAlignment(int col, ColumnAlign align);
   int RowHeight(int row) const { return heights_[static_cast<std::size_t>(row)]; }
   void SetRowHeight(int row, int twips);  // 0 hides the row
   // Neighbours with the same text in a merged row read as one heading.
   bool MergeRow(int row) const { return row == merged_row_; }
-  void SetMergeRow(int row);              // -1 is none
+  void SetMergeRow(int row);  // -1 is none
 
   // Told to the screen when the fill is done: while Redraw is off nothing is painted anew.
   bool Redraw() const { return redraw_; }
@@ -55,9 +55,9 @@ class Grid : public Control {
 
   int FixedRows = 1;
   int FixedCols = 1;
-  int Row = 1;       // the current cell
+  int Row = 1;  // the current cell
   int Col = 1;
-  int TopRow = 1;    // the first row and column shown behind the fixed ones
+  int TopRow = 1;  // the first row and column shown behind the fixed ones
   int LeftCol = 1;
   int MouseRow = -1;  // the cell under the pointer, set before a mouse event; -1 outside
   int MouseCol = -1;
@@ -68,7 +68,8 @@ class Grid : public Control {
     ColumnAlign align = ColumnAlign::kLeft;
   };
   std::size_t Index(int row, int col) const {
-    return static_cast<std::size_t>(row) * static_cast<std::size_t>(cols_) + static_cast<std::size_t>(col);
+    return static_cast<std::size_t>(row) * static_cast<std::size_t>(cols_) +
+           static_cast<std::size_t>(col);
   }
   void Touch() { ++revision_; }
 

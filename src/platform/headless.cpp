@@ -8,17 +8,21 @@
 namespace tallyroll {
 namespace {
 
-std::string SettingName(std::string_view application, std::string_view section, std::string_view key) {
+std::string SettingName(std::string_view application, std::string_view section,
+                        std::string_view key) {
   return std::string(application) + "/" + LowerCase(section) + "/" + std::string(key);
 }
 
 // What a teacher who wants nothing presses.
 BoxAnswer Refusal(BoxButtons buttons) {
   switch (buttons) {
-    case BoxButtons::kOk: return BoxAnswer::kOk;
-    case BoxButtons::kYesNo: return BoxAnswer::kNo;
+    case BoxButtons::kOk:
+      return BoxAnswer::kOk;
+    case BoxButtons::kYesNo:
+      return BoxAnswer::kNo;
     case BoxButtons::kOkCancel:
-    case BoxButtons::kYesNoCancel: break;
+    case BoxButtons::kYesNoCancel:
+      break;
   }
   return BoxAnswer::kCancel;
 }
@@ -40,8 +44,10 @@ void HeadlessSurroundings::ExpectPortal(std::string name, std::function<void(Por
 std::vector<std::string> HeadlessSurroundings::Complaints() const {
   std::vector<std::string> all = complaints_;
   for (const ScriptedBox& box : scripted_boxes_) all.push_back("box never shown: " + box.text);
-  for (const auto& dialog : scripted_dialogs_) all.push_back("file dialog never shown: " + dialog.value_or("(cancel)"));
-  for (const ScriptedPortal& portal : scripted_portals_) all.push_back("portal never shown: " + portal.name);
+  for (const auto& dialog : scripted_dialogs_)
+    all.push_back("file dialog never shown: " + dialog.value_or("(cancel)"));
+  for (const ScriptedPortal& portal : scripted_portals_)
+    all.push_back("portal never shown: " + portal.name);
   return all;
 }
 
@@ -80,18 +86,20 @@ void HeadlessSurroundings::ShowModal(Portal& portal) {
     complaints_.push_back("portal shown: " + portal.Name() + ", expected: " + script.name);
   PortalDriver driver(portal);
   if (script.work) script.work(driver);
-  for (const std::string& complaint : driver.Complaints()) complaints_.push_back(portal.Name() + ": " + complaint);
+  for (const std::string& complaint : driver.Complaints())
+    complaints_.push_back(portal.Name() + ": " + complaint);
   if (!portal.Unloaded()) complaints_.push_back("portal left open: " + portal.Name());
 }
 
-std::string HeadlessSurroundings::ReadSetting(std::string_view application, std::string_view section,
-                                              std::string_view key, std::string_view default_value) {
+std::string HeadlessSurroundings::ReadSetting(std::string_view application,
+                                              std::string_view section, std::string_view key,
+                                              std::string_view default_value) {
   const auto found = settings.find(SettingName(application, section, key));
   return found == settings.end() ? std::string(default_value) : found->second;
 }
 
-void HeadlessSurroundings::WriteSetting(std::string_view application, std::string_view section, std::string_view key,
-                                        std::string_view value) {
+void HeadlessSurroundings::WriteSetting(std::string_view application, std::string_view section,
+                                        std::string_view key, std::string_view value) {
   settings[SettingName(application, section, key)] = value;
 }
 

@@ -33,8 +33,8 @@ class HeadlessSurroundings : public Surroundings {
   void ShowHelp(int context) override { help_shown = context; }
   std::string ClipboardText() override { return clipboard; }
   void SetClipboardText(std::string_view text) override { clipboard = text; }
-  std::string ReadSetting(std::string_view application, std::string_view section, std::string_view key,
-                          std::string_view default_value) override;
+  std::string ReadSetting(std::string_view application, std::string_view section,
+                          std::string_view key, std::string_view default_value) override;
   void WriteSetting(std::string_view application, std::string_view section, std::string_view key,
                     std::string_view value) override;
   double Now() override { return now; }
@@ -49,8 +49,8 @@ class HeadlessSurroundings : public Surroundings {
   std::vector<FileDialogRequest> file_dialogs;  // every dialog that was shown
   std::map<std::string, std::string> settings;  // "APP/section/KEY", the section in lower case
   std::string clipboard;
-  std::deque<double> random_numbers;            // what Random gives next; 0 when empty
-  double now = 46266;                           // 1 September 2026
+  std::deque<double> random_numbers;  // what Random gives next; 0 when empty
+  double now = 46266;                 // 1 September 2026
   DateOrder date_order = DateOrder::kMonthFirst;
   std::string profile_folder;
   std::string program_folder;

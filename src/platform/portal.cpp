@@ -30,7 +30,9 @@ void Portal::SetFocusAndSelect(TextBox& box) {
   SetFocus(box);
 }
 
-const Control* Portal::TakeFocusRequest() { return std::exchange(focus_, nullptr); }
+const Control* Portal::TakeFocusRequest() {
+  return std::exchange(focus_, nullptr);
+}
 
 void ShowPortal(std::string_view name) {
   std::unique_ptr<Portal> portal = MakePortal ? MakePortal(name) : nullptr;

@@ -14,12 +14,37 @@
 
 namespace tallyroll {
 
-using ControlPointer = std::variant<Label*, TextBox*, CommandButton*, CheckBox*, OptionButton*, ListBox*, ComboBox*,
-                                    struct Frame*, Pages*, TabStrip*, DTPicker*, PictureBox*, Grid*>;
+using ControlPointer =
+    std::variant<Label*, TextBox*, CommandButton*, CheckBox*, OptionButton*, ListBox*, ComboBox*,
+                 struct Frame*, Pages*, TabStrip*, DTPicker*, PictureBox*, Grid*>;
 
 // Keys that a Portal asks for by name; characters come by KeyPress.
-enum class Key { kUp, kDown, kLeft, kRight, kPageUp, kPageDown, kHome, kEnd, kTab, kEnter, kDelete, kInsert,
-                 kF1, kF2, kF3, kF4, kF5, kF6, kF7, kF8, kF9, kF10, kF11, kF12 };
+enum class Key {
+  kUp,
+  kDown,
+  kLeft,
+  kRight,
+  kPageUp,
+  kPageDown,
+  kHome,
+  kEnd,
+  kTab,
+  kEnter,
+  kDelete,
+  kInsert,
+  kF1,
+  kF2,
+  kF3,
+  kF4,
+  kF5,
+  kF6,
+  kF7,
+  kF8,
+  kF9,
+  kF10,
+  kF11,
+  kF12
+};
 
 // One line of a Portal's table: a control by its name, and what happens to it.
 // Every event is raised by what the user did, never by what the program set.
@@ -27,21 +52,44 @@ struct ControlRow {
   std::string name;
   ControlPointer control;
 
-  std::function<void()> change;      // text edited, item chosen, box ticked, date picked, tab picked
-  std::function<void()> click;       // button pressed, list item or grid cell clicked
+  std::function<void()> change;  // text edited, item chosen, box ticked, date picked, tab picked
+  std::function<void()> click;   // button pressed, list item or grid cell clicked
   std::function<void()> dbl_click;
   std::function<void()> got_focus;
-  std::function<void()> lost_focus;  // comes before the click of a button pressed by mnemonic or Enter
-  std::function<bool(Key)> key_down;           // true: the key is used up
-  std::function<bool(unsigned char)> key_press;  // a typed character of the code page, 8 is Backspace
+  std::function<void()>
+      lost_focus;  // comes before the click of a button pressed by mnemonic or Enter
+  std::function<bool(Key)> key_down;  // true: the key is used up
+  std::function<bool(unsigned char)>
+      key_press;  // a typed character of the code page, 8 is Backspace
 
-  ControlRow& Change(std::function<void()> f) { change = std::move(f); return *this; }
-  ControlRow& Click(std::function<void()> f) { click = std::move(f); return *this; }
-  ControlRow& DblClick(std::function<void()> f) { dbl_click = std::move(f); return *this; }
-  ControlRow& GotFocus(std::function<void()> f) { got_focus = std::move(f); return *this; }
-  ControlRow& LostFocus(std::function<void()> f) { lost_focus = std::move(f); return *this; }
-  ControlRow& KeyDown(std::function<bool(Key)> f) { key_down = std::move(f); return *this; }
-  ControlRow& KeyPress(std::function<bool(unsigned char)> f) { key_press = std::move(f); return *this; }
+  ControlRow& Change(std::function<void()> f) {
+    change = std::move(f);
+    return *this;
+  }
+  ControlRow& Click(std::function<void()> f) {
+    click = std::move(f);
+    return *this;
+  }
+  ControlRow& DblClick(std::function<void()> f) {
+    dbl_click = std::move(f);
+    return *this;
+  }
+  ControlRow& GotFocus(std::function<void()> f) {
+    got_focus = std::move(f);
+    return *this;
+  }
+  ControlRow& LostFocus(std::function<void()> f) {
+    lost_focus = std::move(f);
+    return *this;
+  }
+  ControlRow& KeyDown(std::function<bool(Key)> f) {
+    key_down = std::move(f);
+    return *this;
+  }
+  ControlRow& KeyPress(std::function<bool(unsigned char)> f) {
+    key_press = std::move(f);
+    return *this;
+  }
 };
 
 // The table in which a Portal declares its controls and events by name, once.
@@ -90,8 +138,8 @@ class Portal {
   void SetFocusAndSelect(TextBox& box);
   const Control* TakeFocusRequest();
 
-  std::string Caption;    // of the window
-  int HelpContext = 0;    // topic shown by F1
+  std::string Caption;  // of the window
+  int HelpContext = 0;  // topic shown by F1
 
  private:
   std::string name_;

@@ -24,10 +24,14 @@ PortalDriver::PortalDriver(Portal& portal) : portal_(portal) {
 ControlRow* PortalDriver::Reach(std::string_view name, std::string_view act) {
   ControlRow* row = table_.Find(name);
   std::string why;
-  if (portal_.Unloaded()) why = "the portal is gone";
-  else if (!row) why = "there is no such control";
-  else if (!BaseOf(*row).Visible) why = "it is hidden";
-  else if (!BaseOf(*row).Enabled) why = "it is disabled";
+  if (portal_.Unloaded())
+    why = "the portal is gone";
+  else if (!row)
+    why = "there is no such control";
+  else if (!BaseOf(*row).Visible)
+    why = "it is hidden";
+  else if (!BaseOf(*row).Enabled)
+    why = "it is disabled";
   if (why.empty()) return row;
   complaints_.push_back(std::string(act) + " " + std::string(name) + ": " + why);
   return nullptr;
@@ -41,7 +45,8 @@ C* PortalDriver::As(std::string_view name, std::string_view act) {
     MoveFocus(*row);
     return portal_.Unloaded() ? nullptr : *control;
   }
-  complaints_.push_back(std::string(act) + " " + std::string(name) + ": it is another kind of control");
+  complaints_.push_back(std::string(act) + " " + std::string(name) +
+                        ": it is another kind of control");
   return nullptr;
 }
 
@@ -82,7 +87,8 @@ void PortalDriver::Type(std::string_view box, std::string_view text) {
   for (const char character : text) {
     const auto length = static_cast<int>(control->Text.size());
     if (control->MaxLength < 0 || (control->MaxLength > 0 && length >= control->MaxLength)) {
-      complaints_.push_back("type into " + std::string(box) + ": it takes no more than " + control->Text);
+      complaints_.push_back("type into " + std::string(box) + ": it takes no more than " +
+                            control->Text);
       break;
     }
     if (row->key_press && row->key_press(static_cast<unsigned char>(character))) continue;
@@ -205,9 +211,12 @@ std::string PortalDriver::Text(std::string_view control) const {
   if (!row) return "(no control " + std::string(control) + ")";
   return std::visit(
       [](auto* c) -> std::string {
-        if constexpr (requires { c->Text; }) return c->Text;
-        else if constexpr (requires { c->Caption; }) return c->Caption;
-        else return "";
+        if constexpr (requires { c->Text; })
+          return c->Text;
+        else if constexpr (requires { c->Caption; })
+          return c->Caption;
+        else
+          return "";
       },
       row->control);
 }

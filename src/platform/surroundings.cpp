@@ -19,11 +19,17 @@ Surroundings& Platform() {
   return *current_surroundings;
 }
 
-void SetPlatform(Surroundings* surroundings) { current_surroundings = surroundings; }
+void SetPlatform(Surroundings* surroundings) {
+  current_surroundings = surroundings;
+}
 
-ClassWindowCalls& ClassWindow() { return *current_window; }
+ClassWindowCalls& ClassWindow() {
+  return *current_window;
+}
 
-void SetClassWindow(ClassWindowCalls* window) { current_window = window ? window : &no_window; }
+void SetClassWindow(ClassWindowCalls* window) {
+  current_window = window ? window : &no_window;
+}
 
 BoxAnswer ShowMessage(std::string_view text, BoxIcon icon, std::string_view title) {
   return Ask(text, BoxButtons::kOk, icon, title);

@@ -55,16 +55,17 @@ class Surroundings {
   virtual void SetClipboardText(std::string_view text) = 0;
 
   // Settings by application name, section and key. Sections are compared without case.
-  virtual std::string ReadSetting(std::string_view application, std::string_view section, std::string_view key,
-                                  std::string_view default_value) = 0;
-  virtual void WriteSetting(std::string_view application, std::string_view section, std::string_view key,
-                            std::string_view value) = 0;
+  virtual std::string ReadSetting(std::string_view application, std::string_view section,
+                                  std::string_view key, std::string_view default_value) = 0;
+  virtual void WriteSetting(std::string_view application, std::string_view section,
+                            std::string_view key, std::string_view value) = 0;
 
   virtual double Now() = 0;     // local date and time as a day serial
   virtual double Random() = 0;  // 0 up to but not 1
   virtual DateOrder ShortDateOrder() = 0;
 
-  virtual std::string ProfileFolder() = 0;  // the user's folder for program data, without a final slash
+  virtual std::string
+  ProfileFolder() = 0;  // the user's folder for program data, without a final slash
   virtual std::string ProgramFolder() = 0;  // where the sample file lies
 
   virtual void PumpEvents() = 0;
@@ -75,7 +76,8 @@ Surroundings& Platform();
 void SetPlatform(Surroundings* surroundings);
 
 // The usual boxes in one line.
-BoxAnswer ShowMessage(std::string_view text, BoxIcon icon = BoxIcon::kNone, std::string_view title = kNoteToTheTeacher);
+BoxAnswer ShowMessage(std::string_view text, BoxIcon icon = BoxIcon::kNone,
+                      std::string_view title = kNoteToTheTeacher);
 BoxAnswer Ask(std::string_view text, BoxButtons buttons, BoxIcon icon = BoxIcon::kNone,
               std::string_view title = kNoteToTheTeacher);
 

@@ -39,7 +39,9 @@ frmEdit::frmEdit() : StudentForm("frmEdit") {
 }
 
 void frmEdit::Declare(ControlTable& table) {
-  table.Add("List1", List1).Change([this] { List1_Change(); });
+  // A list that gets the focus stands on its first line before anything is chosen: a click there
+  // changes nothing and still picks.
+  table.Add("List1", List1).Change([this] { List1_Change(); }).Click([this] { List1_Change(); });
   table.Add("TabStrip1", TabStrip1).Change([this] { TabStrip1_Change(); });
   DeclareFirstPage(table, "comment");
   table.Add("copy", copy).Click([this] { copy_Click(); });

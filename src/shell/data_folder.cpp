@@ -35,7 +35,8 @@ void MakeDataFolder() {
 }
 
 int EnterDataFolder() {
-  return chdir(DataFolder.c_str()) == 0 ? 0 : RunTimeErrorOf(errno);
+  if (chdir(DataFolder.c_str()) == 0) return 0;
+  return errno == ENOENT ? kErrorPathNotFound : RunTimeErrorOf(errno);
 }
 
 }  // namespace tallyroll

@@ -107,16 +107,46 @@ void ForEachHeaderField(Record& r, Visitor&& visit) {
   visit("ReservedText", r.ReservedText);
 }
 
-template <typename Visitor> void ForEachField(Instrument& r, Visitor&& v) { ForEachInstrumentField(r, v); }
-template <typename Visitor> void ForEachField(const Instrument& r, Visitor&& v) { ForEachInstrumentField(r, v); }
-template <typename Visitor> void ForEachField(AttendanceDay& r, Visitor&& v) { ForEachDayField(r, v); }
-template <typename Visitor> void ForEachField(const AttendanceDay& r, Visitor&& v) { ForEachDayField(r, v); }
-template <typename Visitor> void ForEachField(AttendanceSummary& r, Visitor&& v) { ForEachSummaryField(r, v); }
-template <typename Visitor> void ForEachField(const AttendanceSummary& r, Visitor&& v) { ForEachSummaryField(r, v); }
-template <typename Visitor> void ForEachField(Student& r, Visitor&& v) { ForEachStudentField(r, v); }
-template <typename Visitor> void ForEachField(const Student& r, Visitor&& v) { ForEachStudentField(r, v); }
+template <typename Visitor>
+void ForEachField(Instrument& r, Visitor&& v) {
+  ForEachInstrumentField(r, v);
+}
+template <typename Visitor>
+void ForEachField(const Instrument& r, Visitor&& v) {
+  ForEachInstrumentField(r, v);
+}
+template <typename Visitor>
+void ForEachField(AttendanceDay& r, Visitor&& v) {
+  ForEachDayField(r, v);
+}
+template <typename Visitor>
+void ForEachField(const AttendanceDay& r, Visitor&& v) {
+  ForEachDayField(r, v);
+}
+template <typename Visitor>
+void ForEachField(AttendanceSummary& r, Visitor&& v) {
+  ForEachSummaryField(r, v);
+}
+template <typename Visitor>
+void ForEachField(const AttendanceSummary& r, Visitor&& v) {
+  ForEachSummaryField(r, v);
+}
+template <typename Visitor>
+void ForEachField(Student& r, Visitor&& v) {
+  ForEachStudentField(r, v);
+}
+template <typename Visitor>
+void ForEachField(const Student& r, Visitor&& v) {
+  ForEachStudentField(r, v);
+}
 // The header of a class: its top-level lists are not among the fields.
-template <typename Visitor> void ForEachField(Class& r, Visitor&& v) { ForEachHeaderField(r, v); }
-template <typename Visitor> void ForEachField(const Class& r, Visitor&& v) { ForEachHeaderField(r, v); }
+template <typename Visitor>
+void ForEachField(Class& r, Visitor&& v) {
+  ForEachHeaderField(r, v);
+}
+template <typename Visitor>
+void ForEachField(const Class& r, Visitor&& v) {
+  ForEachHeaderField(r, v);
+}
 
 }  // namespace tallyroll

@@ -88,12 +88,19 @@ class OldReader {
     is_ty7_ ? TakeMarks<5>(in_, s.Marks) : TakeMarks<3>(in_, s.Marks);
     in_.Read(s.DailyMarks);
     in_.Read(s.SummaryAbsent);
+    if (!s.SummaryAbsent.empty()) GiveMissingSummaryLists(s);
     in_.Read(s.SeatRow);
     in_.Read(s.SeatColumn);
     in_.Read(s.comments);
     in_.Read(s.email);
     if (is_ty7_) in_.TakeText();
     if (is_ty7_) in_.TakeText();
+  }
+
+  // The old formats count absences alone. Sized by what the file holds, not by what it claims.
+  static void GiveMissingSummaryLists(Student& s) {
+    ReDim(s.SummaryDetail, UpperBound(s.SummaryAbsent), ShortText(kNewSummaryDetail));
+    ReDim(s.SummaryLate, UpperBound(s.SummaryAbsent), ShortText(kNewSummaryCount));
   }
 
   void ReadInstrument(Instrument& i) {

@@ -186,8 +186,10 @@ class FieldWriter {
 
   void PutText(std::string_view text) {
     if (text.size() > kLongestText) throw RunTimeError{kErrorOverflow};
-    PutNumber(static_cast<std::uint16_t>(text.size()));
-    Put(text);
+    const auto length = static_cast<std::uint16_t>(text.size());
+    char* const at = Room(sizeof length + length);
+    std::memcpy(at, &length, sizeof length);
+    if (length != 0) std::memcpy(at + sizeof length, text.data(), length);
   }
 
   bool PutDescriptor(std::size_t size) {

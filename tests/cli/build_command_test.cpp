@@ -162,11 +162,11 @@ const RefusedJson kRefusals[] = {
     {"FixedTextOfOneEmpty", R"({"AttendanceDays": [{"dayflag": ""}]})",
      "AttendanceDays[1].dayflag must have exactly 1 character, blanks included"},
     {"ArrayTooShort", R"({"LetterValues": ["1"]})",
-     "LetterValues has 1 item, it must have 14 items"},
+     "LetterValues has 1 items, it must have 14 items"},
     {"ArrayTooLong", R"({"RoundTable": [[],[],[],[],[],[]]})",
      "RoundTable has 6 items, it must have 5 items"},
     {"ScaleTooShort", R"({"RoundTable": [[1],[],[],[],[]]})",
-     "RoundTable[0] has 1 item, it must have 14 items"},
+     "RoundTable[0] has 1 items, it must have 14 items"},
     {"NotAnArray", R"({"Categories": "x"})", "Categories must be an array"},
     {"NotAList", R"({"ReservedList": 3})", "ReservedList must be an array or null"},
     {"ListWithoutElementZero", R"({"ReservedList": []})",
@@ -191,19 +191,19 @@ const RefusedJson kRefusals[] = {
     {"OlderMagic", R"({"Magic": "ty7"})",
      "Magic must be \"ty8\": only the current format is written"},
     {"CountAboveItsList", R"({"NumStudents": 2, "Students": [{}]})",
-     "Students has 1 item, NumStudents is 2"},
+     "Students has 1 items, NumStudents is 2"},
     {"CountBelowItsList", R"({"NumInstruments": 0, "Instruments": [{}]})",
-     "Instruments has 1 item, NumInstruments is 0"},
+     "Instruments has 1 items, NumInstruments is 0"},
     {"CountBelowZero", R"({"NumDays": -1})", "AttendanceDays has 0 items, NumDays is -1"},
     {"ChartCountAndRows", R"({"NumCharts": 2, "ChartRows": [0, 1]})",
-     "ChartRows has 1 item, NumCharts is 2"},
+     "ChartRows has 1 items, NumCharts is 2"},
     {"ChartColumnsMissing", R"({"ChartRows": [0, 1]})", "ChartColumns has 0 items, NumCharts is 1"},
     {"MarksTooFew", R"({"Instruments": [{}, {}], "Students": [{}, {}, {"Marks": ["", "1"]}]})",
-     "Students[3].Marks has 1 item, NumInstruments is 2"},
+     "Students[3].Marks has 1 items, NumInstruments is 2"},
     {"MarksNeverDimensioned", R"({"Instruments": [{}], "Students": [{"Marks": null}]})",
      "Students[1].Marks has 0 items, NumInstruments is 1"},
     {"DailyMarksTooMany", R"({"Students": [{"DailyMarks": [" ", "A"]}]})",
-     "Students[1].DailyMarks has 1 item, NumDays is 0"},
+     "Students[1].DailyMarks has 1 items, NumDays is 0"},
     {"SeatsTooFew",
      R"({"ChartRows": [0, 1], "ChartColumns": [0, 1], "Students": [{"SeatRow": [0]}]})",
      "Students[1].SeatRow has 0 items, NumCharts is 1"},
@@ -219,15 +219,15 @@ const RefusedJson kRefusals[] = {
 };
 
 INSTANTIATE_TEST_SUITE_P(All, RefusedJsonTest, ::testing::ValuesIn(kRefusals),
-                         [](const auto& info) { return std::string(info.param.name); });
+                         [](const auto& test) { return std::string(test.param.name); });
 
 // A short text must not ask for gigabytes.
 TEST_F(BuildCommandTest, ListsOfNewStudentsHaveABound) {
   std::string items = "{}";
-  for (int i = 1; i < 20000; ++i) items += ",{}";
+  for (int i = 1; i < 5000; ++i) items += ",{}";
   const CliRun run = RunCli({"build", "-", Path("a.TYR")},
                             "{\"Instruments\": [" + items + "], \"Students\": [" + items + "]}");
-  // 838 students of 20,000 marks are the last below 2^24.
+  // 838 students of 5,000 marks are the last below 2^22.
   ExpectRefused(run, "-: Students[839] leaves out lists that would be too large");
 }
 

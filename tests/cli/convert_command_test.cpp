@@ -40,7 +40,7 @@ std::string OlderClass(bool seven) {
 class ConvertCommandTest : public CliTest, public ::testing::WithParamInterface<bool> {};
 
 INSTANTIATE_TEST_SUITE_P(BothMarks, ConvertCommandTest, ::testing::Bool(),
-                         [](const auto& info) { return info.param ? "ty7" : "ty5"; });
+                         [](const auto& test) { return test.param ? "ty7" : "ty5"; });
 
 TEST_P(ConvertCommandTest, WritesTheCurrentFormatAndLeavesTheOldFile) {
   const std::string old = Put("old.TYR", OlderClass(GetParam()));
@@ -75,6 +75,8 @@ TEST_P(ConvertCommandTest, DumpShowsTheConvertedRecordWithItsOldMark) {
   EXPECT_EQ(stands["Magic"], GetParam() ? "ty7" : "ty5");
   EXPECT_EQ(stands["Students"][0]["lastname"], "Young");
   EXPECT_EQ(stands["Students"][0]["comments"], "note");
+  EXPECT_EQ(stands["Students"][0]["SummaryDetail"], json({"", " 0/ 0/ 0/ 0/"}));
+  EXPECT_EQ(stands["Students"][0]["SummaryLate"], json({"", "0"}));
   EXPECT_EQ(opened["Magic"], stands["Magic"]);
   EXPECT_EQ(opened["Students"][0]["lastname"], "Abe");
   EXPECT_EQ(opened["Students"][0]["SummaryAbsent"][1], "2    ");

@@ -96,7 +96,9 @@ TEST_F(SampleTest, NobodyIsMarkedOnAWeekend) {
   for (const json& student : sample["Students"]) {
     for (std::size_t j = 1; j <= 122; ++j) {
       // 1 September 2026, day 1, is a Tuesday: days 5 and 6 are the first weekend.
-      if (j % 7 == 5 || j % 7 == 6) EXPECT_EQ(student["DailyMarks"][j], " ");
+      if (j % 7 == 5 || j % 7 == 6) {
+        EXPECT_EQ(student["DailyMarks"][j], " ");
+      }
     }
   }
 }

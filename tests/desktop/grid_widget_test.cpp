@@ -56,7 +56,7 @@ class GridWidgetTest : public testing::Test {
 };
 
 TEST_F(GridWidgetTest, FindsTheCellUnderThePointer) {
-  for (const At at : {At{0, 0}, At{1, 3}, At{5, 1}, At{4, 4}}) {
+  for (const At& at : {At{0, 0}, At{1, 3}, At{5, 1}, At{4, 4}}) {
     const auto cell = widget.CellAt(widget.CellRect(at.first, at.second).center());
     EXPECT_EQ(At(cell.row, cell.col), at);
   }

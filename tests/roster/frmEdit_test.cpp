@@ -67,6 +67,14 @@ TEST_F(FrmEditTest, WithoutAStudentTheFieldsWaitForAPick) {
   EXPECT_EQ(CurrentStudent, 3);
 }
 
+TEST_F(FrmEditTest, AClickOnALineThatTheListAlreadyStandsOnPicks) {
+  OpenAt(0);
+  portal.List1.ListIndex = 0;
+  driver->Press("List1");
+  EXPECT_EQ(driver->Text("lastname"), "Li");
+  EXPECT_EQ(CurrentStudent, 1);
+}
+
 TEST_F(FrmEditTest, AStudentBeyondTheClassIsNone) {
   OpenAt(4);
   EXPECT_EQ(portal.List1.ListIndex, -1);

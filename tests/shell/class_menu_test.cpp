@@ -203,10 +203,16 @@ TEST_F(ClassMenuTest, ToolbarHasItsButtonsInOrder) {
 
 TEST(Menu, EntryUnderADisabledMenuIsOutOfReach) {
   Menu menu;
-  menu.Add({.name = "top", .level = 0, .click = nullptr});
-  menu.Add({.name = "before", .level = 1, .click = nullptr});
-  menu.Add({.name = "sub", .level = 1, .click = nullptr});
-  menu.Add({.name = "deep", .level = 2, .click = nullptr});
+  const auto add = [&menu](const char* name, int level) {
+    MenuEntry entry;
+    entry.name = name;
+    entry.level = level;
+    menu.Add(entry);
+  };
+  add("top", 0);
+  add("before", 1);
+  add("sub", 1);
+  add("deep", 2);
   EXPECT_TRUE(menu.Reachable("deep"));
   menu.Enable("before", false);
   EXPECT_TRUE(menu.Reachable("deep"));

@@ -84,7 +84,7 @@ TEST_F(EnableClassMenusTest, DaysBringTheirEntries) {
   Current().NumDays = 1;
   window.EnableClassMenus(true);
   EXPECT_EQ(On(window), kWithClass + kWithDays);
-  EXPECT_EQ(ToolsOn(window), kToolsAlways + kToolsWithClass + Names{"Eatt", "View"});
+  EXPECT_EQ(ToolsOn(window), (kToolsAlways + kToolsWithClass + Names{"Eatt", "View"}));
 }
 
 TEST_F(EnableClassMenusTest, EntriesGoOffWithTheLastGradeButNotThoseThatDaysNeed) {

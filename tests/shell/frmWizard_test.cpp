@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "shell/frmWizard.h"
 
+#include <fstream>
+#include <iterator>
 #include <optional>
 
 #include "roster/frmAdd.h"
@@ -249,6 +251,18 @@ TEST_F(FrmWizardTest, CancelConfirmedGivesTheClassUp) {
   EXPECT_TRUE(portal.Unloaded());
   EXPECT_EQ(Current().NumStudents, 0);
   EXPECT_EQ(Current().Changed, kFalse);
+}
+
+TEST(FrmWizardForm, SaysItsPagesAndItsQuotation) {
+  std::ifstream file(TALLYROLL_SOURCE_DIR "/src/desktop/forms/frmWizard.ui");
+  const std::string form{std::istreambuf_iterator<char>(file), {}};
+  for (const char* text :
+       {"Welcome", "Class Information (Optional)", "Student Information (Required)",
+        "Optional Information", "Supplementary Information (Optional)",
+        "Student's Address (Optional)", "Finished", "up to 12 characters",
+        "up to 30 characters (e.g., Math 201 - Programming)",
+        "A journey of a thousand miles must begin with a single step."})
+    EXPECT_NE(form.find("<string>" + std::string(text) + "</string>"), std::string::npos) << text;
 }
 
 }  // namespace

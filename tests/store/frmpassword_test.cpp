@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "store/frmpassword.h"
 
+#include <fstream>
+#include <iterator>
 #include <map>
 #include <optional>
 
@@ -204,6 +206,20 @@ TEST_F(FrmPasswordTest, ClosingTheWindowIsCancelling) {
 TEST_F(FrmPasswordTest, WithoutAModeItDoesNotShow) {
   Open(0);
   EXPECT_TRUE(portal.Unloaded());
+}
+
+TEST(FrmPasswordForm, SaysItsFramesAndLabelsAndShowsDots) {
+  std::ifstream file(TALLYROLL_SOURCE_DIR "/src/desktop/forms/frmpassword.ui");
+  const std::string form{std::istreambuf_iterator<char>(file), {}};
+  for (const char* text :
+       {"Password Window", "New Password", "Confirm Password", "Change Password", "Enter Password",
+        "Delete Password", "Enter your case sensitive password  (up to 10 characters)",
+        "Re-enter your password", "Please enter your old password"})
+    EXPECT_NE(form.find("<string>" + std::string(text) + "</string>"), std::string::npos) << text;
+  int dotted = 0;
+  for (std::size_t at = 0; (at = form.find("QLineEdit::Password", at)) != std::string::npos; ++at)
+    ++dotted;
+  EXPECT_EQ(dotted, 5);
 }
 
 }  // namespace
