@@ -18,7 +18,6 @@ class ListBinding : public Binding<ListBox, QListWidget> {
     list.installEventFilter(this);
     list.viewport()->installEventFilter(this);
     QObject::connect(&list, &QListWidget::currentRowChanged, this, [this] {
-      if (TakeBackUnchosen()) return;
       chosen_by_press_ = true;
       UserDid({&ControlRow::change, &ControlRow::click});
     });
@@ -43,10 +42,8 @@ class ListBinding : public Binding<ListBox, QListWidget> {
   }
 
   bool eventFilter(QObject* watched, QEvent* event) override {
-    const bool pressed = event->type() == QEvent::MouseButtonPress;
-    if (event->type() == QEvent::FocusIn) focus_comes_ = true;
-    if (event->type() == QEvent::KeyPress || pressed) focus_comes_ = false;
-    if (pressed && watched == widget_.viewport()) {
+    if (event->type() == QEvent::FocusIn && watched == &widget_) return TakeFocus(event);
+    if (event->type() == QEvent::MouseButtonPress) {
       chosen_by_press_ = false;
       // A press below the last line would take away the mark but not the choice.
       if (!widget_.itemAt(static_cast<QMouseEvent*>(event)->position().toPoint())) return true;
@@ -56,10 +53,11 @@ class ListBinding : public Binding<ListBox, QListWidget> {
 
  private:
   // With the focus the list makes its first line the current one, which nobody chose.
-  bool TakeBackUnchosen() {
-    if (!focus_comes_) return false;
+  bool TakeFocus(QEvent* event) {
     const QSignalBlocker silence(widget_);
-    widget_.selectionModel()->clearCurrentIndex();
+    const bool chosen = widget_.currentRow() >= 0;
+    static_cast<QObject&>(widget_).event(event);
+    if (!chosen) widget_.selectionModel()->clearCurrentIndex();
     return true;
   }
 
@@ -80,7 +78,6 @@ class ListBinding : public Binding<ListBox, QListWidget> {
   ListColumns* columns_;  // the list's
   std::vector<std::string> list_;
   bool chosen_by_press_ = false;
-  bool focus_comes_ = false;  // until the user does something in the list
 };
 
 }  // namespace

@@ -45,7 +45,7 @@ void PrepareLabels(const QObjectList& objects) {
     if (!label || !label->buddy()) continue;
     NameList(*label);
     // Underlining a letter parts it from its neighbour: "Teacher" comes out wider than measured.
-    label->setContentsMargins(0, 0, 2, 0);
+    label->setMinimumWidth(label->sizeHint().width() + 3);
   }
 }
 

@@ -238,6 +238,8 @@ void PortalDialog::showEvent(QShowEvent* event) {
 void PortalDialog::RunModal() {
   RestorePlace(*this, FromText(portal_.Name()));
   exec();
+  // A window manager may lose the focus when a box and the Portal below it go at the same moment.
+  if (parentWidget()) parentWidget()->activateWindow();
   SavePlace(*this, FromText(portal_.Name()));
 }
 

@@ -5,7 +5,9 @@
 #include <gtest/gtest.h>
 
 #include <QCommandLinkButton>
+#include <QKeySequence>
 #include <QLabel>
+#include <QSet>
 #include <QSignalSpy>
 #include <QTest>
 
