@@ -26,8 +26,10 @@ std::string CheckLines(const std::string& file, bool& faulty) {
   }
   const std::vector<std::string> broken = BrokenInvariants(c);
   if (broken.empty()) {
-    return file + ": ok, " + Counted(c.NumStudents, "students") + ", " +
-           Counted(c.NumInstruments, "grades") + ", " + Counted(c.NumDays, "days") + "\n";
+    return ReasonLine(file, "ok, " + Counted(c.NumStudents, "students") + ", " +
+                                Counted(c.NumInstruments, "grades") + ", " +
+                                Counted(c.NumDays, "days")) +
+           "\n";
   }
   faulty = true;
   std::string lines;

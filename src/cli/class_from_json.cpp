@@ -58,9 +58,9 @@ void ReadRecord(const Json& json, const JsonPlace& at, Record& record) {
 
 // The items of a top-level list; none when it is missing. Refuses more than a count can name.
 const Json& TopLevelList(const Json& json, const JsonPlace& at, const char* name) {
-  static const Json kNone = Json::array();
+  static const Json none = Json::array();
   const auto found = json.find(name);
-  if (found == json.end()) return kNone;
+  if (found == json.end()) return none;
   const JsonPlace place = at.Field(name);
   if (!found->is_array()) place.Refuse("must be an array");
   if (found->size() > std::size_t{std::numeric_limits<i16>::max()}) {

@@ -38,9 +38,9 @@ std::string TextOf(const Json& json, const JsonPlace& at) {
 }  // namespace
 
 std::string JsonPlace::Path() const {
-  const std::string before = parent ? parent->Path() : "";
+  if (!parent) return field ? field : "";
+  const std::string before = parent->Path();
   if (field) return before.empty() ? field : before + "." + field;
-  if (!parent) return before;
   return before + "[" + PlainNumberText(static_cast<std::int64_t>(index)) + "]";
 }
 

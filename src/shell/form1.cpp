@@ -94,9 +94,26 @@ void Form1::SetNameMode(i16 mode) {
   Activate();
 }
 
+// What the teacher does in a window is meant for its class, whatever another window's closing has
+// left in work.
+void Form1::TakeUpClass() {
+  message_stands_ = false;
+  if (!Tag.empty()) CurrentClass = static_cast<i16>(Slot());
+}
+
+void Form1::ShowStatus(std::string_view text) {
+  StatusText = text;
+  message_stands_ = !text.empty();
+}
+
+void Form1::ShowHint(std::string_view text) {
+  if (!message_stands_) StatusText = text;
+}
+
 // What is clicked may destroy this window, so its handler runs from a copy.
 void Form1::ClickMenu(std::string_view name) {
   if (!menu.Reachable(name)) return;
+  TakeUpClass();
   const std::function<void()> click = menu[name].click;
   if (click) click();
 }
@@ -105,6 +122,7 @@ void Form1::ClickTool(std::string_view key) {
   const auto button = std::find_if(Toolbar2.begin(), Toolbar2.end(),
                                    [&](const ToolButton& b) { return b.key == key; });
   if (button == Toolbar2.end() || !button->enabled) return;
+  TakeUpClass();
   const std::function<void()> click = button->click;
   if (click) click();
 }

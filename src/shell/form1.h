@@ -77,10 +77,12 @@ class Form1 {
   void mnuAverage_Click();  // the Portal of the current method
   void mnuStatistic_Click();
   void SetNameMode(i16 mode);
-  void ShowStatus(std::string_view text) { StatusText = text; }
+  void ShowStatus(std::string_view text);  // a message, which stands until the next command
 
  private:
   int Slot() const;  // from Tag
+  void TakeUpClass();
+  void ShowHint(std::string_view text);  // what the pointer is over, unless a message stands
   void ImportText();
   void CheckNameMode();
 
@@ -97,7 +99,8 @@ class Form1 {
   bool Save();  // WriteClassFile; false when it failed
   void AskToSave();
 
-  std::string save_title_;  // title of the save dialog; empty is the dialog's own
+  bool message_stands_ = false;  // StatusText is a message, which no hint replaces
+  std::string save_title_;       // title of the save dialog; empty is the dialog's own
 };
 
 }  // namespace tallyroll

@@ -29,6 +29,7 @@ i16 ItemOrNone(int item, int count) {
 
 void Form1::Grid1_DblClick() {
   if (Tag.empty()) return;
+  TakeUpClass();
   const int row = Grid1.MouseRow;
   const int col = Grid1.MouseCol;
   switch (SpotAt(row, col)) {
@@ -51,18 +52,18 @@ void Form1::Grid1_MouseMove() {
   const int col = Grid1.MouseCol;
   switch (SpotAt(Grid1.MouseRow, col)) {
     case Spot::kNothing:
-      return ShowStatus("");
+      return ShowHint("");
     case Spot::kNewStudent:
-      return ShowStatus(IsIdColumn(col) ? "Double Click - Enter a New Student"
-                                        : "Double Click to Enter a New Student");
+      return ShowHint(IsIdColumn(col) ? "Double Click - Enter a New Student"
+                                      : "Double Click to Enter a New Student");
     case Spot::kNewGrade:
-      return ShowStatus("Double Click to Enter a New Grade");
+      return ShowHint("Double Click to Enter a New Grade");
     case Spot::kGrade:
-      return ShowStatus("Double Click on a Grade to Edit");
+      return ShowHint("Double Click on a Grade to Edit");
     case Spot::kStudent:
-      return ShowStatus(IsIdColumn(col)
-                            ? "Double Click on an ID to Edit a Name, ID or Supplementary Info"
-                            : "Double Click on a Name to Edit a Name, ID or Supplementary Info");
+      return ShowHint(IsIdColumn(col)
+                          ? "Double Click on an ID to Edit a Name, ID or Supplementary Info"
+                          : "Double Click on a Name to Edit a Name, ID or Supplementary Info");
   }
 }
 

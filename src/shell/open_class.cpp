@@ -121,6 +121,7 @@ void Form1::ReadInto(std::string_view path) {
   CurrentClass = static_cast<i16>(SlotIndex);
   ResetClassSlot();
   Current().FileName = path;
+  SweepLeftovers(Current().FileName);
   ReadClassFile();
   Busy = false;
   if (!Current().FileName.empty()) return ShowOpenedClass();

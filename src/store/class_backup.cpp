@@ -17,9 +17,11 @@ bool IsMiddleOfCharacter(char byte) {
   return (static_cast<unsigned char>(byte) & 0xC0) == 0x80;
 }
 
-bool IsSameFile(const std::string& a, const std::string& b) {
-  const FileStamp stamp = StampOf(a);
-  return stamp.size >= 0 && stamp == StampOf(b);
+// Whether the file already stands under that other name too. A file that bears the name itself
+// has no backup there.
+bool IsKeptUnder(const std::string& path, const std::string& name) {
+  const FileStamp stamp = StampOf(path);
+  return stamp.size >= 0 && stamp == StampOf(name) && CanonicalPath(path) != CanonicalPath(name);
 }
 
 }  // namespace
@@ -37,7 +39,7 @@ Backup BackUpConvertedFile(const std::string& path) {
   const std::string first = BackupName(path, "old");
   std::string backup = first;
   // A save that was killed between backup and writing has already done this.
-  if (IsSameFile(path, first)) return {true, {}};
+  if (IsKeptUnder(path, first)) return {true, {}};
   if (PathExists(first)) {
     backup = BackupName(path, "ol6");
     ShowMessage("A file with the name " + PathForDisplay(first) +
@@ -52,15 +54,16 @@ void TakeBack(const Backup& backup) {
   if (!backup.made_now.empty()) ::unlink(backup.made_now.c_str());
 }
 
-int BackUpUnreadFile(const std::string& path, std::string& kept) {
+int BackUpUnreadFile(const std::string& path, std::string& kept, Backup& backup) {
   int error = EEXIST;
   for (const char* ending : {"bad", "ba2", "ba3", "ba4", "ba5", "ba6", "ba7", "ba8", "ba9"}) {
     kept = BackupName(path, ending);
-    if (IsSameFile(path, kept)) return 0;
+    if (IsKeptUnder(path, kept)) return 0;
     error = KeepUnderName(path, kept);
     if (error != EEXIST) break;
   }
   if (error == EEXIST) return kErrorPathAccess;
+  if (error == 0) backup = {true, kept};
   return error == 0 ? 0 : RunTimeErrorOf(error);
 }
 

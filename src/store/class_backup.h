@@ -24,6 +24,7 @@ void TakeBack(const Backup& backup);
 
 // Before the first save of a class that could not be read whole: keeps the file as ".bad", ".ba2"
 // to ".ba9". Returns 0 and the name, or the error number for which the save must not go on.
-int BackUpUnreadFile(const std::string& path, std::string& kept);
+// `backup` tells whether this call made it.
+int BackUpUnreadFile(const std::string& path, std::string& kept, Backup& backup);
 
 }  // namespace tallyroll

@@ -91,7 +91,7 @@ void SettleReadClass(std::size_t file_size, bool older, int error) {
 // A file that someone else wrote since is not lost without a question.
 bool MaySaveOver(const std::string& path) {
   const ClassFile& known = CurrentClassFile();
-  if (known.path != path || known.stamp.size < 0) return true;
+  if (known.path != CanonicalPath(path) || known.stamp.size < 0) return true;
   const FileStamp now = StampOf(path);
   if (now.size < 0 || now == known.stamp) return true;
   return Ask("The class file has been changed by another program since it was opened. Save over "
@@ -99,11 +99,11 @@ bool MaySaveOver(const std::string& path) {
              BoxButtons::kYesNo, BoxIcon::kExclamation) == BoxAnswer::kYes;
 }
 
-int KeepUnreadOriginal(const std::string& path) {
-  ClassFile& known = CurrentClassFile();
-  if (!known.read_failed || known.path != path || !PathExists(path)) return 0;
+int KeepUnreadOriginal(const std::string& path, Backup& backup) {
+  const ClassFile& known = CurrentClassFile();
+  if (!known.read_failed || known.path != CanonicalPath(path) || !PathExists(path)) return 0;
   std::string kept;
-  const int error = BackUpUnreadFile(path, kept);
+  const int error = BackUpUnreadFile(path, kept, backup);
   if (error == 0) {
     ClassWindow().ShowStatus("The file that could not be read whole is kept as " +
                              PathForDisplay(kept));
@@ -118,15 +118,17 @@ int SaveCurrentClass() {
   const bool first_save = old_mark == "ty5" || old_mark == "ty7";
   c.Magic = "ty8";
   std::string bytes;
+  Backup unread;
   Backup backup;
   int error = SerializeClass(c, bytes);
-  if (error == 0) error = KeepUnreadOriginal(c.FileName);
+  if (error == 0) error = KeepUnreadOriginal(c.FileName, unread);
   if (error == 0 && first_save) backup = BackUpConvertedFile(c.FileName);
   // The file that became the backup leaves no tail behind: it would have been moved out of the way.
   const OldTail tail = backup.stands ? OldTail::kDrop : OldTail::kKeep;
   if (error == 0) error = ReplaceFile(c.FileName, bytes, tail);
   if (error == 0) return 0;
   TakeBack(backup);
+  TakeBack(unread);
   c.Magic = old_mark;
   return error;
 }
@@ -154,7 +156,6 @@ void ReadClassFile() {
   OpenState = kOpening;
   SetDefaultLetterValues();
   Platform().SetWaitCursor(true);
-  SweepLeftovers(c.FileName);
   const FileContents file = ReadWholeFile(c.FileName);
   const std::string mark = file.bytes.substr(0, 3);
   const bool older = mark == "ty5" || mark == "ty7";
@@ -169,7 +170,7 @@ void ReadClassFile() {
     c.FileName.clear();
     return;
   }
-  CurrentClassFile() = {c.FileName, file.stamp, false};
+  CurrentClassFile() = {CanonicalPath(c.FileName), file.stamp, false};
   SettleReadClass(file.bytes.size(), older, error);
 }
 
@@ -184,7 +185,7 @@ void WriteClassFile() {
     FailSave(error);
     return ReportFailedSave(error);
   }
-  CurrentClassFile() = {c.FileName, StampOf(c.FileName), false};
+  CurrentClassFile() = {CanonicalPath(c.FileName), StampOf(c.FileName), false};
   ClassWindow().EnableEntry("mnusave", true);
 }
 

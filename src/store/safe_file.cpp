@@ -11,6 +11,8 @@
 #include <cerrno>
 #include <climits>
 #include <cstdio>
+#include <filesystem>
+#include <system_error>
 #include <utility>
 
 #include "base/run_time_error.h"
@@ -144,7 +146,10 @@ std::string TailBehind(const std::string& target, std::size_t start) {
 void TakeOverOwnerAndMode(int handle, const struct stat& old) {
   // The owner first: a change of owner clears mode bits. Who may not give files away keeps them.
   if (::fchown(handle, old.st_uid, old.st_gid) != 0) errno = 0;
-  if (::fchmod(handle, old.st_mode & 07777) != 0) ThrowLastError();
+  if (::fchmod(handle, old.st_mode & 07777) == 0) return;
+  // Some mounts know no modes; there a file written in place would have had none either.
+  const bool no_modes = errno == EPERM || errno == EOPNOTSUPP || errno == ENOSYS;
+  if (!no_modes) ThrowLastError();
 }
 
 // Makes the rename itself last. A file system that cannot flush a folder says so; that is no fault.
@@ -205,6 +210,12 @@ int CopyUnderName(const std::string& path, const std::string& name) {
 }
 
 }  // namespace
+
+std::string CanonicalPath(const std::string& path) {
+  std::error_code error;
+  const std::filesystem::path canonical = std::filesystem::weakly_canonical(path, error);
+  return error ? path : canonical.string();
+}
 
 FileStamp StampOf(const std::string& path) {
   struct stat status;

@@ -21,6 +21,9 @@ struct FileStamp {
   friend bool operator==(const FileStamp&, const FileStamp&) = default;
 };
 
+// The one name of a file behind links and other spellings; the path itself where there is none.
+std::string CanonicalPath(const std::string& path);
+
 FileStamp StampOf(const std::string& path);
 
 struct FileContents {

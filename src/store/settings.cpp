@@ -118,7 +118,8 @@ void ParseLetterString(std::string_view text, Class& c) {
 }
 
 std::string RecentFileOf(std::string_view stored) {
-  const bool numbered = stored.size() >= 2 && stored[1] == '.';
+  const bool numbered =
+      stored.size() >= 2 && stored[0] >= '0' && stored[0] <= '9' && stored[1] == '.';
   return std::string(numbered ? stored.substr(std::min<std::size_t>(3, stored.size())) : stored);
 }
 

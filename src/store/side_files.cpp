@@ -61,7 +61,6 @@ int ParseLetterFile(std::string_view bytes, Class& c) {
 
 int ParseRoundFile(std::string_view bytes, Class& c) {
   FieldReader in(bytes);
-  c.RoundScale = 1;
   c.RoundTable[1][0] = 100;
   try {
     for (std::size_t k = 1; k <= 12; ++k) {
@@ -70,6 +69,7 @@ int ParseRoundFile(std::string_view bytes, Class& c) {
       c.RoundTable[1][k] = static_cast<float>(value.ToDouble());
       in.Take(kLegendLength);
     }
+    c.RoundScale = 1;
   } catch (const RunTimeError& fault) {
     return fault.number;
   }

@@ -1,4 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include <fstream>
+
 #include "shell/recent_list.h"
 #include "store/settings.h"
 #include "tests/shell/shell_test.h"
@@ -26,6 +28,15 @@ TEST_F(OpenClassTest, OpenShowsTheClassInAWindowOfItsOwn) {
   EXPECT_EQ(OpenState, 0);
   EXPECT_EQ(PendingAction, 0);
   EXPECT_EQ(frame_screen.calls, std::vector<std::string>{"shown MATHS.TYR"});
+}
+
+TEST_F(OpenClassTest, WhatAKilledSaveLeftIsSweptUp) {
+  const std::string path = MakeFile("maths.tyr", Sample(3));
+  std::ofstream(path + ".saving") << "half";
+  screen.ExpectFileDialog(path);
+  Frame->ClickMenu("mnuOpen");
+  EXPECT_FALSE(std::filesystem::exists(path + ".saving"));
+  EXPECT_TRUE(std::filesystem::exists(path));
 }
 
 TEST_F(OpenClassTest, DialogAsksForClassFilesThatExist) {

@@ -522,12 +522,6 @@ TEST_F(ClassFileTest, AnOlderFileWithAPasswordAsksForIt) {
   EXPECT_EQ(Current().FileName, "");
 }
 
-TEST_F(ClassFileTest, OpeningSweepsWhatAKilledSaveLeft) {
-  Put(file + ".saving", "half");
-  Open(SmallClass());
-  EXPECT_EQ(Files(), 1);
-}
-
 // A teacher's machine may die at any moment of a save: then the old file is there whole, or the
 // new.
 TEST_F(ClassFileTest, AKilledSaveLeavesTheOldFileOrTheNew) {

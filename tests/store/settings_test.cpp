@@ -67,7 +67,7 @@ class NotingSurroundings : public HeadlessSurroundings {
   std::string written;
 };
 
-TEST_F(SettingsTest, SavingGoesInTheToldOrder) {
+TEST_F(SettingsTest, SavingGoesInAFixedOrder) {
   NotingSurroundings noting;
   SetPlatform(&noting);
   SaveProgramSettings();
@@ -91,8 +91,9 @@ TEST_F(SettingsTest, AnUnknownDisplayModeIsTheDefault) {
 TEST_F(SettingsTest, ARecentFileLosesItsMenuNumber) {
   EXPECT_EQ(RecentFileOf("1. C:\\MATH.TYR"), "C:\\MATH.TYR");
   EXPECT_EQ(RecentFileOf("/home/MATH.TYR"), "/home/MATH.TYR");
-  EXPECT_EQ(RecentFileOf("x."), "");
-  EXPECT_EQ(RecentFileOf("x.y"), "");
+  EXPECT_EQ(RecentFileOf("1."), "");
+  EXPECT_EQ(RecentFileOf("5.y"), "");
+  EXPECT_EQ(RecentFileOf("/.classes/MATH.TYR"), "/.classes/MATH.TYR");
   EXPECT_EQ(RecentFileOf("x"), "x");
   EXPECT_EQ(RecentFileOf(""), "");
 }

@@ -108,6 +108,7 @@ TEST_F(SideFilesTest, AShortFileIsReported) {
   screen.settings["TALLYRLP7/startup/ROUND"] = "1";
   screen.ExpectBox("File Error: 62");
   ReadSideFiles();
+  EXPECT_EQ(Current().RoundScale, 0);
 }
 
 }  // namespace

@@ -97,7 +97,7 @@ TEST_F(SortStudentsTest, EqualKeysEndWhereTheGapsCarryThem) {
   EXPECT_EQ(Order(), "3 2 1 4 ");
 }
 
-// The sort as it is told, on whole records.
+// The sort in its plainest form, on whole records.
 void PlainShellSort(std::vector<Name>& names) {
   const auto half = [](int n) { return n % 4 == 3 ? n / 2 + 1 : n / 2; };
   const auto key = [](const Name& n) { return n.lastname + n.firstname; };
