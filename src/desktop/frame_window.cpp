@@ -100,8 +100,14 @@ void FrameWindow::Connect(ClassWindowView* view) {
   connect(view, &ClassWindowView::ToolPressed, this, [this, view](const QString& key) {
     RunInFront(view, [&key](Form1& form) { form.ClickTool(key.toStdString()); });
   });
-  connect(view, &ClassWindowView::CellChosen, this,
-          [this, view] { RunInFront(view, [](Form1& form) { form.Grid1_DblClick(); }); });
+  connect(view, &ClassWindowView::CellChosen, this, [this, view](int row, int col) {
+    RunInFront(view, [row, col](Form1& form) {
+      // The pointer has moved on since.
+      form.Grid1.MouseRow = row;
+      form.Grid1.MouseCol = col;
+      form.Grid1_DblClick();
+    });
+  });
   // Queued: the window must not go while its own close event runs.
   connect(
       view, &ClassWindowView::CloseAsked, this,

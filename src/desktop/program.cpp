@@ -31,7 +31,6 @@ int RunProgram(QApplication& application, bool dark, const std::string& file) {
     FrameWindow window;
     Screen = &window;
     surroundings.help_hook = [&window](int context) { ShowHelpTopic(&window, context); };
-    window.ShowFrame();
     // Within the event loop, so that the greeting can be shown and the program be left from it.
     QTimer::singleShot(0, &window, [&window, file] {
       Frame->Load(file);

@@ -118,8 +118,7 @@ DateOrder QtSurroundings::ShortDateOrder() {
 }
 
 std::string QtSurroundings::ProfileFolder() {
-  const QString data = QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation);
-  return ToPath(data + QStringLiteral("/Tallyroll"));
+  return ToPath(QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation));
 }
 
 std::string QtSurroundings::ProgramFolder() {
