@@ -128,6 +128,30 @@ TEST_F(FrmPasswordTest, AChangedPasswordReplacesTheOld) {
   EXPECT_EQ(OpenState, 50);
 }
 
+TEST_F(FrmPasswordTest, NothingEnteredIsNoOldPassword) {
+  Open(19, "Apple");
+  screen.ExpectBox("Password incorrect - please re-enter.");
+  driver->Press("okbt");
+  EXPECT_EQ(OpenState, 19);
+}
+
+TEST_F(FrmPasswordTest, AStoredPasswordMayBePadded) {
+  Open(19, "Apple");
+  Current().Password += "     ";
+  Enter("textcontrol2", "Apple");
+  EXPECT_EQ(OpenState, 17);
+}
+
+TEST_F(FrmPasswordTest, CancellingAfterTheFirstEntryStoresNothing) {
+  Open(17);
+  Enter("textcontrol0", "Apple");
+  screen.ExpectBox("Are you sure you want to cancel?", BoxAnswer::kYes);
+  driver->Press("cancelbt");
+  EXPECT_EQ(OpenState, 18);
+  EXPECT_EQ(Current().PasswordSet, 0);
+  EXPECT_EQ(Current().Password, "");
+}
+
 TEST_F(FrmPasswordTest, DeletingNeedsTheOldPassword) {
   Open(21, "Apple");
   EXPECT_EQ(portal.framecontrol.Current, 4);
