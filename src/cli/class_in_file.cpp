@@ -8,6 +8,7 @@
 #include "base/number_text.h"
 #include "base/run_time_error.h"
 #include "cli/command_line_surroundings.h"
+#include "cli/commands.h"
 #include "cli/date_order.h"
 #include "store/class_defaults.h"
 #include "store/class_file.h"

@@ -7,10 +7,6 @@
 
 #include "store/records.h"
 
-namespace CLI {
-class App;
-}
-
 namespace tallyroll {
 
 // Each answers nothing when all went well, otherwise the reason for a refusal.
@@ -23,9 +19,6 @@ struct OpenOptions {
   std::optional<std::string> password;
   std::string date_order;  // "mdy", "dmy", "ymd"; empty for the order of the system
 };
-
-// Adds --password and --date-order to a command that opens a class.
-void AddOpenOptions(CLI::App& command, OpenOptions& options);
 
 // The class in slot 1 as the program holds it after every step of opening.
 std::string OpenClassFile(const std::string& path, const OpenOptions& options);
