@@ -7,6 +7,8 @@
 #include <optional>
 
 #include "platform/class_window.h"
+#include "store/class_defaults.h"
+#include "store/class_file.h"
 #include "store/password.h"
 #include "store/program_state.h"
 #include "tests/support/portal_test.h"
@@ -174,6 +176,21 @@ TEST_F(FrmPasswordTest, DeletingTakesThePasswordAway) {
   const std::map<std::string, bool> expected = {
       {"mnupassenter", true}, {"mnupasschange", false}, {"mnupassdelete", false}};
   EXPECT_EQ(window.entries, expected);
+}
+
+// No Portal is expected at the second opening, so a question would be a complaint.
+TEST_F(FrmPasswordTest, AfterDeletingAndASaveTheFileOpensWithoutAQuestion) {
+  Current().FileName = Path("math.TYR");
+  Current().Magic = "ty8";
+  Open(21, "Apple");
+  screen.ExpectBox("Your password has been deleted");
+  Enter("textcontrol4", "Apple");
+  WriteClassFile();
+  ResetClassSlot();
+  Current().FileName = Path("math.TYR");
+  ReadClassFile();
+  EXPECT_EQ(Current().FileName, Path("math.TYR"));
+  EXPECT_EQ(OpenState, 10);
 }
 
 TEST_F(FrmPasswordTest, TheRightPasswordLetsAnOpeningGoOn) {
