@@ -21,7 +21,8 @@ void PrintResident() {
 
 // The greeting of a start without a class.
 void LeaveGreeting() {
-  if (auto* greeting = qobject_cast<QDialog*>(QApplication::activeModalWidget())) greeting->reject();
+  if (auto* greeting = qobject_cast<QDialog*>(QApplication::activeModalWidget()))
+    greeting->reject();
 }
 
 }  // namespace
