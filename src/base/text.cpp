@@ -2,8 +2,6 @@
 // Text as bytes of code page 1252.
 #include "base/text.h"
 
-#include <algorithm>
-
 namespace tallyroll {
 namespace {
 
@@ -49,11 +47,15 @@ std::string Mapped(std::string_view text, unsigned char (*map)(unsigned char)) {
 }  // namespace
 
 std::string_view TrimLeft(std::string_view text) {
-  return text.substr(std::min(text.find_first_not_of(' '), text.size()));
+  std::size_t start = 0;
+  while (start < text.size() && text[start] == ' ') ++start;
+  return text.substr(start);
 }
 
 std::string_view TrimRight(std::string_view text) {
-  return text.substr(0, text.find_last_not_of(' ') + 1);
+  std::size_t end = text.size();
+  while (end > 0 && text[end - 1] == ' ') --end;
+  return text.substr(0, end);
 }
 
 std::string_view Trim(std::string_view text) {
