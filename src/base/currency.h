@@ -36,11 +36,15 @@ class Currency {
 
   Currency operator-() const;
   Currency& operator+=(Currency other) {
-    if (__builtin_add_overflow(scaled_, other.scaled_, &scaled_)) Overflow();
+    std::int64_t result = 0;
+    if (__builtin_add_overflow(scaled_, other.scaled_, &result)) Overflow();
+    scaled_ = result;
     return *this;
   }
   Currency& operator-=(Currency other) {
-    if (__builtin_sub_overflow(scaled_, other.scaled_, &scaled_)) Overflow();
+    std::int64_t result = 0;
+    if (__builtin_sub_overflow(scaled_, other.scaled_, &result)) Overflow();
+    scaled_ = result;
     return *this;
   }
   friend Currency operator+(Currency a, Currency b) { return a += b; }
