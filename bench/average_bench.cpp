@@ -17,7 +17,7 @@ void PutBigClassToWork(i16 method) {
   ResetStore();
   ResetAverages();
   Current() = BigAveragedClass(200, 100, method);
-  RebuildDerivedFields();
+  PrepareWeights();
   MakeTotalPossible();
 }
 

@@ -44,7 +44,11 @@ std::int64_t RoundedWhole(Float value) {
   // Without a branch: which way a figure goes is as good as chance.
   const int outward = int{rest > Float{0.5}} | (int{rest == Float{0.5}} & int{whole % 2 != 0});
   const int away_from_zero = value < 0 ? -1 : 1;
-  return Narrow<std::int64_t>(Wide{whole} + outward * away_from_zero);
+  std::int64_t rounded = 0;
+  if (__builtin_add_overflow(whole, outward * away_from_zero, &rounded)) {
+    throw RunTimeError{kErrorOverflow};
+  }
+  return rounded;
 }
 
 }  // namespace

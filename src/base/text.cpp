@@ -46,22 +46,6 @@ std::string Mapped(std::string_view text, unsigned char (*map)(unsigned char)) {
 
 }  // namespace
 
-std::string_view TrimLeft(std::string_view text) {
-  std::size_t start = 0;
-  while (start < text.size() && text[start] == ' ') ++start;
-  return text.substr(start);
-}
-
-std::string_view TrimRight(std::string_view text) {
-  std::size_t end = text.size();
-  while (end > 0 && text[end - 1] == ' ') --end;
-  return text.substr(0, end);
-}
-
-std::string_view Trim(std::string_view text) {
-  return TrimLeft(TrimRight(text));
-}
-
 std::string UpperCase(std::string_view text) {
   return Mapped(text, Upper);
 }

@@ -66,7 +66,7 @@ class AveragePropertiesTest : public AverageTest {
       for (std::size_t i = 1; i < c.Instruments.size(); ++i)
         c.Students[s].Marks[i] = AnyMark(c.Instruments[i].mvalue);
     }
-    RebuildDerivedFields();
+    PrepareWeights();
     for (const std::size_t t : {kHomework, kQuiz, kTest, kEssay, kExtra}) {
       c.TypePercents[t] = Money("25");
       if (t != kExtra) c.TypeWeights[t] = Money(UpTo(1) == 0 ? "2" : "0");

@@ -63,7 +63,7 @@ class AverageTest : public ::testing::Test {
       c.Students[1].Marks[i] = line.mark;
     }
     const auto percents = c.TypePercents;
-    RebuildDerivedFields();
+    PrepareWeights();
     c.TypePercents = percents;
     if (method == 2) {
       EXPECT_EQ(MakeTotalPossible(), 0);

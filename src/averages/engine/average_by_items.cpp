@@ -64,7 +64,6 @@ class ItemsAverage {
   }
 
   void TakeIntoTypes(const Standing& mark) {
-    const bool candidate = mark.droppable && mark.row.MayBeDropped();
     for (const std::size_t t : mark.row.types) {
       if (!mark.special) {
         ++totals_.counts[t];
@@ -72,7 +71,8 @@ class ItemsAverage {
         totals_.maxes[t] += mark.row.Max();
       }
       // A grade stands as the lowest of one type only.
-      if (candidate && type_weights_[t] == kMayDrop && IsLowest(mark, t)) return;
+      const bool candidate = mark.droppable && type_weights_[t] == kMayDrop;
+      if (candidate && mark.row.MayBeDropped() && IsLowest(mark, t)) return;
     }
   }
 
