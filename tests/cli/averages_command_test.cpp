@@ -141,8 +141,7 @@ TEST_F(AveragesCommandTest, OneFormAtATime) {
 }
 
 TEST_F(AveragesCommandTest, AFileThatIsMissingIsRefused) {
-  ExpectRefused(RunCli({"averages", Path("none.TYR")}),
-                Path("none.TYR") + ": File Error: 53");
+  ExpectRefused(RunCli({"averages", Path("none.TYR")}), Path("none.TYR") + ": File Error: 53");
 }
 
 }  // namespace
