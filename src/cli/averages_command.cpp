@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include <CLI/CLI.hpp>
 #include <memory>
-#include <optional>
 #include <vector>
 
 #include "averages/rounding.h"
@@ -20,7 +19,7 @@ struct AveragesOptions {
   bool csv = false;
   bool json = false;
   i16 name_mode = 68;
-  std::optional<std::string> password;
+  OpenOptions opening;
 };
 
 // One student's figures.
@@ -174,7 +173,7 @@ std::string ArrayText(std::string& text) {
 
 CommandResult Averages(const AveragesOptions& options) {
   NameMode = options.name_mode;
-  std::string reason = OpenClassFile(options.file, options.password);
+  std::string reason = OpenClassFile(options.file, options.opening);
   if (!reason.empty()) return Refused(options.file, reason);
   if (Current().Method == 2 && MakeTotalPossible() != 0) {
     return Refused(options.file, "the grades have more than 32767 points in all");
@@ -197,7 +196,7 @@ void AddAveragesCommand(CLI::App& app, ChosenCommand& chosen) {
       ->add_option("--name-mode", options->name_mode,
                    "by name: 68 with the ID, 57 without; by ID: 82 with the name, 73 without")
       ->check(CLI::IsMember({68, 57, 82, 73}));
-  command->add_option("--password", options->password, "the password of the file");
+  AddOpenOptions(*command, options->opening);
   command->callback(
       [&chosen, options] { chosen = [options](std::istream&) { return Averages(*options); }; });
 }
