@@ -1,10 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "bench/big_class.h"
 
+#include <algorithm>
 #include <random>
 
 #include "base/date_serial.h"
 #include "base/number_text.h"
+#include "store/class_defaults.h"
 
 namespace tallyroll {
 namespace {
@@ -72,6 +74,39 @@ Class BigClass(int students, int grades, int days) {
   ReDim(c.Students, students);
   for (int i = 1; i <= students; ++i)
     c.Students[static_cast<std::size_t>(i)] = MakeStudent(random, i, grades, days);
+  return c;
+}
+
+Class BigAveragedClass(int students, int grades, int method) {
+  // Essay, homework, quiz, test and extra credit with their places among the 26 types.
+  constexpr const char* kCodes[] = {"E ", "HW", "Q ", "T ", "X "};
+  constexpr int kPlaces[] = {4, 6, 10, 12, 13};
+  constexpr int kPercents[] = {15, 20, 25, 40, 5};
+  Class c = BigClass(students, grades, 0);
+  SetDefaultLetterValues(c);
+  SetDefaultRoundScale(c);
+  c.RoundMode = 0;
+  int counted = 0;
+  for (int i = 1; i <= grades; ++i) {
+    Instrument& grade = c.Instruments[static_cast<std::size_t>(i)];
+    grade.typecode = kCodes[i % 5];
+    if (i % 5 != 4) ++counted;
+  }
+  for (int i = 1; i <= grades; ++i) {
+    c.Instruments[static_cast<std::size_t>(i)].weight =
+        Currency::FromDouble(i % 5 == 4 ? 0.1 : 100.0 / counted);
+  }
+  c.Method = static_cast<i16>(method);
+  c.AverageFlag4 = kTrue;
+  c.AverageSettings = PlainNumberText(method) + ",0,0,0,1";
+  for (int t = 1; t <= 26; ++t) {
+    const auto* const place = std::find(std::begin(kPlaces), std::end(kPlaces), t);
+    const bool used = place != std::end(kPlaces);
+    c.TypeWeights[static_cast<std::size_t>(t)] = Currency::FromWhole(used && t != 13 ? 2 : 0);
+    c.AverageSettings += used && t != 13 ? ",2" : ",0";
+    c.PercentsText += used ? PlainNumberText(kPercents[place - std::begin(kPlaces)]) : "0";
+    if (t < 26) c.PercentsText += '\r';
+  }
   return c;
 }
 

@@ -17,7 +17,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   ParseAverageSettings();
   for (const i16 method : {i16{0}, i16{1}, i16{2}, i16{3}, i16{5}}) {
     c.Method = method;
-    RebuildDerivedFields();
+    PrepareWeights();
     Require(c.Weights.size() == 1);
   }
   return 0;

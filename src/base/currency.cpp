@@ -12,8 +12,6 @@ namespace {
 
 __extension__ typedef __int128 Wide;
 
-constexpr std::int64_t kScale = 10000;
-
 template <typename Integer>
 Integer Narrow(Wide value) {
   if (value < std::numeric_limits<Integer>::min() || value > std::numeric_limits<Integer>::max()) {
@@ -23,9 +21,10 @@ Integer Narrow(Wide value) {
 }
 
 // The nearest whole quotient, a tie going to the even one.
-Wide RoundedQuotient(Wide dividend, Wide divisor) {
-  Wide quotient = dividend / divisor;
-  Wide remainder = dividend % divisor;
+template <typename Integer>
+Integer RoundedQuotient(Integer dividend, Integer divisor) {
+  Integer quotient = dividend / divisor;
+  Integer remainder = dividend % divisor;
   if (remainder < 0) {
     --quotient;
     remainder += divisor;
@@ -36,20 +35,26 @@ Wide RoundedQuotient(Wide dividend, Wide divisor) {
 
 // The nearest whole number, a tie going to the even one, whatever the rounding mode of the
 // processor. Beyond 64 bits it overflows.
-std::int64_t RoundedWhole(long double value) {
-  constexpr long double kLimit = 9223372036854775808.0L;
+template <typename Float>
+std::int64_t RoundedWhole(Float value) {
+  constexpr Float kLimit = 9223372036854775808.0;
   if (!(value >= -kLimit && value < kLimit)) throw RunTimeError{kErrorOverflow};
-  const long double lower = std::floor(value);
-  const auto whole = static_cast<std::int64_t>(lower);
-  const long double rest = value - lower;
-  const bool up = rest > 0.5L || (rest == 0.5L && whole % 2 != 0);
-  return up ? Narrow<std::int64_t>(Wide{whole} + 1) : whole;
+  const auto whole = static_cast<std::int64_t>(value);
+  const Float rest = std::abs(value - static_cast<Float>(whole));
+  // Without a branch: which way a figure goes is as good as chance.
+  const int outward = int{rest > Float{0.5}} | (int{rest == Float{0.5}} & int{whole % 2 != 0});
+  const int away_from_zero = value < 0 ? -1 : 1;
+  std::int64_t rounded = 0;
+  if (__builtin_add_overflow(whole, outward * away_from_zero, &rounded)) {
+    throw RunTimeError{kErrorOverflow};
+  }
+  return rounded;
 }
 
 }  // namespace
 
-Currency Currency::FromWhole(std::int64_t units) {
-  return FromScaled(Narrow<std::int64_t>(Wide{units} * kScale));
+void Currency::Overflow() {
+  throw RunTimeError{kErrorOverflow};
 }
 
 // The product is a double while one holds fractions, so that a decimal tie such as 0.00025, which
@@ -61,10 +66,6 @@ Currency Currency::FromDouble(double value) {
   return FromScaled(RoundedWhole(static_cast<long double>(value) * kScale));
 }
 
-double Currency::ToDouble() const {
-  return static_cast<double>(scaled_) / static_cast<double>(kScale);
-}
-
 std::int16_t Currency::ToWhole16() const {
   return Narrow<std::int16_t>(RoundedQuotient(scaled_, kScale));
 }
@@ -73,19 +74,14 @@ Currency Currency::operator-() const {
   return FromScaled(Narrow<std::int64_t>(-Wide{scaled_}));
 }
 
-Currency& Currency::operator+=(Currency other) {
-  scaled_ = Narrow<std::int64_t>(Wide{scaled_} + other.scaled_);
-  return *this;
-}
-
-Currency& Currency::operator-=(Currency other) {
-  scaled_ = Narrow<std::int64_t>(Wide{scaled_} - other.scaled_);
-  return *this;
-}
-
 Currency operator*(Currency a, Currency b) {
+  std::int64_t short_product = 0;
+  if (!__builtin_mul_overflow(a.scaled_, b.scaled_, &short_product)) {
+    return Currency::FromScaled(RoundedQuotient(short_product, Currency::kScale));
+  }
   const Wide product = Wide{a.scaled_} * b.scaled_;
-  return Currency::FromScaled(Narrow<std::int64_t>(RoundedQuotient(product, kScale)));
+  return Currency::FromScaled(
+      Narrow<std::int64_t>(RoundedQuotient<Wide>(product, Currency::kScale)));
 }
 
 std::int16_t RoundToInt16(double value) {

@@ -20,19 +20,33 @@ class Currency {
     return c;
   }
   // A whole number of units, exactly.
-  static Currency FromWhole(std::int64_t units);
+  static Currency FromWhole(std::int64_t units) {
+    Currency c;
+    if (__builtin_mul_overflow(units, kScale, &c.scaled_)) Overflow();
+    return c;
+  }
   // Rounded to four decimals, a tie going to the even digit. NaN and infinities overflow.
   static Currency FromDouble(double value);
 
   constexpr std::int64_t scaled() const { return scaled_; }
   // Division by 10000 in floating point.
-  double ToDouble() const;
+  double ToDouble() const { return static_cast<double>(scaled_) / static_cast<double>(kScale); }
   // The nearest whole number, a tie going to the even one; overflows beyond 16 bits.
   std::int16_t ToWhole16() const;
 
   Currency operator-() const;
-  Currency& operator+=(Currency other);
-  Currency& operator-=(Currency other);
+  Currency& operator+=(Currency other) {
+    std::int64_t result = 0;
+    if (__builtin_add_overflow(scaled_, other.scaled_, &result)) Overflow();
+    scaled_ = result;
+    return *this;
+  }
+  Currency& operator-=(Currency other) {
+    std::int64_t result = 0;
+    if (__builtin_sub_overflow(scaled_, other.scaled_, &result)) Overflow();
+    scaled_ = result;
+    return *this;
+  }
   friend Currency operator+(Currency a, Currency b) { return a += b; }
   friend Currency operator-(Currency a, Currency b) { return a -= b; }
   // The exact product, rounded to four decimals, a tie going to the even digit.
@@ -41,6 +55,10 @@ class Currency {
   friend constexpr auto operator<=>(Currency, Currency) = default;
 
  private:
+  static constexpr std::int64_t kScale = 10000;
+
+  [[noreturn]] static void Overflow();
+
   std::int64_t scaled_ = 0;
 };
 

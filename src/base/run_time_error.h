@@ -7,6 +7,7 @@
 namespace tallyroll {
 
 inline constexpr int kErrorOverflow = 6;         // a number beyond Currency or 16 bits
+inline constexpr int kErrorSubscript = 9;        // an item beyond its list
 inline constexpr int kErrorDivisionByZero = 11;  // a division by nothing
 inline constexpr int kErrorTypeMismatch = 13;    // a text that is no number where one is needed
 inline constexpr int kErrorFileNotFound = 53;

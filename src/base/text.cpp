@@ -2,8 +2,6 @@
 // Text as bytes of code page 1252.
 #include "base/text.h"
 
-#include <algorithm>
-
 namespace tallyroll {
 namespace {
 
@@ -47,18 +45,6 @@ std::string Mapped(std::string_view text, unsigned char (*map)(unsigned char)) {
 }
 
 }  // namespace
-
-std::string_view TrimLeft(std::string_view text) {
-  return text.substr(std::min(text.find_first_not_of(' '), text.size()));
-}
-
-std::string_view TrimRight(std::string_view text) {
-  return text.substr(0, text.find_last_not_of(' ') + 1);
-}
-
-std::string_view Trim(std::string_view text) {
-  return TrimLeft(TrimRight(text));
-}
 
 std::string UpperCase(std::string_view text) {
   return Mapped(text, Upper);

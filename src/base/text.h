@@ -8,9 +8,17 @@
 namespace tallyroll {
 
 // Blanks only: a class file pads with blanks, and a tab that a teacher typed is text.
-std::string_view TrimLeft(std::string_view text);
-std::string_view TrimRight(std::string_view text);
-std::string_view Trim(std::string_view text);
+inline std::string_view TrimLeft(std::string_view text) {
+  while (!text.empty() && text.front() == ' ') text.remove_prefix(1);
+  return text;
+}
+inline std::string_view TrimRight(std::string_view text) {
+  while (!text.empty() && text.back() == ' ') text.remove_suffix(1);
+  return text;
+}
+inline std::string_view Trim(std::string_view text) {
+  return TrimLeft(TrimRight(text));
+}
 
 // Upper and lower case by code page 1252, so "é" becomes "É".
 std::string UpperCase(std::string_view text);

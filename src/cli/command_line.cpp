@@ -66,6 +66,7 @@ int RunCommandLine(int argc, const char* const* argv, std::istream& in, std::ost
   AddCheckCommand(app, chosen);
   AddConvertCommand(app, chosen);
   AddShowCommand(app, chosen);
+  AddAveragesCommand(app, chosen);
   try {
     app.parse(argc, argv);
   } catch (const CLI::ParseError& error) {

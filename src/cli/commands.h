@@ -37,5 +37,6 @@ void AddBuildCommand(CLI::App& app, ChosenCommand& chosen);
 void AddCheckCommand(CLI::App& app, ChosenCommand& chosen);
 void AddConvertCommand(CLI::App& app, ChosenCommand& chosen);
 void AddShowCommand(CLI::App& app, ChosenCommand& chosen);
+void AddAveragesCommand(CLI::App& app, ChosenCommand& chosen);
 
 }  // namespace tallyroll

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "shell/program.h"
 
+#include "averages/engine/average_state.h"
 #include "shell/shell_state.h"
 #include "store/program_state.h"
 #include "store/settings.h"
@@ -10,6 +11,7 @@ namespace tallyroll {
 void ResetProgram() {
   ResetStore();
   ResetSettings();
+  ResetAverages();
   ResetShell();
 }
 

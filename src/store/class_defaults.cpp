@@ -147,11 +147,11 @@ int ParseAverageSettings() {
   return error;
 }
 
-int RebuildDerivedFields() {
+int PrepareWeights() {
   Class& c = Current();
   int error = 0;
-  ReDim(c.Weights, c.NumInstruments);
-  ReDim(c.InstrumentUse, c.NumInstruments);
+  ReDimPreserve(c.Weights, c.NumInstruments);
+  ReDimPreserve(c.InstrumentUse, c.NumInstruments);
   c.TypePercents.fill(Currency());
   for (std::size_t i = 1; i < c.Weights.size(); ++i) {
     const Instrument& instrument = c.Instruments[i];

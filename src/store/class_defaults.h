@@ -39,7 +39,8 @@ void AddStudentDefaults();
 int ParseAverageSettings();
 
 // After every read: Weights, InstrumentUse and TypePercents by Method, and the scale of Skip
-// Rounding. Returns 0, or 6 when a number of PercentsText is out of range.
-int RebuildDerivedFields();
+// Rounding. What a Portal put into the lists stays. Returns 0, or 6 when a number of PercentsText
+// is out of range.
+int PrepareWeights();
 
 }  // namespace tallyroll

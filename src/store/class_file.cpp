@@ -82,7 +82,7 @@ void SettleReadClass(std::size_t file_size, bool older, int error) {
   if (c.RoundScale == 4) c.RoundScale = 0;
   if (older) ReadSideFiles();
   const int settings = ParseAverageSettings();
-  const int derived = RebuildDerivedFields();
+  const int derived = PrepareWeights();
   if (settings != 0 || derived != 0) ReportReadError(settings != 0 ? settings : derived);
   SortStudents();
   Platform().SetWaitCursor(false);

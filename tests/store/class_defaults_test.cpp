@@ -248,7 +248,7 @@ TEST_F(ClassDefaultsTest, MethodZeroTakesTheInstrumentsOwnWeights) {
   Class& c = Current();
   MakeInstruments(c);
   c.Method = 0;
-  EXPECT_EQ(RebuildDerivedFields(), 0);
+  EXPECT_EQ(PrepareWeights(), 0);
   EXPECT_EQ(c.Weights, (List<Currency>{Whole(0), Whole(40), Whole(60)}));
   EXPECT_EQ(c.InstrumentUse, (List<Currency>(3)));
 }
@@ -257,7 +257,7 @@ TEST_F(ClassDefaultsTest, APointMethodNotesWhichInstrumentsCount) {
   Class& c = Current();
   MakeInstruments(c);
   c.Method = 2;
-  EXPECT_EQ(RebuildDerivedFields(), 0);
+  EXPECT_EQ(PrepareWeights(), 0);
   EXPECT_EQ(c.Weights, (List<Currency>(3)));
   EXPECT_EQ(c.InstrumentUse, (List<Currency>{Whole(0), Whole(2), Whole(1)}));
 }
@@ -265,7 +265,7 @@ TEST_F(ClassDefaultsTest, APointMethodNotesWhichInstrumentsCount) {
 TEST_F(ClassDefaultsTest, WithoutAMethodWeightsStayNothing) {
   Class& c = Current();
   MakeInstruments(c);
-  EXPECT_EQ(RebuildDerivedFields(), 0);
+  EXPECT_EQ(PrepareWeights(), 0);
   EXPECT_EQ(c.Weights, (List<Currency>(3)));
 }
 
@@ -274,7 +274,7 @@ TEST_F(ClassDefaultsTest, TypeMethodsReadThePercents) {
     Class& c = Current();
     c.Method = method;
     c.PercentsText = TypeNumbers("\r");
-    EXPECT_EQ(RebuildDerivedFields(), 0);
+    EXPECT_EQ(PrepareWeights(), 0);
     EXPECT_EQ(c.TypePercents[1], Whole(2));
     EXPECT_EQ(c.TypePercents[26], Currency::FromScaled(15000));
   }
@@ -285,7 +285,7 @@ TEST_F(ClassDefaultsTest, OtherMethodsHaveNoPercents) {
   c.Method = 2;
   c.TypePercents.fill(Whole(9));
   c.PercentsText = TypeNumbers("\r");
-  EXPECT_EQ(RebuildDerivedFields(), 0);
+  EXPECT_EQ(PrepareWeights(), 0);
   EXPECT_EQ(c.TypePercents[1], Currency());
 }
 
@@ -294,18 +294,18 @@ TEST_F(ClassDefaultsTest, LabsNeedADropFlagUnderTypeMethods) {
   c.Method = 1;
   c.AverageFlag1 = kTrue;
   c.AverageFlag2 = kTrue;
-  RebuildDerivedFields();
+  PrepareWeights();
   EXPECT_EQ(c.AverageFlag1, kTrue);
   c.AverageFlag2 = kFalse;
   c.AverageFlag4 = kTrue;
-  RebuildDerivedFields();
+  PrepareWeights();
   EXPECT_EQ(c.AverageFlag1, kTrue);
   c.AverageFlag4 = kFalse;
-  RebuildDerivedFields();
+  PrepareWeights();
   EXPECT_EQ(c.AverageFlag1, kFalse);
   c.Method = 2;
   c.AverageFlag1 = kTrue;
-  RebuildDerivedFields();
+  PrepareWeights();
   EXPECT_EQ(c.AverageFlag1, kTrue);
 }
 
@@ -313,10 +313,10 @@ TEST_F(ClassDefaultsTest, SkipRoundingPreparesItsScaleLast) {
   Class& c = Current();
   SetDefaultLetterValues();
   c.RoundMode = 0;
-  RebuildDerivedFields();
+  PrepareWeights();
   EXPECT_EQ(c.RoundScale, 0);
   c.RoundMode = 1;
-  RebuildDerivedFields();
+  PrepareWeights();
   EXPECT_EQ(c.RoundScale, 4);
   EXPECT_EQ(c.RoundTable[4][2], 95.0f);
 }
@@ -325,7 +325,7 @@ TEST_F(ClassDefaultsTest, AHugePercentIsAnOverflow) {
   Class& c = Current();
   c.Method = 1;
   c.PercentsText = "5\r1e30\r7";
-  EXPECT_EQ(RebuildDerivedFields(), kErrorOverflow);
+  EXPECT_EQ(PrepareWeights(), kErrorOverflow);
   EXPECT_EQ(c.TypePercents[1], Whole(5));
 }
 
