@@ -3,6 +3,7 @@
 
 #include <array>
 
+#include "grades/frmMarks.h"
 #include "roster/frmAdd.h"
 #include "roster/frmEdit.h"
 #include "shell/frmWizard.h"
@@ -31,7 +32,7 @@ constexpr std::array kPortals{
     PortalRow{"frmEdit", Make<frmEdit>},
     PortalRow{"frmstartup", Make<frmstartup>},
     PortalRow{"frmdelete"},
-    PortalRow{"frmMarks"},
+    PortalRow{"frmMarks", Make<frmMarks>},
     PortalRow{"frmAtt"},
     PortalRow{"frmAtsum"},
     PortalRow{"frmdGrade"},
