@@ -3,6 +3,7 @@
 
 #include <array>
 
+#include "grades/frmEmarks.h"
 #include "grades/frmMarks.h"
 #include "roster/frmAdd.h"
 #include "roster/frmEdit.h"
@@ -36,7 +37,7 @@ constexpr std::array kPortals{
     PortalRow{"frmAtt"},
     PortalRow{"frmAtsum"},
     PortalRow{"frmdGrade"},
-    PortalRow{"frmEmarks"},
+    PortalRow{"frmEmarks", Make<frmEmarks>},
     PortalRow{"frmEMarksS"},
     PortalRow{"frmcategories"},
     PortalRow{"frmletter"},
