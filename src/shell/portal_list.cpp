@@ -3,6 +3,7 @@
 
 #include <array>
 
+#include "grades/frmEMarksS.h"
 #include "grades/frmEmarks.h"
 #include "grades/frmMarks.h"
 #include "roster/frmAdd.h"
@@ -38,7 +39,7 @@ constexpr std::array kPortals{
     PortalRow{"frmAtsum"},
     PortalRow{"frmdGrade"},
     PortalRow{"frmEmarks", Make<frmEmarks>},
-    PortalRow{"frmEMarksS"},
+    PortalRow{"frmEMarksS", Make<frmEMarksS>},
     PortalRow{"frmcategories"},
     PortalRow{"frmletter"},
     PortalRow{"frmEatt"},
