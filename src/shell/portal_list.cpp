@@ -6,6 +6,7 @@
 #include "grades/frmEMarksS.h"
 #include "grades/frmEmarks.h"
 #include "grades/frmMarks.h"
+#include "grades/frmdGrade.h"
 #include "roster/frmAdd.h"
 #include "roster/frmEdit.h"
 #include "shell/frmWizard.h"
@@ -37,7 +38,7 @@ constexpr std::array kPortals{
     PortalRow{"frmMarks", Make<frmMarks>},
     PortalRow{"frmAtt"},
     PortalRow{"frmAtsum"},
-    PortalRow{"frmdGrade"},
+    PortalRow{"frmdGrade", Make<frmdGrade>},
     PortalRow{"frmEmarks", Make<frmEmarks>},
     PortalRow{"frmEMarksS", Make<frmEMarksS>},
     PortalRow{"frmcategories"},
