@@ -6,6 +6,7 @@
 #include "grades/frmEMarksS.h"
 #include "grades/frmEmarks.h"
 #include "grades/frmMarks.h"
+#include "grades/frmcategories.h"
 #include "grades/frmdGrade.h"
 #include "roster/frmAdd.h"
 #include "roster/frmEdit.h"
@@ -41,7 +42,7 @@ constexpr std::array kPortals{
     PortalRow{"frmdGrade", Make<frmdGrade>},
     PortalRow{"frmEmarks", Make<frmEmarks>},
     PortalRow{"frmEMarksS", Make<frmEMarksS>},
-    PortalRow{"frmcategories"},
+    PortalRow{"frmcategories", Make<frmcategories>},
     PortalRow{"frmletter"},
     PortalRow{"frmEatt"},
     PortalRow{"frmDatt"},
