@@ -8,6 +8,7 @@
 #include "grades/frmMarks.h"
 #include "grades/frmcategories.h"
 #include "grades/frmdGrade.h"
+#include "grades/frmletter.h"
 #include "roster/frmAdd.h"
 #include "roster/frmEdit.h"
 #include "shell/frmWizard.h"
@@ -43,7 +44,7 @@ constexpr std::array kPortals{
     PortalRow{"frmEmarks", Make<frmEmarks>},
     PortalRow{"frmEMarksS", Make<frmEMarksS>},
     PortalRow{"frmcategories", Make<frmcategories>},
-    PortalRow{"frmletter"},
+    PortalRow{"frmletter", Make<frmletter>},
     PortalRow{"frmEatt"},
     PortalRow{"frmDatt"},
     PortalRow{"frmsingles"},
