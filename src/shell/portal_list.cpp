@@ -6,6 +6,7 @@
 #include "grades/frmEMarksS.h"
 #include "grades/frmEmarks.h"
 #include "grades/frmMarks.h"
+#include "grades/frmMgrade.h"
 #include "grades/frmcategories.h"
 #include "grades/frmdGrade.h"
 #include "grades/frmletter.h"
@@ -50,7 +51,7 @@ constexpr std::array kPortals{
     PortalRow{"frmsingles"},
     PortalRow{"frminfo"},
     PortalRow{"FRMROLLBOOK"},
-    PortalRow{"frmMgrade"},
+    PortalRow{"frmMgrade", Make<frmMgrade>},
     PortalRow{"frmweights"},
     PortalRow{"frmpercents"},
     PortalRow{"frmpoints"},
