@@ -58,13 +58,11 @@ void frmEMarksS::Declare(ControlTable& table) {
 
 void frmEMarksS::Load() {
   const Class& c = Current();
-  namecaption.Caption = NameMode == 73 ? "Id 's" : "Names";
+  namecaption.Caption = NameMode >= 73 ? "Id 's" : "Names";
   for (int i = 1; i <= c.NumStudents; ++i)
     lstName.List.push_back(StudentListLine(c.Students[static_cast<std::size_t>(i)]));
   FillTitles(grdgrade);
-  grdgrade.Enabled = false;
-  for (CommandButton* button : {&marks.Command1, &marks.Command2, &marks.Command3, &marks.Command4})
-    button->Enabled = false;
+  marks.Enable(false);
   SetFocus(lstName);
 }
 
@@ -78,9 +76,7 @@ void frmEMarksS::Show(int student) {
   for (int k = 1; k < grdgrade.Rows(); ++k)
     grdgrade.SetTextMatrix(k, kMarkColumn, TrimRight(MarkOf(Shown(), k)));
   marks.GoTo(1);
-  grdgrade.Enabled = true;
-  for (CommandButton* button : {&marks.Command1, &marks.Command2, &marks.Command3, &marks.Command4})
-    button->Enabled = true;
+  marks.Enable(true);
   DataChanged = false;
 }
 

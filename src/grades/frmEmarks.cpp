@@ -62,9 +62,8 @@ void frmEmarks::Load() {
 
 void frmEmarks::EnableFields(bool on) {
   for (TextBox* box : {&title, &code, &mvalue, &dropyn, &lowpass}) box->Enabled = on;
-  testdate.Enabled = ttypelist.Enabled = Grid1.Enabled = on;
-  for (CommandButton* button : {&marks.Command1, &marks.Command2, &marks.Command3, &marks.Command4})
-    button->Enabled = on;
+  testdate.Enabled = ttypelist.Enabled = on;
+  marks.Enable(on);
 }
 
 Instrument& frmEmarks::Shown() {

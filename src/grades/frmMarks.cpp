@@ -2,7 +2,7 @@
 #include "grades/frmMarks.h"
 
 #include <cmath>
-#include <limits>
+#include <initializer_list>
 
 #include "base/text.h"
 #include "grades/grade_types.h"
@@ -109,10 +109,8 @@ void frmMarks::StartOver() {
 void frmMarks::OpenFill(bool open) {
   actions.Current = open ? 1 : 0;
   fillframe.Visible = open;
-  for (Control* rest : {static_cast<Control*>(&headerframe), static_cast<Control*>(&specialframe),
-                        static_cast<Control*>(&clipframe), static_cast<Control*>(&Grid1),
-                        static_cast<Control*>(&fill), static_cast<Control*>(&another),
-                        static_cast<Control*>(&exit), static_cast<Control*>(&cancel)})
+  for (Control* rest : std::initializer_list<Control*>{&headerframe, &specialframe, &clipframe,
+                                                       &Grid1, &fill, &another, &exit, &cancel})
     rest->Enabled = !open;
 }
 

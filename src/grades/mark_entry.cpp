@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "grades/mark_entry.h"
 
+#include <initializer_list>
 #include <utility>
 
 #include "base/text.h"
@@ -108,6 +109,12 @@ void MarkEntry::Declare(ControlTable& table, std::string_view grid_name) {
   table.Add("Command2", Command2).Click([this] { Press(kNone); });
   table.Add("Command3", Command3).Click([this] { Press(kCut); });
   table.Add("Command4", Command4).Click([this] { Press(kExcused); });
+}
+
+void MarkEntry::Enable(bool on) {
+  for (Control* control :
+       std::initializer_list<Control*>{&marks_, &Command1, &Command2, &Command3, &Command4})
+    control->Enabled = on;
 }
 
 bool MarkEntry::KeyDown(Key key) {

@@ -55,6 +55,8 @@ class MarkEntry : public CellEntry {
 
   // The grid and behind it the four buttons.
   void Declare(ControlTable& table, std::string_view grid_name);
+  // Switches the grid and the buttons as one.
+  void Enable(bool on);
 
  protected:
   bool KeyDown(Key key) override;

@@ -42,12 +42,16 @@ TEST_F(FrmEMarksSTest, ListsStudentsAndTitles) {
   EXPECT_EQ(portal.grdgrade.TextMatrix(2, 1), "LAK");
   EXPECT_EQ(Cell(1), "");
   EXPECT_FALSE(driver->Enabled("grdgrade"));
+  EXPECT_FALSE(driver->Enabled("Command4"));
 }
 
-TEST_F(FrmEMarksSTest, WithoutNamesTheCaptionSaysSo) {
-  NameMode = 73;
-  OpenPortal();
-  EXPECT_EQ(driver->Text("namecaption"), "Id 's");
+TEST_F(FrmEMarksSTest, SortedByIdTheCaptionSaysSo) {
+  for (const i16 mode : {i16{73}, i16{82}}) {
+    NameMode = mode;
+    frmEMarksS one;
+    one.Load();
+    EXPECT_EQ(one.namecaption.Caption, "Id 's");
+  }
 }
 
 TEST_F(FrmEMarksSTest, APickShowsTheMarksOfTheStudent) {

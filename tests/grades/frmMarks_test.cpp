@@ -288,6 +288,16 @@ TEST_F(FrmMarksTest, AMaximumScoreBeyond16BitsIsRefused) {
   EXPECT_EQ(Grade(1).mvalue, 32767);
 }
 
+TEST_F(FrmMarksTest, AMaximumScoreThatRoundsTo0IsRefused) {
+  screen.clipboard = "7z\rRivers\rRIV\r0.4\r30\r9/10/2026\rN\rHW  - Homework\r";
+  OpenMarks();
+  driver->Press("paste");
+  TypeMarks();
+  screen.ExpectBox(kScoreMustBeAbove0);
+  driver->Press("exit");
+  EXPECT_EQ(Current().NumInstruments, 0);
+}
+
 TEST_F(FrmMarksTest, AnyKeyFlipsWhetherTheGradeMayBeDropped) {
   OpenMarks();
   driver->TypeKeys("dropyn", "n");
@@ -402,6 +412,15 @@ TEST_F(FrmMarksTest, CancelAfterAMarkThatWasTakenBackCloses) {
   TypeMark(1, "8\b");
   driver->Press("cancel");
   EXPECT_TRUE(portal.Unloaded());
+}
+
+TEST_F(FrmMarksTest, CancelAfterAFillAloneCloses) {
+  OpenMarks();
+  driver->Press("fill");
+  driver->Press("Command5");
+  driver->Press("cancel");
+  EXPECT_TRUE(portal.Unloaded());
+  EXPECT_EQ(Current().NumInstruments, 0);
 }
 
 TEST_F(FrmMarksTest, AQuizUnderMethod1InAClassWithoutOneForgetsTheMethod) {
