@@ -24,6 +24,13 @@ constexpr std::array kContexts = {
     250,  // adding students: frmAdd
     260,  // editing students: frmEdit
     270,  // passwords: frmpassword
+    300,  // entering grades: frmMarks
+    310,  // editing a grade: frmEmarks
+    320,  // editing the grades of a student: frmEMarksS
+    330,  // deleting, transferring and ordering grades: frmdGrade
+    340,  // naming grade types: frmcategories
+    350,  // what letters count: frmletter
+    360,  // missing grades: frmMgrade
 };
 
 }  // namespace

@@ -3,6 +3,13 @@
 
 #include <array>
 
+#include "grades/frmEMarksS.h"
+#include "grades/frmEmarks.h"
+#include "grades/frmMarks.h"
+#include "grades/frmMgrade.h"
+#include "grades/frmcategories.h"
+#include "grades/frmdGrade.h"
+#include "grades/frmletter.h"
 #include "roster/frmAdd.h"
 #include "roster/frmEdit.h"
 #include "shell/frmWizard.h"
@@ -31,20 +38,20 @@ constexpr std::array kPortals{
     PortalRow{"frmEdit", Make<frmEdit>},
     PortalRow{"frmstartup", Make<frmstartup>},
     PortalRow{"frmdelete"},
-    PortalRow{"frmMarks"},
+    PortalRow{"frmMarks", Make<frmMarks>},
     PortalRow{"frmAtt"},
     PortalRow{"frmAtsum"},
-    PortalRow{"frmdGrade"},
-    PortalRow{"frmEmarks"},
-    PortalRow{"frmEMarksS"},
-    PortalRow{"frmcategories"},
-    PortalRow{"frmletter"},
+    PortalRow{"frmdGrade", Make<frmdGrade>},
+    PortalRow{"frmEmarks", Make<frmEmarks>},
+    PortalRow{"frmEMarksS", Make<frmEMarksS>},
+    PortalRow{"frmcategories", Make<frmcategories>},
+    PortalRow{"frmletter", Make<frmletter>},
     PortalRow{"frmEatt"},
     PortalRow{"frmDatt"},
     PortalRow{"frmsingles"},
     PortalRow{"frminfo"},
     PortalRow{"FRMROLLBOOK"},
-    PortalRow{"frmMgrade"},
+    PortalRow{"frmMgrade", Make<frmMgrade>},
     PortalRow{"frmweights"},
     PortalRow{"frmpercents"},
     PortalRow{"frmpoints"},

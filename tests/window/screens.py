@@ -66,6 +66,8 @@ def portals(this):
     program = sample_window(this, "sample-light")
     portal(program, ["ctrl+Insert"], "Add Student Portal", "frmAdd")
     portal(program, ["ctrl+e"], "Edit Portal", "frmEdit", ["Down"])
+    portal(program, ["ctrl+g"], "Enter  Grades  Portal", "frmMarks",
+           [*"Essay", "Tab", *"ESS", "alt+l", "Up", "Tab", *"85", "alt+o"])
     portal(program, ["alt+f", "i"], "Class Information Portal", "frmclassinfo")
     program.keys("F1")
     program.window("Tallyroll Help")

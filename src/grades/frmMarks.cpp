@@ -1,0 +1,275 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "grades/frmMarks.h"
+
+#include <cmath>
+#include <initializer_list>
+
+#include "base/text.h"
+#include "grades/grade_types.h"
+#include "grades/method_reset.h"
+#include "grades/student_grid.h"
+#include "platform/class_window.h"
+#include "platform/surroundings.h"
+#include "store/class_defaults.h"
+#include "store/program_state.h"
+
+namespace tallyroll {
+namespace {
+
+constexpr std::string_view kUsualScore = "100";
+constexpr std::string_view kUsualPass = "65";
+
+void TellNotFound() {
+  ShowMessage(
+      "There are no appropriate fields to be found on the clipboard. The data on the clipboard may "
+      "not be the right type for inserting in the current module.  You need to go back to a "
+      "compatible module, then copy the information to the clipboard and try again.");
+}
+
+void TellUnreadable() {
+  ShowMessage("Can not read from Clipboard.");
+}
+
+}  // namespace
+
+frmMarks::frmMarks() : GradeForm("frmMarks") {
+  Caption = "Enter  Grades  Portal";
+  HelpContext = 300;
+  specialframe.Caption = "Special  Grade  Function Keys";
+  clipframe.Caption = "Clip Board   (Title)";
+  fillframe.Caption = "Fill all EMPTY cells with";
+  Option1.Caption = "Fill with ABS";
+  Option2.Caption = "Fill with CUT";
+  Option3.Caption = "Fill with NON";
+  Option4.Caption = "Fill with EXC";
+  Option5.Caption = "Fill with a Value";
+  Command5.Caption = "&OK";
+  Command6.Caption = "&Cancel";
+  copy.Caption = "Copy &To";
+  paste.Caption = "Paste &From";
+  pastegrade.Caption = "Transfer &Grade from Clipboard";
+  fill.Caption = "Fi&ll";
+  another.Caption = "&Another";
+  exit.Caption = "E&xit";
+  cancel.Caption = "&Cancel";
+  fillframe.Visible = false;
+}
+
+void frmMarks::Declare(ControlTable& table) {
+  table.Add("headerframe", headerframe);
+  DeclareHeader(table, "title");
+  table.Add("actions", actions);
+  table.Add("specialframe", specialframe);
+  table.Add("clipframe", clipframe);
+  table.Add("fillframe", fillframe);
+  DeclareMarks(table);
+  table.Add("copy", copy).Click([this] { copy_Click(); });
+  table.Add("paste", paste).Click([this] { paste_Click(); });
+  table.Add("pastegrade", pastegrade).Click([this] { pastegrade_Click(); });
+  table.Add("fill", fill).Click([this] { fill_Click(); });
+  table.Add("another", another).Click([this] { another_Click(); });
+  table.Add("exit", exit).Click([this] { exit_Click(); });
+  table.Add("cancel", cancel).Click([this] { cancel_Click(); });
+  const auto option = [&](std::string_view name, OptionButton& button, bool takes_text) {
+    table.Add(name, button).Click([this, takes_text] { Text1.Enabled = takes_text; });
+  };
+  option("Option1", Option1, false);
+  option("Option2", Option2, false);
+  option("Option3", Option3, false);
+  option("Option4", Option4, false);
+  option("Option5", Option5, true);
+  table.Add("Text1", Text1);
+  table.Add("Command5", Command5).Click([this] { Command5_Click(); });
+  table.Add("Command6", Command6).Click([this] { Command6_Click(); });
+}
+
+void frmMarks::Load() {
+  StartOver();
+}
+
+void frmMarks::StartOver() {
+  const std::string clipboard = Platform().ClipboardText();
+  paste.Enabled = HoldsHeader(clipboard);
+  pastegrade.Enabled = HoldsGrade(clipboard);
+  FillTypeList();
+  ChooseType(1);
+  FillStudentGrid(Grid1);
+  marks.GoTo(1);
+  title.Text.clear();
+  code.Text.clear();
+  mvalue.Text = kUsualScore;
+  dropyn.Text = "N";
+  testdate.Value = std::floor(Platform().Now());
+  lowpass.Text = kUsualPass;
+  DataEntered = false;
+  SetFocus(title);
+}
+
+// While the fill is open nothing else can be reached.
+void frmMarks::OpenFill(bool open) {
+  actions.Current = open ? 1 : 0;
+  fillframe.Visible = open;
+  for (Control* rest : std::initializer_list<Control*>{&headerframe, &specialframe, &clipframe,
+                                                       &Grid1, &fill, &another, &exit, &cancel})
+    rest->Enabled = !open;
+}
+
+void frmMarks::fill_Click() {
+  Option1.Value = true;
+  Option2.Value = Option3.Value = Option4.Value = Option5.Value = false;
+  Text1.Text.clear();
+  Text1.Enabled = false;
+  OpenFill(true);
+  SetFocus(Option1);
+}
+
+std::string_view frmMarks::FillMark() const {
+  if (Option1.Value) return "ABS";
+  if (Option2.Value) return "CUT";
+  if (Option3.Value) return "NON";
+  if (Option4.Value) return "EXC";
+  return Left(Text1.Text, kLongestMark);
+}
+
+void frmMarks::Command5_Click() {
+  for (int i = 1; i < Grid1.Rows(); ++i)
+    if (MarkCell(i).empty() || MarkCell(i) == " ") SetMarkCell(i, FillMark());
+  Command6_Click();
+}
+
+void frmMarks::Command6_Click() {
+  OpenFill(false);
+  SetFocus(Grid1);
+}
+
+bool frmMarks::NothingEntered() const {
+  return EveryMarkEmpty() && Trim(title.Text).empty() && Trim(code.Text).empty() &&
+         mvalue.Text == kUsualScore;
+}
+
+void frmMarks::AddGrade(i16 maximum_score) {
+  Class& c = Current();
+  Instrument grade;
+  grade.title = title.Text;
+  grade.code = code.Text;
+  grade.mvalue = maximum_score;
+  grade.dropyn = TrimRight(dropyn.Text);
+  grade.testdate = DateTextOfPicker();
+  grade.lowpass = lowpass.Text;
+  grade.typecode = ChosenTypecode();
+  const bool type_in_use = TypeInUse(grade.typecode);
+
+  const int n = ++c.NumInstruments;
+  ReDimPreserve(c.Instruments, n);
+  c.Instruments.back() = grade;
+  for (int i = 1; i <= c.NumStudents; ++i) {
+    Student& student = c.Students[static_cast<std::size_t>(i)];
+    ReDimPreserve(student.Marks, n, ShortText(kNewMark));
+    student.Marks.back() = MarkCell(i);
+  }
+  ReDimPreserve(c.Weights, n);
+  ReDimPreserve(c.InstrumentUse, n, Currency::FromWhole(1));
+  c.Changed = kTrue;
+  DataEntered = false;
+  ClassWindow().showform3();
+  GradeAdded(type_in_use);
+}
+
+void frmMarks::another_Click() {
+  if (RequiredEmpty()) return Remind();
+  const auto score = CheckMaximumScore(kNoteToTheTeacher);
+  if (!score) return;
+  AddGrade(*score);
+  StartOver();
+}
+
+void frmMarks::exit_Click() {
+  ClassWindow().showform3();
+  if (NothingEntered()) return Unload();
+  const auto score = CheckMaximumScore(kNoteToTheTeacher);
+  if (!score) return;
+  if (RequiredEmpty()) return Remind();
+  AddGrade(*score);
+  Unload();
+}
+
+void frmMarks::cancel_Click() {
+  const bool asks = DataEntered && !NothingEntered();
+  if (asks && Ask("Data has been entered. Are you sure you want to CANCEL?", BoxButtons::kYesNo,
+                  BoxIcon::kQuestion, "CANCEL") != BoxAnswer::kYes)
+    return;
+  Unload();
+}
+
+void frmMarks::QueryUnload() {
+  if (fillframe.Visible)
+    Command6_Click();
+  else
+    cancel_Click();
+}
+
+void frmMarks::copy_Click() {
+  Platform().SetClipboardText(HeaderOnClipboard({title.Text, code.Text, mvalue.Text, lowpass.Text,
+                                                 DateTextOfPicker(), dropyn.Text, ttypelist.Text}));
+  paste.Enabled = true;
+}
+
+bool frmMarks::MayReplaceTitle() {
+  return Trim(title.Text).empty() ||
+         Ask("There is already a Title - Replace with Clip Board", BoxButtons::kYesNo,
+             BoxIcon::kQuestion, "Note to The Teacher") == BoxAnswer::kYes;
+}
+
+void frmMarks::ShowHeader(const GradeHeaderText& header) {
+  title.Text = header.title;
+  code.Text = Left(header.code, static_cast<std::size_t>(code.MaxLength));
+  mvalue.Text = header.mvalue;
+  lowpass.Text = header.lowpass;
+  if (const auto date = DateFromText(header.testdate, Platform().ShortDateOrder()))
+    testdate.Value = *date;
+  dropyn.Text = Trim(header.dropyn) == "Y" ? "Y" : "N";
+}
+
+void frmMarks::GoToMarks() {
+  DataEntered = true;
+  marks.GoTo(Grid1.Row);
+  SetFocus(Grid1);
+}
+
+void frmMarks::paste_Click() {
+  const std::string clipboard = Platform().ClipboardText();
+  if (clipboard.empty()) return;
+  if (!HoldsHeader(clipboard)) return TellNotFound();
+  const auto header = ReadHeader(clipboard);
+  if (!header) return TellUnreadable();
+  if (!MayReplaceTitle()) return;
+  for (int i = 1; i < Grid1.Rows(); ++i) SetMarkCell(i, "");
+  ShowHeader(*header);
+  const std::size_t type = TypeOfCode(Left(header->type, 2));
+  ChooseType(type > 0 ? type : kNoType);
+  GoToMarks();
+}
+
+void frmMarks::pastegrade_Click() {
+  const std::string clipboard = Platform().ClipboardText();
+  if (clipboard.empty()) return;
+  if (!HoldsGrade(clipboard)) return TellNotFound();
+  const auto grade = ReadGrade(clipboard);
+  if (!grade) return TellUnreadable();
+  if (!MayReplaceTitle()) return;
+  ShowHeader(grade->header);
+  const std::size_t type = TypeOfCode(grade->header.type);
+  ChooseType(type > 0 ? type : kNoType);
+  for (int i = 1; i < Grid1.Rows(); ++i) SetMarkCell(i, kNewMark);
+  const Class& c = Current();
+  for (const MarkText& mark : grade->marks) {
+    for (int i = 1; i < Grid1.Rows(); ++i) {
+      if (Trim(c.Students[static_cast<std::size_t>(i)].id) != Trim(mark.id)) continue;
+      SetMarkCell(i, Left(mark.mark, kLongestMark));
+      break;
+    }
+  }
+  GoToMarks();
+}
+
+}  // namespace tallyroll

@@ -1,0 +1,56 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// frmMarks: the Enter Grades Portal. It adds a grade to the class with a mark for every student.
+#pragma once
+
+#include <string_view>
+
+#include "grades/grade_clipboard.h"
+#include "grades/grade_form.h"
+
+namespace tallyroll {
+
+struct frmMarks : GradeForm {
+  frmMarks();
+  void Declare(ControlTable& table) override;
+  void Load() override;
+  // With the fill open, the way out is the way out of the fill.
+  void QueryUnload() override;
+
+  Frame headerframe;   // what describes the grade
+  Frame specialframe;  // the buttons of the special marks
+  Frame clipframe;
+  Pages actions;    // the frames and buttons, or the fill in their place
+  Frame fillframe;  // shown while the fill is open
+  OptionButton Option1, Option2, Option3, Option4, Option5;
+  TextBox Text1;
+  CommandButton Command5, Command6;
+  CommandButton copy, paste, pastegrade;
+  CommandButton fill, another, exit, cancel;
+
+  bool DataEntered = false;  // a key went into a mark, or a paste filled the marks
+
+  void fill_Click();
+  void Command5_Click();
+  void Command6_Click();
+  void copy_Click();
+  void paste_Click();
+  void pastegrade_Click();
+  void another_Click();
+  void exit_Click();
+  void cancel_Click();
+
+ protected:
+  void MarksChanged() override { DataEntered = true; }
+
+ private:
+  void StartOver();
+  void OpenFill(bool open);
+  std::string_view FillMark() const;
+  bool NothingEntered() const;
+  void AddGrade(i16 maximum_score);
+  bool MayReplaceTitle();
+  void ShowHeader(const GradeHeaderText& header);
+  void GoToMarks();
+};
+
+}  // namespace tallyroll

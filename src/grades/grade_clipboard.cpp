@@ -1,0 +1,118 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "grades/grade_clipboard.h"
+
+#include <array>
+
+#include "base/number_text.h"
+#include "base/text.h"
+#include "grades/marks.h"
+#include "store/class_format.h"
+#include "store/program_state.h"
+
+namespace tallyroll {
+namespace {
+
+constexpr std::string_view kHeaderMark = "7z";
+constexpr std::string_view kGradeMark = "8z";
+
+constexpr std::array kHeaderLines = {&GradeHeaderText::title,    &GradeHeaderText::code,
+                                     &GradeHeaderText::mvalue,   &GradeHeaderText::lowpass,
+                                     &GradeHeaderText::testdate, &GradeHeaderText::dropyn,
+                                     &GradeHeaderText::type};
+
+void AddLine(std::string& text, std::string_view line) {
+  text += line;
+  text += '\r';
+}
+
+void AddHeader(std::string& text, const GradeHeaderText& header) {
+  for (const auto line : kHeaderLines) AddLine(text, header.*line);
+}
+
+class LineReader {
+ public:
+  explicit LineReader(std::string_view rest) : rest_(rest) {}
+
+  std::optional<std::string_view> Next() {
+    if (rest_.empty()) return std::nullopt;
+    const std::size_t end = rest_.find_first_of("\r\n");
+    const std::string_view line = rest_.substr(0, end);
+    const std::size_t closed = end == std::string_view::npos ? rest_.size() : end + 1;
+    const bool pair = closed < rest_.size() && rest_[closed - 1] == '\r' && rest_[closed] == '\n';
+    rest_.remove_prefix(closed + (pair ? 1 : 0));
+    return line;
+  }
+
+ private:
+  std::string_view rest_;
+};
+
+// Another program may have cut off an empty last line, which is the type.
+std::optional<GradeHeaderText> NextHeader(LineReader& lines) {
+  GradeHeaderText header;
+  for (const auto field : kHeaderLines) {
+    const auto line = lines.Next();
+    if (!line && field != &GradeHeaderText::type) return std::nullopt;
+    header.*field = line.value_or("");
+    if ((header.*field).size() > kLongestText) return std::nullopt;
+  }
+  return header;
+}
+
+}  // namespace
+
+bool HoldsHeader(std::string_view clipboard) {
+  return clipboard.starts_with(kHeaderMark);
+}
+
+bool HoldsGrade(std::string_view clipboard) {
+  return clipboard.starts_with(kGradeMark);
+}
+
+std::string HeaderOnClipboard(const GradeHeaderText& header) {
+  std::string text;
+  AddLine(text, kHeaderMark);
+  AddHeader(text, header);
+  return text;
+}
+
+std::string GradeOnClipboard(int i) {
+  const Class& c = Current();
+  const Instrument& grade = c.Instruments[static_cast<std::size_t>(i)];
+  std::string text;
+  AddLine(text, kGradeMark);
+  AddHeader(text, {grade.title, grade.code, PlainNumberText(grade.mvalue), grade.lowpass,
+                   grade.testdate, grade.dropyn, grade.typecode});
+  AddLine(text, PlainNumberText(c.NumStudents));
+  for (int k = 1; k <= c.NumStudents; ++k) {
+    const Student& student = c.Students[static_cast<std::size_t>(k)];
+    AddLine(text, student.id + "," + std::string(MarkOf(student, i)));
+  }
+  return text;
+}
+
+std::optional<GradeHeaderText> ReadHeader(std::string_view clipboard) {
+  LineReader lines(clipboard);
+  lines.Next();
+  return NextHeader(lines);
+}
+
+std::optional<GradeText> ReadGrade(std::string_view clipboard) {
+  LineReader lines(clipboard);
+  lines.Next();
+  const auto header = NextHeader(lines);
+  const auto count = lines.Next();
+  if (!header || !count) return std::nullopt;
+  GradeText grade{*header, {}};
+  for (double left = LeadingNumber(*count); left >= 1; --left) {
+    const auto line = lines.Next();
+    if (!line) return std::nullopt;
+    const std::size_t comma = line->find(',');
+    if (comma == std::string_view::npos) return std::nullopt;
+    grade.marks.push_back(
+        {std::string(line->substr(0, comma)), std::string(Trim(line->substr(comma + 1)))});
+  }
+  return grade;
+}
+
+}  // namespace tallyroll

@@ -1,0 +1,155 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "grades/grade_form.h"
+
+#include <algorithm>
+
+#include "base/number_text.h"
+#include "base/run_time_error.h"
+#include "base/text.h"
+#include "grades/grade_types.h"
+#include "grades/student_grid.h"
+#include "platform/surroundings.h"
+#include "store/class_format.h"
+#include "store/program_state.h"
+
+namespace tallyroll {
+namespace {
+
+constexpr int kLongestCode = 3;
+constexpr double kUsualPass = 65;  // of 100
+
+bool Blank(std::string_view text) {
+  return Trim(text).empty();
+}
+
+}  // namespace
+
+GradeForm::GradeForm(std::string_view name)
+    : Portal(name), marks(*this, Grid1, kMarkColumn, [this] { MarksChanged(); }) {
+  title.MaxLength = mvalue.MaxLength = lowpass.MaxLength = kLongestText;
+  code.MaxLength = kLongestCode;
+}
+
+void GradeForm::DeclareHeader(ControlTable& table, std::string_view title_name) {
+  table.Add(title_name, title).Change([this] { HeaderChanged(); });
+  table.Add("code", code).Change([this] { HeaderChanged(); });
+  table.Add("mvalue", mvalue)
+      .Change([this] { mvalue_Change(); })
+      .GotFocus([this] { SelectAll(mvalue); })
+      .KeyPress([this](unsigned char key) { return mvalue_KeyPress(key); });
+  table.Add("dropyn", dropyn)
+      .Change([this] {
+        // Cut or pasted over: one of the two letters always stands.
+        if (dropyn.Text != "Y") dropyn.Text = "N";
+        HeaderChanged();
+      })
+      .KeyDown([this](Key key) { return key == Key::kDelete && dropyn_Key(); })
+      .KeyPress([this](unsigned char) { return dropyn_Key(); });
+  table.Add("testdate", testdate).Change([this] {
+    DatePicked = true;
+    HeaderChanged();
+  });
+  table.Add("lowpass", lowpass).Change([this] { HeaderChanged(); }).GotFocus([this] {
+    SelectAll(lowpass);
+  });
+  table.Add("ttypelist", ttypelist).Change([this] { HeaderChanged(); });
+}
+
+bool GradeForm::mvalue_KeyPress(unsigned char key) {
+  if (key != '.') return false;
+  ShowMessage("Maximum Score must be a whole number", BoxIcon::kNone, "Note to the teacher.");
+  return true;
+}
+
+void GradeForm::mvalue_Change() {
+  lowpass.Text = PlainNumberText(LeadingNumber(mvalue.Text) * kUsualPass / 100);
+  HeaderChanged();
+}
+
+bool GradeForm::dropyn_Key() {
+  dropyn.Text = dropyn.Text == "N" ? "Y" : "N";
+  HeaderChanged();
+  return true;
+}
+
+void GradeForm::SelectAll(TextBox& box) {
+  box.SelStart = 0;
+  box.SelLength = static_cast<int>(box.Text.size());
+}
+
+std::string_view GradeForm::MarkCell(int student) const {
+  return Grid1.TextMatrix(student, kMarkColumn);
+}
+
+void GradeForm::SetMarkCell(int student, std::string_view mark) {
+  Grid1.SetTextMatrix(student, kMarkColumn, mark);
+}
+
+bool GradeForm::EveryMarkEmpty() const {
+  for (int i = 1; i < Grid1.Rows(); ++i)
+    if (!Blank(MarkCell(i))) return false;
+  return true;
+}
+
+bool GradeForm::RequiredEmpty() const {
+  if (Blank(title.Text) || Blank(code.Text) || Blank(mvalue.Text) || Blank(dropyn.Text))
+    return true;
+  for (int i = 1; i < Grid1.Rows(); ++i)
+    if (Blank(MarkCell(i))) return true;
+  return false;
+}
+
+void GradeForm::Remind() {
+  ShowMessage(
+      "You must fill in the TITLE and CODE of the grading instrument, and a GRADE for each "
+      "student.\nUse TAB to move from one entry to the next.\nUse ARROW KEYS to move between "
+      "student names.",
+      BoxIcon::kCritical);
+  if (Blank(title.Text)) return SetFocusAndSelect(title);
+  if (Blank(code.Text)) return SetFocusAndSelect(code);
+  marks.GoTo(marks.LastActiveRow());
+  SetFocus(Grid1);
+}
+
+std::optional<i16> GradeForm::CheckMaximumScore(std::string_view note_title) {
+  try {
+    const i16 score = RoundToInt16(LeadingNumber(mvalue.Text));
+    if (score != 0) return score;
+    ShowMessage("The value for Maximum Score must be greater than 0", BoxIcon::kNone, note_title);
+  } catch (const RunTimeError&) {
+    ShowMessage("The value for Maximum Score must not be greater than 32767", BoxIcon::kNone,
+                note_title);
+  }
+  SetFocusAndSelect(mvalue);
+  return std::nullopt;
+}
+
+void GradeForm::FillTypeList() {
+  TypeTexts labels;
+  MakeTypeLabels(labels);
+  ttypelist.List.assign(labels.begin() + 1, labels.end());
+}
+
+void GradeForm::ChooseType(std::size_t type) {
+  ttypelist.ListIndex = static_cast<int>(type) - 1;
+  ttypelist.Text = type == 0 ? std::string() : ttypelist.List[type - 1];
+}
+
+std::size_t GradeForm::TypeOfCode(std::string_view typecode) const {
+  const auto found = std::ranges::find_if(ttypelist.List, [&](std::string_view label) {
+    return Trim(Left(label, 2)) == Trim(typecode);
+  });
+  if (found == ttypelist.List.end()) return 0;
+  return static_cast<std::size_t>(found - ttypelist.List.begin()) + 1;
+}
+
+std::string GradeForm::ChosenTypecode() const {
+  const bool none = Blank(ttypelist.Text);
+  return std::string(Left(none ? DefaultTypeLabel(kNoType) : ttypelist.Text, 2));
+}
+
+std::string GradeForm::DateTextOfPicker() const {
+  return DateText(testdate.Value, Platform().ShortDateOrder());
+}
+
+}  // namespace tallyroll

@@ -1,0 +1,73 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// How keys fill the cells of a grid: the typing rules of all grids that take keys.
+#pragma once
+
+#include <functional>
+#include <string_view>
+
+#include "platform/portal.h"
+
+namespace tallyroll {
+
+inline constexpr std::size_t kLongestMark = 5;
+
+// The first key in a cell replaces what stands there, Backspace takes the last character, any other
+// key is added behind. Return goes to the next row, End to the last.
+class CellEntry {
+ public:
+  // Only cells of this column take keys; `edited` is told of each change.
+  CellEntry(Grid& grid, int column, std::function<void()> edited);
+  virtual ~CellEntry() = default;
+
+  ControlRow& Declare(ControlTable& table, std::string_view grid_name);
+
+  void NextRow();
+  void LastRow();
+  // Puts the current cell there; the next key replaces what it holds.
+  void GoTo(int row);
+  int LastActiveRow() const { return last_active_row_; }
+
+ protected:
+  virtual bool KeyDown(Key key);
+  // What a cell becomes when a character was typed at its end.
+  virtual std::string Typed(std::string text) const { return text; }
+
+  bool HasCell() const;
+  void Write(std::string_view text);
+
+ private:
+  bool KeyPress(unsigned char key);
+  void Click();
+
+  Grid& grid_;
+  int column_;
+  std::function<void()> edited_;
+  bool first_key_ = true;
+  int last_active_row_ = 1;
+};
+
+// A grid of marks: upper case, five characters, and keys and buttons for the special marks.
+class MarkEntry : public CellEntry {
+ public:
+  MarkEntry(Portal& portal, Grid& grid, int column, std::function<void()> edited);
+
+  CommandButton Command1, Command2, Command3, Command4;
+
+  // The grid and behind it the four buttons.
+  void Declare(ControlTable& table, std::string_view grid_name);
+  // Switches the grid and the buttons as one.
+  void Enable(bool on);
+
+ protected:
+  bool KeyDown(Key key) override;
+  std::string Typed(std::string text) const override;
+
+ private:
+  void WriteSpecial(std::string_view mark);
+  void Press(std::string_view mark);
+
+  Portal& portal_;
+  Grid& marks_;
+};
+
+}  // namespace tallyroll

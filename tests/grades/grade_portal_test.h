@@ -1,0 +1,132 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// A grade Portal on a small class, worked as a teacher does.
+#pragma once
+
+#include <optional>
+#include <set>
+#include <string>
+#include <vector>
+
+#include "platform/class_window.h"
+#include "platform/portal_driver.h"
+#include "store/class_defaults.h"
+#include "store/class_format.h"
+#include "store/program_state.h"
+#include "tests/support/portal_test.h"
+
+namespace tallyroll {
+
+// Notes what a Portal asks of the class window.
+class NotingWindow : public ClassWindowCalls {
+ public:
+  void showform3() override { ++refills; }
+  void EnableEntry(std::string_view entry, bool on) override {
+    if (on)
+      disabled.erase(std::string(entry));
+    else
+      disabled.insert(std::string(entry));
+  }
+
+  int refills = 0;
+  std::set<std::string> disabled;
+};
+
+class GradePortalTest : public PortalTest {
+ protected:
+  GradePortalTest() {
+    SetClassWindow(&window);
+    SetDefaultLetterValues();
+  }
+  ~GradePortalTest() override {
+    SetClassWindow(nullptr);
+    if (!driver) return;
+    for (const std::string& complaint : driver->Complaints()) ADD_FAILURE() << complaint;
+  }
+
+  static Student& Enrol(const std::string& lastname, const std::string& firstname,
+                        const std::string& id) {
+    Class& c = Current();
+    ++c.NumStudents;
+    ReDimPreserve(c.Students, c.NumStudents);
+    Student& student = c.Students.back();
+    student.lastname = lastname;
+    student.firstname = firstname;
+    student.id = id;
+    ReDim(student.Marks, c.NumInstruments, ShortText("NEW"));
+    return student;
+  }
+
+  // A grade at the end with the marks of the students in their order.
+  static Instrument& Give(const std::string& title, const std::string& code,
+                          const std::string& typecode, const std::vector<std::string>& marks) {
+    Class& c = Current();
+    const int n = ++c.NumInstruments;
+    ReDimPreserve(c.Instruments, n);
+    for (int i = 1; i <= c.NumStudents; ++i) {
+      List<ShortText>& row = c.Students[static_cast<std::size_t>(i)].Marks;
+      ReDimPreserve(row, n);
+      row.back() = marks.at(static_cast<std::size_t>(i) - 1);
+    }
+    Instrument& grade = c.Instruments.back();
+    grade.title = title;
+    grade.code = code;
+    grade.typecode = typecode;
+    grade.mvalue = 100;
+    grade.dropyn = "N";
+    grade.testdate = "9/1/2026";
+    grade.lowpass = "65";
+    ReDimPreserve(c.Weights, n);
+    ReDimPreserve(c.InstrumentUse, n, Currency::FromWhole(1));
+    return grade;
+  }
+
+  static std::string Mark(int student, int grade) {
+    return Current()
+        .Students.at(static_cast<std::size_t>(student))
+        .Marks.at(static_cast<std::size_t>(grade))
+        .str();
+  }
+  static Instrument& Grade(int i) { return Current().Instruments.at(static_cast<std::size_t>(i)); }
+  static std::vector<std::string> Titles() {
+    std::vector<std::string> titles;
+    for (int i = 1; i <= Current().NumInstruments; ++i) titles.push_back(Grade(i).title);
+    return titles;
+  }
+  static std::string Bytes() {
+    std::string bytes;
+    EXPECT_EQ(SerializeClass(Current(), bytes), 0);
+    return bytes;
+  }
+
+  void UseMethod(i16 method) {
+    Current().Method = method;
+    Current().AverageSettings = "settings";
+  }
+  void ExpectMethodKept(i16 method) {
+    EXPECT_EQ(Current().Method, method);
+    EXPECT_EQ(Current().AverageSettings, "settings");
+    EXPECT_TRUE(window.disabled.empty());
+  }
+  void ExpectMethodForgotten() {
+    EXPECT_EQ(Current().Method, 5);
+    EXPECT_EQ(Current().AverageSettings, "");
+    EXPECT_EQ(window.disabled, (std::set<std::string>{"mnuoptions", "mnuprtgrade"}));
+  }
+
+  void Open(Portal& portal) {
+    portal.Load();
+    driver.emplace(portal);
+  }
+
+  NotingWindow window;
+  std::optional<PortalDriver> driver;
+};
+
+inline const std::string kReminder =
+    "You must fill in the TITLE and CODE of the grading instrument, and a GRADE for each "
+    "student.\nUse TAB to move from one entry to the next.\nUse ARROW KEYS to move between student "
+    "names.";
+inline const std::string kScoreMustBeAbove0 = "The value for Maximum Score must be greater than 0";
+inline const std::string kDataEntered = "Data has been entered. Are you sure you want to CANCEL?";
+
+}  // namespace tallyroll
