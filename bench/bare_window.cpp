@@ -10,7 +10,7 @@ class Bare : public QWidget {
  protected:
   void paintEvent(QPaintEvent*) override {
     QPainter(this).drawText(20, 40, "bare");
-    QMetaObject::invokeMethod(qApp, &QApplication::quit, Qt::QueuedConnection);
+    QMetaObject::invokeMethod(qApp, [] { QCoreApplication::exit(); }, Qt::QueuedConnection);
   }
 };
 

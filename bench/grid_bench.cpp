@@ -129,7 +129,7 @@ BENCHMARK(ScrollClassGrid)->Arg(1)->Arg(20)->Unit(benchmark::kMillisecond)->UseR
 
 int main(int argc, char** argv) {
   QApplication application(argc, argv);
-  QApplication::setStyle("Fusion");
+  QApplication::setStyle(QStringLiteral("Fusion"));
   benchmark::Initialize(&argc, argv);
   benchmark::RunSpecifiedBenchmarks();
   return 0;

@@ -13,7 +13,7 @@ class EndAfterFirstPaint : public QObject {
   bool eventFilter(QObject* watched, QEvent* event) override {
     const bool painted = event->type() == QEvent::Paint &&
                          qobject_cast<tallyroll::GridWidget*>(watched->parent()) != nullptr;
-    if (painted) QTimer::singleShot(0, qApp, &QApplication::quit);
+    if (painted) QTimer::singleShot(0, qApp, [] { QCoreApplication::exit(); });
     return false;
   }
 };

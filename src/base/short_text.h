@@ -4,6 +4,7 @@
 
 #include <bit>
 #include <cstddef>
+#include <cstdint>
 #include <cstring>
 #include <new>
 #include <string>
@@ -29,12 +30,25 @@ class ShortText {
   ShortText(const std::string& text) : ShortText(std::string_view(text)) {}
   ShortText(const ShortText& other) : ShortText(other.view()) {}
   ShortText(ShortText&& other) noexcept : ShortText() { swap(other); }
-  ShortText& operator=(ShortText other) noexcept {
+  ShortText& operator=(const ShortText& other) { return *this = ShortText(other); }
+  ShortText& operator=(ShortText&& other) noexcept {
     swap(other);
     return *this;
   }
   ~ShortText() {
     if (!IsInline()) ::operator delete(Block());
+  }
+
+  // A text of at most kMostInline bytes, of which kReadAhead may be read whatever its length: one
+  // load of a fixed size, where the length would cost a branch that nobody can foretell.
+  static constexpr std::size_t kReadAhead = 8;
+  void AssignInline(const char* text, std::size_t length) noexcept {
+    if (!IsInline()) ::operator delete(Block());
+    std::uint64_t word;
+    std::memcpy(&word, text, sizeof word);
+    const std::uint64_t kept = (std::uint64_t{1} << (8 * length)) - 1;
+    word = (word & kept) << 8 | length << 1 | kInline;
+    std::memcpy(bytes_, &word, sizeof word);
   }
 
   std::string_view view() const noexcept {

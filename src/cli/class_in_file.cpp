@@ -1,12 +1,15 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "cli/class_in_file.h"
 
+#include <CLI/CLI.hpp>
 #include <filesystem>
 
 #include "attendance/calendar.h"
 #include "base/number_text.h"
 #include "base/run_time_error.h"
 #include "cli/command_line_surroundings.h"
+#include "cli/commands.h"
+#include "cli/date_order.h"
 #include "store/class_defaults.h"
 #include "store/class_file.h"
 #include "store/older_class_file.h"
@@ -64,8 +67,16 @@ std::string ParseClassFile(const std::string& path, Class& c) {
   return outcome.error == 0 ? "" : FileErrorText(outcome.error);
 }
 
-std::string OpenClassFile(const std::string& path, const std::optional<std::string>& password) {
-  CommandLineSurroundings surroundings(password);
+void AddOpenOptions(CLI::App& command, OpenOptions& options) {
+  command.add_option("--password", options.password, "the password of the file");
+  command
+      .add_option("--date-order", options.date_order,
+                  "how the dates in the file are read (otherwise as the system's locale has them)")
+      ->check(CLI::IsMember({"mdy", "dmy", "ymd"}));
+}
+
+std::string OpenClassFile(const std::string& path, const OpenOptions& options) {
+  CommandLineSurroundings surroundings(options.password, DateOrderOfOption(options.date_order));
   CurrentClass = 1;
   ResetClassSlot();
   Current().FileName = path;

@@ -14,8 +14,14 @@ namespace tallyroll {
 // The class as it stands on disk, an older one in its converted form; no step of opening is taken.
 std::string ParseClassFile(const std::string& path, Class& c);
 
+// What opening takes from the command line.
+struct OpenOptions {
+  std::optional<std::string> password;
+  std::string date_order;  // "mdy", "dmy", "ymd"; empty for the order of the system
+};
+
 // The class in slot 1 as the program holds it after every step of opening.
-std::string OpenClassFile(const std::string& path, const std::optional<std::string>& password);
+std::string OpenClassFile(const std::string& path, const OpenOptions& options);
 
 // Writes a class completely or not at all; nothing of an earlier file stays behind it.
 std::string WriteClassTo(const std::string& path, const Class& c);

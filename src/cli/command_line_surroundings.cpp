@@ -19,8 +19,9 @@ std::unique_ptr<Portal> MakePasswordPortal(std::string_view name) {
 
 }  // namespace
 
-CommandLineSurroundings::CommandLineSurroundings(std::optional<std::string> password)
-    : password_(std::move(password)) {
+CommandLineSurroundings::CommandLineSurroundings(std::optional<std::string> password,
+                                                 DateOrder date_order)
+    : password_(std::move(password)), date_order_(date_order) {
   SetPlatform(this);
   MakePortal = MakePasswordPortal;
 }

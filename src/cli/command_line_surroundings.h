@@ -14,7 +14,7 @@ namespace tallyroll {
 // is kept. The Password Window gets the password of the command line. Lives as long as it serves.
 class CommandLineSurroundings : public Surroundings {
  public:
-  explicit CommandLineSurroundings(std::optional<std::string> password = std::nullopt);
+  CommandLineSurroundings(std::optional<std::string> password, DateOrder date_order);
   ~CommandLineSurroundings() override;
   CommandLineSurroundings(const CommandLineSurroundings&) = delete;
   CommandLineSurroundings& operator=(const CommandLineSurroundings&) = delete;
@@ -36,7 +36,7 @@ class CommandLineSurroundings : public Surroundings {
                     std::string_view) override {}
   double Now() override;
   double Random() override { return 0; }
-  DateOrder ShortDateOrder() override { return DateOrder::kMonthFirst; }
+  DateOrder ShortDateOrder() override { return date_order_; }
   std::string ProfileFolder() override { return {}; }
   std::string ProgramFolder() override { return {}; }
   void PumpEvents() override {}
@@ -44,6 +44,7 @@ class CommandLineSurroundings : public Surroundings {
 
  private:
   std::optional<std::string> password_;  // UTF-8, as typed
+  DateOrder date_order_;
   std::string refusal_;
 };
 

@@ -27,6 +27,10 @@ CommandResult Refused(const std::string& file, const std::string& reason);
 // The command that the command line chose, with its options; run when the line was read whole.
 using ChosenCommand = std::function<CommandResult(std::istream& in)>;
 
+// Adds --password and --date-order to a command that opens a class.
+struct OpenOptions;
+void AddOpenOptions(CLI::App& command, OpenOptions& options);
+
 // Each adds its command and its options, and fills `chosen` when it is the one.
 void AddDumpCommand(CLI::App& app, ChosenCommand& chosen);
 void AddBuildCommand(CLI::App& app, ChosenCommand& chosen);

@@ -12,14 +12,14 @@ namespace {
 struct ConvertOptions {
   std::string from;
   std::string to;
-  std::optional<std::string> password;
+  OpenOptions opening;
 };
 
 CommandResult Convert(const ConvertOptions& options) {
   if (IsSameFile(options.from, options.to)) {
     return Refused(options.to, "is the old file itself, which is left as it is");
   }
-  std::string reason = OpenClassFile(options.from, options.password);
+  std::string reason = OpenClassFile(options.from, options.opening);
   if (!reason.empty()) return Refused(options.from, reason);
   if (!IsOlderFormat(Current())) {
     return Refused(options.from, "is already in the current format");
@@ -37,7 +37,7 @@ void AddConvertCommand(CLI::App& app, ChosenCommand& chosen) {
   const auto options = std::make_shared<ConvertOptions>();
   command->add_option("OLD", options->from, "the older class file")->required();
   command->add_option("NEW", options->to, "the class file to write")->required();
-  command->add_option("--password", options->password, "the password of the old file");
+  AddOpenOptions(*command, options->opening);
   command->callback(
       [&chosen, options] { chosen = [options](std::istream&) { return Convert(*options); }; });
 }

@@ -13,7 +13,7 @@ namespace {
 struct DumpOptions {
   std::string file;
   bool opened = false;
-  std::optional<std::string> password;
+  OpenOptions opening;
 };
 
 CommandResult Dump(const DumpOptions& options) {
@@ -22,7 +22,7 @@ CommandResult Dump(const DumpOptions& options) {
     const std::string reason = ParseClassFile(options.file, c);
     return reason.empty() ? Done(JsonText(ClassToJson(c))) : Refused(options.file, reason);
   }
-  const std::string reason = OpenClassFile(options.file, options.password);
+  const std::string reason = OpenClassFile(options.file, options.opening);
   if (!reason.empty()) return Refused(options.file, reason);
   Json json = ClassToJson(Current());
   AddDerivedFields(Current(), json);
@@ -37,7 +37,10 @@ void AddDumpCommand(CLI::App& app, ChosenCommand& chosen) {
   command->add_option("FILE", options->file, "the class file")->required();
   CLI::Option* opened = command->add_flag("--opened", options->opened,
                                           "the class as the program holds it after opening");
-  command->add_option("--password", options->password, "the password of the file")->needs(opened);
+  AddOpenOptions(*command, options->opening);
+  for (const char* option : {"--password", "--date-order"}) {
+    command->get_option(option)->needs(opened);
+  }
   command->callback(
       [&chosen, options] { chosen = [options](std::istream&) { return Dump(*options); }; });
 }

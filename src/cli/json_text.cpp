@@ -17,7 +17,7 @@ constexpr std::size_t kWidestObject = 96;  // columns of an object that stands o
 // with a callback looks at every item of a list again at the end of each.
 class StrictBuilder : public nlohmann::json_sax<Json> {
  public:
-  StrictBuilder() = default;
+  StrictBuilder() : root(nullptr) {}
   StrictBuilder(const StrictBuilder&) = delete;
   StrictBuilder& operator=(const StrictBuilder&) = delete;
 

@@ -15,7 +15,7 @@ namespace {
 struct ShowOptions {
   std::string file;
   i16 name_mode = 68;
-  std::optional<std::string> password;
+  OpenOptions opening;
 };
 
 std::vector<std::string> HeadingRow(const Class& c) {
@@ -37,7 +37,7 @@ std::vector<std::string> StudentRow(const Class& c, int i) {
 
 CommandResult Show(const ShowOptions& options) {
   NameMode = options.name_mode;
-  const std::string reason = OpenClassFile(options.file, options.password);
+  const std::string reason = OpenClassFile(options.file, options.opening);
   if (!reason.empty()) return Refused(options.file, reason);
   const Class& c = Current();
   Table table = {HeadingRow(c)};
@@ -55,7 +55,7 @@ void AddShowCommand(CLI::App& app, ChosenCommand& chosen) {
       ->add_option("--name-mode", options->name_mode,
                    "by name: 68 with the ID, 57 without; by ID: 82 with the name, 73 without")
       ->check(CLI::IsMember({68, 57, 82, 73}));
-  command->add_option("--password", options->password, "the password of the file");
+  AddOpenOptions(*command, options->opening);
   command->callback(
       [&chosen, options] { chosen = [options](std::istream&) { return Show(*options); }; });
 }

@@ -1,33 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// How the program looks: its style, its dark palette and its icons.
+// How the program looks: its style and its dark palette.
 #include "desktop/appearance.h"
 
 #include <QApplication>
-#include <QFile>
-#include <QPainter>
 #include <QStyleFactory>
-#include <QSvgRenderer>
+
+#include "desktop/palette_icon.h"
 
 namespace tallyroll {
-
-namespace {
-
-// The two colours in which every icon is drawn.
-constexpr char kLine[] = "#000000";
-constexpr char kAccent[] = "#1f6fbf";
-constexpr char kAccentOnDark[] = "#7db8f0";
-
-QPixmap DrawIcon(QByteArray svg, const QColor& line, const QColor& accent, int size) {
-  svg.replace(kLine, line.name().toLatin1());
-  svg.replace(kAccent, accent.name().toLatin1());
-  QPixmap pixmap(size, size);
-  pixmap.fill(Qt::transparent);
-  QPainter painter(&pixmap);
-  QSvgRenderer(svg).render(&painter);
-  return pixmap;
-}
-
-}  // namespace
 
 QPalette DarkPalette() {
   const QColor window(0x2b, 0x2d, 0x30), base(0x1e, 0x1f, 0x22), text(0xe6, 0xe6, 0xe6);
@@ -53,22 +33,6 @@ QPalette DarkPalette() {
 void SetAppearance(QApplication& application, bool dark) {
   application.setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
   if (dark) application.setPalette(DarkPalette());
-}
-
-QIcon PaletteIcon(const QString& name, const QPalette& palette) {
-  QFile file(QStringLiteral(":/icons/%1.svg").arg(name));
-  if (!file.open(QIODevice::ReadOnly)) return {};
-  const QByteArray svg = file.readAll();
-  const QColor line = palette.color(QPalette::Active, QPalette::ButtonText);
-  const QColor off = palette.color(QPalette::Disabled, QPalette::ButtonText);
-  const bool on_dark = palette.color(QPalette::Active, QPalette::Button).lightness() < 128;
-  const QColor accent(QLatin1StringView(on_dark ? kAccentOnDark : kAccent));
-  QIcon icon;
-  for (int size : {24, 36, 48, 72}) {
-    icon.addPixmap(DrawIcon(svg, line, accent, size), QIcon::Normal);
-    icon.addPixmap(DrawIcon(svg, off, off, size), QIcon::Disabled);
-  }
-  return icon;
 }
 
 }  // namespace tallyroll

@@ -1,10 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// How the program looks: its style, its dark palette and its icons.
+// How the program looks: its style and its dark palette.
 #pragma once
 
-#include <QIcon>
 #include <QPalette>
-#include <QString>
 
 class QApplication;
 
@@ -14,8 +12,5 @@ namespace tallyroll {
 void SetAppearance(QApplication& application, bool dark);
 
 QPalette DarkPalette();
-
-// The icon of that name in the colours of the palette, greyed for what is disabled.
-QIcon PaletteIcon(const QString& name, const QPalette& palette);
 
 }  // namespace tallyroll

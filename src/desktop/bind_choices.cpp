@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Combo boxes, tabs, pages and date pickers.
+#include <QCalendarWidget>
 #include <QComboBox>
 #include <QDateEdit>
+#include <QEvent>
 #include <QLineEdit>
 #include <QSignalBlocker>
 #include <QStackedWidget>
@@ -121,8 +123,11 @@ class DateBinding : public Binding<DTPicker, QDateEdit> {
   DateBinding(DTPicker& control, ControlRow& row, QDateEdit& edit, BindingOwner& owner)
       : Binding(control, row, edit, owner) {
     edit.setCalendarPopup(true);
-    QObject::connect(&edit, &QDateEdit::dateChanged, this,
-                     [this] { UserDid({&ControlRow::change}); });
+    QObject::connect(&edit, &QDateEdit::dateChanged, this, [this] { Picked(); });
+    QCalendarWidget& calendar = *edit.calendarWidget();
+    calendar.installEventFilter(this);
+    QObject::connect(&calendar, &QCalendarWidget::clicked, this, [this] { PickedAsShown(); });
+    QObject::connect(&calendar, &QCalendarWidget::activated, this, [this] { PickedAsShown(); });
   }
 
   void Read() override {
@@ -135,6 +140,23 @@ class DateBinding : public Binding<DTPicker, QDateEdit> {
     const QSignalBlocker silence(widget_);
     if (widget_.date() != DayOf(control_.Value)) widget_.setDate(DayOf(control_.Value));
   }
+
+  bool eventFilter(QObject* watched, QEvent* event) override {
+    if (event->type() == QEvent::Show) told_ = false;
+    return ControlBinding::eventFilter(watched, event);
+  }
+
+ private:
+  void Picked() {
+    told_ = true;
+    UserDid({&ControlRow::change});
+  }
+  // The day that the field shows already is a pick too, though the date stays the same.
+  void PickedAsShown() {
+    if (!told_) Picked();
+  }
+
+  bool told_ = false;  // of a pick since the calendar opened
 };
 
 }  // namespace

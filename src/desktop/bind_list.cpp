@@ -21,6 +21,7 @@ class ListBinding : public Binding<ListBox, QListWidget> {
       chosen_by_press_ = true;
       UserDid({&ControlRow::change, &ControlRow::click});
     });
+    QObject::connect(&list, &QListWidget::itemPressed, this, [this] { MarkCurrent(); });
     QObject::connect(&list, &QListWidget::itemClicked, this, [this] {
       // A press on another line has raised its click when it chose the line.
       if (!chosen_by_press_) UserDid({&ControlRow::click});
@@ -59,6 +60,12 @@ class ListBinding : public Binding<ListBox, QListWidget> {
     static_cast<QObject&>(widget_).event(event);
     if (!chosen) widget_.selectionModel()->clearCurrentIndex();
     return true;
+  }
+
+  // The list marks the pressed line even when the handler went back to another.
+  void MarkCurrent() {
+    const QSignalBlocker silence(widget_);
+    widget_.selectionModel()->select(widget_.currentIndex(), QItemSelectionModel::ClearAndSelect);
   }
 
   void Fill() {

@@ -66,13 +66,6 @@ void ClassWindowView::Sync() {
   }
   const QString status = hint_.isEmpty() ? FromText(form_->StatusText) : hint_;
   if (status != status_->text()) status_->setText(status);
-  if (form_->Busy != testAttribute(Qt::WA_SetCursor)) {
-    if (form_->Busy) {
-      setCursor(Qt::BusyCursor);
-    } else {
-      unsetCursor();
-    }
-  }
 }
 
 void ClassWindowView::ShowHint(const QString& hint) {

@@ -36,7 +36,7 @@ class ClassWindowView : public QMdiSubWindow {
  Q_SIGNALS:
   void MenuPressed(const QString& entry);
   void ToolPressed(const QString& key);
-  void CellChosen();  // by a double click or by Enter
+  void CellChosen(int row, int col);  // by a double click or by Enter
   void CloseAsked();
 
  protected:

@@ -11,6 +11,7 @@
 #include <QMenuBar>
 #include <QStackedWidget>
 #include <QStatusTipEvent>
+#include <QTimer>
 #include <QVBoxLayout>
 
 #include "desktop/about_box.h"
@@ -38,14 +39,12 @@ FrameWindow::FrameWindow() {
   setContextMenuPolicy(Qt::NoContextMenu);
 
   auto* first = new QWidget;
-  start_ = new StartPage(Frame->menu);
   status_ = new QLabel;
   status_->setObjectName(QStringLiteral("FrameStatus"));
   status_->setMargin(3);
-  auto* rows = new QVBoxLayout(first);
-  rows->setContentsMargins(0, 0, 0, 0);
-  rows->addWidget(start_, 1);
-  rows->addWidget(status_);
+  start_rows_ = new QVBoxLayout(first);
+  start_rows_->setContentsMargins(0, 0, 0, 0);
+  start_rows_->addWidget(status_);
 
   area_ = new QMdiArea;
   area_->setActivationOrder(QMdiArea::ActivationHistoryOrder);
@@ -59,11 +58,7 @@ FrameWindow::FrameWindow() {
   shown_menu_ = menu_;
   AddWindowKeys();
 
-  const auto press = [this](const QString& entry) {
-    Run([&entry] { Frame->ClickMenu(entry.toStdString()); });
-  };
-  connect(menu_, &MenuView::Pressed, this, press);
-  connect(start_, &StartPage::Pressed, this, press);
+  connect(menu_, &MenuView::Pressed, this, &FrameWindow::Press);
   connect(area_, &QMdiArea::subWindowActivated, this, &FrameWindow::FollowFront);
   // What a Portal changes while it runs shows as soon as the program waits for the user.
   connect(QAbstractEventDispatcher::instance(), &QAbstractEventDispatcher::aboutToBlock, this,
@@ -100,13 +95,23 @@ void FrameWindow::Connect(ClassWindowView* view) {
   connect(view, &ClassWindowView::ToolPressed, this, [this, view](const QString& key) {
     RunInFront(view, [&key](Form1& form) { form.ClickTool(key.toStdString()); });
   });
-  connect(view, &ClassWindowView::CellChosen, this,
-          [this, view] { RunInFront(view, [](Form1& form) { form.Grid1_DblClick(); }); });
+  connect(view, &ClassWindowView::CellChosen, this, [this, view](int row, int col) {
+    RunInFront(view, [row, col](Form1& form) {
+      // The pointer has moved on since.
+      form.Grid1.MouseRow = row;
+      form.Grid1.MouseCol = col;
+      form.Grid1_DblClick();
+    });
+  });
   // Queued: the window must not go while its own close event runs.
   connect(
       view, &ClassWindowView::CloseAsked, this,
       [this, view] { RunInFront(view, [](Form1& form) { Frame->CloseWindow(form); }); },
       Qt::QueuedConnection);
+}
+
+void FrameWindow::Press(const QString& entry) {
+  Run([&entry] { Frame->ClickMenu(entry.toStdString()); });
 }
 
 void FrameWindow::Run(const std::function<void()>& command) {
@@ -148,9 +153,19 @@ void FrameWindow::FollowFront() {
   Sync();
 }
 
+// A program that starts with a class spares the page until its windows are closed.
+void FrameWindow::SyncStartPage() {
+  if (start_ == nullptr) {
+    start_ = new StartPage(Frame->menu);
+    start_rows_->insertWidget(0, start_, 1);
+    connect(start_, &StartPage::Pressed, this, &FrameWindow::Press);
+  }
+  start_->Sync();
+}
+
 void FrameWindow::Sync() {
   menu_->Sync();
-  start_->Sync();
+  if (front_ == nullptr) SyncStartPage();
   for (QMdiSubWindow* window : area_->subWindowList())
     static_cast<ClassWindowView*>(window)->Sync();
   pages_->setCurrentIndex(front_ != nullptr ? 1 : 0);
@@ -164,7 +179,7 @@ void FrameWindow::Sync() {
 void FrameWindow::ShowFrame() {
   show();
   raise();
-  Sync();
+  QTimer::singleShot(0, this, &FrameWindow::Sync);
 }
 
 void FrameWindow::CloseFrame() {

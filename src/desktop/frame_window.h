@@ -11,6 +11,7 @@ class QLabel;
 class QMdiArea;
 class QMdiSubWindow;
 class QStackedWidget;
+class QVBoxLayout;
 
 namespace tallyroll {
 
@@ -53,11 +54,14 @@ class FrameWindow : public QMainWindow, public FrameScreen {
   // Runs what the user asked for, unless a Portal came up in between.
   void Run(const std::function<void()>& command);
   void RunInFront(ClassWindowView* view, const std::function<void(Form1&)>& command);
+  void Press(const QString& entry);  // of the frame's own menu
+  void SyncStartPage();
   void FollowFront();
   void ShowHint(const QString& hint);
 
   QStackedWidget* pages_;
-  StartPage* start_;
+  QVBoxLayout* start_rows_;
+  StartPage* start_ = nullptr;  // made when it is first shown
   QMdiArea* area_;
   QLabel* status_;              // stands below the start page
   MenuView* menu_;              // the frame's own

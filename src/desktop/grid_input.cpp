@@ -54,6 +54,7 @@ void GridWidget::PointAt(const QPoint& place) {
 
 void GridWidget::mousePressEvent(QMouseEvent* event) {
   if (!grid_ || event->button() != Qt::LeftButton) return;
+  pressed_here_ = true;
   PointAt(event->position().toPoint());
   const int row = grid_->MouseRow, col = grid_->MouseCol;
   if (row < 0) return;
@@ -68,6 +69,8 @@ void GridWidget::mouseMoveEvent(QMouseEvent* event) {
 }
 
 void GridWidget::mouseDoubleClickEvent(QMouseEvent* event) {
+  // The second press on something that made way for this grid is a first press here.
+  if (!pressed_here_) return mousePressEvent(event);
   if (!grid_ || event->button() != Qt::LeftButton) return;
   PointAt(event->position().toPoint());
   if (grid_->MouseRow >= 0) Q_EMIT cellDoubleClicked(grid_->MouseRow, grid_->MouseCol);

@@ -177,16 +177,23 @@ class Painting {
 
 CellFont::CellFont(const QFont& font) : font_(font) {
   const QFontMetricsF metrics(font);
-  const auto& characters = CodePageCharacters();
-  for (std::size_t i = 0; i < widths_.size(); ++i)
-    widths_[i] = static_cast<float>(metrics.horizontalAdvance(QChar(characters[i])));
+  widths_.fill(kNotMeasured);
   ascent_ = static_cast<int>(std::lround(metrics.ascent()));
   height_ = static_cast<int>(std::lround(metrics.height()));
 }
 
+float CellFont::WidthOf(unsigned char character) const {
+  float& width = widths_[character];
+  if (width == kNotMeasured) {
+    const QChar shown(CodePageCharacters()[character]);
+    width = static_cast<float>(QFontMetricsF(font_).horizontalAdvance(shown));
+  }
+  return width;
+}
+
 int CellFont::WidthOf(std::string_view text) const {
   float width = 0;
-  for (const char c : text) width += widths_[static_cast<unsigned char>(c)];
+  for (const char c : text) width += WidthOf(static_cast<unsigned char>(c));
   return static_cast<int>(std::ceil(width));
 }
 

@@ -26,8 +26,11 @@ class CellFont {
   int Height() const { return height_; }
 
  private:
+  static constexpr float kNotMeasured = -1;
+  float WidthOf(unsigned char character) const;
+
   QFont font_;
-  std::array<float, 256> widths_{};
+  mutable std::array<float, 256> widths_{};  // measured when first asked for
   int ascent_ = 0;
   int height_ = 0;
 };

@@ -92,6 +92,7 @@ class GridWidget : public QAbstractScrollArea {
   Grid* grid_ = nullptr;
   bool enter_double_clicks_ = true;
   bool setting_bars_ = false;
+  bool pressed_here_ = false;  // a first press, which a double click needs
   Shown shown_;
   std::uint64_t measured_ = 0;
   GridAxis rows_;

@@ -4,6 +4,7 @@
 #include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
+#include <QShortcut>
 
 #include "desktop/text_conversion.h"
 
@@ -42,6 +43,8 @@ QStringList FiltersOf(const QString& filter) {
 std::optional<std::string> ShowFileDialog(const FileDialogRequest& request, QWidget* parent) {
   QFileDialog dialog(parent);
   SetUp(dialog, request);
+  QObject::connect(new QShortcut(Qt::Key_F1, &dialog), &QShortcut::activated, &dialog,
+                   [&request] { Platform().ShowHelp(request.help_context); });
   if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return std::nullopt;
   return ToPath(dialog.selectedFiles().front());
 }

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "desktop/portal_dialog.h"
 
+#include <QAbstractScrollArea>
 #include <QApplication>
 #include <QKeyEvent>
 #include <QPushButton>
@@ -74,6 +75,9 @@ void PortalDialog::BindRow(ControlRow& row, const LoadedForm& form) {
     return;
   }
   if (binding->widget()) binding->widget()->installEventFilter(this);
+  // The mouse presses what scrolls inside a list or a grid, not its frame.
+  if (auto* area = qobject_cast<QAbstractScrollArea*>(binding->widget()))
+    area->viewport()->installEventFilter(this);
   bindings_.push_back(std::move(binding));
 }
 
@@ -196,7 +200,8 @@ bool PortalDialog::PassKey(ControlBinding& binding, const QKeyEvent& key) {
 }
 
 bool PortalDialog::eventFilter(QObject* watched, QEvent* event) {
-  if (event->type() == QEvent::MouseButtonPress && watched == swallow_press_of_) {
+  if (event->type() == QEvent::MouseButtonPress && swallow_press_of_ &&
+      (watched == swallow_press_of_ || watched->parent() == swallow_press_of_)) {
     swallow_press_of_ = nullptr;
     return true;
   }

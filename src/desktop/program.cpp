@@ -3,13 +3,13 @@
 #include "desktop/program.h"
 
 #include <QApplication>
-#include <QIcon>
 #include <QTimer>
 #include <memory>
 
 #include "desktop/appearance.h"
 #include "desktop/frame_window.h"
 #include "desktop/help_window.h"
+#include "desktop/palette_icon.h"
 #include "desktop/qt_surroundings.h"
 #include "shell/program.h"
 #include "shell/shell_state.h"
@@ -18,7 +18,7 @@ namespace tallyroll {
 
 int RunProgram(QApplication& application, bool dark, const std::string& file) {
   SetAppearance(application, dark);
-  application.setWindowIcon(QIcon(QStringLiteral(":/icons/tallyroll.svg")));
+  application.setWindowIcon(PaletteIcon(QStringLiteral("tallyroll"), QPalette(Qt::white)));
   // The frame ends the program; the greeting, which may be the only window, must not.
   application.setQuitOnLastWindowClosed(false);
 
@@ -31,7 +31,6 @@ int RunProgram(QApplication& application, bool dark, const std::string& file) {
     FrameWindow window;
     Screen = &window;
     surroundings.help_hook = [&window](int context) { ShowHelpTopic(&window, context); };
-    window.ShowFrame();
     // Within the event loop, so that the greeting can be shown and the program be left from it.
     QTimer::singleShot(0, &window, [&window, file] {
       Frame->Load(file);

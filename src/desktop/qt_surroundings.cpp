@@ -8,7 +8,6 @@
 #include <QFileInfo>
 #include <QLocale>
 #include <QRandomGenerator>
-#include <QSettings>
 #include <QStandardPaths>
 
 #include "desktop/message_box.h"
@@ -88,14 +87,14 @@ void QtSurroundings::SetClipboardText(std::string_view text) {
 
 std::string QtSurroundings::ReadSetting(std::string_view application, std::string_view section,
                                         std::string_view key, std::string_view default_value) {
-  const QVariant value = QSettings().value(SettingKey(application, section, key));
+  const QVariant value = settings_.value(SettingKey(application, section, key));
   if (!value.isValid()) return std::string(default_value);
   return ToText(value.toString()).value_or(std::string(default_value));
 }
 
 void QtSurroundings::WriteSetting(std::string_view application, std::string_view section,
                                   std::string_view key, std::string_view value) {
-  QSettings().setValue(SettingKey(application, section, key), FromText(value));
+  settings_.setValue(SettingKey(application, section, key), FromText(value));
 }
 
 double QtSurroundings::Now() {
@@ -118,8 +117,7 @@ DateOrder QtSurroundings::ShortDateOrder() {
 }
 
 std::string QtSurroundings::ProfileFolder() {
-  const QString data = QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation);
-  return ToPath(data + QStringLiteral("/Tallyroll"));
+  return ToPath(QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation));
 }
 
 std::string QtSurroundings::ProgramFolder() {

@@ -2,6 +2,7 @@
 // The surroundings of the desktop program, by Qt.
 #pragma once
 
+#include <QSettings>
 #include <functional>
 
 #include "platform/surroundings.h"
@@ -38,6 +39,7 @@ class QtSurroundings : public Surroundings {
 
  private:
   bool waiting_ = false;
+  QSettings settings_;  // one for all: each one of them goes to the disk when it goes
 };
 
 // Shows in every open Portal what its handler has done so far, before the user looks at anything.

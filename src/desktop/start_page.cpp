@@ -9,7 +9,7 @@
 #include <QPainter>
 #include <QVBoxLayout>
 
-#include "desktop/appearance.h"
+#include "desktop/palette_icon.h"
 #include "desktop/text_conversion.h"
 
 namespace tallyroll {

@@ -5,7 +5,7 @@
 #include <QAction>
 #include <QEvent>
 
-#include "desktop/appearance.h"
+#include "desktop/palette_icon.h"
 #include "desktop/text_conversion.h"
 
 namespace tallyroll {

@@ -52,6 +52,7 @@ std::vector<std::string> HeadlessSurroundings::Complaints() const {
 }
 
 BoxAnswer HeadlessSurroundings::MessageBox(const MessageRequest& request) {
+  ++windows_shown_;
   boxes.push_back(request);
   if (scripted_boxes_.empty()) {
     complaints_.push_back("unexpected box: " + request.text);
@@ -65,6 +66,7 @@ BoxAnswer HeadlessSurroundings::MessageBox(const MessageRequest& request) {
 }
 
 std::optional<std::string> HeadlessSurroundings::FileDialog(const FileDialogRequest& request) {
+  ++windows_shown_;
   file_dialogs.push_back(request);
   if (scripted_dialogs_.empty()) {
     complaints_.push_back("unexpected file dialog " + request.title);
@@ -76,6 +78,7 @@ std::optional<std::string> HeadlessSurroundings::FileDialog(const FileDialogRequ
 }
 
 void HeadlessSurroundings::ShowModal(Portal& portal) {
+  ++windows_shown_;
   if (scripted_portals_.empty()) {
     complaints_.push_back("unexpected portal: " + portal.Name());
     return;

@@ -30,6 +30,7 @@ class HeadlessSurroundings : public Surroundings {
   BoxAnswer MessageBox(const MessageRequest& request) override;
   std::optional<std::string> FileDialog(const FileDialogRequest& request) override;
   void ShowModal(Portal& portal) override;
+  int WindowsShown() const override { return windows_shown_; }
   void ShowHelp(int context) override { help_shown = context; }
   std::string ClipboardText() override { return clipboard; }
   void SetClipboardText(std::string_view text) override { clipboard = text; }
@@ -67,6 +68,7 @@ class HeadlessSurroundings : public Surroundings {
     std::string name;
     std::function<void(PortalDriver&)> work;
   };
+  int windows_shown_ = 0;
   std::deque<ScriptedBox> scripted_boxes_;
   std::deque<std::optional<std::string>> scripted_dialogs_;
   std::deque<ScriptedPortal> scripted_portals_;

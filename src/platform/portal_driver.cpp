@@ -2,6 +2,9 @@
 #include "platform/portal_driver.h"
 
 #include <type_traits>
+#include <utility>
+
+#include "platform/surroundings.h"
 
 namespace tallyroll {
 namespace {
@@ -10,15 +13,12 @@ const Control& BaseOf(const ControlRow& row) {
   return *std::visit([](auto* c) -> const Control* { return c; }, row.control);
 }
 
-void Raise(const std::function<void()>& event) {
-  if (event) event();
-}
-
 }  // namespace
 
 PortalDriver::PortalDriver(Portal& portal) : portal_(portal) {
   portal_.Declare(table_);
-  Settle();
+  const Control* wanted = portal_.TakeFocusRequest();
+  if (const ControlRow* row = wanted ? table_.Find(*wanted) : nullptr) focused_ = row->name;
 }
 
 ControlRow* PortalDriver::Reach(std::string_view name, std::string_view act) {
@@ -41,48 +41,48 @@ template <typename C>
 C* PortalDriver::As(std::string_view name, std::string_view act) {
   ControlRow* row = Reach(name, act);
   if (!row) return nullptr;
-  if (C** control = std::get_if<C*>(&row->control)) {
-    MoveFocus(*row);
-    return portal_.Unloaded() ? nullptr : *control;
-  }
+  if (C** control = std::get_if<C*>(&row->control)) return *control;
   complaints_.push_back(std::string(act) + " " + std::string(name) +
                         ": it is another kind of control");
   return nullptr;
 }
 
-void PortalDriver::MoveFocus(const ControlRow& row) {
-  if (focused_ == row.name) return;
-  const std::string left = focused_;
-  focused_ = row.name;
-  if (ControlRow* before = table_.Find(left)) Raise(before->lost_focus);
-  if (focused_ != row.name || portal_.Unloaded()) return;
-  Raise(row.got_focus);
-  Settle();
+void PortalDriver::Raise(const ControlRow& row, std::initializer_list<Event> events) {
+  for (const Event event : events) {
+    if (portal_.Unloaded()) return;
+    if (row.*event) (row.*event)();
+    Settle();
+  }
 }
 
-// A handler that asked for the focus gets it once it is done.
+bool PortalDriver::MoveFocus(const ControlRow& row) {
+  if (focused_ == row.name) return true;
+  const int shown = Platform().WindowsShown();
+  const ControlRow* left = table_.Find(std::exchange(focused_, row.name));
+  if (left) Raise(*left, {&ControlRow::lost_focus});
+  const bool stays = focused_ != row.name || portal_.Unloaded();
+  const bool stopped = stays || Platform().WindowsShown() != shown;
+  if (!stays) Raise(row, {&ControlRow::got_focus});
+  return !stopped;
+}
+
+// A handler that asked for the focus gets it once it is done; what cannot have it does not.
 void PortalDriver::Settle() {
   const Control* wanted = portal_.TakeFocusRequest();
-  if (!wanted || portal_.Unloaded()) return;
-  ControlRow* row = table_.Find(*wanted);
-  if (!row || row->name == focused_) return;
-  const std::string left = focused_;
-  focused_ = row->name;
-  if (ControlRow* before = table_.Find(left)) Raise(before->lost_focus);
-  Raise(row->got_focus);
-  Settle();
+  if (!wanted || portal_.Unloaded() || !wanted->Enabled || !wanted->Visible) return;
+  if (const ControlRow* row = table_.Find(*wanted)) MoveFocus(*row);
 }
 
 void PortalDriver::Type(std::string_view box, std::string_view text) {
   TextBox* control = As<TextBox>(box, "type into");
-  if (!control) {
-    return;
-  }
-  ControlRow* row = table_.Find(box);
+  if (!control) return;
+  const ControlRow& row = *table_.Find(box);
+  MoveFocus(row);
+  if (focused_ != row.name || portal_.Unloaded()) return;
   if (!control->Text.empty()) {
     control->Text.clear();
     control->SelStart = control->SelLength = 0;
-    Raise(row->change);
+    Raise(row, {&ControlRow::change});
   }
   for (const char character : text) {
     const auto length = static_cast<int>(control->Text.size());
@@ -91,117 +91,114 @@ void PortalDriver::Type(std::string_view box, std::string_view text) {
                             control->Text);
       break;
     }
-    if (row->key_press && row->key_press(static_cast<unsigned char>(character))) continue;
+    if (row.key_press && row.key_press(static_cast<unsigned char>(character))) continue;
     control->Text += character;
     control->SelStart = length + 1;
-    Raise(row->change);
-    Settle();
+    Raise(row, {&ControlRow::change});
     if (portal_.Unloaded()) return;
   }
 }
 
 void PortalDriver::Press(std::string_view button) {
-  ControlRow* row = Reach(button, "press");
-  if (!row) return;
-  MoveFocus(*row);
-  if (portal_.Unloaded()) return;
-  Raise(row->click);
-  Settle();
+  const ControlRow* row = Reach(button, "press");
+  if (row && MoveFocus(*row)) Raise(*row, {&ControlRow::click});
 }
 
 void PortalDriver::DoubleClick(std::string_view control) {
-  ControlRow* row = Reach(control, "double click");
-  if (!row) return;
-  MoveFocus(*row);
-  Raise(row->dbl_click);
-  Settle();
+  const ControlRow* row = Reach(control, "double click");
+  if (row && MoveFocus(*row)) Raise(*row, {&ControlRow::click, &ControlRow::dbl_click});
 }
 
 void PortalDriver::Tick(std::string_view box, bool on) {
-  ControlRow* row = Reach(box, "tick");
+  const ControlRow* row = Reach(box, "tick");
   if (!row) return;
-  const bool changed = std::visit(
-      [&](auto* control) {
+  bool* value = std::visit(
+      [](auto* control) -> bool* {
         using C = std::remove_pointer_t<decltype(control)>;
-        if constexpr (std::is_same_v<C, CheckBox> || std::is_same_v<C, OptionButton>) {
-          if (control->Value == on) return false;
-          control->Value = on;
-          return true;
-        } else {
-          complaints_.push_back("tick " + std::string(box) + ": it is another kind of control");
-          return false;
-        }
+        if constexpr (std::is_same_v<C, CheckBox> || std::is_same_v<C, OptionButton>)
+          return &control->Value;
+        else
+          return nullptr;
       },
       row->control);
-  if (!changed) return;
-  MoveFocus(*row);
-  Raise(row->change);
-  Raise(row->click);
-  Settle();
+  if (!value) complaints_.push_back("tick " + std::string(box) + ": it is another kind of control");
+  if (!value || *value == on || !MoveFocus(*row)) return;
+  *value = on;
+  Raise(*row, {&ControlRow::change, &ControlRow::click});
 }
 
 void PortalDriver::Choose(std::string_view list, int index) {
-  ControlRow* row = Reach(list, "choose in");
-  if (!row) return;
-  MoveFocus(*row);
-  if (auto* box = std::get_if<ListBox*>(&row->control)) (*box)->ListIndex = index;
+  const ControlRow* row = Reach(list, "choose in");
+  if (!row || !MoveFocus(*row)) return;
+  if (auto* box = std::get_if<ListBox*>(&row->control)) {
+    // A click on the line that is chosen already changes nothing.
+    if (std::exchange((*box)->ListIndex, index) == index) return Raise(*row, {&ControlRow::click});
+  }
   if (auto* combo = std::get_if<ComboBox*>(&row->control)) {
     (*combo)->ListIndex = index;
     (*combo)->Text = (*combo)->List.at(static_cast<std::size_t>(index));
   }
-  Raise(row->change);
-  Raise(row->click);
-  Settle();
+  Raise(*row, {&ControlRow::change, &ControlRow::click});
 }
 
 void PortalDriver::PickTab(std::string_view strip, int index) {
-  if (TabStrip* control = As<TabStrip>(strip, "pick a tab of")) {
-    control->Selected = index;
-    Raise(table_.Find(strip)->change);
-    Settle();
-  }
+  TabStrip* control = As<TabStrip>(strip, "pick a tab of");
+  if (!control || control->Selected == index) return;
+  const ControlRow& row = *table_.Find(strip);
+  if (!MoveFocus(row)) return;
+  control->Selected = index;
+  Raise(row, {&ControlRow::change, &ControlRow::click});
 }
 
 void PortalDriver::PickDate(std::string_view picker, double serial) {
-  if (DTPicker* control = As<DTPicker>(picker, "pick a date in")) {
-    control->Value = serial;
-    Raise(table_.Find(picker)->change);
-    Settle();
-  }
+  DTPicker* control = As<DTPicker>(picker, "pick a date in");
+  if (!control || !MoveFocus(*table_.Find(picker))) return;
+  control->Value = serial;
+  Raise(*table_.Find(picker), {&ControlRow::change});
 }
 
 void PortalDriver::PickCell(std::string_view grid, int row, int col) {
-  if (Grid* control = As<Grid>(grid, "pick a cell of")) {
-    control->Row = control->MouseRow = row;
-    control->Col = control->MouseCol = col;
-    Raise(table_.Find(grid)->click);
-    Settle();
+  Grid* control = As<Grid>(grid, "pick a cell of");
+  if (!control) return;
+  const ControlRow& events = *table_.Find(grid);
+  if (!MoveFocus(events)) return;
+  control->MouseRow = row;
+  control->MouseCol = col;
+  const bool fixed = row < control->FixedRows || col < control->FixedCols;
+  if (!fixed && (control->Row != row || control->Col != col)) {
+    control->Row = row;
+    control->Col = col;
+    Raise(events, {&ControlRow::change});
   }
+  Raise(events, {&ControlRow::click});
 }
 
 void PortalDriver::PressKey(std::string_view control, Key key) {
-  ControlRow* row = Reach(control, "press a key in");
+  const ControlRow* row = Reach(control, "press a key in");
   if (!row) return;
   MoveFocus(*row);
+  if (focused_ != row->name || portal_.Unloaded()) return;
   if (row->key_down) row->key_down(key);
   Settle();
 }
 
 void PortalDriver::TypeKeys(std::string_view control, std::string_view characters) {
   for (const char character : characters) {
-    ControlRow* row = Reach(control, "type keys into");
+    const ControlRow* row = Reach(control, "type keys into");
     if (!row) return;
     MoveFocus(*row);
+    if (focused_ != row->name || portal_.Unloaded()) return;
     if (row->key_press) row->key_press(static_cast<unsigned char>(character));
     Settle();
   }
 }
 
 void PortalDriver::Focus(std::string_view control) {
-  if (ControlRow* row = Reach(control, "move the focus to")) MoveFocus(*row);
+  if (const ControlRow* row = Reach(control, "move the focus to")) MoveFocus(*row);
 }
 
 void PortalDriver::CloseWindow() {
+  if (portal_.Unloaded()) return;
   portal_.QueryUnload();
   Settle();
 }

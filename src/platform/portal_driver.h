@@ -2,6 +2,7 @@
 // PortalDriver: does with a Portal what a teacher does, without a screen.
 #pragma once
 
+#include <initializer_list>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -13,6 +14,9 @@ namespace tallyroll {
 // Every act goes to the control by its declared name. An act that a teacher could not do (no such
 // control, one that is disabled or hidden, a text longer than the box takes) is a complaint and
 // does nothing. The Portal must be loaded.
+//
+// As on the screen, an act with the mouse is stopped when leaving the field before put up a box or
+// asked for the focus, and opening raises no event.
 class PortalDriver {
  public:
   explicit PortalDriver(Portal& portal);
@@ -21,6 +25,7 @@ class PortalDriver {
   void Type(std::string_view box, std::string_view text);
   // Presses a button, or clicks a list or a grid.
   void Press(std::string_view button);
+  // A click comes before the double click.
   void DoubleClick(std::string_view control);
   // Puts a check box or an option to this value, if it is not so already.
   void Tick(std::string_view box, bool on = true);
@@ -29,7 +34,7 @@ class PortalDriver {
   // Picks a tab, from 0.
   void PickTab(std::string_view strip, int index);
   void PickDate(std::string_view picker, double serial);
-  // Makes a grid cell the current one, as a click does.
+  // Clicks a grid cell; one that is not fixed becomes the current one.
   void PickCell(std::string_view grid, int row, int col);
   void PressKey(std::string_view control, Key key);
   void TypeKeys(std::string_view control, std::string_view characters);
@@ -52,7 +57,11 @@ class PortalDriver {
   ControlRow* Reach(std::string_view name, std::string_view act);
   template <typename C>
   C* As(std::string_view name, std::string_view act);
-  void MoveFocus(const ControlRow& row);
+  using Event = std::function<void()> ControlRow::*;
+  // One after the other, as long as the Portal is there.
+  void Raise(const ControlRow& row, std::initializer_list<Event> events);
+  // False when the act that moves the focus is stopped.
+  bool MoveFocus(const ControlRow& row);
   void Settle();
 
   Portal& portal_;

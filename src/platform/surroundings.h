@@ -49,6 +49,8 @@ class Surroundings {
   virtual std::optional<std::string> FileDialog(const FileDialogRequest& request) = 0;
   // Runs a loaded Portal until it is unloaded.
   virtual void ShowModal(Portal& portal) = 0;
+  // How many boxes, dialogs and Portals came up so far; only a script counts them.
+  virtual int WindowsShown() const { return 0; }
   virtual void ShowHelp(int context) = 0;
 
   virtual std::string ClipboardText() = 0;

@@ -60,7 +60,7 @@ void frmAdd::NewStudentRecord() {
 
 // Both checks, then the record is made if need be and stored if anything changed. False: refused.
 bool frmAdd::KeepStudent() {
-  if (IdChanged && !CheckUniqueId()) return false;
+  if ((IdChanged || Dirty) && !CheckUniqueId()) return false;
   if (!CheckRequired()) return false;
   if (!RecordExists()) NewStudentRecord();
   if (Dirty) {

@@ -78,7 +78,7 @@ void frmEdit::Show(int position) {
 // The checks, then the shown student is stored if anything changed. False: refused.
 bool frmEdit::StoreShown() {
   if (Position == 0) return true;
-  if (IdChanged && !CheckUniqueId()) return false;
+  if ((IdChanged || Dirty) && !CheckUniqueId()) return false;
   if (!CheckRequired()) return false;
   if (Dirty) {
     StoreStudent();
@@ -101,9 +101,13 @@ void frmEdit::List1_Change() {
   List1.ListIndex = Position - 1;
 }
 
+// Without a student the comment waits for a pick.
 void frmEdit::FocusComment() {
   TabStrip1.Selected = 0;
-  SetFocus(comment);
+  if (Position > 0)
+    SetFocus(comment);
+  else
+    SetFocus(List1);
 }
 
 void frmEdit::TabStrip1_Change() {
@@ -116,10 +120,10 @@ void frmEdit::TabStrip1_Change() {
 void frmEdit::copy_Click() {
   const auto [start, length] = SelectionOf(comment);
   if (length == 0) {
+    FocusComment();
     ShowMessage(
         "You must first select the comment you wish to copy to the clipboard. Select the comment "
-        "by "
-        "dragging the mouse across the text you want to select, and then release the mouse "
+        "by dragging the mouse across the text you want to select, and then release the mouse "
         "button.");
     return;
   }
@@ -127,6 +131,7 @@ void frmEdit::copy_Click() {
 }
 
 void frmEdit::paste_Click() {
+  FocusComment();
   if (Position == 0) return AskForStudent();
   const std::string text = Platform().ClipboardText();
   if (text.empty()) return;
@@ -141,7 +146,6 @@ void frmEdit::paste_Click() {
   comment.SelStart = static_cast<int>(start + text.size());
   comment.SelLength = 0;
   Dirty = 1;
-  SetFocus(comment);
 }
 
 void frmEdit::PREVIOUS_Click() {

@@ -62,6 +62,11 @@ int RoomBeside(const TextBox& other, const TextBox& box) {
   return room > 0 ? room : -1;
 }
 
+// A field is shown trimmed: one that nobody edited keeps the blanks of its file.
+void Keep(std::string_view typed, std::string& field) {
+  if (typed != Trim(field)) field = typed;
+}
+
 void RaiseTo(i16& width, const std::string& name) {
   constexpr std::size_t kWidest = std::numeric_limits<i16>::max();
   width = std::max(width, static_cast<i16>(std::min(name.size(), kWidest)));
@@ -144,9 +149,9 @@ bool StudentForm::CheckUniqueId() {
 void StudentForm::StoreStudent() {
   Class& c = Current();
   Student& student = c.Students[Position];
-  student.lastname = lastname.Text;
-  student.firstname = firstname.Text;
-  student.id = TrimRight(id.Text);
+  Keep(lastname.Text, student.lastname);
+  Keep(firstname.Text, student.firstname);
+  Keep(TrimRight(id.Text), student.id);
   ForEachOptional([&](const Edits& e) { student.*e.field = Trim((this->*e.box).Text); });
   RaiseTo(c.LastNameWidth, student.lastname);
   RaiseTo(c.FirstNameWidth, student.firstname);

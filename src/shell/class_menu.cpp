@@ -180,11 +180,11 @@ constexpr ClassMenuRow kRows[] = {
 
     {.level = 0, .name = "mnuPrint", .caption = "&Print"},
     {.level = 1, .name = "mnuView", .caption = "&Print Full Class", .status = "Reports of the whole class",
-     .shortcut = "Ctrl+P", .portal = "frmprintall"},
+     .shortcut = "Ctrl+P", .portal = "frmprintall", .open_state = 1},
     {.level = 1, .name = "mnuVPrinter", .caption = "Print &Student Records", .status = "Reports of single students",
-     .portal = "frmprintall"},
+     .portal = "frmprintall", .open_state = 2},
     {.level = 1, .name = "mnuroster", .caption = "Print &Roster", .status = "Rosters and supplementary information",
-     .portal = "frmprintall"},
+     .portal = "frmprintall", .open_state = 3},
     {.level = 1, .name = "mnuprtgrade", .caption = "Print &Computed Averages", .status = "Reports of averages and final grades",
      .portal = "frmoptions", .open_state = 69},
 

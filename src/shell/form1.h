@@ -44,7 +44,6 @@ class Form1 {
   Menu menu;  // the program's full menu
   std::vector<ToolButton> Toolbar2;
   std::string StatusText;  // StatusBar1
-  bool Busy = false;       // the busy picture is shown
 
   // The window's own working fields.
   int SlotIndex = -1;

@@ -21,6 +21,7 @@ MDIForm1::MDIForm1() : menu(MakeFrameMenu(*this)) {
 
 void MDIForm1::ClickMenu(std::string_view name) {
   if (!menu.Reachable(name)) return;
+  StatusText.clear();
   if (const auto& click = menu[name].click) click();
 }
 
@@ -68,10 +69,13 @@ void MDIForm1::RebuildRecentMenu() {
 }
 
 bool MDIForm1::CloseWindow(Form1& window) {
+  const auto before = static_cast<std::size_t>(CurrentClass);
   if (!window.QueryUnload()) return false;
   Screen->DestroyWindow(window);
   for (auto& each : ClassWindows)
     if (each.get() == &window) each.reset();
+  // Whatever window closed, the class that was in work stays in work.
+  if (ClassWindows[before]) CurrentClass = static_cast<i16>(before);
   RebuildRecentMenu();
   return true;
 }

@@ -79,7 +79,6 @@ void Form1::OpenByDialog() {
     again = false;
     OpenState = kOpening;
     PendingAction = 0;
-    Busy = true;
     const int error = EnterDataFolder();
     const auto path = error == 0 ? Platform().FileDialog(OpenRequest()) : std::nullopt;
     if (error != 0) ReportReadError(error);
@@ -93,7 +92,6 @@ void Form1::OpenByDialog() {
       ReadInto(*path);
     }
   }
-  Busy = false;
   OpenState = 0;
 }
 
@@ -110,10 +108,8 @@ void Form1::OpenRecentPick() {
     GiveSlotBack();
     ShowMessage(" The file is already open ");
   } else {
-    Busy = true;
     ReadInto(RecentPick);
   }
-  Busy = false;
   OpenState = 0;
 }
 
@@ -123,7 +119,6 @@ void Form1::ReadInto(std::string_view path) {
   Current().FileName = path;
   SweepLeftovers(Current().FileName);
   ReadClassFile();
-  Busy = false;
   if (!Current().FileName.empty()) return ShowOpenedClass();
   GiveSlotBack();
   CurrentClass = static_cast<i16>(SlotIndex - 1);
@@ -151,10 +146,8 @@ void Form1::OpenNewClass(int pending_action) {
   if (!TakeSlot()) return;
   const i16 before = std::exchange(CurrentClass, static_cast<i16>(SlotIndex));
   ResetClassSlot();
-  Busy = true;
   ShowPortal(pending_action == 15 ? "frmWizard" : "frmAdd");
   PendingAction = 0;
-  Busy = false;
   if (Current().FileName.empty() && Current().NumStudents == 0) {
     GiveSlotBack();
     CurrentClass = before;

@@ -31,6 +31,15 @@ FileDialogRequest SaveRequest(const std::string& title) {
   return request;
 }
 
+// Two windows of one file would overwrite each other's marks.
+bool IsOpenElsewhere(std::string_view path) {
+  for (int slot = 1; slot < MaxClassSlots; ++slot) {
+    const Class& other = Classes[static_cast<std::size_t>(slot)];
+    if (slot != CurrentClass && SameFile(other.FileName, path)) return true;
+  }
+  return false;
+}
+
 }  // namespace
 
 std::string Form1::setsave() {
@@ -41,8 +50,12 @@ std::string Form1::setsave() {
       SaveCancelled = true;
       return "";
     }
-    if (HasClassExtension(*path)) return *path;
-    ShowMessage("The file extension must be .TYR", BoxIcon::kCritical);
+    if (!HasClassExtension(*path))
+      ShowMessage("The file extension must be .TYR", BoxIcon::kCritical);
+    else if (IsOpenElsewhere(*path))
+      ShowMessage(" The file is already open ");
+    else
+      return *path;
   }
 }
 
@@ -109,6 +122,8 @@ bool Form1::QueryUnload() {
   OpenState = 0;
   const bool not_saved = SaveAnswer == BoxAnswer::kYes && SaveCancelled;
   if (SaveAnswer == BoxAnswer::kCancel || FileErrorCode != 0 || not_saved) {
+    Screen->BringToFront(*this);
+    if (FileErrorCode != 0) ShowStatus("The class stays open, because it could not be saved.");
     OpenState = kClosingRefused;
     SaveAnswer = BoxAnswer::kCancel;
     FileErrorCode = 0;

@@ -39,9 +39,8 @@ void ReDim(List<T>& list, int n, const T& value = T()) {
 template <std::size_t N>
 class FixedText {
  public:
-  FixedText() { chars_.fill(' '); }
-  FixedText(std::string_view text) {
-    chars_.fill(' ');
+  FixedText() noexcept : chars_(kBlanks) {}
+  FixedText(std::string_view text) : chars_(kBlanks) {
     std::copy_n(text.begin(), std::min(N, text.size()), chars_.begin());
   }
   FixedText(const char* text) : FixedText(std::string_view(text)) {}
@@ -55,6 +54,12 @@ class FixedText {
   friend bool operator==(const FixedText& a, const char* b) { return a.view() == b; }
 
  private:
+  static constexpr std::array<char, N> kBlanks = [] {
+    std::array<char, N> blanks{};
+    blanks.fill(' ');
+    return blanks;
+  }();
+
   std::array<char, N> chars_;
 };
 

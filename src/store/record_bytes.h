@@ -6,6 +6,7 @@
 #include <bit>
 #include <cstdint>
 #include <cstring>
+#include <span>
 #include <string>
 #include <string_view>
 
@@ -78,21 +79,15 @@ class FieldReader {
   }
   void Read(List<ShortText>& list) {
     list.clear();
-    const std::size_t count = TakeElementCount(kLeastBytes<ShortText>);
-    list.reserve(count);
-    const char* at = bytes_.data() + at_;
-    const char* const end = bytes_.data() + bytes_.size();
-    // Marks are most of a class file, so this loop keeps its place in a register.
-    for (std::size_t i = 0; i < count; ++i) {
-      std::uint16_t length = 0;
-      if (end - at < static_cast<std::ptrdiff_t>(sizeof length)) throw RunTimeError{kErrorPastEnd};
-      std::memcpy(&length, at, sizeof length);
-      at += sizeof length;
-      if (end - at < length) throw RunTimeError{kErrorPastEnd};
-      list.emplace_back(std::string_view(at, length));
-      at += length;
-    }
-    at_ = static_cast<std::size_t>(at - bytes_.data());
+    list.resize(TakeElementCount(kLeastBytes<ShortText>));
+    const std::size_t whole = ReadTexts(list);
+    if (whole == list.size()) return;
+    list.resize(whole);
+    throw RunTimeError{kErrorPastEnd};
+  }
+  template <std::size_t N>
+  void Read(std::array<ShortText, N>& fields) {
+    if (ReadTexts(fields) != N) throw RunTimeError{kErrorPastEnd};
   }
   template <std::size_t N>
   void Read(List<FixedText<N>>& list) {
@@ -104,6 +99,32 @@ class FieldReader {
   }
 
  private:
+  // Reads texts as far as the bytes go, and returns how many. Marks are most of a class file, so
+  // this loop keeps its place in a register.
+  std::size_t ReadTexts(std::span<ShortText> texts) {
+    constexpr std::size_t kLengthBytes = sizeof(std::uint16_t);
+    const char* at = bytes_.data() + at_;
+    const char* const end = bytes_.data() + bytes_.size();
+    std::size_t whole = 0;
+    for (ShortText& text : texts) {
+      const auto left = static_cast<std::size_t>(end - at);
+      if (left < kLengthBytes) break;
+      std::uint16_t length = 0;
+      std::memcpy(&length, at, kLengthBytes);
+      if (length <= ShortText::kMostInline && left >= kLengthBytes + ShortText::kReadAhead) {
+        text.AssignInline(at + kLengthBytes, length);
+      } else if (length <= left - kLengthBytes) {
+        text = ShortText(std::string_view(at + kLengthBytes, length));
+      } else {
+        break;
+      }
+      at += kLengthBytes + length;
+      ++whole;
+    }
+    at_ = static_cast<std::size_t>(at - bytes_.data());
+    return whole;
+  }
+
   template <typename T>
   T TakeNumber() {
     T value;

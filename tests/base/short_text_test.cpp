@@ -138,5 +138,15 @@ TEST(ShortText, AListOfThemGrowsLikeAListOfStrings) {
   for (std::size_t i = 0; i < texts.size(); ++i) ASSERT_EQ(texts[i].str(), strings[i]);
 }
 
+TEST(ShortText, AShortTextIsTakenFromEightReadableBytes) {
+  for (std::size_t length = 0; length <= ShortText::kMostInline; ++length) {
+    ShortText text("something longer than that");
+    text.AssignInline("abcdefgh", length);
+    EXPECT_EQ(text, std::string_view("abcdefgh").substr(0, length));
+    text.AssignInline("ABCDEFGH", length);
+    EXPECT_EQ(text, std::string_view("ABCDEFGH").substr(0, length));
+  }
+}
+
 }  // namespace
 }  // namespace tallyroll

@@ -68,6 +68,32 @@ TEST_P(ConvertCommandTest, RangeSummariesAreCountedAnew) {
   EXPECT_EQ(c["Students"][1]["SummaryLate"][1], "1");
 }
 
+// "2/9/2026" is the second day of the two for who writes the day first, and no day for others.
+TEST_P(ConvertCommandTest, DatesAreReadInTheOrderAskedFor) {
+  std::string bytes = OlderClass(GetParam());
+  const std::size_t start = bytes.rfind("9/1/2026");
+  bytes.replace(start, 8, "2/9/2026");
+  const std::string old = Put("old.TYR", bytes);
+  const auto absent = [&](const char* order) {
+    const CliRun run = RunCli({"dump", "--opened", "--date-order", order, old});
+    EXPECT_EQ(run.status, 0) << run.err;
+    return json::parse(run.out)["Students"][0]["SummaryAbsent"][1];
+  };
+  EXPECT_EQ(absent("mdy"), "2    ");
+  EXPECT_EQ(absent("dmy"), "1    ");
+  ASSERT_EQ(RunCli({"convert", "--date-order", "dmy", old, Path("new.TYR")}).status, 0);
+  const json c = json::parse(RunCli({"dump", Path("new.TYR")}).out);
+  EXPECT_EQ(c["Students"][0]["SummaryAbsent"][1], "1    ");
+}
+
+TEST_P(ConvertCommandTest, AnUnknownDateOrderIsAWrongCommandLine) {
+  const std::string old = Put("old.TYR", OlderClass(GetParam()));
+  const CliRun run = RunCli({"convert", "--date-order", "myd", old, Path("new.TYR")});
+  EXPECT_EQ(run.status, 2);
+  EXPECT_EQ(run.out, "");
+  EXPECT_FALSE(std::filesystem::exists(Path("new.TYR")));
+}
+
 TEST_P(ConvertCommandTest, DumpShowsTheConvertedRecordWithItsOldMark) {
   const std::string old = Put("old.TYR", OlderClass(GetParam()));
   const json stands = json::parse(RunCli({"dump", old}).out);

@@ -38,6 +38,7 @@ class CliTest : public ::testing::Test {
   CliTest() {
     std::string pattern = std::filesystem::temp_directory_path() / "tallyroll_cli_XXXXXX";
     folder_ = mkdtemp(pattern.data());
+    setenv("LC_ALL", "C", 1);  // month first, whoever runs the tests
   }
   ~CliTest() override { std::filesystem::remove_all(folder_); }
 

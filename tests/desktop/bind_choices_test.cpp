@@ -1,11 +1,15 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include <QCalendarWidget>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QDateEdit>
 #include <QListWidget>
 #include <QRadioButton>
+#include <QStyle>
+#include <QStyleOptionComboBox>
 #include <QTabBar>
 #include <QTabWidget>
+#include <QTableView>
 
 #include "desktop/grid_widget.h"
 #include "tests/desktop/everything_portal.h"
@@ -130,6 +134,29 @@ TEST_F(BindChoicesTest, ListLinesAreSplitByTabsAndReadWithoutThem) {
   EXPECT_EQ(list().item(1)->data(Qt::AccessibleTextRole).toString(), QStringLiteral("Bertha B2"));
 }
 
+TEST_F(BindChoicesTest, ARefusedPickLeavesTheFormerLineMarked) {
+  portal.list.ListIndex = 0;
+  portal.when = [this](const std::string& line) {
+    if (line == "list change") portal.list.ListIndex = 0;
+  };
+  Open();
+  Focus("list");
+  QTest::mouseClick(list().viewport(), Qt::LeftButton, {}, PlaceOf(2));
+  EXPECT_EQ(list().currentRow(), 0);
+  EXPECT_EQ(list().selectedItems(), QList<QListWidgetItem*>{list().item(0)});
+}
+
+TEST_F(BindChoicesTest, ARefusedFirstPickLeavesNoLineMarked) {
+  portal.when = [this](const std::string& line) {
+    if (line == "list change") portal.list.ListIndex = -1;
+  };
+  Open();
+  Focus("list");
+  QTest::mouseClick(list().viewport(), Qt::LeftButton, {}, PlaceOf(1));
+  EXPECT_EQ(list().currentRow(), -1);
+  EXPECT_TRUE(list().selectedItems().isEmpty());
+}
+
 TEST_F(BindChoicesTest, AListTakesItsNameFromItsLabel) {
   Open();
   EXPECT_EQ(list().accessibleName(), QStringLiteral("List"));
@@ -222,6 +249,63 @@ TEST_F(BindChoicesTest, ADateIsADaySerial) {
   QTest::keyClick(&day, Qt::Key_Up);
   EXPECT_EQ(Events(), Lines{"day change"});
   EXPECT_EQ(portal.day.Value, 46267);
+}
+
+// A day of the calendar as it is shown, clicked with the mouse.
+void ClickDay(QCalendarWidget& calendar, const QDate& day) {
+  auto* view = calendar.findChild<QTableView*>();
+  ASSERT_NE(view, nullptr);
+  for (int row = 1; row < view->model()->rowCount(); ++row)
+    for (int column = 1; column < view->model()->columnCount(); ++column) {
+      const QModelIndex index = view->model()->index(row, column);
+      // The first row may show the last days of the month before.
+      if (index.data().toInt() != day.day() || (row == 1 && day.day() > 7)) continue;
+      QTest::mouseClick(view->viewport(), Qt::LeftButton, {}, view->visualRect(index).center());
+      return;
+    }
+  ADD_FAILURE() << "the calendar has no day " << day.day();
+}
+
+class CalendarTest : public BindChoicesTest {
+ protected:
+  // Opens the calendar of the field, as the key for it does.
+  QCalendarWidget& OpenCalendar() {
+    auto& day = Find<QDateEdit>("day");
+    QStyleOptionComboBox option;
+    option.initFrom(&day);
+    const QRect arrow =
+        day.style()->subControlRect(QStyle::CC_ComboBox, &option, QStyle::SC_ComboBoxArrow, &day);
+    QTest::mousePress(&day, Qt::LeftButton, {}, arrow.center());
+    EXPECT_TRUE(day.calendarWidget()->isVisible());
+    QTest::mouseRelease(&day, Qt::LeftButton, {}, arrow.center());
+    return *day.calendarWidget();
+  }
+};
+
+TEST_F(CalendarTest, TheDayThatIsShownAlreadyIsAPick) {
+  Open();
+  Focus("day");
+  ClickDay(OpenCalendar(), QDate(2026, 9, 1));
+  EXPECT_EQ(Events(), Lines{"day change"});
+  EXPECT_EQ(portal.day.Value, 46266);
+  ClickDay(OpenCalendar(), QDate(2026, 9, 1));
+  EXPECT_EQ(Events(), Lines{"day change"});
+}
+
+TEST_F(CalendarTest, AnotherDayIsOnePick) {
+  Open();
+  Focus("day");
+  ClickDay(OpenCalendar(), QDate(2026, 9, 3));
+  EXPECT_EQ(Events(), Lines{"day change"});
+  EXPECT_EQ(portal.day.Value, 46268);
+  EXPECT_FALSE(Find<QDateEdit>("day").calendarWidget()->isVisible());
+}
+
+TEST_F(CalendarTest, EnterPicksTheDayThatIsShown) {
+  Open();
+  Focus("day");
+  QTest::keyClick(OpenCalendar().findChild<QTableView*>(), Qt::Key_Return);
+  EXPECT_EQ(Events(), Lines{"day change"});
 }
 
 TEST_F(BindChoicesTest, ADateThatNobodyPickedKeepsItsTimeOfDay) {

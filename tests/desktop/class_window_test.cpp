@@ -31,6 +31,10 @@ class ClassWindowTest : public FrameTest {
     return qobject_cast<QToolButton*>(toolbar->widgetForAction(action));
   }
   QPoint Middle(int row, int col) const { return grid().CellRect(row, col).center(); }
+  void ClickTwice(int row, int col) {
+    QTest::mouseClick(grid().viewport(), Qt::LeftButton, Qt::NoModifier, Middle(row, col));
+    QTest::mouseDClick(grid().viewport(), Qt::LeftButton, Qt::NoModifier, Middle(row, col));
+  }
 
   Form1& form;
 };
@@ -42,18 +46,13 @@ TEST_F(ClassWindowTest, ShowsTheGridOfTheClass) {
   EXPECT_EQ(grid().accessibleName(), QStringLiteral("Students and grades"));
 }
 
-TEST_F(ClassWindowTest, FollowsCaptionStatusAndBusyState) {
+TEST_F(ClassWindowTest, FollowsCaptionAndStatus) {
   EXPECT_EQ(view().windowTitle(), QStringLiteral("MATH.TYR"));
   form.Caption = "Caf\xE9.TYR";
   form.StatusText = "Na\xEFve";
-  form.Busy = true;
   view().Sync();
   EXPECT_EQ(view().windowTitle(), QStringLiteral("Caf\u00e9.TYR"));
   EXPECT_EQ(Status(), QStringLiteral("Na\u00efve"));
-  EXPECT_EQ(view().cursor().shape(), Qt::BusyCursor);
-  form.Busy = false;
-  view().Sync();
-  EXPECT_EQ(view().cursor().shape(), Qt::ArrowCursor);
 }
 
 TEST_F(ClassWindowTest, AToolbarButtonRunsItsCommand) {
@@ -78,10 +77,28 @@ TEST_F(ClassWindowTest, ThePrintButtonDropsThePrintMenu) {
 
 TEST_F(ClassWindowTest, ADoubleClickReachesTheClassWindow) {
   RecordPortals();
-  QTest::mouseDClick(grid().viewport(), Qt::LeftButton, Qt::NoModifier, Middle(2, 2));
+  ClickTwice(2, 2);
   EXPECT_TRUE(portals_asked_for.empty());  // not inside the mouse event
   Settle();
   EXPECT_EQ(portals_asked_for, std::vector<std::string>{"frmEmarks"});
+}
+
+TEST_F(ClassWindowTest, ADoubleClickMeansItsOwnCellWhereverThePointerWentSince) {
+  RecordPortals();
+  ClickTwice(2, 2);
+  QTest::mouseMove(grid().viewport(), Middle(2, 0));
+  Settle();
+  EXPECT_EQ(portals_asked_for, std::vector<std::string>{"frmEmarks"});
+}
+
+TEST_F(ClassWindowTest, ADoubleClickThatBeganElsewhereIsAClick) {
+  RecordPortals();
+  const QPointF place = Middle(2, 2);
+  QMouseEvent second(QEvent::MouseButtonDblClick, place, grid().viewport()->mapToGlobal(place),
+                     Qt::LeftButton, Qt::LeftButton, Qt::NoModifier);
+  QApplication::sendEvent(grid().viewport(), &second);
+  Settle();
+  EXPECT_TRUE(portals_asked_for.empty());
 }
 
 TEST_F(ClassWindowTest, EnterOnACellDoesWhatADoubleClickDoes) {

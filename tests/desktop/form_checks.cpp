@@ -151,13 +151,18 @@ bool SeenTogether(const QWidget* one, const QWidget* other) {
 QStringList CheckMnemonics(const Widgets& widgets) {
   QStringList complaints;
   QList<std::pair<QString, QWidget*>> letters;
+  const auto add = [&letters](const QString& text, QWidget* widget) {
+    const QString letter = QKeySequence::mnemonic(text).toString();
+    if (!letter.isEmpty()) letters << std::pair(letter, widget);
+  };
   for (QWidget* widget : widgets) {
+    const auto* tabs = qobject_cast<QTabWidget*>(widget);
+    for (int i = 0; tabs && i < tabs->count(); ++i) add(tabs->tabText(i), widget);
     const auto* label = qobject_cast<QLabel*>(widget);
     if (label ? !label->buddy()
               : !qobject_cast<QAbstractButton*>(widget) && !qobject_cast<QGroupBox*>(widget))
       continue;
-    const QString letter = QKeySequence::mnemonic(TextOf(*widget)).toString();
-    if (!letter.isEmpty()) letters << std::pair(letter, widget);
+    add(TextOf(*widget), widget);
   }
   for (qsizetype i = 0; i < letters.size(); ++i)
     for (qsizetype j = i + 1; j < letters.size(); ++j)

@@ -194,6 +194,7 @@ TEST_F(GridWidgetTest, TabLeavesTheGrid) {
 
 TEST_F(GridWidgetTest, ADoubleClickTellsTheCellUnderThePointer) {
   QSignalSpy twice(&widget, &GridWidget::cellDoubleClicked);
+  QTest::mouseClick(widget.viewport(), Qt::LeftButton, {}, widget.CellRect(4, 0).center());
   QTest::mouseDClick(widget.viewport(), Qt::LeftButton, {}, widget.CellRect(4, 0).center());
   ASSERT_EQ(twice.count(), 1);
   EXPECT_EQ(grid.MouseRow, 4);

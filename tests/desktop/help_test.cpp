@@ -17,6 +17,8 @@
 
 #include "desktop/help_topics.h"
 #include "desktop/help_window.h"
+#include "desktop/text_conversion.h"
+#include "shell/class_menu.h"
 
 namespace tallyroll {
 namespace {
@@ -75,6 +77,36 @@ TEST(HelpPages, NoPageIsLeftWithoutAContext) {
   for (int context : HelpContexts()) known.insert(HelpPage(context).fileName());
   const QStringList pages = QDir(QStringLiteral(":/help")).entryList({QStringLiteral("*.html")});
   EXPECT_EQ(std::set<QString>(pages.begin(), pages.end()), known);
+}
+
+TEST(HelpPages, TheKeysOfTheMenuStandOnTheirPage) {
+  const QString keys = PageText(HelpPage(210).fileName());
+  int shortcuts = 0;
+  for (const ClassMenuRow& row : ClassMenuRows()) {
+    if (row.shortcut.empty()) continue;
+    EXPECT_TRUE(keys.contains(QStringLiteral("<b>%1</b>").arg(FromText(row.shortcut))))
+        << row.shortcut;
+    ++shortcuts;
+  }
+  EXPECT_GT(shortcuts, 0);
+}
+
+// What each page tells of a case that it once told wrongly.
+TEST(HelpPages, TellWhatTheProgramDoes) {
+  const std::vector<std::pair<int, const char*>> told = {
+      {110, "What could be read of it is opened all the same"},
+      {130, "If there is a MATH.ol6 as well, both stay as they are and no further backup is made"},
+      {140, "opened or saved under a new name last"},
+      {200, "or only one of them"},
+      {210, "most ask first if something was entered"},
+      {250, "It is not available yet"},
+      {250, "most western European languages"},
+      {260, "it asks first if you have changed something"},
+  };
+  for (const auto& [context, text] : told) {
+    const QString page = PageText(HelpPage(context).fileName()).simplified();
+    EXPECT_TRUE(page.contains(QString::fromLatin1(text))) << context << ": " << text;
+  }
 }
 
 TEST(HelpPages, HaveNoScripts) {

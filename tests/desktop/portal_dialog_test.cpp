@@ -6,11 +6,14 @@
 #include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
+#include <QListWidget>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QStackedWidget>
 #include <QTimer>
+#include <QWindow>
 
+#include "desktop/grid_widget.h"
 #include "tests/desktop/everything_portal.h"
 
 namespace tallyroll {
@@ -159,6 +162,65 @@ TEST_F(EverythingTest, AFieldThatMustBeMendedStopsThePress) {
   EXPECT_EQ(std::count(portal.log.begin(), portal.log.end(), "ok click"), 0);
   EXPECT_TRUE(Find<QLineEdit>("first").hasFocus());
   EXPECT_EQ(Find<QLineEdit>("first").selectedText(), QStringLiteral("wrong"));
+}
+
+// A box in front for a moment, as a message has it.
+void ShowABox(QWidget* parent) {
+  QDialog box(parent);
+  QTimer::singleShot(0, &box, &QDialog::accept);
+  box.exec();
+}
+
+// A press that comes from the window system, so that it moves the focus first.
+void PressInWindow(QWidget& widget, const QPoint& place) {
+  QWidget* window = widget.window();
+  const QPoint in_window = widget.mapTo(window, place);
+  QTest::mousePress(window->windowHandle(), Qt::LeftButton, {}, in_window);
+  QTest::mouseRelease(window->windowHandle(), Qt::LeftButton, {}, in_window);
+}
+
+TEST_F(EverythingTest, ABoxOnLeavingAFieldStopsThePressOnAButton) {
+  portal.when = [this](const std::string& line) {
+    if (line == "first lost") ShowABox(dialog.get());
+  };
+  Open();
+  Focus("first");
+  PressInWindow(Find<QPushButton>("other"), Find<QPushButton>("other").rect().center());
+  EXPECT_EQ(Events(), (Lines{"first lost", "other got"}));
+}
+
+TEST_F(EverythingTest, ABoxOnLeavingAFieldStopsThePressOnAList) {
+  portal.when = [this](const std::string& line) {
+    if (line == "first lost") ShowABox(dialog.get());
+  };
+  Open();
+  Focus("first");
+  auto& list = Find<QListWidget>("list");
+  PressInWindow(*list.viewport(), list.visualItemRect(list.item(1)).center());
+  EXPECT_EQ(Events(), (Lines{"first lost", "list got"}));
+  EXPECT_EQ(portal.list.ListIndex, -1);
+}
+
+TEST_F(EverythingTest, ABoxOnLeavingAFieldStopsThePressOnAGrid) {
+  portal.when = [this](const std::string& line) {
+    if (line == "first lost") ShowABox(dialog.get());
+  };
+  Open();
+  Focus("first");
+  auto& grid = Find<GridWidget>("grid");
+  PressInWindow(*grid.viewport(), grid.CellRect(2, 1).center());
+  EXPECT_EQ(Events(), (Lines{"first lost", "grid got"}));
+  EXPECT_EQ(portal.grid.Row, 1);
+}
+
+TEST_F(EverythingTest, ItHearsOfNoFocusWhileItIsTakenDown) {
+  Open();
+  const QObject* falling = dialog.get();
+  bool still_heard = true;
+  QObject::connect(&Find<QLineEdit>("first"), &QObject::destroyed, qApp,
+                   [&] { still_heard = QObject::disconnect(qApp, nullptr, falling, nullptr); });
+  dialog.reset();
+  EXPECT_FALSE(still_heard);
 }
 
 TEST_F(EverythingTest, AHandlerGivesTheFocusWhenItIsDone) {

@@ -8,6 +8,7 @@
 #include <QFileDialog>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QShortcut>
 #include <QTemporaryDir>
 #include <QTest>
 #include <QTimer>
@@ -121,7 +122,7 @@ TEST_F(QtSurroundingsTest, HelpGoesToTheFrame) {
 }
 
 TEST_F(QtSurroundingsTest, TheProfileFolderHasNoFinalSlash) {
-  EXPECT_TRUE(surroundings.ProfileFolder().ends_with("/Tallyroll"));
+  EXPECT_TRUE(surroundings.ProfileFolder().ends_with("/share"));
 }
 
 TEST(FileFilters, PatternsMatchBothCases) {
@@ -145,6 +146,22 @@ TEST_F(QtSurroundingsTest, ANameWithoutAnExtensionGetsTheDefaultOne) {
     QMetaObject::invokeMethod(&dialog, "accept");
   });
   EXPECT_EQ(surroundings.FileDialog(request), ToPath(folder.path()) + "/class.TYR");
+}
+
+TEST_F(QtSurroundingsTest, F1InAFileDialogShowsItsHelp) {
+  int shown = 0;
+  surroundings.help_hook = [&shown](int context) { shown = context; };
+  SetPlatform(&surroundings);
+  FileDialogRequest request;
+  request.help_context = 110;
+  WithNextWindow<QFileDialog>([](QFileDialog& dialog) {
+    for (QShortcut* shortcut : dialog.findChildren<QShortcut*>())
+      if (shortcut->key() == QKeySequence(Qt::Key_F1)) Q_EMIT shortcut->activated();
+    dialog.reject();
+  });
+  surroundings.FileDialog(request);
+  SetPlatform(nullptr);
+  EXPECT_EQ(shown, 110);
 }
 
 TEST_F(QtSurroundingsTest, CancellingTheDialogGivesNoPath) {

@@ -9,6 +9,7 @@
 #include <QToolButton>
 
 #include "desktop/appearance.h"
+#include "desktop/palette_icon.h"
 #include "desktop/toolbar_view.h"
 #include "tests/desktop/frame_fixture.h"
 

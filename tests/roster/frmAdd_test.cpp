@@ -202,6 +202,18 @@ TEST_F(FrmAddTest, ADuplicateIdIsToldBeforeAMissingName) {
   EXPECT_EQ(Current().NumStudents, 1);
 }
 
+TEST_F(FrmAddTest, AnEditIsRefusedWhileTheFileHasTheIdTwice) {
+  Enrol("Ng", "Ada", "7");
+  Enrol("Li", "Bo", "7");
+  Open(portal);
+  driver->Press("PREVIOUS");
+  driver->Type("phone", "555");
+  screen.ExpectBox(kIdMustBeUnique);
+  driver->Press("nextt");
+  EXPECT_EQ(driver->Focused(), "id");
+  EXPECT_EQ(Current().Students[2].phone, "");
+}
+
 TEST_F(FrmAddTest, IdsThatDifferInCaseAreDifferent) {
   Enrol("Ng", "Ada", "a7");
   Open(portal);
@@ -439,6 +451,19 @@ TEST_F(FrmAddTest, AnIdRefusedOnceIsCheckedAgain) {
   driver->Type("id", "8");
   driver->Press("nextt");
   EXPECT_EQ(Current().NumStudents, 2);
+}
+
+TEST_F(FrmAddTest, AnotherFieldEditedLeavesNamesAndIdByteForByte) {
+  Enrol(" Ng ", "Ada  ", "7   ");
+  Open(portal);
+  driver->Press("PREVIOUS");
+  driver->Type("phone", "555");
+  driver->Press("nextt");
+  const Student& ada = Current().Students[1];
+  EXPECT_EQ(ada.lastname, " Ng ");
+  EXPECT_EQ(ada.firstname, "Ada  ");
+  EXPECT_EQ(ada.id, "7   ");
+  EXPECT_EQ(ada.phone, "555");
 }
 
 struct WatchedStatus : ClassWindowCalls {

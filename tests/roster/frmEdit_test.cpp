@@ -37,6 +37,18 @@ TEST_F(FrmEditTest, WithTheIdFirstTheListHasItFirst) {
   EXPECT_EQ(portal.List1.List.at(0), "2\tLi, Bo");
 }
 
+TEST_F(FrmEditTest, WithoutIdsTheListHasTheNamesAlone) {
+  NameMode = 57;
+  OpenAt(0);
+  EXPECT_EQ(portal.List1.List, (std::vector<std::string>{"Li, Bo", "Ng, Ada", "Orr, Cy"}));
+}
+
+TEST_F(FrmEditTest, WithoutNamesTheListHasTheIdsAlone) {
+  NameMode = 73;
+  OpenAt(0);
+  EXPECT_EQ(portal.List1.List, (std::vector<std::string>{"2", "1", "3"}));
+}
+
 TEST_F(FrmEditTest, AnEmptyClassGivesAnEmptyList) {
   Current().NumStudents = 0;
   Current().Students.clear();
@@ -167,6 +179,83 @@ TEST_F(FrmEditTest, AnIdOfAnotherStudentIsRefused) {
   EXPECT_EQ(portal.id.SelLength, 1);
   EXPECT_EQ(Current().Students[1].id, "2");
   EXPECT_EQ(Current().Changed, kFalse);
+}
+
+TEST_F(FrmEditTest, AnEditIsRefusedWhileTheFileHasTheIdTwice) {
+  Current().Students[3].id = "2 ";
+  OpenAt(1);
+  driver->Type("phone", "555");
+  screen.ExpectBox(kIdMustBeUnique);
+  driver->Press("exit");
+  EXPECT_FALSE(portal.Unloaded());
+  EXPECT_EQ(driver->Focused(), "id");
+  EXPECT_EQ(Current().Students[1].phone, "");
+}
+
+TEST_F(FrmEditTest, AStudentThatNobodyEditsIsLeftThoughTheFileHasTheIdTwice) {
+  Current().Students[3].id = "2 ";
+  OpenAt(1);
+  driver->Press("nextt");
+  EXPECT_EQ(portal.Position, 2);
+}
+
+TEST_F(FrmEditTest, AnotherFieldEditedLeavesNamesAndIdByteForByte) {
+  Student& li = Current().Students[1];
+  li.lastname = "Li   ";
+  li.firstname = " Bo ";
+  li.id = " 2          ";
+  OpenAt(1);
+  EXPECT_EQ(driver->Text("firstname"), "Bo");
+  driver->Type("phone", "555");
+  driver->Press("exit");
+  EXPECT_EQ(li.lastname, "Li   ");
+  EXPECT_EQ(li.firstname, " Bo ");
+  EXPECT_EQ(li.id, " 2          ");
+  EXPECT_EQ(li.phone, "555");
+}
+
+TEST_F(FrmEditTest, EachNameAndTheIdAreWrittenWhenTheyAreEdited) {
+  Student& li = Current().Students[1];
+  li.firstname = "Bo   ";
+  OpenAt(1);
+  driver->Type("lastname", "Li ");
+  driver->Type("id", "20 ");
+  driver->Press("exit");
+  EXPECT_EQ(li.lastname, "Li ");
+  EXPECT_EQ(li.firstname, "Bo   ");
+  EXPECT_EQ(li.id, "20");
+}
+
+TEST_F(FrmEditTest, TheOtherFieldsAreWrittenTrimmed) {
+  Current().Students[1].parent = " Per ";
+  OpenAt(1);
+  driver->Type("comment", " late ");
+  driver->Press("exit");
+  EXPECT_EQ(Current().Students[1].parent, "Per");
+  EXPECT_EQ(Current().Students[1].comments, "late");
+}
+
+TEST_F(FrmEditTest, ShorteningTheLongestNameKeepsTheWidths) {
+  Current().LastNameWidth = 3;
+  Current().FirstNameWidth = 3;
+  OpenAt(3);
+  driver->Type("lastname", "Abernathy");
+  driver->Press("PREVIOUS");
+  EXPECT_EQ(Current().LastNameWidth, 9);
+  driver->Press("nextt");
+  driver->Type("lastname", "Xu");
+  driver->Press("PREVIOUS");
+  driver->Type("firstname", "Jo");  // Ada, one of the longest
+  driver->Press("exit");
+  EXPECT_EQ(Current().LastNameWidth, 9);
+  EXPECT_EQ(Current().FirstNameWidth, 3);
+}
+
+TEST_F(FrmEditTest, ALastNameOf30CharactersLeavesNothingToTypeInTheFirstName) {
+  OpenAt(1);
+  driver->Type("firstname", "");
+  driver->Type("lastname", std::string(30, 'x'));
+  EXPECT_EQ(portal.firstname.MaxLength, -1);
 }
 
 TEST_F(FrmEditTest, NextStoresAndMovesTheSelection) {
@@ -308,6 +397,16 @@ TEST_F(FrmEditTest, CopyNeedsASelection) {
       "dragging the mouse across the text you want to select, and then release the mouse button.");
   driver->Press("copy");
   EXPECT_EQ(screen.clipboard, "kept");
+  EXPECT_EQ(driver->Focused(), "comment");
+}
+
+TEST_F(FrmEditTest, CopyWithoutAStudentLeadsToTheList) {
+  OpenAt(0);
+  screen.ExpectBox(
+      "You must first select the comment you wish to copy to the clipboard. Select the comment by "
+      "dragging the mouse across the text you want to select, and then release the mouse button.");
+  driver->Press("copy");
+  EXPECT_EQ(driver->Focused(), "List1");
 }
 
 TEST_F(FrmEditTest, CopyPutsTheSelectedTextOnTheClipboard) {
@@ -354,6 +453,7 @@ TEST_F(FrmEditTest, PasteOfMoreThanAFileHoldsIsRefused) {
   driver->Press("paste");
   EXPECT_EQ(driver->Text("comment"), "reads a lot");
   EXPECT_EQ(portal.Dirty, 0);
+  EXPECT_EQ(driver->Focused(), "comment");
 }
 
 TEST_F(FrmEditTest, PasteWithoutAStudentIsRefused) {
@@ -362,6 +462,7 @@ TEST_F(FrmEditTest, PasteWithoutAStudentIsRefused) {
   screen.ExpectBox("Please select a student");
   driver->Press("paste");
   EXPECT_EQ(driver->Text("comment"), "");
+  EXPECT_EQ(driver->Focused(), "List1");
 }
 
 }  // namespace

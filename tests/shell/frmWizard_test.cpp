@@ -25,7 +25,7 @@ class FrmWizardTest : public PortalTest {
   // From step 1 to this one, with a student where one is required.
   void GoToStep(int step) {
     while (portal.Step < step) {
-      if (portal.Step == 4) TypeStudent();
+      if (portal.Step == 4 && !driver->Enabled("cmdNext")) TypeStudent();
       driver->Press("cmdNext");
     }
   }
@@ -228,6 +228,41 @@ TEST_F(FrmWizardTest, ContinueMakesTheClassAndGoesOnToAddStudents) {
   EXPECT_EQ(Current().NumStudents, 2);
 }
 
+TEST_F(FrmWizardTest, TheFirstStudentStaysWhenAddingOthersIsCancelled) {
+  MakePortal = [](std::string_view) -> std::unique_ptr<Portal> {
+    return std::make_unique<frmAdd>();
+  };
+  GoToStep(8);
+  screen.ExpectPortal("frmAdd", [](PortalDriver& add) { add.Press("cancel"); });
+  driver->Press("button_skip");
+  EXPECT_TRUE(portal.Unloaded());
+  EXPECT_EQ(Current().NumStudents, 1);
+  EXPECT_EQ(Current().Students[1].lastname, "Ng");
+}
+
+TEST_F(FrmWizardTest, NamesStayAsTypedAndTheWidthsAreTheirs) {
+  Current().LastNameWidth = 20;
+  GoToStep(4);
+  driver->Type("Lname", "Ng ");
+  driver->Type("fname", "Ada");
+  driver->Type("id", "7 ");
+  GoToStep(5);
+  driver->Press("button_skip");
+  driver->Press("cmdNext");
+  EXPECT_EQ(Current().Students[1].lastname, "Ng ");
+  EXPECT_EQ(Current().Students[1].id, "7");
+  EXPECT_EQ(Current().LastNameWidth, 3);
+  EXPECT_EQ(Current().FirstNameWidth, 3);
+}
+
+TEST_F(FrmWizardTest, CancelWithOnlyClassDetailsLeavesAtOnce) {
+  GoToStep(2);
+  driver->Type("description", "Math 201");
+  driver->Press("cmdCancel");
+  EXPECT_TRUE(portal.Unloaded());
+  EXPECT_EQ(Current().description, "");
+}
+
 TEST_F(FrmWizardTest, CancelWithNothingEnteredLeavesAtOnce) {
   driver->Press("cmdCancel");
   EXPECT_TRUE(portal.Unloaded());
@@ -261,7 +296,9 @@ TEST(FrmWizardForm, SaysItsPagesAndItsQuotation) {
         "Optional Information", "Supplementary Information (Optional)",
         "Student's Address (Optional)", "Finished", "up to 12 characters",
         "up to 30 characters (e.g., Math 201 - Programming)",
-        "A journey of a thousand miles must begin with a single step."})
+        "A journey of a thousand miles must begin with a single step.",
+        "The first student is complete. Press Continue to enter the other students now, or Finish "
+        "to enter them later."})
     EXPECT_NE(form.find("<string>" + std::string(text) + "</string>"), std::string::npos) << text;
 }
 

@@ -111,6 +111,27 @@ TEST_F(FrmClassInfoTest, CancelAfterAChangeAsks) {
   EXPECT_EQ(screen.boxes.at(0).buttons, BoxButtons::kYesNo);
 }
 
+TEST_F(FrmClassInfoTest, AnEditOfAnyFieldIsAChange) {
+  for (const char* box :
+       {"description", "school", "room", "teacher", "timed", "tempstart", "tempend"}) {
+    frmclassinfo fresh;
+    fresh.Load();
+    PortalDriver each(fresh);
+    each.Type(box, "x");
+    screen.ExpectBox(kCancelQuestion, BoxAnswer::kNo);
+    each.Press("cancel");
+    EXPECT_FALSE(fresh.Unloaded()) << box;
+  }
+  Open();
+}
+
+TEST_F(FrmClassInfoTest, ExitMarksTheClassAsChangedEvenWithoutAnEdit) {
+  Open();
+  driver->Press("exit");
+  EXPECT_EQ(Current().Changed, kTrue);
+  EXPECT_EQ(Current().school, "North");
+}
+
 TEST_F(FrmClassInfoTest, CancelConfirmedWritesNothing) {
   Open();
   driver->Type("room", "14");

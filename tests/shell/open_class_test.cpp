@@ -17,7 +17,6 @@ TEST_F(OpenClassTest, OpenShowsTheClassInAWindowOfItsOwn) {
   ASSERT_NE(Window(1), nullptr);
   EXPECT_EQ(Window(1)->Caption, "MATHS.TYR");
   EXPECT_EQ(Window(1)->Tag, "1");
-  EXPECT_FALSE(Window(1)->Busy);
   EXPECT_EQ(CurrentClass, 1);
   EXPECT_EQ(Classes[1].SlotState, 10);
   EXPECT_EQ(Classes[1].FileName, path);

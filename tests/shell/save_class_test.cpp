@@ -209,6 +209,88 @@ TEST_F(SaveClassTest, CloseAllAsksEachWindowAlsoBehindOneThatStays) {
   EXPECT_NE(Window(1), nullptr);
 }
 
+TEST_F(SaveClassTest, TheFileOfAnotherWindowIsRefusedAndTheDialogComesAgain) {
+  Open("A.TYR", Sample(4));
+  Form1& second = Open("B.TYR");
+  screen.ExpectFileDialog(Path("a.tyr"));
+  screen.ExpectBox(" The file is already open ");
+  screen.ExpectFileDialog(Path("C.TYR"));
+  second.ClickMenu("mnusaveas");
+  EXPECT_EQ(Current().FileName, Path("C.TYR"));
+  EXPECT_EQ(Classes[1].FileName, Path("A.TYR"));
+}
+
+TEST_F(SaveClassTest, SaveAsOntoItsOwnFileIsASave) {
+  Form1& window = Open("A.TYR");
+  Current().Changed = kTrue;
+  screen.ExpectFileDialog(Path("A.TYR"));
+  window.ClickMenu("mnusaveas");
+  EXPECT_EQ(Current().Changed, kFalse);
+}
+
+TEST_F(SaveClassTest, AFailedNameKeepsTheClassOpenAndTellsWhy) {
+  Form1& window = Unsaved();
+  screen.ExpectBox("NewClass 1 Data has been changed. Save File?  ", BoxAnswer::kYes);
+  screen.ExpectFileDialog(Path("gone/fresh.TYR"));
+  screen.ExpectBox("File Error: 76");
+  window.ClickMenu("mnuclose");
+  EXPECT_EQ(Window(1), &window);
+  EXPECT_EQ(Current().Changed, kTrue);
+  EXPECT_EQ(window.StatusText, "The class stays open, because it could not be saved.");
+}
+
+TEST_F(SaveClassTest, AClassKeptByCloseAllIsTheOneThatTheNextCommandMeans) {
+  Open("A.TYR");
+  Open("B.TYR");
+  Form1& third = Open("C.TYR");
+  Classes[2].Changed = kTrue;
+  screen.ExpectBox("B.TYR Data has been changed. Save File?  ", BoxAnswer::kCancel);
+  third.ClickMenu("mnucloseall");
+  EXPECT_EQ(WindowCount(), 1);
+  EXPECT_EQ(CurrentClass, 2);
+  EXPECT_EQ(frame_screen.calls.end()[-2], "front B.TYR");
+}
+
+TEST_F(SaveClassTest, ARefusedFrameCloseLeavesTheKeptClassInWork) {
+  Open("A.TYR");
+  Open("B.TYR");
+  Classes[1].Changed = kTrue;
+  screen.ExpectBox(kQuestion, BoxAnswer::kCancel);
+  EXPECT_FALSE(Frame->QueryUnload());
+  EXPECT_EQ(CurrentClass, 1);
+  EXPECT_EQ(frame_screen.calls.back(), "front A.TYR");
+}
+
+TEST_F(SaveClassTest, ClosingAWindowBehindLeavesTheFrontOneInWork) {
+  Open("A.TYR");
+  Form1& second = Open("B.TYR");
+  EXPECT_TRUE(Frame->CloseWindow(*Window(1)));
+  EXPECT_EQ(CurrentClass, 2);
+  Current().room = "7";
+  second.ClickMenu("mnusave");
+  EXPECT_TRUE(Frame->CloseWindow(second));
+  Frame->OpenRecent(Path("B.TYR"));
+  EXPECT_EQ(Current().room, "7");
+}
+
+TEST_F(SaveClassTest, ACommandMeansTheClassOfItsWindow) {
+  Form1& first = Open("A.TYR");
+  Open("B.TYR");
+  Classes[1].room = "5";
+  first.ClickMenu("mnusave");
+  EXPECT_EQ(CurrentClass, 1);
+  EXPECT_TRUE(Frame->CloseWindow(first));
+  Frame->OpenRecent(Path("A.TYR"));
+  EXPECT_EQ(Current().room, "5");
+}
+
+TEST_F(SaveClassTest, ToolbarSavesToo) {
+  Form1& window = Open("A.TYR");
+  Current().Changed = kTrue;
+  window.ClickTool("Save");
+  EXPECT_EQ(Current().Changed, kFalse);
+}
+
 TEST_F(SaveClassTest, ExitClosesEveryWindowAndKeepsTheSettings) {
   Open("A.TYR");
   Open("B.TYR").ClickTool("Exit");

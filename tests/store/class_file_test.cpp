@@ -8,12 +8,14 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include <cerrno>
 #include <fstream>
 
 #include "base/run_time_error.h"
 #include "platform/class_window.h"
 #include "platform/portal.h"
 #include "store/class_defaults.h"
+#include "tests/store/failing_disk.h"
 #include "tests/support/file_bytes.h"
 #include "tests/support/portal_test.h"
 #include "tests/support/random_class.h"
@@ -335,6 +337,30 @@ TEST_F(ClassFileTest, AFullDiskKeepsTheOldFile) {
   EXPECT_GT(Get(file).size(), 5000u);
 }
 
+TEST_F(ClassFileTest, ADiskThatDoesNotTakeTheBytesKeepsTheOldFile) {
+  Open(SmallClass());
+  Current().room = "B 12";
+  FailingDisk disk;
+  disk.flush_error = EIO;
+  ExpectSavingFails(kErrorDevice, "File Error: 57");
+  disk.flush_error = 0;
+  disk.rename_error = EACCES;
+  ExpectSavingFails(kErrorPermission, "File Error: 70. Disk may be write protected");
+  EXPECT_EQ(Get(file), SmallClass());
+  EXPECT_EQ(Files(), 1);
+}
+
+TEST_F(ClassFileTest, AFirstSaveThatFailsAtTheMoveTakesItsBackupBack) {
+  Put(file, "old bytes");
+  Current().Magic = "ty5";
+  FailingDisk disk;
+  disk.rename_error = EIO;
+  ExpectSavingFails(kErrorDevice, "File Error: 57");
+  EXPECT_EQ(Get(file), "old bytes");
+  EXPECT_EQ(Files(), 1);
+  EXPECT_EQ(Current().Magic, "ty5");
+}
+
 TEST_F(ClassFileTest, ATextTooLongForTheFileWritesNothing) {
   Open(SmallClass());
   Current().room = std::string(65536, 'x');
@@ -358,6 +384,44 @@ TEST_F(ClassFileTest, AFileThatAnotherProgramWroteIsAskedFor) {
   EXPECT_EQ(Get(file).substr(0, 3), "ty8");
   WriteClassFile();
   EXPECT_EQ(screen.boxes.size(), 2u) << "the program's own save is no change by another";
+}
+
+TEST_F(ClassFileTest, ASymbolicLinkIsTheSameFile) {
+  std::filesystem::create_symlink("math.TYR", Path("link.TYR"));
+  Open(SmallClass());
+  Put(file, "something else");
+  Current().FileName = Path("link.TYR");
+  screen.ExpectBox(kChangedBehind, BoxAnswer::kNo);
+  WriteClassFile();
+  EXPECT_EQ(Get(file), "something else");
+  screen.ExpectBox(kChangedBehind, BoxAnswer::kYes);
+  WriteClassFile();
+  EXPECT_EQ(Get(file).substr(0, 3), "ty8");
+  EXPECT_TRUE(std::filesystem::is_symlink(Path("link.TYR")));
+}
+
+TEST_F(ClassFileTest, ASecondSpellingOfThePathIsTheSameFile) {
+  Open(SmallClass());
+  Put(file, "something else");
+  std::filesystem::create_directory(Path("sub"));
+  for (const std::string& spelling :
+       {folder + "//math.TYR", Path("./math.TYR"), Path("sub/../math.TYR")}) {
+    Current().FileName = spelling;
+    screen.ExpectBox(kChangedBehind, BoxAnswer::kNo);
+    WriteClassFile();
+    EXPECT_EQ(Get(file), "something else") << spelling;
+  }
+}
+
+TEST_F(ClassFileTest, OpenedThroughALinkTheFileBehindItIsWatched) {
+  Put(file, SmallClass());
+  std::filesystem::create_symlink("math.TYR", Path("link.TYR"));
+  Current().FileName = Path("link.TYR");
+  ReadClassFile();
+  Put(file, "something else");
+  screen.ExpectBox(kChangedBehind, BoxAnswer::kNo);
+  WriteClassFile();
+  EXPECT_EQ(Get(file), "something else");
 }
 
 TEST_F(ClassFileTest, AFileThatWasRemovedIsWrittenAgainWithoutAQuestion) {
@@ -394,6 +458,19 @@ TEST_F(ClassFileTest, WithoutAFreeNameTheUnreadOriginalIsNotReplaced) {
   Open("ty8");
   ExpectSavingFails(kErrorPathAccess, "File Error: 75");
   EXPECT_EQ(Get(file), "ty8");
+}
+
+TEST_F(ClassFileTest, AFailedSaveTakesTheCopyOfTheUnreadOriginalBack) {
+  const std::string broken = HeaderBytes(9, 0, 0, 0) + StudentBytes("Adams", "Ann");
+  screen.ExpectBox("File Error: 62");
+  Open(broken);
+  ASSERT_EQ(chmod(file.c_str(), 0444), 0);
+  ExpectSavingFails(kErrorPermission, "File Error: 70. Disk may be write protected");
+  EXPECT_EQ(Get(file), broken);
+  EXPECT_EQ(Files(), 1);
+  ASSERT_EQ(chmod(file.c_str(), 0644), 0);
+  WriteClassFile();
+  EXPECT_EQ(Get(Path("math.bad")), broken) << "the next save keeps it after all";
 }
 
 TEST_F(ClassFileTest, SavedElsewhereTheUnreadOriginalStaysWhereItIs) {

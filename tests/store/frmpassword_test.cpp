@@ -7,6 +7,8 @@
 #include <optional>
 
 #include "platform/class_window.h"
+#include "store/class_defaults.h"
+#include "store/class_file.h"
 #include "store/password.h"
 #include "store/program_state.h"
 #include "tests/support/portal_test.h"
@@ -128,6 +130,30 @@ TEST_F(FrmPasswordTest, AChangedPasswordReplacesTheOld) {
   EXPECT_EQ(OpenState, 50);
 }
 
+TEST_F(FrmPasswordTest, NothingEnteredIsNoOldPassword) {
+  Open(19, "Apple");
+  screen.ExpectBox("Password incorrect - please re-enter.");
+  driver->Press("okbt");
+  EXPECT_EQ(OpenState, 19);
+}
+
+TEST_F(FrmPasswordTest, AStoredPasswordMayBePadded) {
+  Open(19, "Apple");
+  Current().Password += "     ";
+  Enter("textcontrol2", "Apple");
+  EXPECT_EQ(OpenState, 17);
+}
+
+TEST_F(FrmPasswordTest, CancellingAfterTheFirstEntryStoresNothing) {
+  Open(17);
+  Enter("textcontrol0", "Apple");
+  screen.ExpectBox("Are you sure you want to cancel?", BoxAnswer::kYes);
+  driver->Press("cancelbt");
+  EXPECT_EQ(OpenState, 18);
+  EXPECT_EQ(Current().PasswordSet, 0);
+  EXPECT_EQ(Current().Password, "");
+}
+
 TEST_F(FrmPasswordTest, DeletingNeedsTheOldPassword) {
   Open(21, "Apple");
   EXPECT_EQ(portal.framecontrol.Current, 4);
@@ -150,6 +176,21 @@ TEST_F(FrmPasswordTest, DeletingTakesThePasswordAway) {
   const std::map<std::string, bool> expected = {
       {"mnupassenter", true}, {"mnupasschange", false}, {"mnupassdelete", false}};
   EXPECT_EQ(window.entries, expected);
+}
+
+// No Portal is expected at the second opening, so a question would be a complaint.
+TEST_F(FrmPasswordTest, AfterDeletingAndASaveTheFileOpensWithoutAQuestion) {
+  Current().FileName = Path("math.TYR");
+  Current().Magic = "ty8";
+  Open(21, "Apple");
+  screen.ExpectBox("Your password has been deleted");
+  Enter("textcontrol4", "Apple");
+  WriteClassFile();
+  ResetClassSlot();
+  Current().FileName = Path("math.TYR");
+  ReadClassFile();
+  EXPECT_EQ(Current().FileName, Path("math.TYR"));
+  EXPECT_EQ(OpenState, 10);
 }
 
 TEST_F(FrmPasswordTest, TheRightPasswordLetsAnOpeningGoOn) {

@@ -6,8 +6,10 @@
 
 #include <cerrno>
 #include <fstream>
+#include <utility>
 
 #include "base/run_time_error.h"
+#include "tests/store/failing_disk.h"
 #include "tests/support/portal_test.h"
 
 namespace tallyroll {
@@ -174,20 +176,60 @@ TEST_F(SafeFileTest, ASecondNameNeverGoesOverAFile) {
   EXPECT_EQ(KeepUnderName(Path("none"), Path("kept2")), ENOENT);
 }
 
-TEST_F(SafeFileTest, AcrossFileSystemsTheSecondNameIsACopy) {
-  struct stat here {
-  }, there{};
-  ASSERT_EQ(stat(folder.c_str(), &here), 0);
-  if (stat("/dev/shm", &there) != 0 || here.st_dev == there.st_dev) {
-    SUCCEED() << "one file system only: the link test above covers it";
-    return;
-  }
-  const std::string kept = "/dev/shm/tallyroll-kept-" + std::to_string(getpid());
+TEST_F(SafeFileTest, WithoutLinksTheSecondNameIsACopy) {
   Put(Path("f"), "old");
-  EXPECT_EQ(KeepUnderName(Path("f"), kept), 0);
-  EXPECT_EQ(Get(kept), "old");
-  EXPECT_EQ(KeepUnderName(Path("f"), kept), EEXIST);
-  fs::remove(kept);
+  Put(Path("taken"), "precious");
+  FailingDisk disk;
+  for (const int no_links : {EPERM, EXDEV, EMLINK, EOPNOTSUPP, ENOSYS}) {
+    disk.link_error = no_links;
+    EXPECT_EQ(KeepUnderName(Path("f"), Path("kept")), 0) << no_links;
+    EXPECT_EQ(Get(Path("kept")), "old");
+    EXPECT_EQ(KeepUnderName(Path("f"), Path("taken")), EEXIST);
+    EXPECT_EQ(Get(Path("taken")), "precious");
+    fs::remove(Path("kept"));
+  }
+}
+
+TEST_F(SafeFileTest, ACopyThatIsNotOnTheDiskIsNoSecondName) {
+  Put(Path("f"), "old");
+  FailingDisk disk;
+  disk.link_error = EPERM;
+  disk.flush_error = EIO;
+  EXPECT_EQ(KeepUnderName(Path("f"), Path("kept")), EIO);
+  EXPECT_FALSE(fs::exists(Path("kept")));
+}
+
+TEST_F(SafeFileTest, BytesThatDoNotReachTheDiskReplaceNothing) {
+  Put(Path("f"), "old");
+  FailingDisk disk;
+  for (const auto& [system_error, number] :
+       {std::pair{EIO, kErrorDevice}, {ENOSPC, kErrorDiskFull}, {EDQUOT, kErrorDiskFull}}) {
+    disk.flush_error = system_error;
+    EXPECT_EQ(ReplaceFile(Path("f"), "new", OldTail::kKeep), number);
+    EXPECT_EQ(Get(Path("f")), "old");
+    EXPECT_FALSE(fs::exists(Path("f.saving")));
+  }
+}
+
+TEST_F(SafeFileTest, AMoveThatFailsLeavesTheOldFileAndNothingElse) {
+  Put(Path("f"), "old");
+  FailingDisk disk;
+  for (const auto& [system_error, number] :
+       {std::pair{EACCES, kErrorPermission}, {EROFS, kErrorPermission}, {EIO, kErrorDevice}}) {
+    disk.rename_error = system_error;
+    EXPECT_EQ(ReplaceFile(Path("f"), "new", OldTail::kKeep), number);
+    EXPECT_EQ(Get(Path("f")), "old");
+    EXPECT_FALSE(fs::exists(Path("f.saving")));
+  }
+}
+
+TEST_F(SafeFileTest, AFolderThatCannotBeFlushedIsNoFault) {
+  Put(Path("f"), "old");
+  FailingDisk disk;
+  disk.flush_error = EINVAL;
+  disk.good_flushes = 1;
+  EXPECT_EQ(ReplaceFile(Path("f"), "new", OldTail::kKeep), 0);
+  EXPECT_EQ(Get(Path("f")), "new");
 }
 
 }  // namespace

@@ -1,0 +1,22 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// A disk that refuses: the system calls of this test program fail as told while one of these lives.
+#pragma once
+
+namespace tallyroll {
+
+class FailingDisk {
+ public:
+  FailingDisk();
+  ~FailingDisk();
+  FailingDisk(const FailingDisk&) = delete;
+  FailingDisk& operator=(const FailingDisk&) = delete;
+
+  // The error number of each call; 0 lets it through.
+  int flush_error = 0;
+  int rename_error = 0;
+  int link_error = 0;
+  // How many flushes go well before they begin to fail.
+  int good_flushes = 0;
+};
+
+}  // namespace tallyroll
