@@ -24,6 +24,14 @@ constexpr std::array kContexts = {
     250,  // adding students: frmAdd
     260,  // editing students: frmEdit
     270,  // passwords: frmpassword
+    500,  // weights of grades: frmweights, frmdropgrade, frmtotals
+    510,  // weights of types: frmpercents
+    520,  // points: frmpoints
+    530,  // rounding: frmroundoff
+    540,  // saving final grades: frmgradesave
+    550,  // summary of settings: frmoptions
+    560,  // averages: frmscrnavg
+    570,  // all information: frminfo
 };
 
 }  // namespace

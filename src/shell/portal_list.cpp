@@ -3,6 +3,14 @@
 
 #include <array>
 
+#include "averages/frmgradesave.h"
+#include "averages/frminfo.h"
+#include "averages/frmoptions.h"
+#include "averages/frmpercents.h"
+#include "averages/frmpoints.h"
+#include "averages/frmroundoff.h"
+#include "averages/frmscrnavg.h"
+#include "averages/frmweights.h"
 #include "roster/frmAdd.h"
 #include "roster/frmEdit.h"
 #include "shell/frmWizard.h"
@@ -42,13 +50,18 @@ constexpr std::array kPortals{
     PortalRow{"frmEatt"},
     PortalRow{"frmDatt"},
     PortalRow{"frmsingles"},
-    PortalRow{"frminfo"},
+    PortalRow{"frminfo", Make<frminfo>},
     PortalRow{"FRMROLLBOOK"},
     PortalRow{"frmMgrade"},
-    PortalRow{"frmweights"},
-    PortalRow{"frmpercents"},
-    PortalRow{"frmpoints"},
-    PortalRow{"frmoptions"},
+    PortalRow{"frmweights", Make<frmweights>},
+    PortalRow{"frmdropgrade", Make<frmdropgrade>},
+    PortalRow{"frmtotals", Make<frmtotals>},
+    PortalRow{"frmpercents", Make<frmpercents>},
+    PortalRow{"frmroundoff", Make<frmroundoff>},
+    PortalRow{"frmscrnavg", Make<frmscrnavg>},
+    PortalRow{"frmgradesave", Make<frmgradesave>},
+    PortalRow{"frmpoints", Make<frmpoints>},
+    PortalRow{"frmoptions", Make<frmoptions>},
     PortalRow{"frmprintall"},
     PortalRow{"frmstatistic"},
     PortalRow{"frmgraph"},
