@@ -51,8 +51,8 @@ void frmscrnavg::Declare(ControlTable& table) {
   table.Add("avg_label", avg_label);
   table.Add("avg", avg);
   table.Add("suggr", suggr);
-  table.Add("PREVIOUS", PREVIOUS).Click([this] { Previous(); });
-  table.Add("nextt", nextt).Click([this] { Next(); });
+  table.Add("PREVIOUS", PREVIOUS).Click([this] { ShowPrevious(); });
+  table.Add("nextt", nextt).Click([this] { ShowNext(); });
   table.Add("exit", exit).Click([this] { exit_Click(); });
 }
 

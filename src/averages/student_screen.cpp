@@ -105,11 +105,11 @@ void StudentScreen::FillAttendance() {
   }
 }
 
-void StudentScreen::Next() {
+void StudentScreen::ShowNext() {
   if (CurrentStudent < Current().NumStudents) Show(CurrentStudent + 1);
 }
 
-void StudentScreen::Previous() {
+void StudentScreen::ShowPrevious() {
   if (CurrentStudent > 1) Show(CurrentStudent - 1);
 }
 

@@ -22,8 +22,8 @@ struct StudentScreen : Portal {
   StudentScreen(std::string_view name, ListBox& students, std::string_view code_heading);
   void DeclareList(ControlTable& table, std::string_view name);
   void DeclareRecord(ControlTable& table);
-  void Next();
-  void Previous();
+  void ShowNext();
+  void ShowPrevious();
 
   virtual void ShowMore() {}  // what a screen shows beside the record
   virtual void Leave() { Unload(); }
