@@ -31,6 +31,14 @@ constexpr std::array kContexts = {
     340,  // naming grade types: frmcategories
     350,  // what letters count: frmletter
     360,  // missing grades: frmMgrade
+    500,  // weights of grades: frmweights, frmdropgrade, frmtotals
+    510,  // weights of types: frmpercents
+    520,  // points: frmpoints
+    530,  // rounding: frmroundoff
+    540,  // saving final grades: frmgradesave
+    550,  // summary of settings: frmoptions
+    560,  // averages: frmscrnavg
+    570,  // all information: frminfo
 };
 
 }  // namespace

@@ -126,6 +126,7 @@ bool PortalDialog::Raise(const std::function<bool()>& handler) {
   ReadControls();
   const bool answer = handler();
   ShowControls();
+  ShowPortalsBeside();
   GiveFocusAsked();
   if (portal_.Unloaded() && isVisible()) {
     ++silent_;
@@ -246,6 +247,23 @@ void PortalDialog::RunModal() {
   // A window manager may lose the focus when a box and the Portal below it go at the same moment.
   if (parentWidget()) parentWidget()->activateWindow();
   SavePlace(*this, FromText(portal_.Name()));
+}
+
+void PortalDialog::RestoreAndShow() {
+  RestorePlace(*this, FromText(portal_.Name()));
+  show();
+}
+
+void PortalDialog::SaveAndHide() {
+  SavePlace(*this, FromText(portal_.Name()));
+  hide();
+  if (parentWidget()) parentWidget()->activateWindow();
+}
+
+// What the handler wrote into the small Portals that stand beside this one.
+void PortalDialog::ShowPortalsBeside() {
+  for (auto* beside : findChildren<PortalDialog*>(Qt::FindDirectChildrenOnly))
+    if (beside->isVisible()) beside->ShowControls();
 }
 
 }  // namespace tallyroll

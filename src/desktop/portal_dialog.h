@@ -33,6 +33,9 @@ class PortalDialog : public QDialog, private BindingOwner {
 
   // Runs the Portal until it is unloaded.
   void RunModal();
+  // Shows the Portal beside the one that keeps it, and goes on.
+  void RestoreAndShow();
+  void SaveAndHide();
 
   // The user's wish to leave, by Escape or the window's close box: the Portal decides.
   void reject() override;
@@ -57,6 +60,7 @@ class PortalDialog : public QDialog, private BindingOwner {
   // Calls one handler with everything around it; the answer is the handler's, false when silent.
   bool Raise(const std::function<bool()>& handler);
   void Raise(const std::function<void()>& handler);
+  void ShowPortalsBeside();
   void ReadControls();
   void GiveFocusAsked();
   void FocusMoved(QWidget* now);

@@ -37,6 +37,14 @@ QStringList ProgramFolders() {
           beside + QStringLiteral("/../../sample")};
 }
 
+// True: the form does not fit, and the Portal is not available.
+bool ReportComplaints(const PortalDialog& dialog, const Portal& portal) {
+  for (const QString& complaint : dialog.Complaints())
+    qCritical("%s: %s", portal.Name().c_str(), qUtf8Printable(complaint));
+  if (!dialog.Complaints().isEmpty()) ClassWindow().ShowStatus(kPortalNotAvailable);
+  return !dialog.Complaints().isEmpty();
+}
+
 }  // namespace
 
 void ShowOpenPortals() {
@@ -59,13 +67,24 @@ std::optional<std::string> QtSurroundings::FileDialog(const FileDialogRequest& r
 void QtSurroundings::ShowModal(Portal& portal) {
   ShowOpenPortals();
   PortalDialog dialog(portal, QApplication::activeWindow());
-  if (!dialog.Complaints().isEmpty()) {
-    for (const QString& complaint : dialog.Complaints())
-      qCritical("%s: %s", portal.Name().c_str(), qUtf8Printable(complaint));
-    ClassWindow().ShowStatus(kPortalNotAvailable);
-    return;
-  }
-  dialog.RunModal();
+  if (!ReportComplaints(dialog, portal)) dialog.RunModal();
+}
+
+void QtSurroundings::ShowBeside(Portal& portal) {
+  HideBeside(portal);
+  // A child of the modal dialog is the only other window that it leaves at work.
+  auto dialog = std::make_unique<PortalDialog>(portal, QApplication::activeModalWidget());
+  if (ReportComplaints(*dialog, portal)) return;
+  dialog->RestoreAndShow();
+  beside_[&portal] = dialog.release();
+}
+
+void QtSurroundings::HideBeside(Portal& portal) {
+  const auto shown = beside_.find(&portal);
+  if (shown == beside_.end()) return;
+  if (shown->second) shown->second->SaveAndHide();
+  delete shown->second.data();
+  beside_.erase(shown);
 }
 
 void QtSurroundings::ShowHelp(int context) {

@@ -2,18 +2,24 @@
 // The surroundings of the desktop program, by Qt.
 #pragma once
 
+#include <QPointer>
 #include <QSettings>
 #include <functional>
+#include <map>
 
 #include "platform/surroundings.h"
 
 namespace tallyroll {
+
+class PortalDialog;
 
 class QtSurroundings : public Surroundings {
  public:
   BoxAnswer MessageBox(const MessageRequest& request) override;
   std::optional<std::string> FileDialog(const FileDialogRequest& request) override;
   void ShowModal(Portal& portal) override;
+  void ShowBeside(Portal& portal) override;
+  void HideBeside(Portal& portal) override;
   void ShowHelp(int context) override;
 
   std::string ClipboardText() override;
@@ -38,6 +44,7 @@ class QtSurroundings : public Surroundings {
   std::function<void(int context)> help_hook;
 
  private:
+  std::map<Portal*, QPointer<PortalDialog>> beside_;  // a dialog goes with the one below it
   bool waiting_ = false;
   QSettings settings_;  // one for all: each one of them goes to the disk when it goes
 };

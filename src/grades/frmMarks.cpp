@@ -19,13 +19,6 @@ namespace {
 constexpr std::string_view kUsualScore = "100";
 constexpr std::string_view kUsualPass = "65";
 
-void TellNotFound() {
-  ShowMessage(
-      "There are no appropriate fields to be found on the clipboard. The data on the clipboard may "
-      "not be the right type for inserting in the current module.  You need to go back to a "
-      "compatible module, then copy the information to the clipboard and try again.");
-}
-
 void TellUnreadable() {
   ShowMessage("Can not read from Clipboard.");
 }
@@ -239,7 +232,7 @@ void frmMarks::GoToMarks() {
 void frmMarks::paste_Click() {
   const std::string clipboard = Platform().ClipboardText();
   if (clipboard.empty()) return;
-  if (!HoldsHeader(clipboard)) return TellNotFound();
+  if (!HoldsHeader(clipboard)) return TellOtherClipboard();
   const auto header = ReadHeader(clipboard);
   if (!header) return TellUnreadable();
   if (!MayReplaceTitle()) return;
@@ -253,7 +246,7 @@ void frmMarks::paste_Click() {
 void frmMarks::pastegrade_Click() {
   const std::string clipboard = Platform().ClipboardText();
   if (clipboard.empty()) return;
-  if (!HoldsGrade(clipboard)) return TellNotFound();
+  if (!HoldsGrade(clipboard)) return TellOtherClipboard();
   const auto grade = ReadGrade(clipboard);
   if (!grade) return TellUnreadable();
   if (!MayReplaceTitle()) return;

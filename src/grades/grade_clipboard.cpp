@@ -3,9 +3,11 @@
 
 #include <array>
 
+#include "base/line_reader.h"
 #include "base/number_text.h"
 #include "base/text.h"
 #include "grades/marks.h"
+#include "platform/surroundings.h"
 #include "store/class_format.h"
 #include "store/program_state.h"
 
@@ -29,24 +31,6 @@ void AddHeader(std::string& text, const GradeHeaderText& header) {
   for (const auto line : kHeaderLines) AddLine(text, header.*line);
 }
 
-class LineReader {
- public:
-  explicit LineReader(std::string_view rest) : rest_(rest) {}
-
-  std::optional<std::string_view> Next() {
-    if (rest_.empty()) return std::nullopt;
-    const std::size_t end = rest_.find_first_of("\r\n");
-    const std::string_view line = rest_.substr(0, end);
-    const std::size_t closed = end == std::string_view::npos ? rest_.size() : end + 1;
-    const bool pair = closed < rest_.size() && rest_[closed - 1] == '\r' && rest_[closed] == '\n';
-    rest_.remove_prefix(closed + (pair ? 1 : 0));
-    return line;
-  }
-
- private:
-  std::string_view rest_;
-};
-
 // Another program may have cut off an empty last line, which is the type.
 std::optional<GradeHeaderText> NextHeader(LineReader& lines) {
   GradeHeaderText header;
@@ -67,6 +51,13 @@ bool HoldsHeader(std::string_view clipboard) {
 
 bool HoldsGrade(std::string_view clipboard) {
   return clipboard.starts_with(kGradeMark);
+}
+
+void TellOtherClipboard() {
+  ShowMessage(
+      "There are no appropriate fields to be found on the clipboard. The data on the clipboard may "
+      "not be the right type for inserting in the current module.  You need to go back to a "
+      "compatible module, then copy the information to the clipboard and try again.");
 }
 
 std::string HeaderOnClipboard(const GradeHeaderText& header) {

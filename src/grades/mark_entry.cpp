@@ -9,7 +9,6 @@
 namespace tallyroll {
 namespace {
 
-constexpr unsigned char kBackspace = 8;
 constexpr std::string_view kAbsent = "ABS";
 constexpr std::string_view kNone = "NON";
 constexpr std::string_view kCut = "CUT";
@@ -37,7 +36,7 @@ CellEntry::CellEntry(Grid& grid, int column, std::function<void()> edited)
 
 ControlRow& CellEntry::Declare(ControlTable& table, std::string_view grid_name) {
   return table.Add(grid_name, grid_)
-      .Change([this] { first_key_ = true; })
+      .Change([this] { typing_.first_key = true; })
       .Click([this] { Click(); })
       .KeyDown([this](Key key) { return KeyDown(key); })
       .KeyPress([this](unsigned char key) { return KeyPress(key); });
@@ -56,13 +55,7 @@ void CellEntry::Write(std::string_view text) {
 
 bool CellEntry::KeyPress(unsigned char key) {
   if (!HasCell()) return true;
-  std::string text(grid_.TextMatrix(grid_.Row, column_));
-  if (std::exchange(first_key_, false)) text.clear();
-  if (key != kBackspace)
-    text = Typed(text + static_cast<char>(key));
-  else if (!text.empty())
-    text.pop_back();
-  Write(text);
+  Write(Typed(typing_.Type(grid_.TextMatrix(grid_.Row, column_), key)));
   return true;
 }
 
@@ -85,7 +78,7 @@ void CellEntry::LastRow() {
 }
 
 void CellEntry::GoTo(int row) {
-  first_key_ = true;
+  typing_.first_key = true;
   grid_.Col = column_;
   if (row >= grid_.FixedRows && row < grid_.Rows()) grid_.Row = row;
 }

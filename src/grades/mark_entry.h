@@ -5,14 +5,14 @@
 #include <functional>
 #include <string_view>
 
+#include "grades/cell_typing.h"
 #include "platform/portal.h"
 
 namespace tallyroll {
 
 inline constexpr std::size_t kLongestMark = 5;
 
-// The first key in a cell replaces what stands there, Backspace takes the last character, any other
-// key is added behind. Return goes to the next row, End to the last.
+// The cells of one column take keys. Return goes to the next row, End to the last.
 class CellEntry {
  public:
   // Only cells of this column take keys; `edited` is told of each change.
@@ -29,7 +29,7 @@ class CellEntry {
 
  protected:
   virtual bool KeyDown(Key key);
-  // What a cell becomes when a character was typed at its end.
+  // What a cell becomes of what was typed.
   virtual std::string Typed(std::string text) const { return text; }
 
   bool HasCell() const;
@@ -42,7 +42,7 @@ class CellEntry {
   Grid& grid_;
   int column_;
   std::function<void()> edited_;
-  bool first_key_ = true;
+  CellTyping typing_;
   int last_active_row_ = 1;
 };
 

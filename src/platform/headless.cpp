@@ -94,6 +94,21 @@ void HeadlessSurroundings::ShowModal(Portal& portal) {
   if (!portal.Unloaded()) complaints_.push_back("portal left open: " + portal.Name());
 }
 
+void HeadlessSurroundings::ShowBeside(Portal& portal) {
+  HideBeside(portal);
+  beside_.push_back(&portal);
+}
+
+void HeadlessSurroundings::HideBeside(Portal& portal) {
+  std::erase(beside_, &portal);
+}
+
+Portal* HeadlessSurroundings::PortalBeside(std::string_view name) const {
+  for (Portal* portal : beside_)
+    if (portal->Name() == name && !portal->Unloaded()) return portal;
+  return nullptr;
+}
+
 std::string HeadlessSurroundings::ReadSetting(std::string_view application,
                                               std::string_view section, std::string_view key,
                                               std::string_view default_value) {

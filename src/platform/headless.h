@@ -30,6 +30,10 @@ class HeadlessSurroundings : public Surroundings {
   BoxAnswer MessageBox(const MessageRequest& request) override;
   std::optional<std::string> FileDialog(const FileDialogRequest& request) override;
   void ShowModal(Portal& portal) override;
+  void ShowBeside(Portal& portal) override;
+  void HideBeside(Portal& portal) override;
+  // The Portal of that name that stands beside; null when none does.
+  Portal* PortalBeside(std::string_view name) const;
   int WindowsShown() const override { return windows_shown_; }
   void ShowHelp(int context) override { help_shown = context; }
   std::string ClipboardText() override { return clipboard; }
@@ -72,6 +76,7 @@ class HeadlessSurroundings : public Surroundings {
   std::deque<ScriptedBox> scripted_boxes_;
   std::deque<std::optional<std::string>> scripted_dialogs_;
   std::deque<ScriptedPortal> scripted_portals_;
+  std::vector<Portal*> beside_;
   std::vector<std::string> complaints_;
 };
 

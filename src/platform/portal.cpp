@@ -35,13 +35,25 @@ const Control* Portal::TakeFocusRequest() {
 }
 
 void ShowPortal(std::string_view name) {
-  std::unique_ptr<Portal> portal = MakePortal ? MakePortal(name) : nullptr;
-  if (!portal) {
-    ClassWindow().ShowStatus(kPortalNotAvailable);
-    return;
+  for (std::string next(name); !next.empty();) {
+    const std::unique_ptr<Portal> portal = MakePortal ? MakePortal(next) : nullptr;
+    if (!portal) {
+      ClassWindow().ShowStatus(kPortalNotAvailable);
+      return;
+    }
+    portal->Load();
+    if (!portal->Unloaded()) Platform().ShowModal(*portal);
+    next = portal->Next();
   }
-  portal->Load();
-  if (!portal->Unloaded()) Platform().ShowModal(*portal);
+}
+
+void ShowPortalBeside(Portal& portal) {
+  portal.unloaded_ = false;
+  Platform().ShowBeside(portal);
+}
+
+void HidePortalBeside(Portal& portal) {
+  Platform().HideBeside(portal);
 }
 
 }  // namespace tallyroll

@@ -132,6 +132,13 @@ class Portal {
   void Unload() { unloaded_ = true; }
   bool Unloaded() const { return unloaded_; }
 
+  // Ends the Portal and hands over to another one, which shows when this one is gone.
+  void UnloadAndShow(std::string_view next) {
+    next_ = next;
+    Unload();
+  }
+  const std::string& Next() const { return next_; }
+
   // Asks for the focus; a screen gives it when the running handler is done, and takes the request.
   void SetFocus(const Control& control) { focus_ = &control; }
   // The same, with the text selected: the field that is to be mended.
@@ -142,7 +149,10 @@ class Portal {
   int HelpContext = 0;  // topic shown by F1
 
  private:
+  friend void ShowPortalBeside(Portal& portal);
+
   std::string name_;
+  std::string next_;
   bool unloaded_ = false;
   const Control* focus_ = nullptr;
 };
@@ -151,8 +161,50 @@ class Portal {
 using PortalMaker = std::unique_ptr<Portal> (*)(std::string_view name);
 extern PortalMaker MakePortal;
 
-// Creates the Portal of that name, shows it modally, and destroys it when it is left.
+// Creates the Portal of that name, shows it modally, and destroys it when it is left; then the same
+// with the one that it hands over to.
 // A Portal that is not in the list says so on the status bar and does nothing.
 void ShowPortal(std::string_view name);
+
+// Shows a loaded Portal beside the modal one in front, without waiting: both take the user's work.
+// It stays its keeper's, who may show it again after the user closed it.
+void ShowPortalBeside(Portal& portal);
+// Takes its window away.
+void HidePortalBeside(Portal& portal);
+
+// A small Portal that another one keeps beside itself.
+template <typename P>
+class Beside {
+ public:
+  Beside() = default;
+  ~Beside() { Close(); }
+  Beside(const Beside&) = delete;
+  Beside& operator=(const Beside&) = delete;
+
+  // Null while it is closed.
+  P* get() const { return portal_.get(); }
+  // Makes and loads it without a window, afresh. It may have unloaded itself: then it is closed.
+  P* Open() {
+    Close();
+    portal_ = std::make_unique<P>();
+    portal_->Load();
+    if (portal_->Unloaded()) portal_.reset();
+    return get();
+  }
+  void Show() {
+    if (portal_ || Open()) ShowPortalBeside(*portal_);
+  }
+  // Takes the window away; what was entered stays.
+  void Hide() {
+    if (portal_) HidePortalBeside(*portal_);
+  }
+  void Close() {
+    Hide();
+    portal_.reset();
+  }
+
+ private:
+  std::unique_ptr<P> portal_;
+};
 
 }  // namespace tallyroll

@@ -49,6 +49,10 @@ class Surroundings {
   virtual std::optional<std::string> FileDialog(const FileDialogRequest& request) = 0;
   // Runs a loaded Portal until it is unloaded.
   virtual void ShowModal(Portal& portal) = 0;
+  // Shows a loaded Portal beside the modal one in front and goes on; shows it again in front when
+  // it is there already. Hiding one that is not shown does nothing.
+  virtual void ShowBeside(Portal& /*portal*/) {}
+  virtual void HideBeside(Portal& /*portal*/) {}
   // How many boxes, dialogs and Portals came up so far; only a script counts them.
   virtual int WindowsShown() const { return 0; }
   virtual void ShowHelp(int context) = 0;

@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "attendance/calendar.h"
+#include "averages/engine/average_state.h"
 #include "base/code_page.h"
 #include "base/number_text.h"
 #include "base/text.h"
@@ -125,6 +126,7 @@ void Form1::ReadInto(std::string_view path) {
 }
 
 void Form1::ShowOpenedClass() {
+  MakeTotalPossible();  // a class beyond its range has none; the Points Portal says so
   const std::string path = Current().FileName;
   Caption = UpperCase(FileNameOf(PathForDisplay(path)));
   Tag = PlainNumberText(SlotIndex);

@@ -3,6 +3,14 @@
 
 #include <array>
 
+#include "averages/frmgradesave.h"
+#include "averages/frminfo.h"
+#include "averages/frmoptions.h"
+#include "averages/frmpercents.h"
+#include "averages/frmpoints.h"
+#include "averages/frmroundoff.h"
+#include "averages/frmscrnavg.h"
+#include "averages/frmweights.h"
 #include "grades/frmEMarksS.h"
 #include "grades/frmEmarks.h"
 #include "grades/frmMarks.h"
@@ -49,13 +57,18 @@ constexpr std::array kPortals{
     PortalRow{"frmEatt"},
     PortalRow{"frmDatt"},
     PortalRow{"frmsingles"},
-    PortalRow{"frminfo"},
+    PortalRow{"frminfo", Make<frminfo>},
     PortalRow{"FRMROLLBOOK"},
     PortalRow{"frmMgrade", Make<frmMgrade>},
-    PortalRow{"frmweights"},
-    PortalRow{"frmpercents"},
-    PortalRow{"frmpoints"},
-    PortalRow{"frmoptions"},
+    PortalRow{"frmweights", Make<frmweights>},
+    PortalRow{"frmdropgrade", Make<frmdropgrade>},
+    PortalRow{"frmtotals", Make<frmtotals>},
+    PortalRow{"frmpercents", Make<frmpercents>},
+    PortalRow{"frmroundoff", Make<frmroundoff>},
+    PortalRow{"frmscrnavg", Make<frmscrnavg>},
+    PortalRow{"frmgradesave", Make<frmgradesave>},
+    PortalRow{"frmpoints", Make<frmpoints>},
+    PortalRow{"frmoptions", Make<frmoptions>},
     PortalRow{"frmprintall"},
     PortalRow{"frmstatistic"},
     PortalRow{"frmgraph"},

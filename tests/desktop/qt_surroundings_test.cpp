@@ -13,8 +13,11 @@
 #include <QTest>
 #include <QTimer>
 
+#include "averages/frmpoints.h"
 #include "desktop/open_save_dialog.h"
+#include "desktop/portal_dialog.h"
 #include "desktop/text_conversion.h"
+#include "shell/program.h"
 
 namespace tallyroll {
 namespace {
@@ -167,6 +170,35 @@ TEST_F(QtSurroundingsTest, F1InAFileDialogShowsItsHelp) {
 TEST_F(QtSurroundingsTest, CancellingTheDialogGivesNoPath) {
   WithNextWindow<QFileDialog>([](QFileDialog& dialog) { dialog.reject(); });
   EXPECT_EQ(surroundings.FileDialog({}), std::nullopt);
+}
+
+// The dialog of a small Portal beside the one in front.
+PortalDialog* DialogBeside(const QString& title) {
+  for (auto* dialog : QApplication::activeModalWidget()->findChildren<PortalDialog*>())
+    if (dialog->windowTitle() == title && dialog->isVisible()) return dialog;
+  return nullptr;
+}
+
+TEST_F(QtSurroundingsTest, APortalBesideIsAtWorkTogetherWithTheOneInFront) {
+  ResetProgram();
+  SetPlatform(&surroundings);
+  frmpoints points;
+  points.Load();
+  WithNextWindow<PortalDialog>([](PortalDialog& front) {
+    front.findChild<QPushButton*>(QStringLiteral("Sumanry"))->click();
+    PortalDialog* totals = DialogBeside(QStringLiteral("Totals for Weights Entered"));
+    ASSERT_NE(totals, nullptr);
+    EXPECT_FALSE(totals->isModal());
+    totals->findChild<QPushButton*>(QStringLiteral("exit"))->click();
+    EXPECT_FALSE(totals->isVisible());
+    front.findChild<QPushButton*>(QStringLiteral("Sumanry"))->click();
+    EXPECT_NE(DialogBeside(QStringLiteral("Totals for Weights Entered")), nullptr);
+    front.findChild<QPushButton*>(QStringLiteral("cancel"))->click();
+  });
+  surroundings.ShowModal(points);
+  EXPECT_TRUE(points.Unloaded());
+  ResetProgram();
+  SetPlatform(nullptr);
 }
 
 }  // namespace

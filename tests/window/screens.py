@@ -62,6 +62,32 @@ def greeting(this):
     program.stop()
 
 
+def averages(this):
+    program = this.start(this.sample("SAMPLE8.TYR"))
+    program.frame("SAMPLE8.TYR")
+    program.keys("alt+m", "i")
+    program.window("Weights Portal - Individual Items")
+    program.keys("alt+u")
+    take(program, "frmweights")
+    program.keys("Escape")
+    program.gone("Weights Portal - Individual Items")
+    portal(program, ["alt+m", "t"], "Weights Portals - Type", "frmpercents", ["alt+e"])
+    portal(program, ["alt+m", "p"], "Points Portal", "frmpoints")
+    program.keys("alt+m", "p", "alt+o")
+    program.window("SAVE POINTS")
+    program.keys("alt+n")
+    program.window("Rounding Modification Portal")
+    take(program, "frmroundoff")
+    program.keys("Escape")
+    program.gone("Rounding Modification Portal")
+    portal(program, ["alt+m", "c"], "Current Weights and Rounding Summary Portal", "frmoptions")
+    program.keys("alt+m", "c", "alt+c")
+    program.window("Grades Portal")
+    program.keys("alt+n")
+    take(program, "frmscrnavg")
+    program.stop()
+
+
 def portals(this):
     program = sample_window(this, "sample-light")
     portal(program, ["ctrl+Insert"], "Add Student Portal", "frmAdd")
@@ -84,6 +110,7 @@ def tell(this):
     PICTURES.mkdir(parents=True, exist_ok=True)
     greeting(this)
     portals(this)
+    averages(this)
     sample_window(this, "sample-dark", "--dark").stop()
     sample_window(this, "sample-150", environment={"QT_SCALE_FACTOR": "1.5"}).stop()
 

@@ -1,0 +1,33 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "averages/frminfo.h"
+
+#include "platform/class_window.h"
+#include "platform/surroundings.h"
+
+namespace tallyroll {
+
+frminfo::frminfo() : StudentScreen("frminfo", list1, "Codes") {
+  Caption = "Show Information Portal";
+  HelpContext = 570;
+  mnuprevious.Caption = "&Previous";
+  mnuext.Caption = "&Next";
+  mnugraph.Caption = "&Graph";
+}
+
+void frminfo::Declare(ControlTable& table) {
+  DeclareList(table, "list1");
+  DeclareRecord(table);
+  table.Add("mnuprevious", mnuprevious).Click([this] { ShowPrevious(); });
+  table.Add("mnuext", mnuext).Click([this] { ShowNext(); });
+  table.Add("mnugraph", mnugraph).Click([this] { mnugraph_Click(); });
+  table.Add("exit", exit).Click([this] { exit_Click(); });
+}
+
+void frminfo::mnugraph_Click() {
+  if (CurrentStudent == 0)
+    ShowMessage("You must first select a student");
+  else
+    ShowPortal("frmgrone");
+}
+
+}  // namespace tallyroll

@@ -1,0 +1,19 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// frminfo: the Show Information Portal, a student's record without the average.
+#pragma once
+
+#include "averages/student_screen.h"
+
+namespace tallyroll {
+
+struct frminfo : StudentScreen {
+  frminfo();
+  void Declare(ControlTable& table) override;
+
+  ListBox list1;
+  CommandButton mnuprevious, mnuext, mnugraph;
+
+  void mnugraph_Click();
+};
+
+}  // namespace tallyroll

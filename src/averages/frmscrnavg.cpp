@@ -1,0 +1,94 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "averages/frmscrnavg.h"
+
+#include "averages/rounding.h"
+#include "base/number_text.h"
+#include "base/text.h"
+#include "platform/class_window.h"
+#include "platform/surroundings.h"
+
+namespace tallyroll {
+namespace {
+
+bool IsPointMethod() {
+  return Current().Method == 2 || Current().Method == 3;
+}
+
+AverageError ComputeShown(Points& points, FinalGrade& grade) {
+  TypeTotals totals;
+  AverageError error;
+  if (Current().Method == 2)
+    error = AverageByPoints(points, totals);
+  else if (Current().Method == 3)
+    error = AverageByPointsAndTypes(points, totals);
+  else
+    error = ComputeAverage(totals);
+  return error ? error : RoundedGrade(grade);
+}
+
+// There are averages that no grade of the class keeps yet.
+bool HasUnsavedAverages() {
+  const Class& c = Current();
+  return (c.AverageWork2 >= 1 && (c.Method == 1 || c.Method == 3)) ||
+         (c.AverageWork1 >= 1 && c.Method != 1);
+}
+
+}  // namespace
+
+frmscrnavg::frmscrnavg() : StudentScreen("frmscrnavg", lstName, "Code") {
+  Caption = "Grades Portal";
+  HelpContext = 560;
+  avg_label.Caption = "Exact Average";
+  PREVIOUS.Caption = "&Previous";
+  nextt.Caption = "&Next";
+}
+
+void frmscrnavg::Declare(ControlTable& table) {
+  DeclareList(table, "lstName");
+  table.Add("lname", lname);
+  table.Add("fname", fname);
+  DeclareRecord(table);
+  table.Add("avg_label", avg_label);
+  table.Add("avg", avg);
+  table.Add("suggr", suggr);
+  table.Add("PREVIOUS", PREVIOUS).Click([this] { ShowPrevious(); });
+  table.Add("nextt", nextt).Click([this] { ShowNext(); });
+  table.Add("exit", exit).Click([this] { exit_Click(); });
+}
+
+void frmscrnavg::Load() {
+  StudentScreen::Load();
+  for (Student& student : Current().Students)
+    if (!student.Marks.empty()) student.Marks[0] = "-";
+}
+
+void frmscrnavg::ShowMore() {
+  const Student& student = Current().Students[static_cast<std::size_t>(CurrentStudent)];
+  lname.Caption = Trim(student.lastname);
+  fname.Caption = Trim(student.firstname);
+  avg_label.Caption = IsPointMethod() ? "Points/Average" : "Exact Average";
+  avg.Caption.clear();
+  suggr.Caption.clear();
+  Points points;
+  FinalGrade grade;
+  if (const AverageError error = ComputeShown(points, grade)) {
+    ShowMessage(AverageErrorText(error), BoxIcon::kCritical);
+    return;
+  }
+  if (IsPointMethod())
+    avg.Caption = PlainNumberText(points.earned) + "/" + PlainNumberText(points.possible) + "  ";
+  avg.Caption += PlainNumberText(ExactAverage);
+  suggr.Caption = TrimRight(grade.Text());
+}
+
+void frmscrnavg::Leave() {
+  ClassWindow().EnableEntry("mnuoptions", true);
+  ClassWindow().EnableEntry("mnuprtgrade", true);
+  if (HasUnsavedAverages() && Ask("Save Rounded Averaged Grades? (Recommended)", BoxButtons::kYesNo,
+                                  BoxIcon::kQuestion, "Save File") == BoxAnswer::kYes)
+    UnloadAndShow("frmgradesave");
+  else
+    Unload();
+}
+
+}  // namespace tallyroll

@@ -1,0 +1,37 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// What the grids of these Portals have in common: headings, and rows that begin with a grade type
+// or the title of a grade.
+#pragma once
+
+#include <initializer_list>
+#include <string>
+#include <string_view>
+
+#include "grades/grade_types.h"
+#include "platform/grid.h"
+
+namespace tallyroll {
+
+// Writes the headings of the last fixed row and lays the columns out: the first wide and fixed,
+// texts left, the columns behind the second right.
+void HeadColumns(Grid& grid, std::initializer_list<std::string_view> headings);
+
+// Title and type of grade i in row i, behind the headings.
+void ShowTitles(Grid& grid);
+
+// Names and codes of the types of the current class.
+class TypeNames {
+ public:
+  TypeNames();
+  std::string_view Name(std::size_t type) const;
+  std::string_view Code(std::size_t type) const;
+  bool IsExtraCredit(std::size_t type) const { return Code(type) == kExtraCreditCode; }
+  // Writes name and code into the first two columns.
+  void Show(Grid& grid, int row, std::size_t type) const;
+
+ private:
+  TypeCodes codes_;
+  TypeTexts names_;
+};
+
+}  // namespace tallyroll
