@@ -1,10 +1,16 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Grids: the widget reads the Grid in place, so there is nothing to copy.
+#include <algorithm>
+
 #include "desktop/control_binding.h"
 #include "desktop/grid_widget.h"
 
 namespace tallyroll {
 namespace {
+
+// A grid of few columns is never narrower than they are: the last one is often the one that takes
+// keys. In average characters.
+constexpr int kWholeUpTo = 75;
 
 class GridBinding : public Binding<Grid, GridWidget> {
  public:
@@ -23,7 +29,12 @@ class GridBinding : public Binding<Grid, GridWidget> {
   ~GridBinding() override { widget_.SetGrid(nullptr); }
 
  protected:
-  void ShowValue() override { widget_.UpdateFromGrid(); }
+  void ShowValue() override {
+    widget_.UpdateFromGrid();
+    const int whole = widget_.sizeHint().width();
+    const int widest = widget_.fontMetrics().averageCharWidth() * kWholeUpTo;
+    widget_.setMinimumWidth(std::min(whole, widest));
+  }
 };
 
 }  // namespace

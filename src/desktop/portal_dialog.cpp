@@ -1,10 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "desktop/portal_dialog.h"
 
+#include <QAbstractButton>
 #include <QAbstractScrollArea>
 #include <QApplication>
 #include <QKeyEvent>
 #include <QPushButton>
+#include <QShortcutEvent>
 #include <utility>
 
 #include "desktop/form_loader.h"
@@ -200,7 +202,18 @@ bool PortalDialog::PassKey(ControlBinding& binding, const QKeyEvent& key) {
   return false;
 }
 
+// A shortcut presses at once. The toolkit would show the button down for a moment first, and what a
+// fast teacher types meanwhile would go astray.
+bool PortalDialog::PressByShortcut(QObject& watched, QEvent& event) {
+  auto* button = qobject_cast<QAbstractButton*>(&watched);
+  if (!button || event.type() != QEvent::Shortcut) return false;
+  if (static_cast<QShortcutEvent&>(event).isAmbiguous()) return false;
+  button->click();
+  return true;
+}
+
 bool PortalDialog::eventFilter(QObject* watched, QEvent* event) {
+  if (PressByShortcut(*watched, *event)) return true;
   if (event->type() == QEvent::MouseButtonPress && swallow_press_of_ &&
       (watched == swallow_press_of_ || watched->parent() == swallow_press_of_)) {
     swallow_press_of_ = nullptr;

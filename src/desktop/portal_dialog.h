@@ -66,6 +66,7 @@ class PortalDialog : public QDialog, private BindingOwner {
   void FocusMoved(QWidget* now);
   // False when the handler wants the user to stay: it asked for the focus or put up a box.
   bool LeaveField();
+  bool PressByShortcut(QObject& watched, QEvent& event);
   bool PassKey(ControlBinding& binding, const QKeyEvent& key);
   ControlBinding* BindingOf(const QWidget* widget) const;
 

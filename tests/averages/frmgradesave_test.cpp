@@ -68,7 +68,7 @@ TEST_F(FrmGradeSaveTest, AddsAGradeOfFinalGrades) {
   EXPECT_EQ(c.Students[1].Marks[0], "95");
   EXPECT_EQ(CurrentStudent, 2);
   EXPECT_EQ(window.saved, 1);
-  EXPECT_EQ(window.filled, 1);
+  EXPECT_EQ(window.refills, 1);
 }
 
 TEST_F(FrmGradeSaveTest, ItsWorkIsSavedThen) {

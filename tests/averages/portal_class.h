@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// A small class for the Portals that make averages, and a class window that notes what is asked of
-// it.
+// A small class for the Portals that make averages.
 #pragma once
 
 #include <optional>
@@ -8,31 +7,13 @@
 #include <vector>
 
 #include "base/number_text.h"
-#include "platform/class_window.h"
 #include "platform/portal_driver.h"
 #include "store/class_defaults.h"
 #include "store/program_state.h"
+#include "tests/support/noting_window.h"
 #include "tests/support/portal_test.h"
 
 namespace tallyroll {
-
-class NotingWindow : public ClassWindowCalls {
- public:
-  void showform3() override { ++filled; }
-  void mnusave() override {
-    ++saved;
-    Current().Changed = kFalse;
-  }
-  void EnableEntry(std::string_view entry, bool on) override {
-    if (on) enabled.emplace_back(entry);
-  }
-  void ShowStatus(std::string_view text) override { status = text; }
-
-  int filled = 0;
-  int saved = 0;
-  std::vector<std::string> enabled;
-  std::string status;
-};
 
 class AveragePortalTest : public PortalTest {
  protected:

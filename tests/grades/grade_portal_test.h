@@ -7,29 +7,14 @@
 #include <string>
 #include <vector>
 
-#include "platform/class_window.h"
 #include "platform/portal_driver.h"
 #include "store/class_defaults.h"
 #include "store/class_format.h"
 #include "store/program_state.h"
+#include "tests/support/noting_window.h"
 #include "tests/support/portal_test.h"
 
 namespace tallyroll {
-
-// Notes what a Portal asks of the class window.
-class NotingWindow : public ClassWindowCalls {
- public:
-  void showform3() override { ++refills; }
-  void EnableEntry(std::string_view entry, bool on) override {
-    if (on)
-      disabled.erase(std::string(entry));
-    else
-      disabled.insert(std::string(entry));
-  }
-
-  int refills = 0;
-  std::set<std::string> disabled;
-};
 
 class GradePortalTest : public PortalTest {
  protected:
