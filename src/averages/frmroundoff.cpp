@@ -26,14 +26,13 @@ constexpr std::string_view kExplanation =
     "(e.g., grades in multiples of '5') or letter grades. If you do not use this option, click on "
     "Skip Rounding; the grade will be the weighted average to the nearest whole number (or your "
     "letter grade equivalent). A teacher grading with points who wants to use the average rounding "
-    "option should click on Enable Rounding.\r\rYou can use Tallyroll's Default Rounding Values, "
-    "or "
-    "you can make up to 3 sets of your own values and save them; the program will later "
-    "automatically use your last selected values.\r\rWhen making up your new Minimum Values, note: "
-    "If your school uses standard number grades, but does not use one or more of the grades "
-    "listed, "
-    "then enter '101' for each item not used. (For example, if your school doesn't use a grade of "
-    "'88' [B+], then enter '101' next to that grade.)";
+    "option should click on Enable Rounding.\n\n"
+    "You can use Tallyroll's Default Rounding Values, or you can make up to 3 sets of your own "
+    "values and save them; the program will later automatically use your last selected values.\n\n"
+    "When making up your new Minimum Values, note: If your school uses standard number grades, but "
+    "does not use one or more of the grades listed, then enter '101' for each item not used. (For "
+    "example, if your school doesn't use a grade of '88' [B+], then enter '101' next to that "
+    "grade.)";
 
 std::array<float, 14>& ScaleOf(i16 scale) {
   return Current().RoundTable[static_cast<std::size_t>(scale)];

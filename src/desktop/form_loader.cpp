@@ -11,6 +11,7 @@
 #include <utility>
 
 #include "desktop/code_page_text_edit.h"
+#include "desktop/date_field.h"
 #include "desktop/grid_widget.h"
 #include "desktop/text_conversion.h"
 
@@ -23,6 +24,7 @@ QWidget* MakeOwnWidget(const QString& class_name, QWidget* parent) {
       class_name == QLatin1String("GridWidget"))
     return new GridWidget(parent);
   if (class_name == QLatin1String("QPlainTextEdit")) return new CodePageTextEdit(parent);
+  if (class_name == QLatin1String("QDateEdit")) return new DateField(parent);
   return nullptr;
 }
 

@@ -16,8 +16,8 @@ struct ToldColors {
   QRgb shaded_background;
 };
 
-constexpr ToldColors kLight{0xFFB3001B, 0xFF0000E0, 0xFFE0E0E0, 0xFFEEF1F6};
-constexpr ToldColors kDark{0xFFFF9A9A, 0xFF9CC4FF, 0xFF454545, 0xFF2B3038};
+constexpr ToldColors kLight{0xFFB3001B, 0xFF0000E0, 0xFFE0E0E0, 0xFFD3D8E0};
+constexpr ToldColors kDark{0xFFFF9A9A, 0xFF9CC4FF, 0xFF454545, 0xFF555C68};
 
 double Linear(double channel) {
   return channel <= 0.04045 ? channel / 12.92 : std::pow((channel + 0.055) / 1.055, 2.4);

@@ -251,6 +251,15 @@ TEST_F(BindChoicesTest, ADateIsADaySerial) {
   EXPECT_EQ(portal.day.Value, 46267);
 }
 
+TEST_F(BindChoicesTest, TabLeavesADateAtOnce) {
+  Open();
+  Focus("day");
+  auto& day = Find<QDateEdit>("day");
+  ASSERT_TRUE(day.hasFocus());
+  QTest::keyClick(&day, Qt::Key_Tab);
+  EXPECT_FALSE(day.hasFocus());
+}
+
 // A day of the calendar as it is shown, clicked with the mouse.
 void ClickDay(QCalendarWidget& calendar, const QDate& day) {
   auto* view = calendar.findChild<QTableView*>();

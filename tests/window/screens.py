@@ -93,7 +93,8 @@ def portals(this):
     portal(program, ["ctrl+Insert"], "Add Student Portal", "frmAdd")
     portal(program, ["ctrl+e"], "Edit Portal", "frmEdit", ["Down"])
     portal(program, ["ctrl+g"], "Enter  Grades  Portal", "frmMarks",
-           [*"Essay", "Tab", *"ESS", "alt+l", "Up", "Tab", *"85", "alt+o"])
+           [*"Essay", "Tab", *"ESS", "alt+l", "Down", "Down", "Down", "Down", "Tab", *"85", "alt+o",
+            *"92", "Down", *"78", "Down", "F6", "Down", *"88"])
     portal(program, ["alt+f", "i"], "Class Information Portal", "frmclassinfo")
     program.keys("F1")
     program.window("Tallyroll Help")

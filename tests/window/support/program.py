@@ -47,11 +47,25 @@ def xdotool(*arguments):
     return done.stdout.strip()
 
 
+def command_line(*arguments, given=None):
+    done = subprocess.run([os.environ["TALLYROLL_CLI"], *arguments], input=given,
+                          capture_output=True, text=True, timeout=PATIENCE, check=True)
+    return done.stdout
+
+
+def build(path, record):
+    """A class file of what the record says."""
+    command_line("build", "-", path, given=json.dumps(record))
+
+
 def dump(path, *options):
     """The class file as the command line reads it."""
-    done = subprocess.run([os.environ["TALLYROLL_CLI"], "dump", *options, path],
-                          capture_output=True, text=True, timeout=PATIENCE, check=True)
-    return json.loads(done.stdout)
+    return json.loads(command_line("dump", *options, path))
+
+
+def averages(path):
+    """Every student's average and final grade as the command line computes them."""
+    return json.loads(command_line("averages", "--json", path))
 
 
 def states(node):
@@ -70,9 +84,9 @@ def children(node):
 
 
 def walk(node):
-    """The node and all below it, but never the cells of a table."""
+    """The node and all below it, but never the cells of a table or the lines of a list."""
     yield node
-    if node.get_role() == Atspi.Role.TABLE:
+    if node.get_role() in (Atspi.Role.TABLE, Atspi.Role.LIST):
         return
     for child in children(node):
         yield from walk(child)
@@ -179,6 +193,14 @@ class Program:
 
     def await_label(self, text):
         return self.widget(Atspi.Role.LABEL, text)
+
+    def await_labels(self, *texts):
+        """Waits until all of these stand on the screen together."""
+        def shown():
+            labels = {node.get_name() for top in self.windows() for node in walk(top)
+                      if node.get_role() == Atspi.Role.LABEL}
+            return labels.issuperset(texts)
+        wait_for(f"the labels {texts}", shown)
 
     def box(self, text, *answer, title="Note to the Teacher"):
         """A message box with exactly this text, answered with these keys."""

@@ -1,0 +1,169 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The Portals in which a teacher waits: a mark typed for 1,000 students, the Portals of such a
+// class opened, and the average after one changed mark, beside a bare dialog with a QTableView.
+#include <benchmark/benchmark.h>
+
+#include <QApplication>
+#include <QDialog>
+#include <QKeyEvent>
+#include <QPushButton>
+#include <QStandardItemModel>
+#include <QTableView>
+#include <QVBoxLayout>
+
+#include "averages/frmscrnavg.h"
+#include "base/number_text.h"
+#include "bench/big_class.h"
+#include "desktop/grid_widget.h"
+#include "desktop/portal_dialog.h"
+#include "desktop/text_conversion.h"
+#include "grades/frmMarks.h"
+#include "platform/headless.h"
+#include "shell/program.h"
+#include "store/program_state.h"
+
+namespace tallyroll {
+namespace {
+
+constexpr int kStudents = 1000;
+constexpr int kGrades = 100;
+const QSize kSize(940, 640);
+
+struct OpenClass {
+  OpenClass() {
+    ResetProgram();
+    SetPlatform(&screen);
+    CurrentClass = 1;
+    Current() = BigAveragedClass(kStudents, kGrades, 1);
+    PrepareWeights();
+  }
+  ~OpenClass() { SetPlatform(nullptr); }
+
+  HeadlessSurroundings screen;
+};
+
+// The names, identifiers and an empty column, as the Enter Grades Portal shows them.
+class BareDialog : public QDialog {
+ public:
+  BareDialog() : model_(kStudents, 3) {
+    for (int row = 0; row < kStudents; ++row) {
+      const Student& student = Current().Students[static_cast<std::size_t>(row) + 1];
+      model_.setItem(row, 0,
+                     new QStandardItem(FromText(student.lastname + ", " + student.firstname)));
+      model_.setItem(row, 1, new QStandardItem(FromText(student.id)));
+      model_.setItem(row, 2, new QStandardItem());
+    }
+    view.setModel(&model_);
+    auto* layout = new QVBoxLayout(this);
+    layout->addWidget(&view);
+    resize(kSize);
+  }
+  ~BareDialog() override { view.setModel(nullptr); }
+
+  void Write(int row, const QString& text) { model_.item(row, 2)->setText(text); }
+
+  QTableView view;
+
+ private:
+  QStandardItemModel model_;
+};
+
+void ShowAndPaint(QDialog& dialog, QAbstractScrollArea& area) {
+  dialog.resize(kSize);
+  dialog.show();
+  area.viewport()->repaint();
+}
+
+template <typename Widget>
+Widget& Named(PortalDialog& dialog, const char* name) {
+  return *dialog.findChild<Widget*>(QLatin1String(name));
+}
+
+void Key(QWidget& widget, int key, const QString& text) {
+  QKeyEvent event(QEvent::KeyPress, key, Qt::NoModifier, text);
+  QApplication::sendEvent(&widget, &event);
+}
+
+void KeyInBareCell(benchmark::State& state) {
+  OpenClass open;
+  BareDialog dialog;
+  ShowAndPaint(dialog, dialog.view);
+  int n = 0;
+  for (auto _ : state) {
+    dialog.Write(n++ % 20, QString::number(n % 10));
+    dialog.view.viewport()->repaint();
+  }
+}
+BENCHMARK(KeyInBareCell)->Unit(benchmark::kMicrosecond)->UseRealTime();
+
+void KeyInMarkCell(benchmark::State& state) {
+  OpenClass open;
+  frmMarks portal;
+  portal.Load();
+  PortalDialog dialog(portal);
+  auto& grid = Named<GridWidget>(dialog, "Grid1");
+  ShowAndPaint(dialog, grid);
+  for (auto _ : state) {
+    Key(grid, Qt::Key_8, QStringLiteral("8"));
+    grid.viewport()->repaint();
+  }
+}
+BENCHMARK(KeyInMarkCell)->Unit(benchmark::kMicrosecond)->UseRealTime();
+
+void OpenBareDialog(benchmark::State& state) {
+  OpenClass open;
+  for (auto _ : state) {
+    BareDialog dialog;
+    ShowAndPaint(dialog, dialog.view);
+  }
+}
+BENCHMARK(OpenBareDialog)->Unit(benchmark::kMicrosecond)->UseRealTime();
+
+template <typename P>
+void OpenPortal(benchmark::State& state, const char* grid) {
+  OpenClass open;
+  for (auto _ : state) {
+    P portal;
+    portal.Load();
+    PortalDialog dialog(portal);
+    ShowAndPaint(dialog, Named<GridWidget>(dialog, grid));
+  }
+}
+void OpenMarks(benchmark::State& state) {
+  OpenPortal<frmMarks>(state, "Grid1");
+}
+BENCHMARK(OpenMarks)->Unit(benchmark::kMicrosecond)->UseRealTime();
+void OpenScreenAverages(benchmark::State& state) {
+  OpenPortal<frmscrnavg>(state, "grdgrade");
+}
+BENCHMARK(OpenScreenAverages)->Unit(benchmark::kMicrosecond)->UseRealTime();
+
+// The student's whole record with the average is made anew; nothing is painted.
+void AverageAfterOneMark(benchmark::State& state) {
+  OpenClass open;
+  frmscrnavg portal;
+  portal.Load();
+  PortalDialog dialog(portal);
+  ShowAndPaint(dialog, Named<GridWidget>(dialog, "grdgrade"));
+  auto& next = Named<QPushButton>(dialog, "nextt");
+  auto& previous = Named<QPushButton>(dialog, "PREVIOUS");
+  next.click();
+  int n = 0;
+  for (auto _ : state) {
+    const bool forward = n % 2 == 0;
+    Current().Students[forward ? 2 : 1].Marks[7] = PlainNumberText(60 + n++ % 40);
+    (forward ? next : previous).click();
+  }
+}
+BENCHMARK(AverageAfterOneMark)->Unit(benchmark::kMicrosecond)->UseRealTime();
+
+}  // namespace
+}  // namespace tallyroll
+
+int main(int argc, char** argv) {
+  QApplication application(argc, argv);
+  QApplication::setStyle(QStringLiteral("Fusion"));
+  benchmark::Initialize(&argc, argv);
+  benchmark::RunSpecifiedBenchmarks();
+  return 0;
+}
