@@ -13,6 +13,7 @@ class LineReader {
 
   // The next line without its end; nothing behind the last.
   std::optional<std::string_view> Next();
+  bool AtEnd() const { return rest_.empty(); }
 
  private:
   std::string_view rest_;

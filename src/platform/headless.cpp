@@ -121,6 +121,44 @@ void HeadlessSurroundings::WriteSetting(std::string_view application, std::strin
   settings[SettingName(application, section, key)] = value;
 }
 
+namespace {
+
+std::unique_ptr<FixedPrintTarget> MakeTarget(FixedPrintTarget::Kind kind, bool landscape) {
+  auto target = std::make_unique<FixedPrintTarget>(kind);
+  if (!landscape) return target;
+  std::swap(target->Width, target->Height);
+  std::swap(target->ScaleWidth, target->ScaleHeight);
+  return target;
+}
+
+}  // namespace
+
+std::unique_ptr<PrintTarget> HeadlessSurroundings::MakePrintBox(bool landscape) {
+  return MakeTarget(FixedPrintTarget::Kind::kBox, landscape);
+}
+
+std::optional<PrintRange> HeadlessSurroundings::PrintDialog(const PrintRange& offered) {
+  ++windows_shown_;
+  print_dialogs.push_back(offered);
+  return print_answer;
+}
+
+std::unique_ptr<PrintTarget> HeadlessSurroundings::OpenPrinter(bool landscape,
+                                                               std::string_view title) {
+  auto target = MakeTarget(FixedPrintTarget::Kind::kPrinter, landscape);
+  target->job->title = title;
+  target->job->landscape = landscape;
+  print_jobs.push_back(target->job);
+  return target;
+}
+
+std::unique_ptr<PrintTarget> HeadlessSurroundings::OpenPdf(const std::string& path, bool landscape,
+                                                           std::string_view title) {
+  auto target = OpenPrinter(landscape, title);
+  print_jobs.back()->path = path;
+  return target;
+}
+
 double HeadlessSurroundings::Random() {
   if (random_numbers.empty()) return 0;
   const double next = random_numbers.front();

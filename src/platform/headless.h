@@ -8,6 +8,7 @@
 #include <string>
 #include <vector>
 
+#include "platform/fixed_print_target.h"
 #include "platform/portal_driver.h"
 #include "platform/surroundings.h"
 
@@ -47,7 +48,15 @@ class HeadlessSurroundings : public Surroundings {
   DateOrder ShortDateOrder() override { return date_order; }
   std::string ProfileFolder() override { return profile_folder; }
   std::string ProgramFolder() override { return program_folder; }
-  void PumpEvents() override { ++pumped; }
+  std::unique_ptr<PrintTarget> MakePrintBox(bool landscape) override;
+  std::optional<PrintRange> PrintDialog(const PrintRange& offered) override;
+  std::unique_ptr<PrintTarget> OpenPrinter(bool landscape, std::string_view title) override;
+  std::unique_ptr<PrintTarget> OpenPdf(const std::string& path, bool landscape,
+                                       std::string_view title) override;
+  void PumpEvents() override {
+    ++pumped;
+    if (on_pump) on_pump();
+  }
   void SetWaitCursor(bool on) override { wait_cursor = on; }
 
   std::vector<MessageRequest> boxes;            // every box that was shown
@@ -59,6 +68,10 @@ class HeadlessSurroundings : public Surroundings {
   DateOrder date_order = DateOrder::kMonthFirst;
   std::string profile_folder;
   std::string program_folder;
+  std::function<void()> on_pump;                          // what happens while events are pumped
+  std::optional<PrintRange> print_answer = PrintRange();  // of the next print dialogs
+  std::vector<PrintRange> print_dialogs;                  // what each offered
+  std::vector<std::shared_ptr<PrintedJob>> print_jobs;    // every printer and PDF that was opened
   int help_shown = -1;
   int pumped = 0;
   bool wait_cursor = false;

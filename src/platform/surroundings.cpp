@@ -4,6 +4,7 @@
 #include <cassert>
 
 #include "platform/class_window.h"
+#include "platform/print_target.h"
 
 namespace tallyroll {
 namespace {
@@ -29,6 +30,20 @@ ClassWindowCalls& ClassWindow() {
 
 void SetClassWindow(ClassWindowCalls* window) {
   current_window = window ? window : &no_window;
+}
+
+std::unique_ptr<PrintTarget> Surroundings::MakePrintBox(bool /*landscape*/) {
+  return nullptr;
+}
+
+std::unique_ptr<PrintTarget> Surroundings::OpenPrinter(bool /*landscape*/,
+                                                       std::string_view /*title*/) {
+  return nullptr;
+}
+
+std::unique_ptr<PrintTarget> Surroundings::OpenPdf(const std::string& /*path*/, bool /*landscape*/,
+                                                   std::string_view /*title*/) {
+  return nullptr;
 }
 
 BoxAnswer ShowMessage(std::string_view text, BoxIcon icon, std::string_view title) {

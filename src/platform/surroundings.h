@@ -2,6 +2,7 @@
 // What the logic asks of the machine and the screen it runs on.
 #pragma once
 
+#include <memory>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -11,6 +12,7 @@
 namespace tallyroll {
 
 class Portal;
+class PrintTarget;
 
 inline constexpr std::string_view kNoteToTheTeacher = "Note to the Teacher";
 
@@ -36,6 +38,13 @@ struct FileDialogRequest {
   bool file_must_exist = false;
   bool overwrite_prompt = false;
   int help_context = 0;
+};
+
+// What a print dialog asks, and what it answers.
+struct PrintRange {
+  int from_page = 1;
+  int to_page = 1;
+  int copies = 1;
 };
 
 // One object stands for the whole surroundings: Qt's in the desktop program, a scripted one in
@@ -73,6 +82,22 @@ class Surroundings {
   virtual std::string
   ProfileFolder() = 0;  // the user's folder for program data, without a final slash
   virtual std::string ProgramFolder() = 0;  // where the sample file lies
+
+  // A surface that nobody sees, with the sheet and the measures of the printer in use.
+  virtual std::unique_ptr<PrintTarget> MakePrintBox(bool landscape);
+  // Asks for printer, pages and copies; nothing when it was cancelled. The printer stays in use.
+  virtual std::optional<PrintRange> PrintDialog(const PrintRange& /*offered*/) {
+    return std::nullopt;
+  }
+  // A job on the printer in use, which EndDoc sends; null when the printer refuses.
+  virtual std::unique_ptr<PrintTarget> OpenPrinter(bool landscape, std::string_view title);
+  // The same into a PDF file, which is complete once EndDoc has run, or absent.
+  virtual std::unique_ptr<PrintTarget> OpenPdf(const std::string& path, bool landscape,
+                                               std::string_view title);
+  // Asks for the printer and its paper.
+  virtual void PrinterSetUpDialog() {}
+  // Asks for the font of printed pages, given and taken as name and points; false when cancelled.
+  virtual bool FontDialog(std::string& /*name*/, float& /*points*/) { return false; }
 
   virtual void PumpEvents() = 0;
   virtual void SetWaitCursor(bool on) = 0;

@@ -2,6 +2,7 @@
 #include "shell/program.h"
 
 #include "averages/engine/average_state.h"
+#include "printing/print_job.h"
 #include "shell/shell_state.h"
 #include "store/program_state.h"
 #include "store/settings.h"
@@ -12,6 +13,7 @@ void ResetProgram() {
   ResetStore();
   ResetSettings();
   ResetAverages();
+  ResetPrinting();
   ResetShell();
 }
 

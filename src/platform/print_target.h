@@ -1,0 +1,60 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The surface that every report is drawn on: the printer, a page of the preview, a page of a PDF,
+// or the hidden one on which a report is laid out to find its page breaks.
+#pragma once
+
+#include <string>
+#include <string_view>
+
+namespace tallyroll {
+
+// Lengths in twips, 1/1440 inch. The origin is the corner of the margins once the page is set up.
+class PrintTarget {
+ public:
+  virtual ~PrintTarget() = default;
+
+  // The pen: the upper left corner of what is printed next.
+  double CurrentX = 0;
+  double CurrentY = 0;
+
+  std::string FontName = "Times New Roman";
+  double FontSize = 10;  // points
+  bool FontBold = false;
+
+  // The sheet, what of it can be printed on, and where the upper left corner of that lies.
+  double Width = 12240;
+  double Height = 15840;
+  double ScaleWidth = 12240;
+  double ScaleHeight = 15840;
+  double ScaleLeft = 0;
+  double ScaleTop = 0;
+
+  // Whether sheets leave it for good, so that cancelling matters.
+  virtual bool IsPrinter() const { return false; }
+
+  // In the current font. Height is that of a line.
+  virtual double TextWidth(std::string_view text) const = 0;
+  virtual double TextHeight(std::string_view text) const = 0;
+  virtual double AverageCharWidth() const = 0;
+
+  // At the pen; afterwards the pen stands at the left edge of the next line, or behind the text.
+  void Print(std::string_view text = {});
+  void PrintOpen(std::string_view text);
+  // The pen goes to a column of the target's average character, the first being 1. What was printed
+  // beyond that column is never printed over: the pen goes one blank behind it.
+  void Tab(int column);
+
+  virtual void Line(double x1, double y1, double x2, double y2) = 0;
+  // Text that runs upwards, its beginning at the bottom: x is its left edge, y its lower end.
+  virtual void PrintUpwards(std::string_view text, double x, double y) = 0;
+
+  virtual void NewPage() {}  // printers: the sheet is done, another one begins
+  virtual void EndDoc() {}   // printers: the last sheet is done, the job goes out
+  virtual void KillDoc() {}  // printers: what was not sent yet is dropped
+  virtual void Cls() {}      // other surfaces: clean, with the pen at the origin
+
+ protected:
+  virtual void DrawTextAt(double x, double y, std::string_view text) = 0;
+};
+
+}  // namespace tallyroll

@@ -1,0 +1,74 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The one print run. Printing takes two passes: the report is laid out whole on a surface that
+// nobody sees, which fills the page table; then each page is drawn by itself from its entry there,
+// in any order and as often as wanted.
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "platform/print_target.h"
+#include "store/records.h"
+
+namespace tallyroll {
+
+inline constexpr i16 kPrintWaits = 0;  // the title is being asked for
+inline constexpr i16 kPrintRuns = 1;
+inline constexpr i16 kPrintCancelled = 2;
+
+struct PrintJob {
+  i16 PrintFlag = kPrintWaits;  // every row loop of every writer polls it
+  i16 PrintTab = 1;             // tab of the Printer Portal, 1 to 4
+  i16 ReportCode = 0;
+  std::string PrintTitle;  // the teacher's own title, below the report's
+
+  int PageTextWidth = 0;  // twips from the left to the right margin
+  int PageBottom = 0;     // the CurrentY below which no body line starts
+  double CharUnit = 0;    // width of "N" in the print font; every table column is a multiple of it
+  int BlockLines = 0;     // lines of the block before; FitBlock turns them into twips
+
+  // The page table. A row is a student in the class reports and a line in the reports on one
+  // student; rows past the last student are those of a table behind the students. Lists begin at 1.
+  i16 PageCount = 0;
+  std::vector<i16> PageFirst{0}, PageLast{0};
+  std::vector<i16> PageStudent{0};  // CurrentStudent when the page ended
+  // First and last grade of each wrapped row of the grade matrix, found once for the first student.
+  // Reports on one student keep the first and last row of each page of the student here.
+  std::vector<i16> WrapFirst{0}, WrapLast{0};
+};
+
+extern PrintJob Job;
+
+// One pass of a report writer: some of its rows on one page, or with `recording` all of them.
+struct ReportPass {
+  PrintTarget& target;
+  int first = 1;
+  int last = 0;  // reports on one student take none
+  int page = 1;
+  bool recording = false;
+};
+
+// Clears the page table.
+void ClearPageTable();
+// The same, and asks for the title; PrintFlag then tells whether the run goes ahead.
+void ResetPrintJob();
+
+// Lets waiting events run; whether one of them cancelled the run. Asked once a row.
+bool Cancelled();
+
+// Sets the target's origin to the corner of the margins and finds PageTextWidth, PageBottom and
+// CharUnit in its font. A margin that was never set is 500 twips.
+void SetupPage(PrintTarget& target);
+
+// The text that names CurrentStudent: ID and name as NameMode asks.
+std::string StudentLabel();
+
+// `text` up to and including its first blank, which is taken off it; without a blank the answer is
+// empty and `text` stays.
+std::string NextWord(std::string& text);
+
+// Puts Job and Choice to their start values.
+void ResetPrinting();
+
+}  // namespace tallyroll

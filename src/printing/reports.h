@@ -1,0 +1,38 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The one list of reports: each has a writer for paper and one for text files, found by its code.
+#pragma once
+
+#include <string>
+
+#include "printing/print_job.h"
+#include "printing/text_report.h"
+
+namespace tallyroll {
+
+struct Report {
+  int code = 0;
+  // Draws some of the rows, or in the layout pass all of them with their page breaks.
+  void (*print)(ReportPass& pass) = nullptr;
+  // The whole report; the reports on one student write that of CurrentStudent.
+  void (*write)(TextReport& text) = nullptr;
+  bool one_student = false;
+};
+
+// Null for a code that no report has.
+const Report* FindReport(int code);
+
+// Lays Job.ReportCode out on a target from the first to the last row, and fills the page table.
+// Runs that take several students are laid out once a student. False when it could not be done: the
+// teacher was told, or cancelled.
+bool LayOutRows(PrintTarget& target, int first, int last);
+
+// Draws a page of the table. False as above.
+bool RenderPage(PrintTarget& target, int page);
+
+// The report of Job.ReportCode as text; that of each of Choice.students where it is on one student.
+// Empty when it could not be made, and the teacher was told.
+std::string ReportText();
+// Writes it. Returns 0 or the run-time error number; the teacher was told "File Error" then.
+int SaveReportText(const std::string& path);
+
+}  // namespace tallyroll

@@ -1,0 +1,40 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "printing/text_report.h"
+
+#include "base/line_reader.h"
+
+namespace tallyroll {
+namespace {
+
+constexpr std::size_t kWidth = 80;
+
+}  // namespace
+
+void TextReport::Tab(int column) {
+  const int before = column - 1;
+  if (Column() > before && Column() > 0)
+    text_ += ' ';
+  else
+    text_.append(static_cast<std::size_t>(before - Column()), ' ');
+}
+
+void TextReport::End(std::string_view text) {
+  text_ += text;
+  text_ += "\r\n";
+  line_start_ = text_.size();
+}
+
+void TextReport::Paragraph(std::string_view text) {
+  LineReader lines(text);
+  while (auto line = lines.Next()) {
+    while (line->size() > kWidth) {
+      const std::size_t blank = line->rfind(' ', kWidth);
+      const bool none = blank == std::string_view::npos || blank == 0;
+      End(line->substr(0, none ? kWidth : blank));
+      line->remove_prefix(none ? kWidth : blank + 1);
+    }
+    End(*line);
+  }
+}
+
+}  // namespace tallyroll
