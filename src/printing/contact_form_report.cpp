@@ -9,7 +9,7 @@ namespace tallyroll {
 namespace {
 
 constexpr std::string_view kTitle = " Student Home Contact Form";
-constexpr int kBlockLines = 8;
+constexpr int kBlockLines = 7;
 constexpr int kTextRule = 77;
 
 // One walk for paper and text: `Sheet` has Put, Tab and End.

@@ -134,8 +134,8 @@ TEST_F(RosterReportTest, ContactFormsOfTheClassFollowOneAnother) {
 TEST_F(LongRosterTest, AContactFormIsNeverCutByAPage) {
   EnrolMany(20);
   LayOut(20);
-  // A block takes 7 lines of 240. Page 1 begins at 1392: a seventh block would begin at 11472 and
-  // end at 13152, which with its eighth line passes nothing; an eighth block would.
+  // A block takes 7 lines of 240, 1680 twips. Page 1 begins at 1392: the seventh block ends at 13152,
+  // an eighth would pass 13880. Later pages begin at 240: the eighth block ends at 13680.
   EXPECT_EQ(PageTable(), (std::vector<std::pair<int, int>>{{1, 7}, {8, 15}, {16, 20}}));
 }
 
