@@ -20,11 +20,6 @@ struct Column {
 constexpr std::array kColumns = {Column{"  TITLES", 3360}, Column{"CODE", 900},
                                  Column{"DATE", 1440}, Column{"GR.", 1100}};
 
-// An excused grade is not missing.
-bool IsMissing(std::string_view mark) {
-  return mark == "CUT" || mark == "ABS" || mark == "NEW" || mark == "NON";
-}
-
 std::string StudentLine(const Student& student) {
   const std::string id(Trim(student.id));
   switch (NameMode) {

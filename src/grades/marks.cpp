@@ -81,6 +81,10 @@ MarkKind KindOfMark(std::string_view mark) {
   }
 }
 
+bool IsMissing(std::string_view mark) {
+  return mark == "CUT" || mark == "ABS" || mark == "NEW" || mark == "NON";
+}
+
 Currency GradeValue(std::string_view mark) {
   const std::string_view text = TrimRight(mark);
   if (const std::size_t letter = kLetterIndices[LetterPlace(text)]; letter != kNoLetter) {

@@ -15,6 +15,9 @@ enum class MarkKind {
   kGraded,   // everything else has a value
 };
 
+// A grade that the student has not got: "CUT", "ABS", "NEW", "NON". An excused one is not missing.
+bool IsMissing(std::string_view mark);
+
 // By the text as it stands: the caller trims it as far as its rule says.
 MarkKind KindOfMark(std::string_view mark);
 

@@ -28,29 +28,29 @@ constexpr std::array kLines = {
     InformationLine{"Room Number", &Class::room},
 };
 
+// One walk for paper and text.
+template <typename Sheet>
+void PutLines(Sheet&& sheet) {
+  for (const InformationLine& line : kLines) {
+    sheet.Put(line.label);
+    sheet.Tab(kValueColumn);
+    sheet.End(Current().*line.value);
+    sheet.End();
+  }
+}
+
 }  // namespace
 
 void PrintClassInformation(ReportPass& pass) {
   PageHeader(pass, kTitle);
-  for (const InformationLine& line : kLines) {
-    if (Cancelled()) return;
-    pass.target.PrintOpen(line.label);
-    pass.target.Tab(kValueColumn);
-    pass.target.Print(Current().*line.value);
-    pass.target.Print();
-  }
+  PutLines(PaperSheet{pass.target});
   PageFooter(pass, 2);  // one row in all
 }
 
 void WriteClassInformation(TextReport& text) {
   text.Line(kTitle);
-  text.Line("");
-  for (const InformationLine& line : kLines) {
-    text.Put(line.label);
-    text.Tab(kValueColumn);
-    text.End(Current().*line.value);
-    text.End();
-  }
+  text.End();
+  PutLines(text);
 }
 
 }  // namespace tallyroll

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Codes 20 and 21: a block of six lines a student, for the whole class or for one.
-#include "printing/page_frame.h"
 #include "printing/report_writers.h"
+#include "printing/sections.h"
 #include "store/program_state.h"
 #include "store/student_names.h"
 
@@ -53,14 +53,9 @@ void WriteBlock(TextReport& text, const Student& student) {
 
 void PrintContactForms(ReportPass& pass) {
   PageHeader(pass, kTitle);
-  for (CurrentStudent = static_cast<i16>(pass.first); CurrentStudent <= pass.last;
-       ++CurrentStudent) {
-    if (Cancelled()) return;
-    if (pass.recording && WouldPassBottom(pass.target, kBlockLines))
-      BreakPage(pass, CurrentStudent);
-    PrintBlock(pass.target, StudentAt(CurrentStudent));
-  }
-  PageFooter(pass, CurrentStudent);
+  PrintSections(pass, {{.rows = Current().NumStudents,
+                        .print = [&](int row) { PrintBlock(pass.target, StudentAt(row)); },
+                        .lines = [](int) { return kBlockLines; }}});
 }
 
 void WriteContactForms(TextReport& text) {
@@ -71,9 +66,10 @@ void WriteContactForms(TextReport& text) {
 
 void PrintOneContactForm(ReportPass& pass) {
   StudentHeader(pass, kTitle, true);
-  PrintBlock(pass.target, StudentAt(CurrentStudent));
-  bool restart = true;
-  PageFooter(pass, 2, restart);
+  PrintSections(
+      pass,
+      {{.rows = 1, .print = [&](int) { PrintBlock(pass.target, StudentAt(CurrentStudent)); }}},
+      true);
 }
 
 void WriteOneContactForm(TextReport& text) {

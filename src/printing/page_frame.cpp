@@ -125,10 +125,14 @@ void NewPageOn(PrintTarget& target) {
   target.FontSize = body_size;
 }
 
+void BeginPage(PrintTarget& target) {
+  NewPageOn(target);
+  target.Print();
+}
+
 void BreakPage(ReportPass& pass, int position) {
   PageFooter(pass, position);
-  NewPageOn(pass.target);
-  pass.target.Print();
+  BeginPage(pass.target);
 }
 
 bool WouldPassBottom(const PrintTarget& target, int lines) {

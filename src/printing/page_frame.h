@@ -22,8 +22,9 @@ void PageFooter(ReportPass& pass, int position, bool& restart);
 void PageFooter(ReportPass& pass, int position);
 
 void NewPageOn(PrintTarget& target);
-// A page break of the layout pass: the foot, and the new page begun as it will be drawn. A report
-// with column heads prints them again behind it.
+// In the layout pass: a new page, begun as it will be drawn.
+void BeginPage(PrintTarget& target);
+// The same behind the foot of the page before.
 void BreakPage(ReportPass& pass, int position);
 
 // Whether `lines` more lines of the current font would pass the page's bottom.
@@ -52,7 +53,7 @@ struct PaperSheet {
 // Ends a pass: thrown by FitBlock for a block taller than a page, and by writers that cannot go on,
 // with what the teacher is told. RunReport catches it.
 struct ReportEnds {
-  std::string_view reason;
+  std::string reason = {};
 };
 
 }  // namespace tallyroll

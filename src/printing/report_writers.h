@@ -7,6 +7,28 @@
 
 namespace tallyroll {
 
+// 1, 11: all grades of the class, 11 with averages.
+void PrintFullGrades(ReportPass& pass);
+void WriteFullGrades(TextReport& text);
+
+// 2, 14: missing grades of the class, of one student.
+void PrintMissingForClass(ReportPass& pass);
+void WriteMissingForClass(TextReport& text);
+void PrintMissingForStudent(ReportPass& pass);
+void WriteMissingForStudent(TextReport& text);
+
+// 10: one grade of the class.
+void PrintOneGrade(ReportPass& pass);
+void WriteOneGrade(TextReport& text);
+
+// 12, 13: all grades of one student, 12 with the average.
+void PrintAllGrades(ReportPass& pass);
+void WriteAllGrades(TextReport& text);
+
+// 17, 18: one student's grades by type, 18 with the average.
+void PrintGradeSummary(ReportPass& pass);
+void WriteGradeSummary(TextReport& text);
+
 // 19, 23: the class's students, with room for notes or with empty boxes.
 void PrintRoster(ReportPass& pass);
 void WriteRoster(TextReport& text);

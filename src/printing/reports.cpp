@@ -17,6 +17,15 @@ namespace tallyroll {
 namespace {
 
 constexpr std::array kReports = {
+    Report{1, PrintFullGrades, WriteFullGrades},
+    Report{2, PrintMissingForClass, WriteMissingForClass},
+    Report{10, PrintOneGrade, WriteOneGrade},
+    Report{11, PrintFullGrades, WriteFullGrades},
+    Report{12, PrintAllGrades, WriteAllGrades, true},
+    Report{13, PrintAllGrades, WriteAllGrades, true},
+    Report{14, PrintMissingForStudent, WriteMissingForStudent, true},
+    Report{17, PrintGradeSummary, WriteGradeSummary, true},
+    Report{18, PrintGradeSummary, WriteGradeSummary, true},
     Report{19, PrintRoster, WriteRoster},
     Report{20, PrintContactForms, WriteContactForms},
     Report{21, PrintOneContactForm, WriteOneContactForm, true},

@@ -2,8 +2,8 @@
 // Codes 19 and 23: the students with room for notes, or with a grid of empty boxes.
 #include "base/number_text.h"
 #include "base/text.h"
-#include "printing/page_frame.h"
 #include "printing/report_writers.h"
+#include "printing/sections.h"
 #include "store/program_state.h"
 #include "store/student_names.h"
 
@@ -88,17 +88,10 @@ void WriteRow(TextReport& text, int row) {
 // Both forms bear the grid form's title on paper.
 void PrintRoster(ReportPass& pass) {
   PageHeader(pass, kGridTitle);
-  PutHead(PaperSheet{pass.target});
-  for (CurrentStudent = static_cast<i16>(pass.first); CurrentStudent <= pass.last;
-       ++CurrentStudent) {
-    if (Cancelled()) return;
-    if (pass.recording && WouldPassBottom(pass.target, 1)) {
-      BreakPage(pass, CurrentStudent);
-      PutHead(PaperSheet{pass.target});
-    }
-    PrintRow(pass.target, CurrentStudent);
-  }
-  PageFooter(pass, CurrentStudent);
+  PrintSections(pass, {{.rows = Current().NumStudents,
+                        .print = [&](int row) { PrintRow(pass.target, row); },
+                        .head = [&] { PutHead(PaperSheet{pass.target}); },
+                        .head_lines = 2}});
 }
 
 void WriteRoster(TextReport& text) {

@@ -93,8 +93,8 @@ TEST_F(LongRosterTest, RowsGoOnOnTheNextPageUnderTheHeads) {
 
 TEST_F(LongRosterTest, ACancelledLayoutHasNoFurtherPages) {
   EnrolMany(120);
-  screen.on_pump = [] {
-    if (CurrentStudent == 60) Job.PrintFlag = kPrintCancelled;
+  screen.on_pump = [this] {
+    if (screen.pumped == 60) Job.PrintFlag = kPrintCancelled;
   };
   Job.ReportCode = 19;
   ClearPageTable();

@@ -1,0 +1,157 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// Codes 12 and 13: all grades of one student, a line each, with the average or without.
+#include <algorithm>
+#include <array>
+#include <string>
+#include <vector>
+
+#include "base/number_text.h"
+#include "base/text.h"
+#include "grades/marks.h"
+#include "printing/report_choice.h"
+#include "printing/report_writers.h"
+#include "printing/student_tail.h"
+#include "printing/type_totals_table.h"
+#include "store/program_state.h"
+
+namespace tallyroll {
+namespace {
+
+constexpr std::string_view kAverageTitle = " All Grades/Average for ";
+constexpr std::string_view kPlainTitle = " All Grades for ";
+constexpr int kTextRule = 80;
+
+std::string Text(std::string_view text) {
+  return std::string(Trim(text));
+}
+
+// ---- Which grades, in which order ----
+
+bool IsWanted(int grade) {
+  if (Choice.sort != TypeSort::kSomeTypes) return true;
+  return std::find(Choice.types.begin(), Choice.types.end(), Trim(GradeInReport(grade).typecode)) !=
+         Choice.types.end();
+}
+
+std::vector<int> GradesInOrder() {
+  std::vector<int> grades;
+  for (int i = 1; i <= GradeCount(Current()); ++i)
+    if (IsWanted(i)) grades.push_back(i);
+  if (Choice.sort == TypeSort::kNone) return grades;
+  std::stable_sort(grades.begin(), grades.end(), [](int a, int b) {
+    return Trim(GradeInReport(a).typecode) < Trim(GradeInReport(b).typecode);
+  });
+  return grades;
+}
+
+// ---- Columns: those of the rows stand a little beside their heads ----
+
+struct Column {
+  double head, row;  // in bases
+  int text;          // characters in a text file
+  std::string_view first, second;
+  std::string (*value)(int grade);
+};
+
+constexpr std::array kColumns = {
+    Column{0, 0, 1, "TITLE", "", [](int i) { return Text(GradeInReport(i).title); }},
+    Column{0.96, 0.96, 34, "CODE", "", [](int i) { return Text(GradeInReport(i).code); }},
+    Column{1.1, 1.1, 40, "TP.", "", [](int i) { return Text(GradeInReport(i).typecode); }},
+    Column{1.2, 1.2, 45, " DATE", "", [](int i) { return Text(GradeInReport(i).testdate); }},
+    Column{1.44, 1.45, 58, "GRADE", "", [](int i) { return Text(MarkOf(StudentInReport(), i)); }},
+    Column{1.61, 1.61, 66, "MAX.", "SCORE",
+           [](int i) { return PlainNumberText(GradeInReport(i).mvalue); }},
+};
+constexpr double kUseHead = 1.79, kUseRow = 1.78;
+constexpr int kUseText = 74;
+
+// Weights by type alone give a single grade none.
+bool ShowsUse() {
+  return ReportWithAverages() && Current().Method != 1;
+}
+
+template <typename Move, typename Put>
+void PutHead(bool first_line, Move&& move, Put&& put) {
+  for (const Column& column : kColumns) {
+    const std::string_view head = first_line ? column.first : column.second;
+    if (head.empty()) continue;
+    move(column.head, column.text);
+    put(head);
+  }
+  if (!ShowsUse() || !first_line) return;
+  move(kUseHead, kUseText);
+  put(PointMethod() ? "PT." : "WT.");
+}
+
+template <typename Move, typename Put>
+void PutRow(int grade, Move&& move, Put&& put) {
+  for (const Column& column : kColumns) {
+    move(column.row, column.text);
+    put(column.value(grade));
+  }
+  if (!ShowsUse()) return;
+  move(kUseRow, kUseText);
+  put(WeightOrUse(grade));
+}
+
+std::string Title() {
+  return std::string(ReportWithAverages() ? kAverageTitle : kPlainTitle) + StudentLabel();
+}
+
+Section GradesSection(PrintTarget& target, const std::vector<int>& grades) {
+  const double base = (target.FontSize < 9 ? 37 : 33) * Job.CharUnit;
+  const auto move = [&target, base](double bases, int) { target.CurrentX = bases * base; };
+  const auto put = [&target](std::string_view text) { target.PrintOpen(text); };
+  const int comment_lines = LinesOfComment(target);
+  return {.rows = static_cast<int>(grades.size()),
+          .print =
+              [&target, &grades, move, put](int row) {
+                PutRow(grades[static_cast<std::size_t>(row) - 1], move, put);
+                target.Print();
+              },
+          .head =
+              [&target, move, put] {
+                for (const bool first_line : {true, false}) {
+                  PutHead(first_line, move, put);
+                  target.Print();
+                }
+                target.Print();
+              },
+          .head_lines = 3,
+          .lines = [comment_lines](int) { return 1 + comment_lines; }};
+}
+
+}  // namespace
+
+void PrintAllGrades(ReportPass& pass) {
+  PrintTarget& target = pass.target;
+  StudentHeader(pass, Title(), pass.first == 1);
+  target.Print();
+  const std::vector<int> grades = GradesInOrder();
+  PrintSections(pass,
+                {GradesSection(target, grades), TypeTotalsSection(target, TypeTotalRows()),
+                 StudentTailSection(pass)},
+                true);
+}
+
+void WriteAllGrades(TextReport& text) {
+  text.Row(kTextRule, '=');
+  text.Line(Title());
+  text.End();
+  const auto move = [&](double, int column) { text.Tab(column); };
+  const auto put = [&](std::string_view part) { text.Put(part); };
+  for (const bool first_line : {true, false}) {
+    PutHead(first_line, move, put);
+    text.End();
+  }
+  text.Row(kTextRule, '_');
+  for (const int grade : GradesInOrder()) {
+    PutRow(grade, move, put);
+    text.End();
+  }
+  text.Line("   ");
+  WriteTypeTotals(text);
+  WriteStudentTail(text);
+}
+
+}  // namespace tallyroll

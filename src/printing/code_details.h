@@ -1,0 +1,13 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The table behind the students that explains the codes: every grade of the class, then the types.
+#pragma once
+
+#include "printing/report_parts.h"
+#include "printing/sections.h"
+
+namespace tallyroll {
+
+Section CodeDetailsSection(PrintTarget& target);
+void WriteCodeDetails(TextReport& text);
+
+}  // namespace tallyroll

@@ -1,0 +1,87 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// Codes 1 and 11: all grades of all students, with their averages or without.
+#include "base/text.h"
+#include "printing/code_details.h"
+#include "printing/report_choice.h"
+#include "printing/report_writers.h"
+#include "printing/student_rows.h"
+#include "printing/type_totals_table.h"
+#include "store/program_state.h"
+
+namespace tallyroll {
+namespace {
+
+constexpr std::string_view kPlainTitle = " Full Grades Printout";
+constexpr std::string_view kAverageTitle = " Full Grades and Computed Average Printout";
+constexpr int kTitleColumn = 20;
+constexpr int kTextRule = 77;
+
+std::string_view Title() {
+  return ReportWithAverages() ? kAverageTitle : kPlainTitle;
+}
+
+bool EndsWithDetails() {
+  return ReportWithAverages() || Choice.printcode;
+}
+
+void PrintStudent(ReportPass& pass) {
+  PrintTarget& target = pass.target;
+  Job.BlockLines = ReportWithAverages() ? 4 : 1;
+  PrintStudentRows(pass);
+  if (Choice.attendance1) PrintAttendanceRows(target);
+  if (Choice.comment1) WrapComments(target);
+  target.Print();
+  if (ReportWithAverages()) PrintAverages(target);
+  Rule(target);
+  target.Print();
+}
+
+void WriteStudent(TextReport& text) {
+  WriteStudentRows(text);
+  if (Choice.attendance1) WriteAttendanceRows(text);
+  if (Choice.comment1) WriteComments(text);
+  if (ReportWithAverages()) WriteAverages(text);
+  text.End();
+  text.Row(kTextRule, '_');
+}
+
+}  // namespace
+
+void PrintFullGrades(ReportPass& pass) {
+  PrintTarget& target = pass.target;
+  PageHeader(pass, Title());
+  Job.BlockLines = 2;
+  std::vector<Section> sections = {{.rows = Current().NumStudents,
+                                    .print =
+                                        [&](int row) {
+                                          CurrentStudent = static_cast<i16>(row);
+                                          PrintStudent(pass);
+                                        },
+                                    .fit =
+                                        [](ReportPass& at, int row) {
+                                          CurrentStudent = static_cast<i16>(row);
+                                          FitBlock(at);
+                                        }}};
+  if (EndsWithDetails()) {
+    sections.push_back(CodeDetailsSection(target));
+    sections.push_back(TypeTotalsSection(target, TypeTotalRows()));
+  }
+  PrintSections(pass, sections);
+}
+
+void WriteFullGrades(TextReport& text) {
+  text.Tab(kTitleColumn);
+  text.Line(Title());
+  text.End();
+  for (CurrentStudent = 1; CurrentStudent <= Current().NumStudents; ++CurrentStudent) {
+    if (Cancelled()) return;
+    WriteStudent(text);
+  }
+  if (!EndsWithDetails()) return;
+  text.End();
+  WriteCodeDetails(text);
+  text.End();
+  WriteTypeTotals(text);
+}
+
+}  // namespace tallyroll

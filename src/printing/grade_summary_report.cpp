@@ -1,0 +1,35 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// Codes 17 and 18: one student's grades summed by type, with the average or without.
+#include <string>
+
+#include "printing/report_writers.h"
+#include "printing/student_tail.h"
+#include "printing/type_totals_table.h"
+
+namespace tallyroll {
+namespace {
+
+constexpr std::string_view kAverageTitle = " Summary of Grades/Average for ";
+constexpr std::string_view kPlainTitle = " Summary of Grades for ";
+
+std::string Title() {
+  return std::string(ReportWithAverages() ? kAverageTitle : kPlainTitle) + StudentLabel();
+}
+
+}  // namespace
+
+void PrintGradeSummary(ReportPass& pass) {
+  StudentHeader(pass, Title(), pass.first == 1);
+  PrintSections(pass, {TypeTotalsSection(pass.target, TypeTotalRows()), StudentTailSection(pass)},
+                true);
+}
+
+void WriteGradeSummary(TextReport& text) {
+  text.Row(80, '=');
+  text.Line(Title());
+  text.End();
+  WriteTypeTotals(text);
+  WriteStudentTail(text);
+}
+
+}  // namespace tallyroll

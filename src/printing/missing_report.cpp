@@ -1,0 +1,202 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// Codes 2 and 14: which grades are missing, for the class or for one student.
+#include <array>
+#include <string>
+#include <vector>
+
+#include "base/text.h"
+#include "grades/marks.h"
+#include "printing/report_parts.h"
+#include "printing/report_writers.h"
+#include "printing/sections.h"
+#include "store/program_state.h"
+
+namespace tallyroll {
+namespace {
+
+constexpr std::string_view kClassTitle = " Missing Grades for Class Printout";
+constexpr std::string_view kStudentTitle = "Missing Grades For ";
+constexpr std::string_view kNoneOnPaper = " is not missing any Grades";
+constexpr std::string_view kNoneInText = "  is not missing any Grades";
+constexpr int kLinesBesideList = 2;    // the name and the heads
+constexpr int kLinesOfFreshPage = 15;  // what a list leaves of a page at least
+constexpr int kTextRule = 77;
+
+struct Column {
+  double units;  // CharUnits on paper
+  int text;      // characters in a text file
+  std::string_view head;
+  std::string (*value)(int grade);
+};
+
+std::string Text(std::string_view text) {
+  return std::string(Trim(text));
+}
+
+constexpr std::array kColumns = {
+    Column{4, 5, "TITLE", [](int i) { return Text(GradeInReport(i).title); }},
+    Column{35, 36, "CODE", [](int i) { return Text(GradeInReport(i).code); }},
+    Column{35 + 2 * 4, 43, "TYPE", [](int i) { return Text(GradeInReport(i).typecode); }},
+    Column{35 + 3 * 4, 50, " DATE", [](int i) { return Text(GradeInReport(i).testdate); }},
+    Column{35 + 5 * 4, 64, "GRADE", [](int i) { return Text(MarkOf(StudentInReport(), i)); }},
+};
+
+std::vector<int> MissingGrades(const Student& student) {
+  std::vector<int> missing;
+  for (int i = 1; i <= GradeCount(Current()); ++i)
+    if (IsMissing(TrimRight(MarkOf(student, i)))) missing.push_back(i);
+  return missing;
+}
+
+template <typename Move, typename Put>
+void PutHead(Move&& move, Put&& put) {
+  for (const Column& column : kColumns) {
+    move(column.units, column.text);
+    put(column.head);
+  }
+}
+
+template <typename Move, typename Put>
+void PutRow(int grade, Move&& move, Put&& put) {
+  for (const Column& column : kColumns) {
+    move(column.units, column.text);
+    put(column.value(grade));
+  }
+}
+
+class PaperList {
+ public:
+  explicit PaperList(PrintTarget& target) : target_(target) {}
+
+  void Head() const {
+    PutHead(Move(), Put());
+    target_.Print();
+    Rule(target_);
+  }
+  void Row(int grade) const {
+    PutRow(grade, Move(), Put());
+    target_.Print();
+  }
+
+ private:
+  auto Move() const {
+    return [this](double units, int) { target_.CurrentX = units * Job.CharUnit; };
+  }
+  auto Put() const {
+    return [this](std::string_view text) { target_.PrintOpen(text); };
+  }
+
+  PrintTarget& target_;
+};
+
+// ---- For the class ----
+
+// A student's list moves whole to the next page where it does not fit; one that no page could hold
+// begins where the pen is and is split.
+struct ClassRow {
+  i16 student = 0;
+  int grade = 0;       // Instruments index
+  bool first = false;  // the name and the heads stand above it
+  bool last = false;   // an empty line stands below it
+  int lines = 1;       // what must fit for the row to stay on its page
+};
+
+bool FitsFreshPage(const PrintTarget& target, int missing) {
+  return target.TextHeight("A") * (missing + kLinesOfFreshPage) <= Job.PageBottom;
+}
+
+std::vector<ClassRow> RowsOfClass(const PrintTarget& target) {
+  std::vector<ClassRow> rows;
+  for (int s = 1; s <= Current().NumStudents; ++s) {
+    const std::vector<int> missing = MissingGrades(Current().Students[static_cast<std::size_t>(s)]);
+    const int count = static_cast<int>(missing.size());
+    const bool whole = FitsFreshPage(target, count);
+    for (const int grade : missing) {
+      const bool first = grade == missing.front();
+      const int lines = first ? kLinesBesideList + (whole ? count : 1) : 1;
+      rows.push_back({static_cast<i16>(s), grade, first, grade == missing.back(), lines});
+    }
+  }
+  return rows;
+}
+
+void PrintClassRow(PrintTarget& target, const ClassRow& row) {
+  CurrentStudent = row.student;
+  const PaperList list(target);
+  if (row.first) {
+    target.Print(StudentLabel());
+    list.Head();
+  }
+  list.Row(row.grade);
+  if (row.last) target.Print();
+}
+
+void WriteList(TextReport& text, const std::vector<int>& missing) {
+  const auto move = [&text](double, int column) { text.Tab(column); };
+  const auto put = [&text](std::string_view part) { text.Put(part); };
+  PutHead(move, put);
+  text.End();
+  text.Row(kTextRule, '_');
+  for (const int grade : missing) {
+    PutRow(grade, move, put);
+    text.End();
+  }
+}
+
+}  // namespace
+
+void PrintMissingForClass(ReportPass& pass) {
+  PageHeader(pass, kClassTitle);
+  const std::vector<ClassRow> rows = RowsOfClass(pass.target);
+  const auto row_at = [&rows](int row) { return rows[static_cast<std::size_t>(row) - 1]; };
+  PrintSections(pass, {{.rows = static_cast<int>(rows.size()),
+                        .print = [&](int row) { PrintClassRow(pass.target, row_at(row)); },
+                        .lines = [&](int row) { return row_at(row).lines; }}});
+}
+
+void WriteMissingForClass(TextReport& text) {
+  text.Line(kClassTitle);
+  text.End();
+  for (CurrentStudent = 1; CurrentStudent <= Current().NumStudents; ++CurrentStudent) {
+    const std::vector<int> missing = MissingGrades(StudentInReport());
+    if (missing.empty()) continue;
+    text.Line(StudentLabel());
+    WriteList(text, missing);
+    text.Line("   ");
+  }
+}
+
+void PrintMissingForStudent(ReportPass& pass) {
+  StudentHeader(pass, std::string(kStudentTitle) + StudentLabel(), pass.first == 1);
+  const std::vector<int> missing = MissingGrades(StudentInReport());
+  PrintTarget& target = pass.target;
+  const PaperList list(target);
+  if (missing.empty()) {
+    PrintSections(
+        pass,
+        {{.rows = 1,
+          .print = [&](int) { target.Print(StudentLabel() + std::string(kNoneOnPaper)); }}},
+        true);
+    return;
+  }
+  PrintSections(pass,
+                {{.rows = static_cast<int>(missing.size()),
+                  .print = [&](int row) { list.Row(missing[static_cast<std::size_t>(row) - 1]); },
+                  .head = [&] { list.Head(); },
+                  .head_lines = 1}},
+                true);
+}
+
+void WriteMissingForStudent(TextReport& text) {
+  text.Row(80, '=');
+  text.Line(std::string(kStudentTitle) + StudentLabel());
+  text.End();
+  const std::vector<int> missing = MissingGrades(StudentInReport());
+  if (missing.empty())
+    text.Line(StudentLabel() + std::string(kNoneInText));
+  else
+    WriteList(text, missing);
+  text.Line("   ");
+}
+
+}  // namespace tallyroll

@@ -1,0 +1,112 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// Code 10: one grade of all students, ranked or in the order of the class.
+#include <algorithm>
+#include <string>
+#include <vector>
+
+#include "base/text.h"
+#include "grades/marks.h"
+#include "printing/report_choice.h"
+#include "printing/report_parts.h"
+#include "printing/report_writers.h"
+#include "printing/sections.h"
+#include "store/program_state.h"
+#include "store/student_names.h"
+
+namespace tallyroll {
+namespace {
+
+constexpr int kTextRule = 80;
+
+struct OneGradeRow {
+  std::string label;  // name or ID
+  std::string id;     // beside the name, when both are shown
+  std::string mark;
+  Currency value;
+  bool counts = true;  // marks that are left out stand behind all others, whatever the order
+};
+
+OneGradeRow RowOf(const Student& student) {
+  const std::string_view mark = Trim(MarkOf(student, Choice.grade));
+  const std::string id(Trim(student.id));
+  return {Choice.shown == Shown::kId ? id : PlainName(student),
+          Choice.shown == Shown::kNameAndId ? id : std::string(), std::string(mark),
+          GradeValue(mark), KindOfMark(mark) != MarkKind::kLeftOut};
+}
+
+std::vector<OneGradeRow> RowsInOrder() {
+  std::vector<OneGradeRow> rows;
+  for (int i = 1; i <= Current().NumStudents; ++i)
+    rows.push_back(RowOf(Current().Students[static_cast<std::size_t>(i)]));
+  if (Choice.rank == Rank::kNone) return rows;
+  const bool falling = Choice.rank == Rank::kHighToLow;
+  std::stable_sort(rows.begin(), rows.end(), [falling](const OneGradeRow& a, const OneGradeRow& b) {
+    if (a.counts != b.counts) return a.counts;
+    return falling ? b.value < a.value : a.value < b.value;
+  });
+  return rows;
+}
+
+std::string Title() {
+  return " " + std::string(Trim(GradeInReport(Choice.grade).title));
+}
+
+template <typename Move, typename Put>
+void PutRow(std::string_view label, std::string_view id, std::string_view mark, Move&& move,
+            Put&& put) {
+  const bool both = Choice.shown == Shown::kNameAndId;
+  move(4.0, 5);
+  put(label);
+  if (both) {
+    move(30.0, 40);
+    put(id);
+  }
+  move(both ? 45.0 : 35.0, both ? 60 : 45);
+  put(mark);
+}
+
+std::string_view LabelHead() {
+  return Choice.shown == Shown::kId ? "ID" : "NAME";
+}
+
+}  // namespace
+
+void PrintOneGrade(ReportPass& pass) {
+  PrintTarget& target = pass.target;
+  PageHeader(pass, Title());
+  const std::vector<OneGradeRow> rows = RowsInOrder();
+  const auto move = [&](double units, int) { target.CurrentX = units * Job.CharUnit; };
+  const auto put = [&](std::string_view text) { target.PrintOpen(text); };
+  PrintSections(pass, {{.rows = static_cast<int>(rows.size()),
+                        .print =
+                            [&](int row) {
+                              const OneGradeRow& r = rows[static_cast<std::size_t>(row) - 1];
+                              PutRow(r.label, r.id, r.mark, move, put);
+                              target.Print();
+                              Rule(target);
+                            },
+                        .head =
+                            [&] {
+                              PutRow(LabelHead(), "ID", "GRADE", move, put);
+                              target.Print();
+                              Rule(target);
+                            },
+                        .head_lines = 1}});
+}
+
+void WriteOneGrade(TextReport& text) {
+  const auto move = [&](double, int column) { text.Tab(column); };
+  const auto put = [&](std::string_view part) { text.Put(part); };
+  text.Line(Title());
+  text.End();
+  PutRow(LabelHead(), "ID", "GRADE", move, put);
+  text.End();
+  text.Row(kTextRule, '_');
+  for (const OneGradeRow& row : RowsInOrder()) {
+    PutRow(row.label, row.id, row.mark, move, put);
+    text.End();
+    text.Row(kTextRule, '_');
+  }
+}
+
+}  // namespace tallyroll

@@ -1,0 +1,169 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "printing/report_parts.h"
+
+#include <algorithm>
+#include <functional>
+
+#include "averages/average_lines.h"
+#include "base/number_text.h"
+#include "base/text.h"
+#include "printing/report_choice.h"
+#include "store/program_state.h"
+
+namespace tallyroll {
+namespace {
+
+constexpr double kSummaryLeft = 25;    // in CharUnits
+constexpr double kSummaryColumn = 7;   // in CharUnits
+constexpr int kTextSummaryLeft = 26;   // in characters
+constexpr int kTextSummaryColumn = 7;  // in characters
+constexpr int kTextWidth = 80;
+constexpr std::string_view kSummaryLabel = "Att. Summary";
+constexpr std::string_view kCellLabel = "(Total Abs/Late)";
+
+std::string_view Item(const List<std::string>& list, int i) {
+  const auto index = static_cast<std::size_t>(i);
+  return index < list.size() ? std::string_view(list[index]) : std::string_view();
+}
+
+double NumberAt(std::string_view detail, int place) {
+  for (; place > 1; --place) {
+    const std::size_t slash = detail.find('/');
+    if (slash == std::string_view::npos) return 0;
+    detail.remove_prefix(slash + 1);
+  }
+  return LeadingNumber(detail);
+}
+
+// Cells of `column` units side by side behind `left` units, as many as fit.
+int CellsInRow(double width, double left, double column) {
+  return std::max(static_cast<int>((width - left) / column), 1);
+}
+
+void PrintCells(PrintTarget& target, std::string_view label, int first, int last,
+                const std::function<std::string(int)>& cell) {
+  target.PrintOpen(label);
+  for (int i = first; i <= last; ++i) {
+    target.CurrentX = (kSummaryLeft + kSummaryColumn * (i - first)) * Job.CharUnit;
+    target.PrintOpen(cell(i));
+  }
+  target.Print();
+}
+
+void WriteCells(TextReport& text, std::string_view label, int first, int last,
+                const std::function<std::string(int)>& cell) {
+  text.Put(label);
+  for (int i = first; i <= last; ++i) {
+    text.Tab(kTextSummaryLeft + kTextSummaryColumn * (i - first));
+    text.Put(cell(i));
+  }
+  text.End();
+}
+
+std::string SummaryCode(int i) {
+  return std::string(Trim(Current().Summaries[static_cast<std::size_t>(i)].code));
+}
+
+std::string SummaryCell(int i) {
+  return AttendanceCell(StudentInReport(), i);
+}
+
+void CheckAverage(const AverageError& error) {
+  if (error) throw ReportEnds{AverageErrorText(error)};
+}
+
+}  // namespace
+
+const Student& StudentInReport() {
+  return Current().Students[static_cast<std::size_t>(CurrentStudent)];
+}
+
+const Instrument& GradeInReport(int i) {
+  return Current().Instruments[static_cast<std::size_t>(i)];
+}
+
+bool PointMethod() {
+  return Current().Method == 2 || Current().Method == 3;
+}
+
+bool WeighsTypes() {
+  return Current().Method == 1 || Current().Method == 3;
+}
+
+bool ReportWithAverages() {
+  return Job.ReportCode == 11 || Job.ReportCode == 12 || Job.ReportCode == 18;
+}
+
+std::string WeightOrUse(int grade) {
+  const auto i = static_cast<std::size_t>(grade);
+  const Class& c = Current();
+  if (!PointMethod())
+    return i < c.Weights.size() ? PlainNumberText(c.Weights[i]) : std::string("0");
+  return i < c.InstrumentUse.size() && c.InstrumentUse[i] == Currency::FromWhole(2) ? "N" : "Y";
+}
+
+std::string AttendanceCell(const Student& student, int summary) {
+  const auto i = static_cast<std::size_t>(summary);
+  const double absent =
+      i < student.SummaryAbsent.size() ? LeadingNumber(student.SummaryAbsent[i].view()) : 0;
+  const std::string_view detail = Item(student.SummaryDetail, summary);
+  const double total = absent + NumberAt(detail, 1) + NumberAt(detail, 3) + NumberAt(detail, 4);
+  return PlainNumberText(total < 1 ? absent : total) + "/" +
+         std::string(Trim(Item(student.SummaryLate, summary)));
+}
+
+void PrintAttendanceRows(PrintTarget& target) {
+  const int count = Current().NumSummaries;
+  const int in_row =
+      CellsInRow(Job.PageTextWidth / std::max(Job.CharUnit, 1.0), kSummaryLeft, kSummaryColumn);
+  for (int first = 1; first <= count; first += in_row) {
+    const int last = std::min(first + in_row - 1, count);
+    PrintCells(target, kSummaryLabel, first, last, SummaryCode);
+    PrintCells(target, kCellLabel, first, last, SummaryCell);
+    Job.BlockLines += 2;
+  }
+}
+
+void WriteAttendanceRows(TextReport& text) {
+  const int count = Current().NumSummaries;
+  const int in_row = CellsInRow(kTextWidth, kTextSummaryLeft - 1, kTextSummaryColumn);
+  for (int first = 1; first <= count; first += in_row) {
+    const int last = std::min(first + in_row - 1, count);
+    WriteCells(text, kSummaryLabel, first, last, SummaryCode);
+    WriteCells(text, kCellLabel, first, last, SummaryCell);
+  }
+}
+
+void PrintAverages(PrintTarget& target) {
+  TypeTotals totals;
+  CheckAverage(PrintAverageAndCompute([&](std::string_view line) { target.Print(line); }, totals));
+}
+
+void WriteAverages(TextReport& text) {
+  text.End();
+  TypeTotals totals;
+  CheckAverage(PrintAverageAndCompute([&](std::string_view line) { text.Line(line); }, totals));
+}
+
+void PrintParentSignature(PrintTarget& target, double x) {
+  for (int i = 0; i < 3; ++i) target.Print();
+  Rule(target);
+  target.Print();
+  target.CurrentX = x;
+  target.Print("Parent's Signature");
+}
+
+void WriteParentSignature(TextReport& text) {
+  text.End();
+  text.End();
+  text.Row(48, '_');
+  text.End();
+  text.Line("           Parent's Signature");
+  text.End();
+}
+
+void WriteComments(TextReport& text) {
+  text.Paragraph("Comments: " + std::string(Trim(StudentInReport().comments)));
+}
+
+}  // namespace tallyroll

@@ -1,0 +1,43 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// What several reports print about the student in work, on paper and as text.
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "printing/page_frame.h"
+#include "printing/text_report.h"
+
+namespace tallyroll {
+
+const Student& StudentInReport();  // CurrentStudent's record
+const Instrument& GradeInReport(int i);
+
+// How an average is made decides columns of several tables.
+bool PointMethod();         // by points, 2 and 3
+bool WeighsTypes();         // by types, 1 and 3
+bool ReportWithAverages();  // codes 11, 12 and 18
+
+// "Y" or "N" under the point methods, otherwise the grade's weight in force.
+std::string WeightOrUse(int grade);
+
+// A period's total of absences, cuts not counted twice, "/" and its lates.
+std::string AttendanceCell(const Student& student, int summary);
+
+// The summary periods in rows as wide as the page: a line of codes and a line of cells. Each row
+// adds 2 to BlockLines.
+void PrintAttendanceRows(PrintTarget& target);
+void WriteAttendanceRows(TextReport& text);
+
+// The two lines of an average. One that cannot be computed ends the report with the reason.
+void PrintAverages(PrintTarget& target);
+void WriteAverages(TextReport& text);
+
+void PrintParentSignature(PrintTarget& target, double x);
+void WriteParentSignature(TextReport& text);
+
+// "Comments: " and the comment.
+void WriteComments(TextReport& text);
+
+}  // namespace tallyroll

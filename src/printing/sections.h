@@ -1,0 +1,29 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// A report on paper as sections of rows. Its rows are numbered through, as the page table counts
+// them, so any page can be drawn by itself.
+#pragma once
+
+#include <functional>
+#include <vector>
+
+#include "printing/page_frame.h"
+
+namespace tallyroll {
+
+struct Section {
+  int rows = 0;
+  std::function<void(int row)> print;  // rows count from 1 within the section
+  std::function<void()> head = [] {};  // above the first row, and again on each new page
+  int head_lines = 0;
+  std::function<int(int row)> lines = [](int) { return 1; };  // what a row takes
+  // Decides in the layout pass instead of the lines whether a row begins a new page, and breaks it.
+  std::function<void(ReportPass& pass, int row)> fit = nullptr;
+};
+
+int RowCount(const std::vector<Section>& sections);
+
+// Prints the rows of the pass with their heads, and the foot of the last page. In the layout pass
+// these are all rows, and pages are broken between them. `restart` is that of PageFooter.
+void PrintSections(ReportPass& pass, const std::vector<Section>& sections, bool restart = false);
+
+}  // namespace tallyroll

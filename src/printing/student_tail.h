@@ -1,0 +1,17 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// What closes a report on the grades of one student: attendance, comment, average, signature.
+#pragma once
+
+#include "printing/report_parts.h"
+#include "printing/sections.h"
+
+namespace tallyroll {
+
+// How many lines are kept free for the comment below each row of the report.
+int LinesOfComment(const PrintTarget& target);
+
+// One row of the report, so that it stays together.
+Section StudentTailSection(ReportPass& pass);
+void WriteStudentTail(TextReport& text);
+
+}  // namespace tallyroll

@@ -1,0 +1,30 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The table of grade types in the grade reports: a row for each type that the class uses.
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "printing/report_parts.h"
+#include "printing/sections.h"
+
+namespace tallyroll {
+
+struct TypeTotalRow {
+  std::string name, code;
+  int number = 0;       // grades counted
+  std::string total;    // the student's sum; empty in reports on the class
+  std::string maximum;  // the sum of the maximum scores
+  std::string average;  // percent, two decimals; empty where nothing was counted
+  std::string weight;   // in percent
+};
+
+// In reports on one student the figures are his: by the average's own count in reports with
+// averages, otherwise of all his marks. In reports on the class they are those of all grades.
+std::vector<TypeTotalRow> TypeTotalRows();
+
+// The table as a section of a report on paper.
+Section TypeTotalsSection(PrintTarget& target, std::vector<TypeTotalRow> rows);
+void WriteTypeTotals(TextReport& text);
+
+}  // namespace tallyroll
