@@ -65,6 +65,19 @@ class GradePortalTest : public PortalTest {
     return grade;
   }
 
+  static void DropGrades() {
+    Class& c = Current();
+    c.NumInstruments = 0;
+    ReDim(c.Instruments, 0);
+    ReDim(c.Weights, 0);
+    ReDim(c.InstrumentUse, 0);
+    for (Student& student : c.Students) ReDim(student.Marks, 0);
+  }
+  static void DropStudents() {
+    Current().NumStudents = 0;
+    ReDim(Current().Students, 0);
+  }
+
   static std::string Mark(int student, int grade) {
     return Current()
         .Students.at(static_cast<std::size_t>(student))
@@ -96,6 +109,16 @@ class GradePortalTest : public PortalTest {
     EXPECT_EQ(Current().Method, 5);
     EXPECT_EQ(Current().AverageSettings, "");
     EXPECT_EQ(window.disabled, (std::set<std::string>{"mnuoptions", "mnuprtgrade"}));
+  }
+
+  // How the last box looked, its text aside.
+  void ExpectLastBox(std::string_view title, BoxIcon icon, BoxButtons buttons = BoxButtons::kOk,
+                     bool second_is_default = false) {
+    const MessageRequest& box = screen.boxes.at(screen.boxes.size() - 1);
+    EXPECT_EQ(box.title, title) << box.text;
+    EXPECT_EQ(box.icon, icon) << box.text;
+    EXPECT_EQ(box.buttons, buttons) << box.text;
+    EXPECT_EQ(box.second_is_default, second_is_default) << box.text;
   }
 
   void Open(Portal& portal) {
