@@ -50,7 +50,10 @@ struct frmMarks : GradeForm {
   void AddGrade(i16 maximum_score);
   bool MayReplaceTitle();
   void ShowHeader(const GradeHeaderText& header);
+  void ChooseTypeOf(std::string_view typecode);
   void GoToMarks();
+
+  bool grade_waits_ = false;  // the clipboard held a grade when the Portal began
 };
 
 }  // namespace tallyroll

@@ -59,7 +59,7 @@ TEST_F(FrmMarksTest, PasteAsksBeforeItReplacesATitle) {
   screen.ExpectBox("There is already a Title - Replace with Clip Board", BoxAnswer::kNo);
   driver->Press("paste");
   EXPECT_EQ(driver->Text("title"), "Lakes");
-  EXPECT_EQ(screen.boxes.at(0).title, "Note to The Teacher");
+  ExpectLastBox("Note to The Teacher", BoxIcon::kQuestion, BoxButtons::kYesNo);
   screen.ExpectBox("There is already a Title - Replace with Clip Board", BoxAnswer::kYes);
   driver->Press("paste");
   EXPECT_EQ(driver->Text("title"), "Rivers");
@@ -69,11 +69,9 @@ TEST_F(FrmMarksTest, PasteOfSomethingElseIsRefused) {
   screen.clipboard = "7z\r";
   OpenMarks();
   screen.clipboard = "3z\rLi\r";
-  screen.ExpectBox(
-      "There are no appropriate fields to be found on the clipboard. The data on the clipboard may "
-      "not be the right type for inserting in the current module.  You need to go back to a "
-      "compatible module, then copy the information to the clipboard and try again.");
+  ExpectOtherClipboardTold();
   driver->Press("paste");
+  ExpectLastBox("Note to the Teacher", BoxIcon::kNone);
   EXPECT_EQ(driver->Text("title"), "");
 }
 
@@ -90,6 +88,7 @@ TEST_F(FrmMarksTest, PasteOfATornHeaderIsRefused) {
   OpenMarks();
   screen.ExpectBox("Can not read from Clipboard.");
   driver->Press("paste");
+  ExpectLastBox("Note to the Teacher", BoxIcon::kNone);
   EXPECT_EQ(driver->Text("title"), "");
 }
 
@@ -155,6 +154,7 @@ TEST_F(FrmMarksTest, AGradeWithLinesMissingIsRefused) {
   OpenMarks();
   screen.ExpectBox("Can not read from Clipboard.");
   driver->Press("pastegrade");
+  ExpectLastBox("Note to the Teacher", BoxIcon::kNone);
   EXPECT_EQ(Cell(1), "");
 }
 
@@ -162,12 +162,61 @@ TEST_F(FrmMarksTest, AGradePastedFromAHeaderIsRefused) {
   screen.clipboard = "8z\r";
   OpenMarks();
   screen.clipboard = "7z\rRivers\r";
-  screen.ExpectBox(
-      "There are no appropriate fields to be found on the clipboard. The data on the clipboard may "
-      "not be the right type for inserting in the current module.  You need to go back to a "
-      "compatible module, then copy the information to the clipboard and try again.");
+  ExpectOtherClipboardTold();
   driver->Press("pastegrade");
+  ExpectLastBox("Note to the Teacher", BoxIcon::kNone);
   EXPECT_EQ(driver->Text("title"), "");
+}
+
+TEST_F(FrmMarksTest, AGradeAsksForTheTitleBeforeItLooksAtTheClipboard) {
+  screen.clipboard = "8z\r";
+  OpenMarks();
+  driver->Type("title", "Lakes");
+  screen.clipboard = "7z\rRivers\r";
+  screen.ExpectBox("There is already a Title - Replace with Clip Board", BoxAnswer::kNo);
+  driver->Press("pastegrade");
+  ExpectLastBox("Note to The Teacher", BoxIcon::kQuestion, BoxButtons::kYesNo);
+  screen.ExpectBox("There is already a Title - Replace with Clip Board", BoxAnswer::kYes);
+  ExpectOtherClipboardTold();
+  driver->Press("pastegrade");
+  EXPECT_EQ(driver->Text("title"), "Lakes");
+}
+
+TEST_F(FrmMarksTest, AGradeFromAnEmptyClipboardIsRefused) {
+  screen.clipboard = "8z\r";
+  OpenMarks();
+  screen.clipboard = "";
+  ExpectOtherClipboardTold();
+  driver->Press("pastegrade");
+  EXPECT_FALSE(portal.DataEntered);
+  EXPECT_EQ(Cell(1), "");
+}
+
+TEST_F(FrmMarksTest, PasteOfATypeThatIsNoneHereKeepsTheChoice) {
+  screen.clipboard = "7z\rRivers\rRIV\r50\r30\r9/10/2026\rY\rZZ    -  Zithers\r";
+  OpenMarks();
+  ChooseType(6);
+  driver->Press("paste");
+  EXPECT_EQ(driver->Text("title"), "Rivers");
+  EXPECT_EQ(driver->Text("ttypelist"), "HW  - Homework");
+  EXPECT_EQ(portal.ttypelist.ListIndex, 5);
+}
+
+TEST_F(FrmMarksTest, AGradeOfATypeThatIsNoneHereKeepsTheChoice) {
+  screen.clipboard = "8z\rRivers\rRIV\r50\r30\r9/10/2026\rN\rZZ\r0\r";
+  OpenMarks();
+  ChooseType(6);
+  driver->Press("pastegrade");
+  EXPECT_EQ(driver->Text("title"), "Rivers");
+  EXPECT_EQ(driver->Text("ttypelist"), "HW  - Homework");
+  EXPECT_EQ(portal.ttypelist.ListIndex, 5);
+}
+
+TEST_F(FrmMarksTest, AGradeWithoutATypeTakesTheNoTypeEntry) {
+  screen.clipboard = "8z\rRivers\rRIV\r50\r30\r9/10/2026\rN\r\r0\r";
+  OpenMarks();
+  driver->Press("pastegrade");
+  EXPECT_EQ(portal.ttypelist.ListIndex, 25);
 }
 
 }  // namespace

@@ -126,5 +126,20 @@ TEST_F(FrmMarksTest, ATitleIsNoLongerThanAFileHolds) {
   EXPECT_EQ(portal.lowpass.MaxLength, 65535);
 }
 
+TEST_F(FrmMarksTest, AMaximumScoreBelow16BitsIsRefused) {
+  OpenMarks();
+  TypeHeader();
+  driver->Type("mvalue", "-40000");
+  TypeMarks();
+  screen.ExpectBox("The value for Maximum Score must not be less than -32768");
+  driver->Press("exit");
+  EXPECT_FALSE(portal.Unloaded());
+  ExpectLastBox("Note to the Teacher", BoxIcon::kNone);
+  EXPECT_EQ(driver->Focused(), "mvalue");
+  driver->Type("mvalue", "-32768");
+  driver->Press("exit");
+  EXPECT_EQ(Grade(1).mvalue, -32768);
+}
+
 }  // namespace
 }  // namespace tallyroll

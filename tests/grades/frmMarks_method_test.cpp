@@ -44,5 +44,12 @@ TEST_F(FrmMarksTest, WithoutAMethodTheSettingsAreEmptied) {
   ExpectMethodForgotten();
 }
 
+TEST_F(FrmMarksTest, ATypeNewToTheClassForgetsMethod3Too) {
+  Give("Essay", "E", "E", {"1", "2", "3"});
+  UseMethod(3);
+  AddQuiz();
+  ExpectMethodForgotten();
+}
+
 }  // namespace
 }  // namespace tallyroll

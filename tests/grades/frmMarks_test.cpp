@@ -120,7 +120,7 @@ TEST_F(FrmMarksTest, ExitAddsTheGrade) {
   EXPECT_EQ(Mark(2, 1), "82");
   EXPECT_EQ(Mark(3, 1), "83");
   EXPECT_EQ(Current().Changed, kTrue);
-  EXPECT_GE(window.refills, 1);
+  EXPECT_EQ(window.refills, 2);  // as it exits, and with the new grade
 }
 
 TEST_F(FrmMarksTest, ANewGradeStandsBehindTheOthers) {
@@ -134,8 +134,7 @@ TEST_F(FrmMarksTest, ANewGradeStandsBehindTheOthers) {
 }
 
 TEST_F(FrmMarksTest, AClassWithoutStudentsTakesAGradeToo) {
-  Current().NumStudents = 0;
-  ReDim(Current().Students, 0);
+  DropStudents();
   OpenMarks();
   TypeHeader();
   driver->Press("exit");
@@ -151,6 +150,8 @@ TEST_F(FrmMarksTest, AnotherAddsAndStartsOver) {
   driver->Press("another");
   EXPECT_FALSE(portal.Unloaded());
   EXPECT_EQ(Current().NumInstruments, 1);
+  EXPECT_EQ(Current().Changed, kTrue);
+  EXPECT_EQ(window.refills, 1);
   EXPECT_EQ(driver->Text("title"), "");
   EXPECT_EQ(driver->Text("code"), "");
   EXPECT_EQ(driver->Text("mvalue"), "100");
@@ -206,14 +207,23 @@ TEST_F(FrmMarksTest, AFillWithAValueTakesItsFirstFiveCharacters) {
 }
 
 TEST_F(FrmMarksTest, WhileTheFillIsOpenTheRestWaits) {
+  const char* const controls[] = {"headerframe", "specialframe", "clipframe", "Grid1",     "fill",
+                                  "another",     "exit",         "cancel",    "pastegrade"};
+  screen.clipboard = "8z\r";
   OpenMarks();
   driver->Press("fill");
-  for (const char* control : {"headerframe", "specialframe", "clipframe", "Grid1", "exit"})
-    EXPECT_FALSE(driver->Enabled(control)) << control;
+  for (const char* control : controls) EXPECT_FALSE(driver->Enabled(control)) << control;
   driver->Press("Command6");
-  for (const char* control : {"headerframe", "specialframe", "clipframe", "Grid1", "exit"})
-    EXPECT_TRUE(driver->Enabled(control)) << control;
+  for (const char* control : controls) EXPECT_TRUE(driver->Enabled(control)) << control;
   EXPECT_EQ(Cell(1), "");
+}
+
+TEST_F(FrmMarksTest, AFillThatIsOverDoesNotOfferAGradeThatIsNotThere) {
+  OpenMarks();
+  driver->Press("fill");
+  EXPECT_FALSE(driver->Enabled("pastegrade"));
+  driver->Press("Command5");
+  EXPECT_FALSE(driver->Enabled("pastegrade"));
 }
 
 TEST_F(FrmMarksTest, EscapeInTheFillLeavesTheFillAlone) {
@@ -258,6 +268,73 @@ TEST_F(FrmMarksTest, CancelAfterAFillAloneCloses) {
   driver->Press("cancel");
   EXPECT_TRUE(portal.Unloaded());
   EXPECT_EQ(Current().NumInstruments, 0);
+}
+
+TEST_F(FrmMarksTest, AnotherForgetsTheRowLastActive) {
+  OpenMarks();
+  TypeHeader();
+  TypeMarks();
+  driver->Press("another");
+  TypeHeader();
+  screen.ExpectBox(kReminder);
+  driver->Press("another");
+  EXPECT_EQ(driver->Focused(), "Grid1");
+  EXPECT_EQ(portal.Grid1.Row, 1);
+}
+
+TEST_F(FrmMarksTest, ABlankMarkIsAnEntryOfWhichExitReminds) {
+  OpenMarks();
+  TypeMark(2, " ");
+  screen.ExpectBox(kReminder);
+  driver->Press("exit");
+  EXPECT_FALSE(portal.Unloaded());
+  EXPECT_EQ(Current().NumInstruments, 0);
+}
+
+TEST_F(FrmMarksTest, ABlankInTitleOrCodeIsAnEntryOfWhichExitReminds) {
+  for (const char* box : {"title", "code"}) {
+    frmMarks other;
+    other.Load();
+    PortalDriver hand(other);
+    hand.Type(box, " ");
+    screen.ExpectBox(kReminder);
+    hand.Press("exit");
+    EXPECT_FALSE(other.Unloaded()) << box;
+    EXPECT_EQ(hand.Focused(), "title");
+  }
+}
+
+TEST_F(FrmMarksTest, CancelAfterABlankMarkAsks) {
+  OpenMarks();
+  TypeMark(1, " ");
+  screen.ExpectBox(kDataEntered, BoxAnswer::kYes);
+  driver->Press("cancel");
+  EXPECT_TRUE(portal.Unloaded());
+}
+
+TEST_F(FrmMarksTest, KeysWriteTheSpecialMarks) {
+  const std::pair<Key, const char*> keys[] = {
+      {Key::kF6, "ABS"}, {Key::kF7, "NON"}, {Key::kF8, "CUT"}, {Key::kF9, "EXC"}};
+  OpenMarks();
+  driver->PickCell("Grid1", 2, kMarkColumn);
+  for (const auto& [key, mark] : keys) {
+    driver->PressKey("Grid1", key);
+    EXPECT_EQ(Cell(2), mark);
+  }
+  EXPECT_TRUE(portal.DataEntered);
+}
+
+TEST_F(FrmMarksTest, ButtonsWriteTheSpecialMarks) {
+  const std::pair<const char*, const char*> buttons[] = {
+      {"Command1", "ABS"}, {"Command2", "NON"}, {"Command3", "CUT"}, {"Command4", "EXC"}};
+  OpenMarks();
+  driver->PickCell("Grid1", 2, kMarkColumn);
+  for (const auto& [button, mark] : buttons) {
+    driver->Press(button);
+    EXPECT_EQ(Cell(2), mark);
+    EXPECT_EQ(driver->Focused(), "Grid1");
+  }
+  EXPECT_TRUE(portal.DataEntered);
 }
 
 }  // namespace

@@ -43,6 +43,13 @@ class FrmMarksTest : public GradePortalTest {
     EXPECT_TRUE(portal.Unloaded());
   }
 
+  void ExpectOtherClipboardTold() {
+    screen.ExpectBox(
+        "There are no appropriate fields to be found on the clipboard. The data on the clipboard "
+        "may not be the right type for inserting in the current module.  You need to go back to a "
+        "compatible module, then copy the information to the clipboard and try again.");
+  }
+
   frmMarks portal;
 };
 
