@@ -6,6 +6,7 @@
 
 #include "base/text.h"
 #include "grades/grade_types.h"
+#include "grades/marks.h"
 #include "grades/method_reset.h"
 #include "grades/student_grid.h"
 #include "platform/class_window.h"
@@ -140,8 +141,12 @@ bool frmMarks::NothingEntered() const {
   return EveryMarkEmpty() && title.Text.empty() && code.Text.empty() && mvalue.Text == kUsualScore;
 }
 
-void frmMarks::AddGrade(i16 maximum_score) {
+bool frmMarks::AddGrade(i16 maximum_score) {
   Class& c = Current();
+  if (c.NumInstruments == kMostGrades) {
+    ShowMessage(kNoMoreGrades, BoxIcon::kCritical);
+    return false;
+  }
   Instrument grade;
   grade.title = title.Text;
   grade.code = code.Text;
@@ -166,14 +171,14 @@ void frmMarks::AddGrade(i16 maximum_score) {
   DataEntered = false;
   ClassWindow().showform3();
   GradeAdded(type_in_use);
+  return true;
 }
 
 void frmMarks::another_Click() {
   if (RequiredEmpty()) return Remind();
   const auto score = CheckMaximumScore(kNoteToTheTeacher);
   if (!score) return;
-  AddGrade(*score);
-  StartOver();
+  if (AddGrade(*score)) StartOver();
 }
 
 void frmMarks::exit_Click() {
@@ -182,8 +187,7 @@ void frmMarks::exit_Click() {
   const auto score = CheckMaximumScore(kNoteToTheTeacher);
   if (!score) return;
   if (RequiredEmpty()) return Remind();
-  AddGrade(*score);
-  Unload();
+  if (AddGrade(*score)) Unload();
 }
 
 void frmMarks::cancel_Click() {
