@@ -166,10 +166,7 @@ void AddAveragesCommand(CLI::App& app, ChosenCommand& chosen) {
   command->add_option("FILE", options->file, "the class file")->required();
   CLI::Option* csv = command->add_flag("--csv", options->csv, "as comma-separated values");
   command->add_flag("--json", options->json, "as JSON, with the totals by type")->excludes(csv);
-  command
-      ->add_option("--name-mode", options->name_mode,
-                   "by name: 68 with the ID, 57 without; by ID: 82 with the name, 73 without")
-      ->check(CLI::IsMember({68, 57, 82, 73}));
+  AddNameMode(*command, options->name_mode);
   AddOpenOptions(*command, options->opening);
   command->callback(
       [&chosen, options] { chosen = [options](std::istream&) { return Averages(*options); }; });

@@ -11,6 +11,7 @@
 #include "store/class_defaults.h"
 #include "store/class_format.h"
 #include "store/program_state.h"
+#include "tests/support/enrol_student.h"
 #include "tests/support/noting_window.h"
 #include "tests/support/portal_test.h"
 
@@ -30,14 +31,8 @@ class GradePortalTest : public PortalTest {
 
   static Student& Enrol(const std::string& lastname, const std::string& firstname,
                         const std::string& id) {
-    Class& c = Current();
-    ++c.NumStudents;
-    ReDimPreserve(c.Students, c.NumStudents);
-    Student& student = c.Students.back();
-    student.lastname = lastname;
-    student.firstname = firstname;
-    student.id = id;
-    ReDim(student.Marks, c.NumInstruments, ShortText("NEW"));
+    Student& student = EnrolStudent(lastname, firstname, id);
+    ReDim(student.Marks, Current().NumInstruments, ShortText("NEW"));
     return student;
   }
 
