@@ -61,6 +61,7 @@ class BareDialog : public QDialog {
 void ShowAndPaint(QDialog& dialog, QAbstractScrollArea& area) {
   dialog.resize(kSize);
   dialog.show();
+  QApplication::processEvents();  // a window is painted once the screen has shown it
   area.viewport()->repaint();
 }
 
