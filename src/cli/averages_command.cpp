@@ -22,33 +22,8 @@ struct AveragesOptions {
   OpenOptions opening;
 };
 
-// One student's figures.
-struct Outcome {
-  Currency computed;  // before rounding
-  Currency exact;     // after it
-  FinalGrade grade;
-  Points points;
-  TypeTotals totals;
-};
-
 bool HasPoints() {
   return Current().Method == 2 || Current().Method == 3;
-}
-
-AverageError Compute(Outcome& outcome) {
-  AverageError error;
-  if (Current().Method == 2) {
-    error = AverageByPoints(outcome.points, outcome.totals);
-  } else if (Current().Method == 3) {
-    error = AverageByPointsAndTypes(outcome.points, outcome.totals);
-  } else {
-    error = ComputeAverage(outcome.totals);
-  }
-  if (error) return error;
-  outcome.computed = ExactAverage;
-  error = RoundedGrade(outcome.grade);
-  outcome.exact = ExactAverage;
-  return error;
 }
 
 // Hands each student and his figures on. Answers why there are none, if one cannot be computed.
@@ -57,8 +32,8 @@ std::string ForEachOutcome(Visitor&& visit) {
   const Class& c = Current();
   for (int i = 1; i <= c.NumStudents; ++i) {
     CurrentStudent = static_cast<i16>(i);
-    Outcome outcome;
-    if (const AverageError error = Compute(outcome)) return AverageErrorText(error);
+    StudentAverage outcome;
+    if (const AverageError error = AverageStudent(outcome)) return AverageErrorText(error);
     visit(i, c.Students[static_cast<std::size_t>(i)], outcome);
   }
   return {};
@@ -76,13 +51,14 @@ std::string TableText(std::string& text) {
   heading.emplace_back("AVERAGE");
   heading.emplace_back("GRADE");
   Table table = {heading};
-  const std::string reason = ForEachOutcome([&](int i, const Student&, const Outcome& outcome) {
-    std::vector<std::string> row = NameCells(Current(), i);
-    if (HasPoints()) row.push_back(PointsText(outcome.points));
-    row.push_back(PlainNumberText(outcome.exact));
-    row.push_back(outcome.grade.Text());
-    table.push_back(std::move(row));
-  });
+  const std::string reason =
+      ForEachOutcome([&](int i, const Student&, const StudentAverage& outcome) {
+        std::vector<std::string> row = NameCells(Current(), i);
+        if (HasPoints()) row.push_back(PointsText(outcome.points));
+        row.push_back(PlainNumberText(outcome.exact));
+        row.push_back(outcome.grade.Text());
+        table.push_back(std::move(row));
+      });
   text = Utf8FromCodePage(ClassHeading(Current()) + AlignedText(table));
   return reason;
 }
@@ -99,7 +75,7 @@ std::string CsvField(std::string_view text) {
 
 std::string CsvText(std::string& text) {
   text = "id,lastname,firstname,ComputedAverage,ExactAverage,FinalGrade,Marks0,earned,possible\n";
-  return ForEachOutcome([&](int, const Student& student, const Outcome& outcome) {
+  return ForEachOutcome([&](int, const Student& student, const StudentAverage& outcome) {
     const bool points = HasPoints();
     const std::string fields = "," + PlainNumberText(outcome.computed) + "," +
                                PlainNumberText(outcome.exact) + "," +
@@ -136,7 +112,7 @@ std::string Items(const TypeSums& sums) {
   return "[" + text + "]";
 }
 
-void AddJsonObject(const Student& student, const Outcome& outcome, std::string& text) {
+void AddJsonObject(const Student& student, const StudentAverage& outcome, std::string& text) {
   const bool points = HasPoints();
   const char* separator = "  {\n    \"";
   const auto add = [&](const char* name, const std::string& value) {
@@ -161,7 +137,7 @@ void AddJsonObject(const Student& student, const Outcome& outcome, std::string& 
 std::string ArrayText(std::string& text) {
   text = "[";
   const std::string reason =
-      ForEachOutcome([&](int i, const Student& student, const Outcome& outcome) {
+      ForEachOutcome([&](int i, const Student& student, const StudentAverage& outcome) {
         text += i == 1 ? "\n" : ",\n";
         AddJsonObject(student, outcome, text);
       });
@@ -175,9 +151,7 @@ CommandResult Averages(const AveragesOptions& options) {
   NameMode = options.name_mode;
   std::string reason = OpenClassFile(options.file, options.opening);
   if (!reason.empty()) return Refused(options.file, reason);
-  if (Current().Method == 2 && MakeTotalPossible() != 0) {
-    return Refused(options.file, "the grades have more than 32767 points in all");
-  }
+  MakeTotalPossible();
   std::string text;
   reason = options.json ? ArrayText(text) : options.csv ? CsvText(text) : TableText(text);
   return reason.empty() ? Done(text) : Refused(options.file, Utf8FromCodePage(reason));
@@ -192,10 +166,7 @@ void AddAveragesCommand(CLI::App& app, ChosenCommand& chosen) {
   command->add_option("FILE", options->file, "the class file")->required();
   CLI::Option* csv = command->add_flag("--csv", options->csv, "as comma-separated values");
   command->add_flag("--json", options->json, "as JSON, with the totals by type")->excludes(csv);
-  command
-      ->add_option("--name-mode", options->name_mode,
-                   "by name: 68 with the ID, 57 without; by ID: 82 with the name, 73 without")
-      ->check(CLI::IsMember({68, 57, 82, 73}));
+  AddNameMode(*command, options->name_mode);
   AddOpenOptions(*command, options->opening);
   command->callback(
       [&chosen, options] { chosen = [options](std::istream&) { return Averages(*options); }; });

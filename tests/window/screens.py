@@ -88,13 +88,24 @@ def averages(this):
     program.stop()
 
 
+def marks(program):
+    title = "Enter  Grades  Portal"
+    program.keys("ctrl+g")
+    program.window(title)
+    program.keys(*"Essay", "Tab", *"ESS", *["Tab"] * 6)
+    program.keys(*"92", "Down", *"78", "Down", "F6", "Down", *"88")
+    take(program, "frmMarks")
+    program.keys("Escape")
+    program.window("CANCEL")
+    program.keys("alt+y")
+    program.gone(title)
+
+
 def portals(this):
     program = sample_window(this, "sample-light")
     portal(program, ["ctrl+Insert"], "Add Student Portal", "frmAdd")
     portal(program, ["ctrl+e"], "Edit Portal", "frmEdit", ["Down"])
-    portal(program, ["ctrl+g"], "Enter  Grades  Portal", "frmMarks",
-           [*"Essay", "Tab", *"ESS", "alt+l", "Down", "Down", "Down", "Down", "Tab", *"85", "alt+o",
-            *"92", "Down", *"78", "Down", "F6", "Down", *"88"])
+    marks(program)
     portal(program, ["alt+f", "i"], "Class Information Portal", "frmclassinfo")
     program.keys("F1")
     program.window("Tallyroll Help")
