@@ -67,6 +67,7 @@ int RunCommandLine(int argc, const char* const* argv, std::istream& in, std::ost
   AddConvertCommand(app, chosen);
   AddShowCommand(app, chosen);
   AddAveragesCommand(app, chosen);
+  AddReportCommand(app, chosen);
   try {
     app.parse(argc, argv);
   } catch (const CLI::ParseError& error) {

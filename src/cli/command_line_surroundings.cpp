@@ -61,6 +61,7 @@ void CommandLineSurroundings::ShowModal(Portal& portal) {
 }
 
 double CommandLineSurroundings::Now() {
+  if (today) return *today;
   const std::time_t now = std::time(nullptr);
   std::tm local{};
   localtime_r(&now, &local);

@@ -35,6 +35,7 @@ class CommandLineSurroundings : public Surroundings {
   void WriteSetting(std::string_view, std::string_view, std::string_view,
                     std::string_view) override {}
   double Now() override;
+  std::optional<double> today;  // instead of the clock's day
   double Random() override { return 0; }
   DateOrder ShortDateOrder() override { return date_order_; }
   std::string ProfileFolder() override { return {}; }

@@ -42,5 +42,6 @@ void AddCheckCommand(CLI::App& app, ChosenCommand& chosen);
 void AddConvertCommand(CLI::App& app, ChosenCommand& chosen);
 void AddShowCommand(CLI::App& app, ChosenCommand& chosen);
 void AddAveragesCommand(CLI::App& app, ChosenCommand& chosen);
+void AddReportCommand(CLI::App& app, ChosenCommand& chosen);
 
 }  // namespace tallyroll

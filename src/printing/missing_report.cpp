@@ -64,30 +64,19 @@ void PutRow(int grade, Move&& move, Put&& put) {
   }
 }
 
-class PaperList {
- public:
-  explicit PaperList(PrintTarget& target) : target_(target) {}
+void PrintHead(PrintTarget& target) {
+  PutHead([&](double units, int) { target.CurrentX = units * Job.CharUnit; },
+          [&](std::string_view text) { target.PrintOpen(text); });
+  target.Print();
+  Rule(target);
+}
 
-  void Head() const {
-    PutHead(Move(), Put());
-    target_.Print();
-    Rule(target_);
-  }
-  void Row(int grade) const {
-    PutRow(grade, Move(), Put());
-    target_.Print();
-  }
-
- private:
-  auto Move() const {
-    return [this](double units, int) { target_.CurrentX = units * Job.CharUnit; };
-  }
-  auto Put() const {
-    return [this](std::string_view text) { target_.PrintOpen(text); };
-  }
-
-  PrintTarget& target_;
-};
+void PrintRow(PrintTarget& target, int grade) {
+  PutRow(
+      grade, [&](double units, int) { target.CurrentX = units * Job.CharUnit; },
+      [&](std::string_view text) { target.PrintOpen(text); });
+  target.Print();
+}
 
 // ---- For the class ----
 
@@ -122,12 +111,11 @@ std::vector<ClassRow> RowsOfClass(const PrintTarget& target) {
 
 void PrintClassRow(PrintTarget& target, const ClassRow& row) {
   CurrentStudent = row.student;
-  const PaperList list(target);
   if (row.first) {
     target.Print(StudentLabel());
-    list.Head();
+    PrintHead(target);
   }
-  list.Row(row.grade);
+  PrintRow(target, row.grade);
   if (row.last) target.Print();
 }
 
@@ -170,7 +158,6 @@ void PrintMissingForStudent(ReportPass& pass) {
   StudentHeader(pass, std::string(kStudentTitle) + StudentLabel(), pass.first == 1);
   const std::vector<int> missing = MissingGrades(StudentInReport());
   PrintTarget& target = pass.target;
-  const PaperList list(target);
   if (missing.empty()) {
     PrintSections(
         pass,
@@ -179,12 +166,13 @@ void PrintMissingForStudent(ReportPass& pass) {
         true);
     return;
   }
-  PrintSections(pass,
-                {{.rows = static_cast<int>(missing.size()),
-                  .print = [&](int row) { list.Row(missing[static_cast<std::size_t>(row) - 1]); },
-                  .head = [&] { list.Head(); },
-                  .head_lines = 1}},
-                true);
+  PrintSections(
+      pass,
+      {{.rows = static_cast<int>(missing.size()),
+        .print = [&](int row) { PrintRow(target, missing[static_cast<std::size_t>(row) - 1]); },
+        .head = [&] { PrintHead(target); },
+        .head_lines = 1}},
+      true);
 }
 
 void WriteMissingForStudent(TextReport& text) {

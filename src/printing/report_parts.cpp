@@ -21,9 +21,9 @@ constexpr int kTextWidth = 80;
 constexpr std::string_view kSummaryLabel = "Att. Summary";
 constexpr std::string_view kCellLabel = "(Total Abs/Late)";
 
-std::string_view Item(const List<std::string>& list, int i) {
+std::string_view Item(const List<ShortText>& list, int i) {
   const auto index = static_cast<std::size_t>(i);
-  return index < list.size() ? std::string_view(list[index]) : std::string_view();
+  return index < list.size() ? list[index].view() : std::string_view();
 }
 
 double NumberAt(std::string_view detail, int place) {

@@ -17,6 +17,26 @@ void WriteMissingForClass(TextReport& text);
 void PrintMissingForStudent(ReportPass& pass);
 void WriteMissingForStudent(TextReport& text);
 
+// 3, 4: the roll book, 4 with full titles.
+void PrintRollBook(ReportPass& pass);
+void WriteRollBook(TextReport& text);
+
+// 8: daily attendance by month.
+void PrintAttendanceMonths(ReportPass& pass);
+void WriteAttendanceMonths(TextReport& text);
+
+// 9, 16, 24: one attendance summary, all of them, those of one student.
+void PrintOneSummary(ReportPass& pass);
+void WriteOneSummary(TextReport& text);
+void PrintAllSummaries(ReportPass& pass);
+void WriteAllSummaries(TextReport& text);
+void PrintAttendanceSummaryForStudent(ReportPass& pass);
+void WriteAttendanceSummaryForStudent(TextReport& text);
+
+// 15: one student's days of attendance.
+void PrintStudentAttendance(ReportPass& pass);
+void WriteStudentAttendance(TextReport& text);
+
 // 10: one grade of the class.
 void PrintOneGrade(ReportPass& pass);
 void WriteOneGrade(TextReport& text);

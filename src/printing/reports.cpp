@@ -17,20 +17,27 @@ namespace tallyroll {
 namespace {
 
 constexpr std::array kReports = {
-    Report{1, PrintFullGrades, WriteFullGrades},
-    Report{2, PrintMissingForClass, WriteMissingForClass},
-    Report{10, PrintOneGrade, WriteOneGrade},
-    Report{11, PrintFullGrades, WriteFullGrades},
-    Report{12, PrintAllGrades, WriteAllGrades, true},
-    Report{13, PrintAllGrades, WriteAllGrades, true},
-    Report{14, PrintMissingForStudent, WriteMissingForStudent, true},
-    Report{17, PrintGradeSummary, WriteGradeSummary, true},
-    Report{18, PrintGradeSummary, WriteGradeSummary, true},
-    Report{19, PrintRoster, WriteRoster},
-    Report{20, PrintContactForms, WriteContactForms},
-    Report{21, PrintOneContactForm, WriteOneContactForm, true},
-    Report{22, PrintClassInformation, WriteClassInformation},
-    Report{23, PrintRoster, WriteRoster},
+    Report{1, 1, PrintFullGrades, WriteFullGrades},
+    Report{2, 1, PrintMissingForClass, WriteMissingForClass},
+    Report{3, 1, PrintRollBook, WriteRollBook},
+    Report{4, 1, PrintRollBook, WriteRollBook},
+    Report{8, 1, PrintAttendanceMonths, WriteAttendanceMonths},
+    Report{9, 1, PrintOneSummary, WriteOneSummary},
+    Report{10, 1, PrintOneGrade, WriteOneGrade},
+    Report{11, 4, PrintFullGrades, WriteFullGrades},
+    Report{12, 4, PrintAllGrades, WriteAllGrades, true},
+    Report{13, 2, PrintAllGrades, WriteAllGrades, true},
+    Report{14, 2, PrintMissingForStudent, WriteMissingForStudent, true},
+    Report{15, 2, PrintStudentAttendance, WriteStudentAttendance, true},
+    Report{16, 1, PrintAllSummaries, WriteAllSummaries},
+    Report{17, 2, PrintGradeSummary, WriteGradeSummary, true},
+    Report{18, 4, PrintGradeSummary, WriteGradeSummary, true},
+    Report{19, 3, PrintRoster, WriteRoster},
+    Report{20, 3, PrintContactForms, WriteContactForms},
+    Report{21, 3, PrintOneContactForm, WriteOneContactForm, true},
+    Report{22, 3, PrintClassInformation, WriteClassInformation},
+    Report{23, 3, PrintRoster, WriteRoster},
+    Report{24, 2, PrintAttendanceSummaryForStudent, WriteAttendanceSummaryForStudent, true},
 };
 
 // Runs a writer to its end. One that cannot go on tells the teacher why, and the run is cancelled.
@@ -39,7 +46,7 @@ bool Run(const std::function<void()>& writer) {
     writer();
   } catch (const ReportEnds& end) {
     if (end.reason.empty()) return true;  // a block taller than a page: what was laid out stays
-    ShowMessage(end.reason);
+    ShowMessage(end.reason, BoxIcon::kCritical);
     Job.PrintFlag = kPrintCancelled;
   }
   return Job.PrintFlag != kPrintCancelled;

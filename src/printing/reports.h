@@ -11,6 +11,7 @@ namespace tallyroll {
 
 struct Report {
   int code = 0;
+  i16 tab = 1;  // of the Printer Portal; the tabs 2 and 4 head a report with school and teacher
   // Draws some of the rows, or in the layout pass all of them with their page breaks.
   void (*print)(ReportPass& pass) = nullptr;
   // The whole report; the reports on one student write that of CurrentStudent.

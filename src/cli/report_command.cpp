@@ -1,0 +1,197 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include <CLI/CLI.hpp>
+#include <filesystem>
+#include <memory>
+#include <optional>
+#include <vector>
+
+#include "base/code_page.h"
+#include "base/date_serial.h"
+#include "base/number_text.h"
+#include "base/text.h"
+#include "cli/class_in_file.h"
+#include "cli/command_line_surroundings.h"
+#include "cli/commands.h"
+#include "cli/date_order.h"
+#include "grades/marks.h"
+#include "printing/html_report.h"
+#include "printing/report_choice.h"
+#include "printing/reports.h"
+#include "store/program_state.h"
+#include "store/safe_file.h"
+#include "store/sort_students.h"
+
+namespace tallyroll {
+namespace {
+
+struct ReportOptions {
+  std::string file;
+  int code = 0;
+  std::string out, format;
+  std::vector<std::string> students;
+  bool attendance = false, comments = false, parent_signature = false;
+  bool school = false, teacher = false, code_details = false;
+  std::string sort = "none", rank = "none";
+  std::string title;
+  i16 name_mode = 68;
+  int grade = 0, summary = 0;
+  std::string months, today;
+  OpenOptions opening;
+};
+
+// "YYYY-MM" as the first of the month.
+std::optional<double> FirstOfMonth(std::string_view text) {
+  if (text.size() != 7 || text[4] != '-') return std::nullopt;
+  const auto year = WholeNumberText(text.substr(0, 4)), month = WholeNumberText(text.substr(5));
+  if (!year || !month) return std::nullopt;
+  const CivilDate date{static_cast<int>(*year), static_cast<int>(*month), 1};
+  if (!IsValidDate(date)) return std::nullopt;
+  return DateSerial(date);
+}
+
+// Each of these answers why the choice is refused.
+std::string TakeMonths(const ReportOptions& options) {
+  const std::size_t dots = options.months.find("..");
+  if (dots == std::string::npos) return "--months is needed, as YYYY-MM..YYYY-MM";
+  const auto first = FirstOfMonth(options.months.substr(0, dots));
+  const auto last = FirstOfMonth(options.months.substr(dots + 2));
+  if (!first || !last) return "--months is no range of months";
+  if (*last < *first) return "The start date must be less than the ending date";
+  Choice.month_first = *first;
+  Choice.month_last = *last;
+  return {};
+}
+
+std::string TakeStudents(const ReportOptions& options) {
+  const Class& c = Current();
+  Choice.students.clear();
+  if (options.students.empty())
+    for (int i = 1; i <= c.NumStudents; ++i) Choice.students.push_back(static_cast<i16>(i));
+  for (const std::string& wanted : options.students) {
+    const auto id = CodePageFromUtf8(wanted);
+    int found = 0;
+    for (int i = 1; id && i <= c.NumStudents && found == 0; ++i)
+      if (Trim(c.Students[static_cast<std::size_t>(i)].id) == Trim(*id)) found = i;
+    if (found == 0) return "no student has the ID " + wanted;
+    Choice.students.push_back(static_cast<i16>(found));
+  }
+  return {};
+}
+
+void TakeTypes(const std::string& sort) {
+  constexpr std::string_view kTypes = "types=";
+  Choice.sort = sort == "type" ? TypeSort::kAllTypes : TypeSort::kNone;
+  Choice.roll_order = sort == "type" ? RollBookOrder::kAllTypes : RollBookOrder::kNone;
+  if (!sort.starts_with(kTypes)) return;
+  Choice.sort = TypeSort::kSomeTypes;
+  Choice.roll_order = RollBookOrder::kSomeTypes;
+  std::string_view rest = std::string_view(sort).substr(kTypes.size());
+  while (!rest.empty()) {
+    const std::size_t comma = rest.find(',');
+    Choice.types.emplace_back(Trim(rest.substr(0, comma)));
+    rest.remove_prefix(comma == std::string_view::npos ? rest.size() : comma + 1);
+  }
+}
+
+std::string TakeChoice(const ReportOptions& options, const Report& report) {
+  Choice = ReportChoice();
+  Choice.attendance1 = options.attendance;
+  Choice.comment1 = options.comments;
+  Choice.parentsig = options.parent_signature;
+  Choice.school = options.school;
+  Choice.teacher = options.teacher;
+  Choice.printcode = options.code_details;
+  Choice.rank = options.rank == "high"  ? Rank::kHighToLow
+                : options.rank == "low" ? Rank::kLowToHigh
+                                        : Rank::kNone;
+  Choice.shown = NameMode == 57 ? Shown::kName : NameMode == 73 ? Shown::kId : Shown::kNameAndId;
+  Choice.grade = options.grade;
+  Choice.summary = options.summary;
+  TakeTypes(options.sort);
+  if (report.code == 8) return TakeMonths(options);
+  if (report.code == 10 && (options.grade < 1 || options.grade > GradeCount(Current())))
+    return "--grade must be a grade of the class, from 1";
+  if (report.code == 9 && (options.summary < 1 || options.summary > Current().NumSummaries))
+    return "--summary must be a summary of the class, from 1";
+  return report.one_student ? TakeStudents(options) : std::string();
+}
+
+std::string FormatOf(const ReportOptions& options) {
+  if (!options.format.empty()) return options.format;
+  const std::string extension = LowerCase(std::filesystem::path(options.out).extension().string());
+  if (extension == ".htm" || extension == ".html") return "html";
+  return extension == ".pdf" ? "pdf" : "text";
+}
+
+CommandResult MakeReport(const ReportOptions& options) {
+  const Report* report = FindReport(options.code);
+  if (!report) return Refused(options.file, "there is no report of this code");
+  NameMode = options.name_mode;
+  std::string reason = OpenClassFile(options.file, options.opening);
+  if (!reason.empty()) return Refused(options.file, reason);
+  CommandLineSurroundings surroundings(std::nullopt, DateOrderOfOption(options.opening.date_order));
+  if (!options.today.empty())
+    surroundings.today = *DateFromText(options.today, DateOrder::kYearFirst);
+  SortStudents();
+  reason = TakeChoice(options, *report);
+  if (!reason.empty()) return Refused(options.file, reason);
+  Job = PrintJob();
+  Job.PrintFlag = kPrintRuns;
+  Job.PrintTab = report->tab;
+  Job.ReportCode = static_cast<i16>(report->code);
+  const auto title = CodePageFromUtf8(options.title);
+  if (!title) return Refused(options.file, "the title has characters that a class cannot hold");
+  Job.PrintTitle = *title;
+  const std::string format = FormatOf(options);
+  if (format == "pdf") return Refused(options.file, "PDF is not available here");
+  const std::string bytes = format == "html" ? ReportHtml() : ReportText();
+  if (Job.PrintFlag == kPrintCancelled) return Refused(options.file, surroundings.Refusal());
+  if (options.out.empty()) return Done(Utf8FromCodePage(bytes));
+  if (const int error = ReplaceFile(options.out, bytes, OldTail::kDrop))
+    return Refused(options.out, FileErrorText(error));
+  return Done();
+}
+
+std::string CheckDate(const std::string& text) {
+  return DateFromText(text, DateOrder::kYearFirst) ? "" : "must be a date, YYYY-MM-DD";
+}
+
+std::string CheckSort(const std::string& text) {
+  const bool known = text == "none" || text == "type" || text.starts_with("types=");
+  return known ? "" : "must be none, type or types=A,B";
+}
+
+}  // namespace
+
+void AddReportCommand(CLI::App& app, ChosenCommand& chosen) {
+  CLI::App* command = app.add_subcommand("report", "Writes a report as text, HTML or PDF");
+  const auto options = std::make_shared<ReportOptions>();
+  command->add_option("FILE", options->file, "the class file")->required();
+  command->add_option("--code", options->code, "the report's code, 1 to 24")->required();
+  command->add_option("--out", options->out, "the file to write: .txt, .htm or .pdf");
+  command->add_option("--format", options->format, "whatever the file's name says")
+      ->check(CLI::IsMember({"text", "html", "pdf"}));
+  command->add_option("--student", options->students, "a student's ID; may be given again")
+      ->allow_extra_args(false);
+  command->add_flag("--attendance", options->attendance, "with attendance summaries");
+  command->add_flag("--comments", options->comments, "with comments");
+  command->add_flag("--parent-signature", options->parent_signature, "with a line to sign");
+  command->add_flag("--school", options->school, "headed by the school");
+  command->add_flag("--teacher", options->teacher, "headed by the teacher");
+  command->add_flag("--code-details", options->code_details, "with a table of the codes");
+  command->add_option("--sort", options->sort, "none, type, or types=Q,T")->check(CheckSort);
+  command->add_option("--rank", options->rank, "of the report on one grade")
+      ->check(CLI::IsMember({"none", "high", "low"}));
+  command->add_option("--title", options->title, "a title of your own");
+  command->add_option("--grade", options->grade, "the grade's number, for code 10");
+  command->add_option("--summary", options->summary, "the summary's number, for code 9");
+  command->add_option("--months", options->months, "YYYY-MM..YYYY-MM, for code 8");
+  command->add_option("--today", options->today, "the date in the head, YYYY-MM-DD")
+      ->check(CheckDate);
+  AddNameMode(*command, options->name_mode);
+  AddOpenOptions(*command, options->opening);
+  command->callback(
+      [&chosen, options] { chosen = [options](std::istream&) { return MakeReport(*options); }; });
+}
+
+}  // namespace tallyroll

@@ -1,0 +1,42 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// A report as a table of lines whose cells stand at columns of characters. Paper and text file show
+// the same lines; on paper a column is as wide as the print font's "N", or less where the page is
+// too narrow for all of them.
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "printing/page_frame.h"
+#include "printing/text_report.h"
+
+namespace tallyroll {
+
+struct LineCell {
+  int column = 0;  // the first is 0
+  std::string text;
+};
+
+struct TableLine {
+  std::vector<LineCell> cells;
+  char rule = 0;  // a line of this character across the table instead of cells
+};
+
+// Rows under their heads. A table that is too wide goes on in a further block with the same rows.
+struct LineBlock {
+  std::vector<TableLine> head;
+  std::vector<std::vector<TableLine>> rows;  // each stays together on a page
+  std::vector<TableLine> foot;               // behind the last row
+};
+
+struct LineTable {
+  int width = 80;  // columns
+  std::vector<LineBlock> blocks;
+};
+
+// Prints the rows of the pass, blocks one behind the other. `restart` is that of PageFooter.
+void PrintTable(ReportPass& pass, const LineTable& table, bool restart = false);
+void WriteTable(TextReport& text, const LineTable& table);
+
+}  // namespace tallyroll

@@ -1,0 +1,115 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// Code 15: the dates of each attendance code that a student has, with their number.
+#include <array>
+#include <string>
+#include <vector>
+
+#include "base/date_serial.h"
+#include "base/number_text.h"
+#include "base/text.h"
+#include "platform/surroundings.h"
+#include "printing/line_table.h"
+#include "printing/report_choice.h"
+#include "printing/report_parts.h"
+#include "printing/report_writers.h"
+#include "store/program_state.h"
+
+namespace tallyroll {
+namespace {
+
+constexpr std::string_view kTitle = "Attendance for ";
+constexpr int kStep = 12;
+constexpr int kLastStart = 69;  // no date begins here or beyond
+
+struct AttendanceCode {
+  char code;
+  std::string_view heading;
+};
+constexpr std::array kCodes = {
+    AttendanceCode{'A', "Absences "},
+    AttendanceCode{'C', "Cuts "},
+    AttendanceCode{'E', "Excused "},
+    AttendanceCode{'S', "Special Absences "},
+    AttendanceCode{'N', "Absences with a Note"},
+    AttendanceCode{'L', "Lates "},
+};
+
+std::vector<std::string> DatesOf(const Student& student, char code) {
+  std::vector<std::string> dates;
+  const Class& c = Current();
+  for (std::size_t i = 1; i < student.DailyMarks.size() && i < c.AttendanceDays.size(); ++i) {
+    if (student.DailyMarks[i].view().front() != code) continue;
+    dates.push_back(DateText(c.AttendanceDays[i].date, Platform().ShortDateOrder()));
+  }
+  return dates;
+}
+
+TableLine LineOf(std::string text) {
+  return {{{0, std::move(text)}}};
+}
+
+using Rows = std::vector<std::vector<TableLine>>;
+
+void AddDates(Rows& rows, const std::vector<std::string>& dates) {
+  TableLine line;
+  for (const std::string& date : dates) {
+    int column = line.cells.empty() ? 0 : line.cells.back().column + kStep;
+    if (column >= kLastStart) {
+      rows.push_back({line});
+      line = {};
+      column = 0;
+    }
+    line.cells.push_back({column, date});
+  }
+  rows.push_back({line});
+}
+
+void AddCode(Rows& rows, const AttendanceCode& code) {
+  const std::string heading(code.heading);
+  const std::vector<std::string> dates = DatesOf(StudentInReport(), code.code);
+  if (dates.empty()) {
+    rows.push_back({LineOf("No " + heading)});
+  } else {
+    rows.push_back({LineOf(heading)});
+    AddDates(rows, dates);
+    rows.push_back({TableLine()});
+    rows.push_back({LineOf("Number of " + heading + "is " +
+                           PlainNumberText(static_cast<std::int64_t>(dates.size())))});
+  }
+  rows.push_back({TableLine()});
+  rows.push_back({TableLine()});
+}
+
+LineTable Table() {
+  LineBlock block;
+  for (const AttendanceCode& code : kCodes) AddCode(block.rows, code);
+  return {80, {block}};
+}
+
+std::string Title() {
+  return std::string(kTitle) + StudentLabel();
+}
+
+}  // namespace
+
+void PrintStudentAttendance(ReportPass& pass) {
+  StudentHeader(pass, Title(), pass.first == 1);
+  LineTable table = Table();
+  if (Choice.parentsig)
+    table.blocks.push_back(
+        {{},
+         {{TableLine(), TableLine(), TableLine(), {{}, '_'}, LineOf("Parent's Signature")}},
+         {}});
+  PrintTable(pass, table, true);
+}
+
+void WriteStudentAttendance(TextReport& text) {
+  text.Row(80, '=');
+  text.Line(Title());
+  text.End();
+  WriteTable(text, Table());
+  if (Choice.parentsig) WriteParentSignature(text);
+  text.Line("   ");
+}
+
+}  // namespace tallyroll
