@@ -2,6 +2,7 @@
 // Labels, frames, pictures: what is only looked at.
 #include <QGroupBox>
 #include <QLabel>
+#include <QProgressBar>
 
 #include "desktop/control_binding.h"
 #include "desktop/text_conversion.h"
@@ -39,6 +40,17 @@ class GroupBinding : public Binding<Frame, QGroupBox> {
   }
 };
 
+class ProgressBinding : public Binding<ProgressBar, QProgressBar> {
+ public:
+  using Binding::Binding;
+
+ protected:
+  void ShowValue() override {
+    widget_.setMaximum(control_.Maximum);
+    widget_.setValue(control_.Value);
+  }
+};
+
 // A frame without a caption is any widget that holds others.
 using PlainFrameBinding = Binding<Frame, QWidget>;
 using PictureBinding = Binding<PictureBox, QWidget>;
@@ -53,6 +65,11 @@ BoundControl BindControl(Frame& control, ControlRow& row, QObject& target, Bindi
   if (auto group = BindAs<GroupBinding, QGroupBox>(control, row, target, owner)) return group;
   if (IsInput(target) || qobject_cast<QLabel*>(&target)) return nullptr;
   return BindAs<PlainFrameBinding, QWidget>(control, row, target, owner);
+}
+
+BoundControl BindControl(ProgressBar& control, ControlRow& row, QObject& target,
+                         BindingOwner& owner) {
+  return BindAs<ProgressBinding, QProgressBar>(control, row, target, owner);
 }
 
 BoundControl BindControl(PictureBox& control, ControlRow& row, QObject& target,

@@ -83,6 +83,7 @@ BoundControl BindControl(Pages&, ControlRow&, QObject&, BindingOwner&);
 BoundControl BindControl(TabStrip&, ControlRow&, QObject&, BindingOwner&);
 BoundControl BindControl(DTPicker&, ControlRow&, QObject&, BindingOwner&);
 BoundControl BindControl(PictureBox&, ControlRow&, QObject&, BindingOwner&);
+BoundControl BindControl(ProgressBar&, ControlRow&, QObject&, BindingOwner&);
 BoundControl BindControl(Grid&, ControlRow&, QObject&, BindingOwner&);
 
 // A binding that knows the classes of its control and its widget.

@@ -2,10 +2,13 @@
 // The controls of a Portal as plain values. What a screen shows of them is the binder's matter.
 #pragma once
 
+#include <functional>
 #include <string>
 #include <vector>
 
 namespace tallyroll {
+
+class PrintTarget;
 
 struct Control {
   bool Enabled = true;
@@ -41,6 +44,8 @@ struct OptionButton : Control {
 struct ListBox : Control {
   std::vector<std::string> List;  // a tab parts the columns of a line
   int ListIndex = -1;             // from 0; -1 is none chosen
+  bool Checks = false;            // each line has a box to tick
+  std::vector<bool> Checked;      // by line, where there are boxes
 };
 
 struct ComboBox : Control {
@@ -69,7 +74,19 @@ struct DTPicker : Control {
   double Value = 0;  // day serial
 };
 
-// An ornament; the form says which picture.
-struct PictureBox : Control {};
+// An ornament, of which the form says which picture it is; or a sheet of paper, drawn anew whenever
+// it is shown.
+struct PictureBox : Control {
+  std::function<void(PrintTarget& target)> Draw;  // null for an ornament
+  double SheetWidth = 0, SheetHeight = 0;         // twips
+  double Zoom = 1;
+  unsigned Revision = 0;  // raised when what Draw draws has changed
+};
+
+// How far a long work has come.
+struct ProgressBar : Control {
+  int Value = 0;
+  int Maximum = 100;
+};
 
 }  // namespace tallyroll

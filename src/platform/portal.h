@@ -16,7 +16,7 @@ namespace tallyroll {
 
 using ControlPointer =
     std::variant<Label*, TextBox*, CommandButton*, CheckBox*, OptionButton*, ListBox*, ComboBox*,
-                 struct Frame*, Pages*, TabStrip*, DTPicker*, PictureBox*, Grid*>;
+                 struct Frame*, Pages*, TabStrip*, DTPicker*, PictureBox*, ProgressBar*, Grid*>;
 
 // Keys that a Portal asks for by name; characters come by KeyPress.
 enum class Key {

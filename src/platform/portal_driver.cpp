@@ -141,6 +141,15 @@ void PortalDriver::Choose(std::string_view list, int index) {
   Raise(*row, {&ControlRow::change, &ControlRow::click});
 }
 
+void PortalDriver::Check(std::string_view list, int index, bool on) {
+  ListBox* control = As<ListBox>(list, "tick a line of");
+  if (!control || !control->Checks || !MoveFocus(*table_.Find(list))) return;
+  const auto line = static_cast<std::size_t>(index);
+  if (control->Checked.at(line) == on) return;
+  control->Checked[line] = on;
+  Raise(*table_.Find(list), {&ControlRow::change});
+}
+
 void PortalDriver::PickTab(std::string_view strip, int index) {
   TabStrip* control = As<TabStrip>(strip, "pick a tab of");
   if (!control || control->Selected == index) return;

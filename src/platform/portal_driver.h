@@ -31,6 +31,8 @@ class PortalDriver {
   void Tick(std::string_view box, bool on = true);
   // Chooses a line of a list or combo box, from 0.
   void Choose(std::string_view list, int index);
+  // Ticks the box of a line, from 0, or takes the tick away.
+  void Check(std::string_view list, int index, bool on = true);
   // Picks a tab, from 0.
   void PickTab(std::string_view strip, int index);
   void PickDate(std::string_view picker, double serial);

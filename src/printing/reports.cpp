@@ -60,10 +60,10 @@ const Report* FindReport(int code) {
   return found == kReports.end() ? nullptr : &*found;
 }
 
-bool LayOutRows(PrintTarget& target, int first, int last) {
+bool LayOutRows(PrintTarget& target) {
   const Report* report = FindReport(Job.ReportCode);
   if (!report) return false;
-  ReportPass pass{target, first, last, Job.PageCount + 1, true};
+  ReportPass pass{.target = target, .page = Job.PageCount + 1, .recording = true};
   return Run([&] { report->print(pass); });
 }
 

@@ -22,10 +22,9 @@ struct Report {
 // Null for a code that no report has.
 const Report* FindReport(int code);
 
-// Lays Job.ReportCode out on a target from the first to the last row, and fills the page table.
-// Runs that take several students are laid out once a student. False when it could not be done: the
-// teacher was told, or cancelled.
-bool LayOutRows(PrintTarget& target, int first, int last);
+// Lays Job.ReportCode out on a target, for CurrentStudent where it is on one student, and goes on
+// in the page table. False when it could not be done: the teacher was told, or cancelled.
+bool LayOutRows(PrintTarget& target);
 
 // Draws a page of the table. False as above.
 bool RenderPage(PrintTarget& target, int page);

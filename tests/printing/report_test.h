@@ -9,6 +9,7 @@
 #include "base/number_text.h"
 #include "platform/fixed_print_target.h"
 #include "printing/page_frame.h"
+#include "printing/print_run.h"
 #include "printing/report_choice.h"
 #include "printing/reports.h"
 #include "store/class_defaults.h"
@@ -48,18 +49,14 @@ class ReportTest : public PortalTest {
   }
 
   // Lays the whole report out, as the Printer Portal does for the class reports.
-  void LayOut(i16 code) { LayOut(code, Current().NumStudents); }
-  void LayOut(i16 code, int last) {
+  void LayOut(i16 code) {
     Job.ReportCode = code;
-    ClearPageTable();
-    FixedPrintTarget box;
-    SetupPage(box);
-    EXPECT_TRUE(LayOutRows(box, 1, last));
+    EXPECT_TRUE(LayOutReport());
   }
   // A page drawn by itself from the page table.
   static PrintedPage Page(int page) {
     FixedPrintTarget box;
-    SetupPage(box);
+    PrepareTarget(box);
     EXPECT_TRUE(RenderPage(box, page));
     return box.job->pages.back();
   }

@@ -97,10 +97,7 @@ TEST_F(LongRosterTest, ACancelledLayoutHasNoFurtherPages) {
     if (screen.pumped == 60) Job.PrintFlag = kPrintCancelled;
   };
   Job.ReportCode = 19;
-  ClearPageTable();
-  FixedPrintTarget box;
-  SetupPage(box);
-  EXPECT_FALSE(LayOutRows(box, 1, 120));
+  EXPECT_FALSE(LayOutReport());
   EXPECT_EQ(Job.PageCount, 1);
 }
 
@@ -134,8 +131,8 @@ TEST_F(RosterReportTest, ContactFormsOfTheClassFollowOneAnother) {
 TEST_F(LongRosterTest, AContactFormIsNeverCutByAPage) {
   EnrolMany(20);
   LayOut(20);
-  // A block takes 7 lines of 240, 1680 twips. Page 1 begins at 1392: the seventh block ends at 13152,
-  // an eighth would pass 13880. Later pages begin at 240: the eighth block ends at 13680.
+  // A block takes 7 lines of 240, 1680 twips. Page 1 begins at 1392: the seventh block ends at
+  // 13152, an eighth would pass 13880. Later pages begin at 240: the eighth block ends at 13680.
   EXPECT_EQ(PageTable(), (std::vector<std::pair<int, int>>{{1, 7}, {8, 15}, {16, 20}}));
 }
 
