@@ -65,11 +65,6 @@ constexpr std::array kColumns = {
 constexpr double kUseHead = 1.79, kUseRow = 1.78;
 constexpr int kUseText = 74;
 
-// Weights by type alone give a single grade none.
-bool ShowsUse() {
-  return ReportWithAverages() && Current().Method != 1;
-}
-
 template <typename Move, typename Put>
 void PutHead(bool first_line, Move&& move, Put&& put) {
   for (const Column& column : kColumns) {
@@ -78,9 +73,9 @@ void PutHead(bool first_line, Move&& move, Put&& put) {
     move(column.head, column.text);
     put(head);
   }
-  if (!ShowsUse() || !first_line) return;
+  if (!ShowsWeightOrUse() || !first_line) return;
   move(kUseHead, kUseText);
-  put(PointMethod() ? "PT." : "WT.");
+  put(WeightOrUseHead());
 }
 
 template <typename Move, typename Put>
@@ -89,7 +84,7 @@ void PutRow(int grade, Move&& move, Put&& put) {
     move(column.row, column.text);
     put(column.value(grade));
   }
-  if (!ShowsUse()) return;
+  if (!ShowsWeightOrUse()) return;
   move(kUseRow, kUseText);
   put(WeightOrUse(grade));
 }

@@ -89,13 +89,13 @@ void AddStudent(TableLine& line, const Student& student) {
   const std::string id(Trim(student.id));
   switch (Choice.shown) {
     case Shown::kId:
-      line.cells.push_back({0, std::string(Left(id, kFirstDay))});
+      line.cells.push_back({0, std::string(Left(id, kFirstDay - 1))});
       break;
     case Shown::kName:
-      line.cells.push_back({0, std::string(Left(PlainName(student), kFirstDay))});
+      line.cells.push_back({0, std::string(Left(PlainName(student), kFirstDay - 1))});
       break;
     default:
-      line.cells.push_back({0, std::string(Left(PlainName(student), kIdColumn))});
+      line.cells.push_back({0, std::string(Left(PlainName(student), kIdColumn - 1))});
       line.cells.push_back(
           {kIdColumn, Bar(Left(id, static_cast<std::size_t>(kFirstDay - kIdColumn - 1)))});
   }

@@ -37,20 +37,15 @@ constexpr std::array kColumns = {
 constexpr double kUseUnits = 35 + 6.5 * 4;
 constexpr int kUseText = 72;
 
-// Reports with averages tell what each grade weighs; weights by type alone give a grade none.
-bool ShowsUse() {
-  return ReportWithAverages() && Current().Method != 1;
-}
-
 template <typename Move, typename Put>
 void PutHead(bool first_line, Move&& move, Put&& put) {
   for (const Column& column : kColumns) {
     move(column.units, column.text);
     put(first_line ? column.first : column.second);
   }
-  if (!ShowsUse() || !first_line) return;
+  if (!ShowsWeightOrUse() || !first_line) return;
   move(kUseUnits, kUseText);
-  put(PointMethod() ? "PT." : "WT.");
+  put(WeightOrUseHead());
 }
 
 template <typename Move, typename Put>
@@ -59,7 +54,7 @@ void PutRow(int grade, Move&& move, Put&& put) {
     move(column.units, column.text);
     put(column.value(grade));
   }
-  if (!ShowsUse()) return;
+  if (!ShowsWeightOrUse()) return;
   move(kUseUnits, kUseText);
   put(WeightOrUse(grade));
 }

@@ -17,14 +17,19 @@ namespace {
 constexpr i16 kRollBook = 3;
 constexpr i16 kMonths = 8;
 
-// A blank at its width; the entity goes without its semicolon.
+// A blank at its width; the entity goes without its semicolon. One that the teacher typed behind a
+// blank would be taken for it.
 std::string WithBlanks(std::string_view text) {
   std::string html;
+  char before = 0;
   for (const char c : HtmlText(text)) {
     if (c == ' ')
       html += "&nbsp";
+    else if (c == ';' && before == ' ')
+      html += "&#59;";
     else
       html += c;
+    before = c;
   }
   return html;
 }
@@ -75,7 +80,7 @@ std::string ReportHtml() {
   if (Job.ReportCode == kRollBook) return RollBookHtml(title);
   if (Job.ReportCode == kMonths) return AttendanceHtml(title);
   const std::string text = ReportText();
-  return text.empty() ? text : TextAsHtml(title, text);
+  return Job.PrintFlag == kPrintCancelled ? text : TextAsHtml(title, text);
 }
 
 int SaveReportHtml(const std::string& path) {

@@ -50,7 +50,7 @@ void Write(TextReport& text, const Lines& lines, int width) {
       continue;
     }
     for (const LineCell& cell : line.cells) {
-      text.Tab(cell.column + 1);
+      text.Tab(std::max(cell.column, 1));
       text.Put(cell.text);
     }
     text.End();

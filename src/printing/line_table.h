@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // A report as a table of lines whose cells stand at columns of characters. Paper and text file show
-// the same lines; on paper a column is as wide as the print font's "N", or less where the page is
-// too narrow for all of them.
+// the same lines. In a text file a column is a tab stop, the first being 1; on paper it is as wide
+// as the print font's "N", or less where the page is too narrow for all of them.
 #pragma once
 
 #include <string>
@@ -14,7 +14,7 @@
 namespace tallyroll {
 
 struct LineCell {
-  int column = 0;  // the first is 0
+  int column = 0;  // 0 is the left edge
   std::string text;
 };
 

@@ -18,9 +18,8 @@ constexpr std::string_view kClassTitle = " Missing Grades for Class Printout";
 constexpr std::string_view kStudentTitle = "Missing Grades For ";
 constexpr std::string_view kNoneOnPaper = " is not missing any Grades";
 constexpr std::string_view kNoneInText = "  is not missing any Grades";
-constexpr int kLinesBesideList = 2;    // the name and the heads
-constexpr int kLinesOfFreshPage = 15;  // what a list leaves of a page at least
-constexpr int kTextRule = 77;
+constexpr int kLinesBesideList = 2;  // the name and the heads
+constexpr int kClassRule = 77, kStudentRule = 80;
 
 struct Column {
   double units;  // CharUnits on paper
@@ -80,8 +79,8 @@ void PrintRow(PrintTarget& target, int grade) {
 
 // ---- For the class ----
 
-// A student's list moves whole to the next page where it does not fit; one that no page could hold
-// begins where the pen is and is split.
+// A student's list moves to the next page where it does not fit whole; one that no page can hold is
+// split there.
 struct ClassRow {
   i16 student = 0;
   int grade = 0;       // Instruments index
@@ -90,20 +89,15 @@ struct ClassRow {
   int lines = 1;       // what must fit for the row to stay on its page
 };
 
-bool FitsFreshPage(const PrintTarget& target, int missing) {
-  return target.TextHeight("A") * (missing + kLinesOfFreshPage) <= Job.PageBottom;
-}
-
-std::vector<ClassRow> RowsOfClass(const PrintTarget& target) {
+std::vector<ClassRow> RowsOfClass() {
   std::vector<ClassRow> rows;
   for (int s = 1; s <= Current().NumStudents; ++s) {
     const std::vector<int> missing = MissingGrades(Current().Students[static_cast<std::size_t>(s)]);
-    const int count = static_cast<int>(missing.size());
-    const bool whole = FitsFreshPage(target, count);
+    const int whole = kLinesBesideList + static_cast<int>(missing.size());
     for (const int grade : missing) {
       const bool first = grade == missing.front();
-      const int lines = first ? kLinesBesideList + (whole ? count : 1) : 1;
-      rows.push_back({static_cast<i16>(s), grade, first, grade == missing.back(), lines});
+      rows.push_back(
+          {static_cast<i16>(s), grade, first, grade == missing.back(), first ? whole : 1});
     }
   }
   return rows;
@@ -119,12 +113,12 @@ void PrintClassRow(PrintTarget& target, const ClassRow& row) {
   if (row.last) target.Print();
 }
 
-void WriteList(TextReport& text, const std::vector<int>& missing) {
+void WriteList(TextReport& text, const std::vector<int>& missing, int rule) {
   const auto move = [&text](double, int column) { text.Tab(column); };
   const auto put = [&text](std::string_view part) { text.Put(part); };
   PutHead(move, put);
   text.End();
-  text.Row(kTextRule, '_');
+  text.Row(rule, '_');
   for (const int grade : missing) {
     PutRow(grade, move, put);
     text.End();
@@ -135,7 +129,7 @@ void WriteList(TextReport& text, const std::vector<int>& missing) {
 
 void PrintMissingForClass(ReportPass& pass) {
   PageHeader(pass, kClassTitle);
-  const std::vector<ClassRow> rows = RowsOfClass(pass.target);
+  const std::vector<ClassRow> rows = RowsOfClass();
   const auto row_at = [&rows](int row) { return rows[static_cast<std::size_t>(row) - 1]; };
   PrintSections(pass, {{.rows = static_cast<int>(rows.size()),
                         .print = [&](int row) { PrintClassRow(pass.target, row_at(row)); },
@@ -149,7 +143,7 @@ void WriteMissingForClass(TextReport& text) {
     const std::vector<int> missing = MissingGrades(StudentInReport());
     if (missing.empty()) continue;
     text.Line(StudentLabel());
-    WriteList(text, missing);
+    WriteList(text, missing, kClassRule);
     text.Line("   ");
   }
 }
@@ -176,14 +170,14 @@ void PrintMissingForStudent(ReportPass& pass) {
 }
 
 void WriteMissingForStudent(TextReport& text) {
-  text.Row(80, '=');
+  text.Row(kStudentRule, '=');
   text.Line(std::string(kStudentTitle) + StudentLabel());
   text.End();
   const std::vector<int> missing = MissingGrades(StudentInReport());
   if (missing.empty())
     text.Line(StudentLabel() + std::string(kNoneInText));
   else
-    WriteList(text, missing);
+    WriteList(text, missing, kStudentRule);
   text.Line("   ");
 }
 

@@ -84,9 +84,10 @@ void StudentHeader(ReportPass& pass, std::string_view title, bool student_begins
   if (!target.IsPrinter()) target.Cls();
   target.CurrentX = target.CurrentY = 0;
   if (Job.PrintFlag == kPrintCancelled) return;
+  const double body_size = BodySize(target);
+  target.FontSize = body_size;
   target.Print();
   if (!student_begins) return;
-  const double body_size = BodySize(target);
   PrintSchoolAndDate(target, body_size);
   target.FontSize = kHeadSize;
   if (HeadsStudent() && Choice.teacher) target.Print(Trim(Current().teacher));

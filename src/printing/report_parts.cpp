@@ -94,6 +94,15 @@ bool ReportWithAverages() {
   return Job.ReportCode == 11 || Job.ReportCode == 12 || Job.ReportCode == 18;
 }
 
+bool ShowsWeightOrUse() {
+  const i16 method = Current().Method;
+  return ReportWithAverages() && method <= 3 && method != 1;
+}
+
+std::string_view WeightOrUseHead() {
+  return PointMethod() ? "PT." : "WT.";
+}
+
 std::string WeightOrUse(int grade) {
   const auto i = static_cast<std::size_t>(grade);
   const Class& c = Current();
@@ -104,11 +113,12 @@ std::string WeightOrUse(int grade) {
 
 std::string AttendanceCell(const Student& student, int summary) {
   const auto i = static_cast<std::size_t>(summary);
-  const double absent =
-      i < student.SummaryAbsent.size() ? LeadingNumber(student.SummaryAbsent[i].view()) : 0;
+  const std::string_view absent =
+      i < student.SummaryAbsent.size() ? Trim(student.SummaryAbsent[i].view()) : "";
   const std::string_view detail = Item(student.SummaryDetail, summary);
-  const double total = absent + NumberAt(detail, 1) + NumberAt(detail, 3) + NumberAt(detail, 4);
-  return PlainNumberText(total < 1 ? absent : total) + "/" +
+  const double total =
+      LeadingNumber(absent) + NumberAt(detail, 1) + NumberAt(detail, 3) + NumberAt(detail, 4);
+  return (total < 1 ? std::string(absent) : PlainNumberText(total)) + "/" +
          std::string(Trim(Item(student.SummaryLate, summary)));
 }
 
@@ -151,6 +161,11 @@ void PrintParentSignature(PrintTarget& target, double x) {
   target.Print();
   target.CurrentX = x;
   target.Print("Parent's Signature");
+}
+
+LineBlock SignatureBlock() {
+  const TableLine empty, rule{{}, '_'}, words{{{0, "Parent's Signature"}}};
+  return {{}, {{empty, empty, empty, rule, empty, words}}, {}};
 }
 
 void WriteParentSignature(TextReport& text) {

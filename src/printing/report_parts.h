@@ -6,6 +6,7 @@
 #include <string_view>
 #include <vector>
 
+#include "printing/line_table.h"
 #include "printing/page_frame.h"
 #include "printing/text_report.h"
 
@@ -19,10 +20,16 @@ bool PointMethod();         // by points, 2 and 3
 bool WeighsTypes();         // by types, 1 and 3
 bool ReportWithAverages();  // codes 11, 12 and 18
 
+// Whether a table tells what each grade weighs or whether it counts: reports with averages do, but
+// weights by type alone give a grade none, nor does a class without a method.
+bool ShowsWeightOrUse();
+// Its head: "WT.", or "PT." under the point methods.
+std::string_view WeightOrUseHead();
 // "Y" or "N" under the point methods, otherwise the grade's weight in force.
 std::string WeightOrUse(int grade);
 
-// A period's total of absences, cuts not counted twice, "/" and its lates.
+// A period's total of absences, the excused ones left out, "/" and its lates. Below 1 the number of
+// absences stands as it was entered.
 std::string AttendanceCell(const Student& student, int summary);
 
 // The summary periods in rows as wide as the page: a line of codes and a line of cells. Each row
@@ -35,6 +42,8 @@ void PrintAverages(PrintTarget& target);
 void WriteAverages(TextReport& text);
 
 void PrintParentSignature(PrintTarget& target, double x);
+// The same as the end of a table.
+LineBlock SignatureBlock();
 void WriteParentSignature(TextReport& text);
 
 // "Comments: " and the comment.

@@ -16,10 +16,11 @@ class SectionWalk {
       if (Cancelled()) return;
       Enter(row);
       if (pass_.recording) Fit(row);
-      if (!headed_) section_->head();
-      headed_ = true;
-      section_->print(row - before_);
+      PrintHeads(row);
+      sections_[section_].print(row - before_);
+      page_is_empty_ = false;
     }
+    if (last == RowCount(sections_)) PrintLastHeads(last);
     PageFooter(pass_, last + 1, restart_);
   }
 
@@ -27,37 +28,69 @@ class SectionWalk {
   // Finds the section of a row.
   void Enter(int row) {
     int before = 0;
-    for (const Section& section : sections_) {
-      if (row <= before + section.rows) {
-        if (&section != section_) headed_ = false;
-        section_ = &section;
+    for (std::size_t s = 0; s < sections_.size(); ++s) {
+      if (row <= before + sections_[s].rows) {
+        if (s != section_) headed_ = false;
+        section_ = s;
         before_ = before;
         return;
       }
-      before += section.rows;
+      before += sections_[s].rows;
     }
   }
 
+  // The first section whose head stands above a row: sections without rows show their heads alone,
+  // and they go with the row behind them.
+  std::size_t FirstHead(int row) const {
+    std::size_t first = section_;
+    while (row == before_ + 1 && first > 0 && sections_[first - 1].rows == 0) --first;
+    return first;
+  }
+
+  int HeadLines(int row) const {
+    if (headed_) return 0;
+    int lines = 0;
+    for (std::size_t s = FirstHead(row); s <= section_; ++s) lines += sections_[s].head_lines;
+    return lines;
+  }
+
+  void PrintHeads(int row) {
+    if (headed_) return;
+    for (std::size_t s = FirstHead(row); s <= section_; ++s) sections_[s].head();
+    headed_ = true;
+  }
+
+  // Heads that no row follows stand on the last page while they fit.
+  void PrintLastHeads(int last) {
+    const std::size_t behind = last == 0 ? 0 : section_ + 1;
+    for (std::size_t s = behind; s < sections_.size(); ++s)
+      if (!WouldPassBottom(pass_.target, sections_[s].head_lines)) sections_[s].head();
+  }
+
+  // A row that no page could hold does not leave a page empty for it.
   void Fit(int row) {
-    if (section_->fit) {
+    const Section& section = sections_[section_];
+    if (section.fit) {
       const int page = pass_.page;
-      section_->fit(pass_, row - before_);
+      section.fit(pass_, row - before_);
       if (pass_.page != page) headed_ = false;
       return;
     }
-    const int lines = section_->lines(row - before_) + (headed_ ? 0 : section_->head_lines);
-    if (!WouldPassBottom(pass_.target, lines)) return;
+    const int lines = section.lines(row - before_) + HeadLines(row);
+    if (page_is_empty_ || !WouldPassBottom(pass_.target, lines)) return;
     PageFooter(pass_, row, restart_);
     BeginPage(pass_.target);
     headed_ = false;
+    page_is_empty_ = true;
   }
 
   ReportPass& pass_;
   const std::vector<Section>& sections_;
   bool restart_;
-  const Section* section_ = nullptr;
+  std::size_t section_ = 0;
   int before_ = 0;  // rows of the sections before
   bool headed_ = false;
+  bool page_is_empty_ = true;
 };
 
 }  // namespace

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // A report on paper as sections of rows. Its rows are numbered through, as the page table counts
-// them, so any page can be drawn by itself.
+// them, so any page can be drawn by itself. A section without rows shows its head alone.
 #pragma once
 
 #include <functional>

@@ -95,11 +95,7 @@ std::string Title() {
 void PrintStudentAttendance(ReportPass& pass) {
   StudentHeader(pass, Title(), pass.first == 1);
   LineTable table = Table();
-  if (Choice.parentsig)
-    table.blocks.push_back(
-        {{},
-         {{TableLine(), TableLine(), TableLine(), {{}, '_'}, LineOf("Parent's Signature")}},
-         {}});
+  if (Choice.parentsig) table.blocks.push_back(SignatureBlock());
   PrintTable(pass, table, true);
 }
 

@@ -94,13 +94,13 @@ int ColumnsOf(int period) {
   return PeriodAt(period).kind == kComputed ? 2 + kDetails : 2;
 }
 
-// The periods that stand side by side in each block; at least one.
+// The periods that stand side by side in each block. A class without periods has one empty block.
 std::vector<std::vector<int>> PeriodsByBlock() {
-  std::vector<std::vector<int>> blocks;
-  int column = kAllWidth;
+  std::vector<std::vector<int>> blocks(1);
+  int column = BehindStudentColumn();
   for (int i = 1; i <= Current().NumSummaries; ++i) {
     const int width = kStep * ColumnsOf(i);
-    if (blocks.empty() || column + width > kAllWidth) {
+    if (!blocks.back().empty() && column + width > kAllWidth) {
       blocks.emplace_back();
       column = BehindStudentColumn();
     }
@@ -147,7 +147,7 @@ LineTable AllPeriodsTable(const Heads& heads) {
       block.rows.push_back({AllPeriodsLine(StudentAt(i), periods), {{}, '_'}});
     table.blocks.push_back(std::move(block));
   }
-  if (!table.blocks.empty()) table.blocks.back().foot = {{{}, '='}};
+  table.blocks.back().foot = {{{}, '='}};
   return table;
 }
 
@@ -216,7 +216,9 @@ void WriteAllSummaries(TextReport& text) {
 
 void PrintAttendanceSummaryForStudent(ReportPass& pass) {
   StudentHeader(pass, StudentTitle(), pass.first == 1);
-  PrintTable(pass, StudentTable(), true);
+  LineTable table = StudentTable();
+  if (Choice.parentsig) table.blocks.push_back(SignatureBlock());
+  PrintTable(pass, table, true);
 }
 
 void WriteAttendanceSummaryForStudent(TextReport& text) {

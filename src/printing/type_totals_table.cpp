@@ -7,6 +7,7 @@
 
 #include "averages/engine/engine.h"
 #include "base/number_text.h"
+#include "base/run_time_error.h"
 #include "base/text.h"
 #include "grades/type_totals.h"
 #include "store/program_state.h"
@@ -30,6 +31,28 @@ void StudentTotals(TypeTotals& totals) {
   } else if (const int error = StudentTotalsByType(totals.counts, totals.sums, totals.maxes)) {
     throw ReportEnds{AverageErrorText({error, CurrentStudent, 0})};
   }
+}
+
+void AddStudent(TypeSums& earned, TypeSums& maxes) {
+  TypeCounts counts{};
+  TypeSums his{}, his_maxes{};
+  if (const int error = StudentTotalsByType(counts, his, his_maxes)) throw RunTimeError{error};
+  for (std::size_t t = 1; t <= kGradeTypes; ++t) {
+    earned[t] += his[t];
+    maxes[t] += his_maxes[t];
+  }
+}
+
+// What all students earned, and what they could have earned with the grades that count for each.
+void AddStudents(TypeSums& earned, TypeSums& maxes) {
+  const i16 in_work = CurrentStudent;
+  try {
+    for (CurrentStudent = 1; CurrentStudent <= Current().NumStudents; ++CurrentStudent)
+      AddStudent(earned, maxes);
+  } catch (const RunTimeError& fault) {
+    throw ReportEnds{AverageErrorText({fault.number, CurrentStudent, 0})};
+  }
+  CurrentStudent = in_work;
 }
 
 // Percent of the maximum with two decimals, a half going up.
@@ -101,11 +124,15 @@ std::vector<TypeTotalRow> TypeTotalRows() {
   TypeSums unused{}, class_maxes{};
   ClassTotalsByType(in_class, unused, class_maxes);
   TypeTotals totals;
+  TypeSums possible{};  // what the percents are of
   const bool on_student = ReportOnStudent();
-  if (on_student)
+  if (on_student) {
     StudentTotals(totals);
-  else
+    possible = totals.maxes;
+  } else {
     totals = {in_class, {}, class_maxes};
+    if (ReportWithAverages()) AddStudents(totals.sums, possible);
+  }
   TypeCodes codes;
   TypeTexts names;
   MakeTypeCodes(codes);
@@ -113,13 +140,11 @@ std::vector<TypeTotalRow> TypeTotalRows() {
   std::vector<TypeTotalRow> rows;
   for (std::size_t t = 1; t <= kGradeTypes; ++t) {
     if (in_class[t] == 0) continue;
-    const bool counted = totals.counts[t] > 0;
-    rows.push_back(
-        {std::string(Trim(names[t])), std::string(Trim(codes[t].view())), totals.counts[t],
-         on_student ? PlainNumberText(counted ? totals.sums[t] : Currency()) : std::string(),
-         PlainNumberText(totals.maxes[t]),
-         on_student && counted ? Percent(totals.sums[t], totals.maxes[t]) : std::string(),
-         PlainNumberText(Current().TypePercents[t])});
+    const Currency sum = totals.counts[t] > 0 ? totals.sums[t] : Currency();
+    rows.push_back({std::string(Trim(names[t])), std::string(Trim(codes[t].view())),
+                    totals.counts[t], on_student ? PlainNumberText(sum) : std::string(),
+                    PlainNumberText(totals.maxes[t]), Percent(sum, possible[t]),
+                    PlainNumberText(Current().TypePercents[t])});
   }
   return rows;
 }

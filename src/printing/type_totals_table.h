@@ -20,7 +20,8 @@ struct TypeTotalRow {
 };
 
 // In reports on one student the figures are his: by the average's own count in reports with
-// averages, otherwise of all his marks. In reports on the class they are those of all grades.
+// averages, otherwise of all his marks. In reports on the class they are those of all grades, and
+// with averages the percent is what all students earned of what they could have earned.
 std::vector<TypeTotalRow> TypeTotalRows();
 
 // The table as a section of a report on paper.
