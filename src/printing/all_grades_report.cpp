@@ -121,7 +121,7 @@ Section GradesSection(PrintTarget& target, const std::vector<int>& grades) {
 void PrintAllGrades(ReportPass& pass) {
   PrintTarget& target = pass.target;
   StudentHeader(pass, Title(), pass.first == 1);
-  target.Print();
+  if (pass.first == 1) target.Print();
   const std::vector<int> grades = GradesInOrder();
   PrintSections(pass,
                 {GradesSection(target, grades), TypeTotalsSection(target, TypeTotalRows()),

@@ -96,13 +96,9 @@ TEST_F(MonthsReportTest, OnPaperTheTableFitsTheSheetLyingAcross) {
   EXPECT_EQ(rows[3], "Attendance Summary - September, 2026");
   // At 9 points a character has 90 twips: 149 columns are 13410 of 14840.
   const PrintedPage page = Page(1);
-  for (const PrintedText& text : page.texts) {
-    if (text.text == "Ng, Ada") EXPECT_EQ(text.x, 0);
-    if (text.text == "|Tu") {
-      EXPECT_EQ(text.x, 35 * 90);
-      break;
-    }
-  }
+  EXPECT_EQ(Find(page, "Ng, Ada").x, 0);
+  EXPECT_EQ(Find(page, "|17").x, 24 * 90);
+  EXPECT_EQ(Find(page, "|Tu").x, 35 * 90);
 }
 
 // ---- One student's days ----

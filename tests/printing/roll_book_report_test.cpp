@@ -109,11 +109,9 @@ TEST_F(RollBookReportTest, ColumnsOnPaper) {
   EXPECT_EQ(PageRows(1)[1], "ROLL BOOK");
   EXPECT_EQ(PageRows(1)[6], "17  Ng, Ada 18 45 9");
   // The head ends at 1392; three lines of heads, then the first student.
-  for (const PrintedText& text : page.texts) {
-    if (text.text == "T1") EXPECT_EQ(text, (PrintedText{5500, 1632, "T1", 10}));
-    if (text.text == "9/17") EXPECT_EQ(text, (PrintedText{6000, 1872, "9/17", 10}));
-    if (text.text == "45") EXPECT_EQ(text, (PrintedText{5500, 2112, "45", 10}));
-  }
+  EXPECT_EQ(Find(page, "T1"), (PrintedText{5500, 1632, "T1", 10}));
+  EXPECT_EQ(Find(page, "9/17"), (PrintedText{6000, 1872, "9/17", 10}));
+  EXPECT_EQ(Find(page, "45"), (PrintedText{5500, 2112, "45", 10}));
 }
 
 TEST_F(RollBookReportTest, APageTooNarrowForTheTableShrinksItsColumns) {
@@ -124,8 +122,7 @@ TEST_F(RollBookReportTest, APageTooNarrowForTheTableShrinksItsColumns) {
   Job.ReportCode = 3;
   ASSERT_TRUE(LayOutRows(box));
   ASSERT_TRUE(RenderPage(box, 1));
-  for (const PrintedText& text : box.job->pages.back().texts)
-    if (text.text == "T1") EXPECT_EQ(text.x, 5500);
+  EXPECT_EQ(Find(box.job->pages.back(), "T1").x, 5500);
 }
 
 TEST_F(RollBookReportTest, FullTitlesRunUpwardsOverTheirColumns) {
@@ -145,8 +142,7 @@ TEST_F(RollBookReportTest, FullTitlesRunUpwardsOverTheirColumns) {
 TEST_F(RollBookReportTest, ALongTitleStaysBelowTheHead) {
   Current().Instruments[2].title = std::string(60, 'w');  // 5400 twips, 23 lines
   LayOut(4);
-  for (const PrintedText& text : Page(1).texts)
-    if (text.upwards) EXPECT_GE(text.y - 90 * static_cast<double>(text.text.size()), 1392);
+  EXPECT_GE(Find(Page(1), std::string(60, 'w')).y - 60 * 90, 1392);
 }
 
 }  // namespace

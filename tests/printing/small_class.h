@@ -26,6 +26,14 @@ inline std::string Row(int count, char character) {
   return std::string(static_cast<std::size_t>(count), character);
 }
 
+// The first of these words on a page.
+inline PrintedText Find(const PrintedPage& page, const std::string& words) {
+  for (const PrintedText& text : page.texts)
+    if (text.text == words) return text;
+  ADD_FAILURE() << words << " is not on the page";
+  return {};
+}
+
 class ClassBuilder : public ReportTest {
  protected:
   static Instrument& AddGrade(const std::string& title, const std::string& code,
