@@ -78,8 +78,8 @@ TEST_F(EmptyTableTest, AStudentWithoutGradesHasAnAverageOfZero) {
   Current().Weights = {Currency()};
   Choice.students = {1};
   const Rows lines = TextOf(18);
-  EXPECT_EQ(lines[7], "AVERAGE IS: 0");
-  EXPECT_EQ(lines[8], "ROUNDED AVERAGE/GRADE:  0 (F/UNSAT/ABS)  ");
+  EXPECT_EQ(lines[8], "AVERAGE IS: 0");
+  EXPECT_EQ(lines[9], "ROUNDED AVERAGE/GRADE:  0 (F/UNSAT/ABS)  ");
 }
 
 TEST_F(EmptyTableTest, GradesWithoutATypeHaveNoRowInTheTableOfTypes) {

@@ -63,8 +63,8 @@ TEST_F(HtmlReportTest, SignsOfMarkupAreTextInEveryForm) {
   Choice.comment1 = Choice.printcode = true;
   Choice.grade = Choice.summary = 1;
   Choice.month_first = Choice.month_last = kFirstOfSeptember;
-  for (const i16 code : {1, 2, 3, 8, 9, 10, 11, 12, 13, 14, 15, 16, 17, 18, 19, 20, 21, 23, 24}) {
-    const std::string html = HtmlOf(code);
+  for (const int code : {1, 2, 3, 8, 9, 10, 11, 12, 13, 14, 15, 16, 17, 18, 19, 20, 21, 23, 24}) {
+    const std::string html = HtmlOf(static_cast<i16>(code));
     for (const char* broken : {"<script", "</script", "<b>", "<i>", "<u>", "</td>", "</table></",
                                "A&B", "</body> ", "\"1\"", "\"quoted\""})
       EXPECT_EQ(html.find(broken), std::string::npos) << broken << " in code " << code;
