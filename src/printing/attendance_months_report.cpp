@@ -44,7 +44,7 @@ int TotalColumn(const Month& month, int k) {
 }
 
 int Width() {
-  return kFirstDay + kStep * (31 + kMonthTotals);
+  return kFirstDay + kStep * (31 + kMonthTotals + 1);
 }
 
 std::string Bar(std::string_view text) {

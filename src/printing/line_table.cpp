@@ -88,12 +88,12 @@ void PrintTable(ReportPass& pass, const LineTable& table, bool restart) {
 
 void WriteTable(TextReport& text, const LineTable& table) {
   for (const LineBlock& block : table.blocks) {
-    Write(text, block.head, table.width);
+    Write(text, block.head, table.text_rule);
     for (const Lines& row : block.rows) {
       if (Cancelled()) return;
-      Write(text, row, table.width);
+      Write(text, row, table.text_rule);
     }
-    Write(text, block.foot, table.width);
+    Write(text, block.foot, table.text_rule);
   }
 }
 

@@ -31,8 +31,9 @@ struct LineBlock {
 };
 
 struct LineTable {
-  int width = 80;  // columns
+  int width = 80;  // columns that paper has room for
   std::vector<LineBlock> blocks;
+  int text_rule = width;  // characters of a rule in a text file
 };
 
 // Prints the rows of the pass, blocks one behind the other. `restart` is that of PageFooter.

@@ -23,7 +23,8 @@ constexpr std::string_view kTitle = "ROLL BOOK";
 constexpr int kTitleColumn = 40;
 constexpr int kStep = 5;
 constexpr int kLastStart = 90;  // no column begins here or beyond
-constexpr int kRuleWidth = 89;
+constexpr int kWidth = kLastStart + kStep;
+constexpr int kTextRule = 89;
 
 int GradesInBlock() {
   return (kLastStart - BehindStudentColumn() + kStep - 1) / kStep;
@@ -80,7 +81,7 @@ LineBlock BlockOf(const std::vector<int>& grades) {
 }
 
 LineTable Table() {
-  LineTable table{kRuleWidth, {}};
+  LineTable table{kWidth, {}, kTextRule};
   for (const std::vector<int>& grades : GradesByBlock()) table.blocks.push_back(BlockOf(grades));
   return table;
 }
@@ -120,7 +121,7 @@ double LongestTitle(PrintTarget& target, const std::vector<int>& grades) {
 }
 
 double Unit() {
-  return std::min(Job.CharUnit, static_cast<double>(Job.PageTextWidth) / kRuleWidth);
+  return std::min(Job.CharUnit, static_cast<double>(Job.PageTextWidth) / kWidth);
 }
 
 int TitleLines(PrintTarget& target, const std::vector<int>& grades) {

@@ -52,7 +52,7 @@ class RandomReportClass {
       grade.title = Numbered("Title#", i);
       grade.code = Numbered("g", i);
       grade.typecode = OneOf(kTypes);
-      grade.mvalue = static_cast<i16>(1 + UpTo(99));
+      grade.mvalue = static_cast<i16>(50 + UpTo(49));
       grade.testdate = Numbered("9/", 1 + UpTo(29)) + "/2026";
       grade.dropyn = "N";
       grade.countflag = "Y";

@@ -117,7 +117,7 @@ TEST_F(RollBookReportTest, ColumnsOnPaper) {
 TEST_F(RollBookReportTest, APageTooNarrowForTheTableShrinksItsColumns) {
   FixedPrintTarget box;
   box.FontSize = 20;
-  box.ScaleWidth = 9900;  // 8900 between the margins: 100 a column, where a letter has 200
+  box.ScaleWidth = 10500;  // 9500 between the margins: 100 a column, where a letter has 200
   SetupPage(box);
   Job.ReportCode = 3;
   ASSERT_TRUE(LayOutRows(box));
