@@ -124,7 +124,7 @@ TEST_F(LongMissingTest, OneStudentsLaterPagesRepeatTheHeads) {
   LayOut(14);
   // Heads at 1392, rows from 1632: 51 rows end at 13872.
   EXPECT_EQ(PageTable(), (Pages{{1, 51}, {52, 60}}));
-  EXPECT_EQ(PageRows(2).front(), "TITLE CODE TYPE  DATE GRADE");
+  EXPECT_EQ(PageRows(2).front(), "TITLE CODE TYPE DATE GRADE");
   EXPECT_EQ(PageRows(2)[1], "Grade 52 52 Q NEW");
 }
 

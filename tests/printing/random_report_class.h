@@ -45,7 +45,7 @@ class RandomReportClass {
 
   void FillGrades(Class& c) {
     constexpr std::array kTypes = {"Q ", "T ", "HW", "X ", "P "};
-    c.NumInstruments = static_cast<i16>(UpTo(2) == 0 ? UpTo(80) : UpTo(12));
+    c.NumInstruments = static_cast<i16>(UpTo(2) == 0 ? UpTo(60) : UpTo(12));
     ReDim(c.Instruments, c.NumInstruments);
     for (int i = 1; i <= c.NumInstruments; ++i) {
       Instrument& grade = c.Instruments[static_cast<std::size_t>(i)];
@@ -73,7 +73,7 @@ class RandomReportClass {
   }
   void FillStudents(Class& c) {
     const List<Student> before = c.Students;
-    c.NumStudents = static_cast<i16>(UpTo(4) == 0 ? 0 : UpTo(90));
+    c.NumStudents = static_cast<i16>(UpTo(4) == 0 ? 0 : UpTo(60));
     ReDim(c.Students, c.NumStudents);
     for (int s = 1; s <= c.NumStudents; ++s) {
       Student& student = c.Students[static_cast<std::size_t>(s)];

@@ -53,12 +53,16 @@ class ReportTest : public PortalTest {
     Job.ReportCode = code;
     EXPECT_TRUE(LayOutReport());
   }
+  // What stands on a box of the surroundings of these tests.
+  static const PrintedPage& Drawn(const PrintTarget& box) {
+    return static_cast<const FixedPrintTarget&>(box).job->pages.back();
+  }
   // A page drawn by itself from the page table.
   static PrintedPage Page(int page) {
-    FixedPrintTarget box;
-    PrepareTarget(box);
-    EXPECT_TRUE(RenderPage(box, page));
-    return box.job->pages.back();
+    const auto box = Platform().MakePrintBox(PrintsLandscape());
+    PrepareTarget(*box);
+    EXPECT_TRUE(RenderPage(*box, page));
+    return Drawn(*box);
   }
   static Rows PageRows(int page) { return FixedPrintTarget::RowsOf(Page(page)); }
 
