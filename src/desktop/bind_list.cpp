@@ -28,14 +28,20 @@ class ListBinding : public Binding<ListBox, QListWidget> {
     });
     QObject::connect(&list, &QListWidget::itemDoubleClicked, this,
                      [this] { UserDid({&ControlRow::dbl_click}); });
+    QObject::connect(&list, &QListWidget::itemChanged, this,
+                     [this] { UserDid({&ControlRow::change}); });
   }
 
-  void Read() override { control_.ListIndex = widget_.currentRow(); }
+  void Read() override {
+    control_.ListIndex = widget_.currentRow();
+    if (control_.Checks) control_.Checked = Ticks();
+  }
 
  protected:
   void ShowValue() override {
     const QSignalBlocker silence(widget_);
     if (control_.List != list_) Fill();
+    if (control_.Checks) ShowTicks();
     if (widget_.currentRow() != control_.ListIndex) {
       widget_.setCurrentRow(control_.ListIndex);
       if (control_.ListIndex < 0) widget_.clearSelection();
@@ -66,6 +72,26 @@ class ListBinding : public Binding<ListBox, QListWidget> {
   void MarkCurrent() {
     const QSignalBlocker silence(widget_);
     widget_.selectionModel()->select(widget_.currentIndex(), QItemSelectionModel::ClearAndSelect);
+  }
+
+  std::vector<bool> Ticks() const {
+    std::vector<bool> ticks;
+    for (int row = 0; row < widget_.count(); ++row)
+      ticks.push_back(widget_.item(row)->checkState() == Qt::Checked);
+    return ticks;
+  }
+
+  // A line with no tick of its own yet has an empty box.
+  void ShowTicks() {
+    control_.Checked.resize(list_.size());
+    for (int row = 0; row < widget_.count(); ++row) {
+      QListWidgetItem& item = *widget_.item(row);
+      const auto state =
+          control_.Checked[static_cast<std::size_t>(row)] ? Qt::Checked : Qt::Unchecked;
+      // A line has a box once it has a state.
+      const bool has_box = item.data(Qt::CheckStateRole).isValid();
+      if (!has_box || item.checkState() != state) item.setCheckState(state);
+    }
   }
 
   void Fill() {
