@@ -1,8 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Lists whose lines have boxes to tick.
+#include <QAbstractButton>
 #include <QListWidget>
 #include <QStyle>
 #include <QStyleOptionViewItem>
+#include <algorithm>
 
 #include "tests/desktop/everything_portal.h"
 
