@@ -55,13 +55,13 @@ double QtPrintTarget::AverageCharWidth() const {
 }
 
 void QtPrintTarget::Line(double x1, double y1, double x2, double y2) {
-  if (!painter_) return;
+  if (!Draws()) return;
   painter_->setPen(QPen(Qt::black, kRuleWidth));
   painter_->drawLine(PlaceOnSheet(x1, y1), PlaceOnSheet(x2, y2));
 }
 
 void QtPrintTarget::PrintUpwards(std::string_view text, double x, double y) {
-  if (!painter_) return;
+  if (!Draws()) return;
   const double ascent = Metrics().ascent();
   painter_->save();
   painter_->translate(PlaceOnSheet(x, y));
@@ -73,16 +73,21 @@ void QtPrintTarget::PrintUpwards(std::string_view text, double x, double y) {
 }
 
 void QtPrintTarget::Cls() {
-  if (painter_) painter_->fillRect(QRectF(0, 0, Width, Height), Qt::white);
+  if (Draws()) painter_->fillRect(QRectF(0, 0, Width, Height), Qt::white);
   CurrentX = CurrentY = 0;
 }
 
 void QtPrintTarget::DrawTextAt(double x, double y, std::string_view text) {
-  if (!painter_) return;
+  if (!Draws()) return;
   const double ascent = Metrics().ascent();
   painter_->setFont(font_);
   painter_->setPen(Qt::black);
   painter_->drawText(PlaceOnSheet(x, y + ascent), PaperText(text));
+}
+
+// The painter of a job that has ended or was dropped draws no more.
+bool QtPrintTarget::Draws() const {
+  return painter_ && painter_->isActive();
 }
 
 QPointF QtPrintTarget::PlaceOnSheet(double x, double y) const {

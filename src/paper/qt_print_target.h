@@ -34,6 +34,7 @@ class QtPrintTarget : public PrintTarget {
   void DrawTextAt(double x, double y, std::string_view text) override;
 
  private:
+  bool Draws() const;
   QPointF PlaceOnSheet(double x, double y) const;
   const QFontMetricsF& Metrics() const;
 
