@@ -18,18 +18,20 @@ class ListBinding : public Binding<ListBox, QListWidget> {
     list.installEventFilter(this);
     list.viewport()->installEventFilter(this);
     QObject::connect(&list, &QListWidget::currentRowChanged, this, [this] {
-      chosen_by_press_ = true;
+      press_is_told_ = true;
       UserDid({&ControlRow::change, &ControlRow::click});
     });
     QObject::connect(&list, &QListWidget::itemPressed, this, [this] { MarkCurrent(); });
     QObject::connect(&list, &QListWidget::itemClicked, this, [this] {
-      // A press on another line has raised its click when it chose the line.
-      if (!chosen_by_press_) UserDid({&ControlRow::click});
+      // A press on another line has raised its click when it chose the line; a tick is no click.
+      if (!press_is_told_) UserDid({&ControlRow::click});
     });
     QObject::connect(&list, &QListWidget::itemDoubleClicked, this,
                      [this] { UserDid({&ControlRow::dbl_click}); });
-    QObject::connect(&list, &QListWidget::itemChanged, this,
-                     [this] { UserDid({&ControlRow::change}); });
+    QObject::connect(&list, &QListWidget::itemChanged, this, [this] {
+      press_is_told_ = true;
+      UserDid({&ControlRow::change});
+    });
   }
 
   void Read() override {
@@ -51,7 +53,7 @@ class ListBinding : public Binding<ListBox, QListWidget> {
   bool eventFilter(QObject* watched, QEvent* event) override {
     if (event->type() == QEvent::FocusIn && watched == &widget_) return TakeFocus(event);
     if (event->type() == QEvent::MouseButtonPress) {
-      chosen_by_press_ = false;
+      press_is_told_ = false;
       // A press below the last line would take away the mark but not the choice.
       if (!widget_.itemAt(static_cast<QMouseEvent*>(event)->position().toPoint())) return true;
     }
@@ -110,7 +112,7 @@ class ListBinding : public Binding<ListBox, QListWidget> {
 
   ListColumns* columns_;  // the list's
   std::vector<std::string> list_;
-  bool chosen_by_press_ = false;
+  bool press_is_told_ = false;
 };
 
 }  // namespace
