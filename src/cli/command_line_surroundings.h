@@ -6,6 +6,7 @@
 #include <string>
 #include <string_view>
 
+#include "cli/pdf.h"
 #include "platform/surroundings.h"
 
 namespace tallyroll {
@@ -40,6 +41,9 @@ class CommandLineSurroundings : public Surroundings {
   DateOrder ShortDateOrder() override { return date_order_; }
   std::string ProfileFolder() override { return {}; }
   std::string ProgramFolder() override { return {}; }
+  std::unique_ptr<PrintTarget> MakePrintBox(bool landscape) override {
+    return MakePaperBox(landscape);
+  }
   void PumpEvents() override {}
   void SetWaitCursor(bool) override {}
 

@@ -13,6 +13,7 @@
 #include "cli/command_line_surroundings.h"
 #include "cli/commands.h"
 #include "cli/date_order.h"
+#include "cli/pdf.h"
 #include "grades/marks.h"
 #include "printing/html_report.h"
 #include "printing/report_choice.h"
@@ -123,6 +124,21 @@ std::string FormatOf(const ReportOptions& options) {
   return extension == ".pdf" ? "pdf" : "text";
 }
 
+// The title by which a reader of PDF names the document.
+std::string DocumentTitle(const ReportOptions& options) {
+  if (!Job.PrintTitle.empty()) return Job.PrintTitle;
+  return PathForDisplay(std::filesystem::path(options.file).filename().string());
+}
+
+CommandResult MakePdf(const ReportOptions& options, const CommandLineSurroundings& surroundings) {
+  if (options.out.empty()) return Refused(options.file, "a PDF needs --out");
+  const PdfOutcome outcome = WritePdf(options.out, DocumentTitle(options));
+  if (!outcome.refusal.empty()) return Refused(options.file, outcome.refusal);
+  if (outcome.error != 0) return Refused(options.out, FileErrorText(outcome.error));
+  if (Job.PrintFlag == kPrintCancelled) return Refused(options.file, surroundings.Refusal());
+  return Done();
+}
+
 CommandResult MakeReport(const ReportOptions& options) {
   const Report* report = FindReport(options.code);
   if (!report) return Refused(options.file, "there is no report of this code");
@@ -143,7 +159,7 @@ CommandResult MakeReport(const ReportOptions& options) {
   if (!title) return Refused(options.file, "the title has characters that a class cannot hold");
   Job.PrintTitle = *title;
   const std::string format = FormatOf(options);
-  if (format == "pdf") return Refused(options.file, "PDF is not available here");
+  if (format == "pdf") return MakePdf(options, surroundings);
   const std::string bytes = format == "html" ? ReportHtml() : ReportText();
   if (Job.PrintFlag == kPrintCancelled) return Refused(options.file, surroundings.Refusal());
   if (options.out.empty()) return Done(Utf8FromCodePage(bytes));

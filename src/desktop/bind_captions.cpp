@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Labels, frames, pictures: what is only looked at.
+// Labels, frames, progress bars: what is only looked at.
 #include <QGroupBox>
 #include <QLabel>
 #include <QProgressBar>
@@ -53,7 +53,6 @@ class ProgressBinding : public Binding<ProgressBar, QProgressBar> {
 
 // A frame without a caption is any widget that holds others.
 using PlainFrameBinding = Binding<Frame, QWidget>;
-using PictureBinding = Binding<PictureBox, QWidget>;
 
 }  // namespace
 
@@ -70,12 +69,6 @@ BoundControl BindControl(Frame& control, ControlRow& row, QObject& target, Bindi
 BoundControl BindControl(ProgressBar& control, ControlRow& row, QObject& target,
                          BindingOwner& owner) {
   return BindAs<ProgressBinding, QProgressBar>(control, row, target, owner);
-}
-
-BoundControl BindControl(PictureBox& control, ControlRow& row, QObject& target,
-                         BindingOwner& owner) {
-  if (IsInput(target)) return nullptr;
-  return BindAs<PictureBinding, QWidget>(control, row, target, owner);
 }
 
 }  // namespace tallyroll

@@ -18,24 +18,32 @@ class ListBinding : public Binding<ListBox, QListWidget> {
     list.installEventFilter(this);
     list.viewport()->installEventFilter(this);
     QObject::connect(&list, &QListWidget::currentRowChanged, this, [this] {
-      chosen_by_press_ = true;
+      press_is_told_ = true;
       UserDid({&ControlRow::change, &ControlRow::click});
     });
     QObject::connect(&list, &QListWidget::itemPressed, this, [this] { MarkCurrent(); });
     QObject::connect(&list, &QListWidget::itemClicked, this, [this] {
-      // A press on another line has raised its click when it chose the line.
-      if (!chosen_by_press_) UserDid({&ControlRow::click});
+      // A press on another line has raised its click when it chose the line; a tick is no click.
+      if (!press_is_told_) UserDid({&ControlRow::click});
     });
     QObject::connect(&list, &QListWidget::itemDoubleClicked, this,
                      [this] { UserDid({&ControlRow::dbl_click}); });
+    QObject::connect(&list, &QListWidget::itemChanged, this, [this] {
+      press_is_told_ = true;
+      UserDid({&ControlRow::change});
+    });
   }
 
-  void Read() override { control_.ListIndex = widget_.currentRow(); }
+  void Read() override {
+    control_.ListIndex = widget_.currentRow();
+    if (control_.Checks) control_.Checked = Ticks();
+  }
 
  protected:
   void ShowValue() override {
     const QSignalBlocker silence(widget_);
     if (control_.List != list_) Fill();
+    if (control_.Checks) ShowTicks();
     if (widget_.currentRow() != control_.ListIndex) {
       widget_.setCurrentRow(control_.ListIndex);
       if (control_.ListIndex < 0) widget_.clearSelection();
@@ -45,7 +53,7 @@ class ListBinding : public Binding<ListBox, QListWidget> {
   bool eventFilter(QObject* watched, QEvent* event) override {
     if (event->type() == QEvent::FocusIn && watched == &widget_) return TakeFocus(event);
     if (event->type() == QEvent::MouseButtonPress) {
-      chosen_by_press_ = false;
+      press_is_told_ = false;
       // A press below the last line would take away the mark but not the choice.
       if (!widget_.itemAt(static_cast<QMouseEvent*>(event)->position().toPoint())) return true;
     }
@@ -68,6 +76,26 @@ class ListBinding : public Binding<ListBox, QListWidget> {
     widget_.selectionModel()->select(widget_.currentIndex(), QItemSelectionModel::ClearAndSelect);
   }
 
+  std::vector<bool> Ticks() const {
+    std::vector<bool> ticks;
+    for (int row = 0; row < widget_.count(); ++row)
+      ticks.push_back(widget_.item(row)->checkState() == Qt::Checked);
+    return ticks;
+  }
+
+  // A line with no tick of its own yet has an empty box.
+  void ShowTicks() {
+    control_.Checked.resize(list_.size());
+    for (int row = 0; row < widget_.count(); ++row) {
+      QListWidgetItem& item = *widget_.item(row);
+      const auto state =
+          control_.Checked[static_cast<std::size_t>(row)] ? Qt::Checked : Qt::Unchecked;
+      // A line has a box once it has a state.
+      const bool has_box = item.data(Qt::CheckStateRole).isValid();
+      if (!has_box || item.checkState() != state) item.setCheckState(state);
+    }
+  }
+
   void Fill() {
     const bool same_length = list_.size() == control_.List.size();
     list_ = control_.List;
@@ -84,7 +112,7 @@ class ListBinding : public Binding<ListBox, QListWidget> {
 
   ListColumns* columns_;  // the list's
   std::vector<std::string> list_;
-  bool chosen_by_press_ = false;
+  bool press_is_told_ = false;
 };
 
 }  // namespace

@@ -12,6 +12,13 @@ namespace {
 constexpr int kGap = 16;
 constexpr int kMargin = 4;
 
+// Where the text begins, from the left edge of the line: behind its box to tick, if it has one.
+int TextLeft(const QStyleOptionViewItem& line, const QStyle& style) {
+  if (!(line.features & QStyleOptionViewItem::HasCheckIndicator)) return kMargin;
+  const QRect box = style.subElementRect(QStyle::SE_ItemViewItemCheckIndicator, &line, line.widget);
+  return box.right() - line.rect.left() + 2 * kMargin;
+}
+
 }  // namespace
 
 void ListColumns::Measure(const QListWidget& list) {
@@ -36,12 +43,13 @@ void ListColumns::paint(QPainter* painter, const QStyleOptionViewItem& option,
   const QStringList parts = std::exchange(line.text, QString()).split(QLatin1Char('\t'));
   const QStyle& style = line.widget ? *line.widget->style() : *QApplication::style();
   style.drawControl(QStyle::CE_ItemViewItem, &line, painter, line.widget);
+  const int left = TextLeft(line, style);
   const bool selected = line.state & QStyle::State_Selected;
   const auto role = selected ? QPalette::HighlightedText : QPalette::Text;
   painter->setPen(line.palette.color(role));
   painter->setFont(line.font);
   for (int i = 0; i < parts.size(); ++i) {
-    const QRect place = line.rect.adjusted(kMargin + Start(i), 0, 0, 0);
+    const QRect place = line.rect.adjusted(left + Start(i), 0, 0, 0);
     painter->drawText(place, Qt::AlignVCenter | Qt::TextSingleLine, parts[i]);
   }
 }
@@ -49,7 +57,11 @@ void ListColumns::paint(QPainter* painter, const QStyleOptionViewItem& option,
 QSize ListColumns::sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const {
   QSize size = QStyledItemDelegate::sizeHint(option, index);
   const auto columns = index.data().toString().count(QLatin1Char('\t')) + 1;
-  if (columns > 1) size.setWidth(2 * kMargin + Start(static_cast<int>(columns)));
+  if (columns == 1) return size;
+  QStyleOptionViewItem line = option;
+  initStyleOption(&line, index);
+  const QStyle& style = line.widget ? *line.widget->style() : *QApplication::style();
+  size.setWidth(TextLeft(line, style) + Start(static_cast<int>(columns)) + kMargin);
   return size;
 }
 

@@ -13,7 +13,10 @@
 #include "desktop/message_box.h"
 #include "desktop/open_save_dialog.h"
 #include "desktop/portal_dialog.h"
+#include "desktop/print_dialogs.h"
+#include "desktop/printer_target.h"
 #include "desktop/text_conversion.h"
+#include "paper/pdf_target.h"
 #include "platform/class_window.h"
 
 namespace tallyroll {
@@ -145,6 +148,43 @@ std::string QtSurroundings::ProgramFolder() {
       return ToPath(QDir(folder).canonicalPath());
   }
   return ToPath(QDir(ProgramFolders().front()).absolutePath());
+}
+
+QPrinter& QtSurroundings::Printer() {
+  if (!printer_) printer_ = MakePrinter();
+  return *printer_;
+}
+
+std::unique_ptr<PrintTarget> QtSurroundings::MakePrintBox(bool landscape) {
+  const Sheet sheet = SheetOf(Printer());
+  return std::make_unique<QtPrintTarget>(landscape ? Turned(sheet) : sheet);
+}
+
+std::optional<PrintRange> QtSurroundings::PrintDialog(const PrintRange& offered) {
+  ShowOpenPortals();
+  return ShowPrintDialog(Printer(), offered, QApplication::activeWindow());
+}
+
+std::unique_ptr<PrintTarget> QtSurroundings::OpenPrinter(bool landscape, std::string_view title) {
+  return PrinterTarget::Open(Printer(), landscape, title);
+}
+
+std::unique_ptr<PrintTarget> QtSurroundings::OpenPdf(const std::string& path, bool landscape,
+                                                     std::string_view title) {
+  int error = 0;
+  auto pdf = PdfTarget::Open(path, SheetOf(Printer()), landscape, title, error);
+  if (pdf) pdf->failed = [](int) { ShowMessage("File Error"); };
+  return pdf;
+}
+
+void QtSurroundings::PrinterSetUpDialog() {
+  ShowOpenPortals();
+  ShowPrinterSetUpDialog(Printer(), QApplication::activeWindow());
+}
+
+bool QtSurroundings::FontDialog(std::string& name, float& points) {
+  ShowOpenPortals();
+  return ShowFontDialog(name, points, QApplication::activeWindow());
 }
 
 void QtSurroundings::PumpEvents() {

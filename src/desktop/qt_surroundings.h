@@ -3,10 +3,13 @@
 #pragma once
 
 #include <QPointer>
+#include <QPrinter>
 #include <QSettings>
 #include <functional>
 #include <map>
+#include <memory>
 
+#include "platform/print_target.h"
 #include "platform/surroundings.h"
 
 namespace tallyroll {
@@ -37,6 +40,14 @@ class QtSurroundings : public Surroundings {
   std::string ProfileFolder() override;
   std::string ProgramFolder() override;
 
+  std::unique_ptr<PrintTarget> MakePrintBox(bool landscape) override;
+  std::optional<PrintRange> PrintDialog(const PrintRange& offered) override;
+  std::unique_ptr<PrintTarget> OpenPrinter(bool landscape, std::string_view title) override;
+  std::unique_ptr<PrintTarget> OpenPdf(const std::string& path, bool landscape,
+                                       std::string_view title) override;
+  void PrinterSetUpDialog() override;
+  bool FontDialog(std::string& name, float& points) override;
+
   void PumpEvents() override;
   void SetWaitCursor(bool on) override;
 
@@ -44,6 +55,10 @@ class QtSurroundings : public Surroundings {
   std::function<void(int context)> help_hook;
 
  private:
+  // The printer in use, asked for when it is needed first: that takes a while.
+  QPrinter& Printer();
+
+  std::unique_ptr<QPrinter> printer_;
   std::map<Portal*, QPointer<PortalDialog>> beside_;  // a dialog goes with the one below it
   bool waiting_ = false;
   QSettings settings_;  // one for all: each one of them goes to the disk when it goes

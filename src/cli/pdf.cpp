@@ -1,0 +1,31 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "cli/pdf.h"
+
+#include "paper/offscreen_application.h"
+#include "paper/pdf_target.h"
+#include "printing/print_run.h"
+
+namespace tallyroll {
+
+PdfOutcome WritePdf(const std::string& path, const std::string& title) {
+  const OffscreenApplication application;
+  if (!LayOutReport()) return {};
+  if (Job.PageCount == 0) return {"the report has no pages"};
+  PdfOutcome outcome;
+  const Sheet sheet = WholeSheet(UsualPageSize());
+  const auto pdf = PdfTarget::Open(path, sheet, PrintsLandscape(), title, outcome.error);
+  if (!pdf) return outcome;
+  PrepareTarget(*pdf);
+  PrintRange pages;
+  pages.to_page = Job.PageCount;
+  PrintPages(*pdf, pages, [](int) {});
+  outcome.error = pdf->Error();
+  return outcome;
+}
+
+std::unique_ptr<PrintTarget> MakePaperBox(bool landscape) {
+  const Sheet sheet = WholeSheet(UsualPageSize());
+  return std::make_unique<QtPrintTarget>(landscape ? Turned(sheet) : sheet);
+}
+
+}  // namespace tallyroll

@@ -1,0 +1,41 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// A sheet of paper on the screen: white in every palette, as large as the paper at its zoom.
+#pragma once
+
+#include <QPixmap>
+#include <QWidget>
+
+#include "platform/controls.h"
+
+namespace tallyroll {
+
+class SheetView : public QWidget {
+  Q_OBJECT
+
+ public:
+  using QWidget::QWidget;
+
+  // Draws the sheet anew when it has changed since the last time, and only then.
+  void ShowSheet(const PictureBox& box);
+
+ protected:
+  void paintEvent(QPaintEvent* event) override;
+
+ private:
+  struct Look {
+    unsigned revision = 0;
+    double zoom = 0, width = 0, height = 0;
+
+    friend bool operator==(const Look&, const Look&) = default;
+  };
+  static Look LookOf(const PictureBox& box) {
+    return {box.Revision, box.Zoom, box.SheetWidth, box.SheetHeight};
+  }
+  QPixmap Draw(const PictureBox& box) const;
+
+  Look shown_;
+  QPixmap sheet_;
+  bool drawing_ = false;
+};
+
+}  // namespace tallyroll

@@ -1,0 +1,110 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "paper/qt_print_target.h"
+
+#include <QPaintDevice>
+#include <QPainter>
+#include <algorithm>
+#include <cmath>
+
+#include "base/code_page.h"
+
+namespace tallyroll {
+namespace {
+
+constexpr double kTwipsPerInch = 1440;
+constexpr double kTwipsPerPoint = 20;
+constexpr double kRuleWidth = 10;
+
+QString PaperText(std::string_view text) {
+  return QString::fromStdString(Utf8FromCodePage(text));
+}
+
+QFont PaperFont(const std::string& name, double points, bool bold) {
+  QFont font(PaperText(name));
+  // Twips as pixels: the resolution of the device has no say in the width of a line.
+  font.setPixelSize(std::max(static_cast<int>(std::lround(points * kTwipsPerPoint)), 1));
+  font.setHintingPreference(QFont::PreferNoHinting);
+  font.setBold(bold);
+  return font;
+}
+
+}  // namespace
+
+void ScaleToTwips(QPainter& painter, const QPaintDevice& device) {
+  painter.scale(device.logicalDpiX() / kTwipsPerInch, device.logicalDpiY() / kTwipsPerInch);
+}
+
+QtPrintTarget::QtPrintTarget(const Sheet& sheet, QPainter* painter)
+    : painter_(painter), metrics_(font_) {
+  Width = sheet.width;
+  Height = sheet.height;
+  ScaleWidth = sheet.printable_width;
+  ScaleHeight = sheet.printable_height;
+}
+
+double QtPrintTarget::TextWidth(std::string_view text) const {
+  return Metrics().horizontalAdvance(PaperText(text));
+}
+
+double QtPrintTarget::TextHeight(std::string_view /*text*/) const {
+  return Metrics().height();
+}
+
+double QtPrintTarget::AverageCharWidth() const {
+  return Metrics().averageCharWidth();
+}
+
+void QtPrintTarget::Line(double x1, double y1, double x2, double y2) {
+  if (!Draws()) return;
+  painter_->setPen(QPen(Qt::black, kRuleWidth));
+  painter_->drawLine(PlaceOnSheet(x1, y1), PlaceOnSheet(x2, y2));
+}
+
+void QtPrintTarget::PrintUpwards(std::string_view text, double x, double y) {
+  if (!Draws()) return;
+  const double ascent = Metrics().ascent();
+  painter_->save();
+  painter_->translate(PlaceOnSheet(x, y));
+  painter_->rotate(-90);
+  painter_->setFont(font_);
+  painter_->setPen(Qt::black);
+  painter_->drawText(QPointF(0, ascent), PaperText(text));
+  painter_->restore();
+}
+
+void QtPrintTarget::Cls() {
+  if (Draws()) painter_->fillRect(QRectF(0, 0, Width, Height), Qt::white);
+  CurrentX = CurrentY = 0;
+}
+
+void QtPrintTarget::DrawTextAt(double x, double y, std::string_view text) {
+  if (!Draws()) return;
+  const double ascent = Metrics().ascent();
+  painter_->setFont(font_);
+  painter_->setPen(Qt::black);
+  painter_->drawText(PlaceOnSheet(x, y + ascent), PaperText(text));
+}
+
+// The painter of a job that has ended or was dropped draws no more.
+bool QtPrintTarget::Draws() const {
+  return painter_ && painter_->isActive();
+}
+
+QPointF QtPrintTarget::PlaceOnSheet(double x, double y) const {
+  const double left = (Width - ScaleWidth) / 2;
+  const double top = (Height - ScaleHeight) / 2;
+  return {left + x - ScaleLeft, top + y - ScaleTop};
+}
+
+const QFontMetricsF& QtPrintTarget::Metrics() const {
+  if (name_ != FontName || size_ != FontSize || bold_ != FontBold) {
+    name_ = FontName;
+    size_ = FontSize;
+    bold_ = FontBold;
+    font_ = PaperFont(name_, size_, bold_);
+    metrics_ = QFontMetricsF(font_);
+  }
+  return metrics_;
+}
+
+}  // namespace tallyroll

@@ -1,0 +1,131 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// A sheet of paper in a Portal.
+#include "desktop/sheet_view.h"
+
+#include <gtest/gtest.h>
+
+#include <QApplication>
+#include <QPushButton>
+#include <QScreen>
+#include <QScrollArea>
+#include <QTest>
+#include <algorithm>
+#include <functional>
+#include <memory>
+
+#include "desktop/portal_dialog.h"
+#include "platform/headless.h"
+#include "platform/print_target.h"
+
+namespace tallyroll {
+namespace {
+
+// A letter sheet with a rule across its upper half inch.
+struct SheetPortal : Portal {
+  SheetPortal() : Portal("frmSheet") {
+    sheet.SheetWidth = 12240;
+    sheet.SheetHeight = 15840;
+    sheet.Draw = [this](PrintTarget& target) {
+      ++drawn;
+      target.Cls();
+      target.Line(0, 720, 12240, 720);
+      if (while_drawing) while_drawing();
+    };
+  }
+  void Declare(ControlTable& table) override {
+    table.Add("sheet", sheet);
+    table.Add("next", next).Click([this] { when_pressed(); });
+  }
+
+  PictureBox sheet;
+  CommandButton next;
+  int drawn = 0;
+  std::function<void()> when_pressed = [] {};
+  std::function<void()> while_drawing;
+};
+
+class SheetViewTest : public testing::Test {
+ protected:
+  void SetUp() override { SetPlatform(&surroundings); }
+  void TearDown() override {
+    dialog.reset();
+    SetPlatform(nullptr);
+  }
+  void Open() {
+    dialog = std::make_unique<PortalDialog>(portal, QStringLiteral(":/test/forms/sheet.ui"));
+    ASSERT_TRUE(dialog->Complaints().isEmpty()) << dialog->Complaints().join(u'\n').toStdString();
+    dialog->show();
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(dialog.get()));
+  }
+  QScrollArea& area() { return *dialog->findChild<QScrollArea*>(QStringLiteral("sheet")); }
+  SheetView& view() { return *area().findChild<SheetView*>(); }
+  void Press() { dialog->findChild<QPushButton*>(QStringLiteral("next"))->click(); }
+  static double DotsPerInch() { return qApp->primaryScreen()->logicalDotsPerInchX(); }
+
+  HeadlessSurroundings surroundings;
+  SheetPortal portal;
+  std::unique_ptr<PortalDialog> dialog;
+};
+
+TEST_F(SheetViewTest, ASheetIsAsLargeAsItsPaper) {
+  Open();
+  EXPECT_NEAR(view().width(), 8.5 * DotsPerInch(), 1);
+  EXPECT_NEAR(view().height(), 11 * DotsPerInch(), 1);
+}
+
+TEST_F(SheetViewTest, ZoomMakesItLargerAndScrolls) {
+  portal.sheet.Zoom = 1.4;
+  Open();
+  EXPECT_NEAR(view().width(), 1.4 * 8.5 * DotsPerInch(), 1);
+  EXPECT_NEAR(view().height(), 1.4 * 11 * DotsPerInch(), 1);
+  const QImage image = view().grab().toImage();
+  const auto rule = static_cast<int>(1.4 * DotsPerInch() / 2);
+  int dark_rows = 0;
+  for (int y = rule - 2; y <= rule + 2; ++y)
+    if (image.pixelColor(image.width() / 2, y).lightness() < 128) ++dark_rows;
+  EXPECT_GE(dark_rows, 1);
+}
+
+TEST_F(SheetViewTest, PaperIsWhiteInADarkPalette) {
+  const QPalette before = QApplication::palette();
+  QApplication::setPalette(QPalette(QColor(40, 40, 40)));
+  Open();
+  const QImage image = view().grab().toImage();
+  EXPECT_EQ(image.pixelColor(3, 3), QColor(Qt::white));
+  EXPECT_EQ(image.pixelColor(image.width() - 3, image.height() - 3), QColor(Qt::white));
+  QApplication::setPalette(before);
+}
+
+TEST_F(SheetViewTest, ItIsDrawnAgainOnlyWhenItChanged) {
+  Open();
+  EXPECT_EQ(portal.drawn, 1);
+  Press();
+  view().repaint();
+  EXPECT_EQ(portal.drawn, 1);
+  portal.when_pressed = [this] { ++portal.sheet.Revision; };
+  Press();
+  EXPECT_EQ(portal.drawn, 2);
+  portal.when_pressed = [this] { portal.sheet.Zoom = 0.75; };
+  Press();
+  EXPECT_EQ(portal.drawn, 3);
+}
+
+TEST_F(SheetViewTest, AnotherPageAskedForMeanwhileIsDrawnAfterwards) {
+  Open();
+  int depth = 0, deepest = 0;
+  portal.while_drawing = [&] {
+    deepest = std::max(deepest, ++depth);
+    if (portal.drawn == 2) {
+      ++portal.sheet.Revision;
+      dialog->ShowControls();
+    }
+    --depth;
+  };
+  portal.when_pressed = [this] { ++portal.sheet.Revision; };
+  Press();
+  EXPECT_EQ(portal.drawn, 3);
+  EXPECT_EQ(deepest, 1);
+}
+
+}  // namespace
+}  // namespace tallyroll
