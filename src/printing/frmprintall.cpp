@@ -53,7 +53,7 @@ struct frmprintall::Row {
   Needs needs = Needs::kNothing;
 };
 
-constexpr frmprintall::Row frmprintall::kRows[] = {
+const frmprintall::Row frmprintall::kRows[] = {
     {1, 1, "allgrades", &F::allgrades, "All Grades", Needs::kGrades},
     {1, 2, "missing", &F::missing, "Missing Grades", Needs::kGrades},
     {1, 10, "onegrade", &F::onegrade, "One Grade", Needs::kGrades},

@@ -116,8 +116,10 @@ void frmprintpre::makepage() {
     pagenum.List.push_back("Page " + PlainNumberText(page));
 }
 
-// The page is drawn by whoever shows the box, on the sheet for which it was laid out.
+// The page is drawn by whoever shows the box, on the sheet for which it was laid out. A page that
+// is drawn meanwhile would lead a print astray.
 void frmprintpre::showscreen() {
+  if (running_) return;
   const auto sheet = Platform().MakePrintBox(PrintsLandscape());
   if (!sheet) return;
   picture1.Zoom = ZoomOf(size.ListIndex);
@@ -143,7 +145,7 @@ void frmprintpre::StepZoom(int by) {
 }
 
 void frmprintpre::ShowPage(int index) {
-  if (index < 0 || index >= Job.PageCount) return;
+  if (running_ || index < 0 || index >= Job.PageCount) return;
   pagenum.ListIndex = index;
   pagenum.Text = pagenum.List[static_cast<std::size_t>(index)];
   Pagen.Caption = pagenum.Text.substr(4);

@@ -22,7 +22,7 @@ struct PrintJob {
   i16 PrintFlag = kPrintWaits;  // every row loop of every writer polls it
   i16 PrintTab = 1;             // tab of the Printer Portal, 1 to 4
   i16 ReportCode = 0;
-  std::string PrintTitle;  // the teacher's own title, below the report's
+  std::string PrintTitle;           // the teacher's own title, below the report's
   std::function<void()> AtEachRow;  // told once a row, by whoever shows how far the run has come
 
   int PageTextWidth = 0;  // twips from the left to the right margin

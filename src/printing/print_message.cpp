@@ -35,8 +35,9 @@ void PrintMessage::Show() {
 // A window that its Cancel closed stays closed.
 void PrintMessage::ShowPage(int page, int all) {
   if (Job.PrintFlag == kPrintCancelled) return;
-  if (!shown_) Show();
+  if (!message_.get()) message_.Open();
   if (message_.get()) message_.get()->ShowPage(page, all);
+  if (!shown_) Show();
 }
 
 }  // namespace tallyroll

@@ -9,8 +9,7 @@
 namespace tallyroll {
 namespace {
 
-const std::string kChooseName =
-    "Choose the NAME of the student whose record you wish to print.";
+const std::string kChooseName = "Choose the NAME of the student whose record you wish to print.";
 const std::string kChooseType = "You must select at least one type.";
 
 class FrmPrintAllTest : public PrintPortalTest {
@@ -111,13 +110,17 @@ TEST_F(FrmPrintAllTest, WithoutAMethodThereAreNoAverages) {
 TEST_F(FrmPrintAllTest, EachReportShowsItsOwnOptions) {
   OpenAt(1);
   const std::map<std::string, std::string> shown = {
-      {"allgrades", "classboxes attendance"}, {"missing", ""},
-      {"onegrade", "roll sortgrade titleframe lsttitle"}, {"rollbook", "classboxes roll sort"},
-      {"rollbookTitle", "roll sort"}, {"allatt", "roll FrameAtt"},
-      {"attfullone", "roll titleframe lstatt"}, {"allattsumm", "roll"}};
+      {"allgrades", "classboxes attendance"},
+      {"missing", ""},
+      {"onegrade", "roll sortgrade titleframe lsttitle"},
+      {"rollbook", "classboxes roll sort"},
+      {"rollbookTitle", "roll sort"},
+      {"allatt", "roll FrameAtt"},
+      {"attfullone", "roll titleframe lstatt"},
+      {"allattsumm", "roll"}};
   const std::vector<std::string> frames = {"classboxes", "attendance", "studentboxes", "roll",
-                                           "sortgrade", "onesort", "sort", "FrameAtt",
-                                           "titleframe", "lsttitle", "lstatt", "nameframe"};
+                                           "sortgrade",  "onesort",    "sort",         "FrameAtt",
+                                           "titleframe", "lsttitle",   "lstatt",       "nameframe"};
   for (const auto& [option, expected] : shown) {
     Choose(option);
     std::string seen;
@@ -165,8 +168,8 @@ TEST_F(FrmPrintAllTest, PrintsTheWholeClass) {
 TEST_F(FrmPrintAllTest, EveryReportHasItsCode) {
   OpenAt(1);
   const std::vector<std::tuple<int, const char*, int>> reports = {
-      {0, "missing", 2}, {0, "rollbook", 3}, {0, "rollbookTitle", 4}, {0, "allattsumm", 16},
-      {2, "Option1", 19}, {2, "Option5", 23}, {2, "Option2", 20}, {2, "Option4", 22}};
+      {0, "missing", 2},  {0, "rollbook", 3}, {0, "rollbookTitle", 4}, {0, "allattsumm", 16},
+      {2, "Option1", 19}, {2, "Option5", 23}, {2, "Option2", 20},      {2, "Option4", 22}};
   for (const auto& [tab, option, code] : reports) {
     if (portal.TabStrip1.Selected != tab) driver->PickTab("TabStrip1", tab);
     Choose(option);

@@ -103,7 +103,7 @@ TEST_F(FrmPrintPreTest, ZoomGoesStepByStepAndStopsAtTheEnds) {
 TEST_F(FrmPrintPreTest, PagesAreTurned) {
   OpenReport(19, 120);
   const std::vector<std::pair<const char*, const char*>> turns = {
-      {"five", " 2"}, {"five", " 3"}, {"five", " 3"}, {"four", " 2"},
+      {"five", " 2"}, {"five", " 3"},  {"five", " 3"}, {"four", " 2"},
       {"six", " 3"},  {"three", " 1"}, {"four", " 1"}};
   for (const auto& [button, page] : turns) {
     driver->Press(button);
@@ -205,8 +205,11 @@ TEST_F(FrmPrintPreTest, APrintHoldsOffAnotherAndTheExit) {
   screen.on_pump = [&] {
     if (pumped || !screen.PortalBeside("printmsg")) return;
     pumped = true;
+    const unsigned drawn = portal.picture1.Revision;
     portal.ShowPrint();
+    portal.showscreen();
     portal.QueryUnload();
+    EXPECT_EQ(portal.picture1.Revision, drawn);
   };
   driver->Press("seven");
   screen.on_pump = nullptr;

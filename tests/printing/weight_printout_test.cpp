@@ -11,8 +11,10 @@ namespace {
 using WeightPrintoutTest = PrintPortalTest;
 
 PrintedTable Points(int rows) {
-  PrintedTable table{" Points Printout", {"NAME", "Types", "MAX PTS.", "COUNT IN"},
-                     {"", "", "", "TOTAL PTS."}, {}};
+  PrintedTable table{" Points Printout",
+                     {"NAME", "Types", "MAX PTS.", "COUNT IN"},
+                     {"", "", "", "TOTAL PTS."},
+                     {}};
   for (int i = 1; i <= rows; ++i)
     table.rows.push_back({"Quiz " + PlainNumberText(i), "Q", "50", "Y"});
   return table;
