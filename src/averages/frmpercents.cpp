@@ -104,6 +104,16 @@ Currency frmpercents::EqualWeight(int rows) const {
   return Currency::FromWhole(RoundToInt16(100.0 / rows));
 }
 
+// The mark of the row in work is no part of a name.
+PrintedTable frmpercents::Printout() const {
+  PrintedTable table{.title = " Weights Printout by Type",
+                     .head = {"NAME", "Types", "# of ", "OLD %", "NEW %"},
+                     .second_head = {"", "", "Items"},
+                     .rows = RowsToPrint(typegrid)};
+  for (std::size_t t = 1; t <= kGradeTypes; ++t) table.rows[t - 1].front() = names_.Name(t);
+  return table;
+}
+
 TypeSums frmpercents::WeightsByType() const {
   TypeSums sums{};
   for (std::size_t t = 1; t <= kGradeTypes; ++t)

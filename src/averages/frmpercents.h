@@ -22,6 +22,7 @@ struct frmpercents : WeightsForm {
   std::vector<int> EqualRows() const override;
   Currency EqualWeight(int rows) const override;
   void MoveMark() override;
+  PrintedTable Printout() const override;
   TypeSums WeightsByType() const override;
   bool SumIsHundred() const override;
   i16& Work() const override { return Current().AverageWork2; }

@@ -136,7 +136,10 @@ void frmpoints::frombd_Click() {
 }
 
 void frmpoints::print_Click() {
-  ClassWindow().ShowStatus(kPortalNotAvailable);
+  PrintOrTell({.title = " Points Printout",
+               .head = {"NAME", "Types", "MAX PTS.", "COUNT IN"},
+               .second_head = {"", "", "", "TOTAL PTS."},
+               .rows = RowsToPrint(grdgrade)});
 }
 
 void frmpoints::Sumanry_Click() {

@@ -62,6 +62,13 @@ Currency frmweights::EqualWeight(int rows) const {
   return Currency::FromDouble(std::nearbyint(thousandths) / 1000);
 }
 
+PrintedTable frmweights::Printout() const {
+  return {.title = " Weights Printout",
+          .head = {"NAME", "Types", "OLD WTS.", "NEW WTS."},
+          .second_head = {},
+          .rows = RowsToPrint(grdgrade)};
+}
+
 TypeSums frmweights::WeightsByType() const {
   TypeCodes codes;
   MakeTypeCodes(codes);

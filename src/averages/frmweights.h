@@ -17,6 +17,7 @@ struct frmweights : WeightsForm {
   bool IsExtraCredit(int row) const override;
   std::vector<int> EqualRows() const override;
   Currency EqualWeight(int rows) const override;
+  PrintedTable Printout() const override;
   TypeSums WeightsByType() const override;
   bool SumIsHundred() const override;
   i16& Work() const override { return Current().AverageWork1; }

@@ -3,6 +3,7 @@
 
 #include "base/text.h"
 #include "grades/marks.h"
+#include "platform/class_window.h"
 #include "store/program_state.h"
 
 namespace tallyroll {
@@ -32,6 +33,22 @@ void ShowTitles(Grid& grid) {
     grid.SetTextMatrix(row, 0, Trim(instrument.title));
     grid.SetTextMatrix(row, 1, Trim(instrument.typecode));
   }
+}
+
+std::vector<std::vector<std::string>> RowsToPrint(const Grid& grid) {
+  std::vector<std::vector<std::string>> rows;
+  for (int row = grid.FixedRows; row < grid.Rows(); ++row) {
+    rows.emplace_back();
+    for (int col = 0; col < grid.Cols(); ++col) rows.back().emplace_back(grid.TextMatrix(row, col));
+  }
+  return rows;
+}
+
+void PrintOrTell(const PrintedTable& table) {
+  if (PrintTable)
+    PrintTable(table);
+  else
+    ClassWindow().ShowStatus(kPortalNotAvailable);
 }
 
 TypeNames::TypeNames() {

@@ -6,9 +6,11 @@
 #include <initializer_list>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "grades/grade_types.h"
 #include "platform/grid.h"
+#include "platform/table_printer.h"
 
 namespace tallyroll {
 
@@ -18,6 +20,11 @@ void HeadColumns(Grid& grid, std::initializer_list<std::string_view> headings);
 
 // Title and type of grade i in row i, behind the headings.
 void ShowTitles(Grid& grid);
+
+// The rows of a grid below its headings, as they go to paper.
+std::vector<std::vector<std::string>> RowsToPrint(const Grid& grid);
+// Prints a table; where nothing can be printed the status bar says so.
+void PrintOrTell(const PrintedTable& table);
 
 // Names and codes of the types of the current class.
 class TypeNames {

@@ -21,6 +21,7 @@ WeightsForm::WeightsForm(std::string_view name, Grid& grid, int columns,
   paste.Caption = "Copy &To";
   frombd.Caption = "Paste &From";
   types.Caption = "T&ypes";
+  print.Caption = "&Print";
   exit.Caption = "C&ontinue";
   cancel.Caption = "&Cancel";
   dropyn.Caption = "Drop Single Lowest Grade";
@@ -44,6 +45,7 @@ void WeightsForm::DeclareButtons(ControlTable& table) {
   table.Add("paste", paste).Click([this] { paste_Click(); });
   table.Add("frombd", frombd).Click([this] { frombd_Click(); });
   table.Add("types", types).Click([this] { types_Click(); });
+  table.Add("print", print).Click([this] { print_Click(); });
 }
 
 void WeightsForm::DeclareBoxes(ControlTable& table) {
@@ -179,6 +181,10 @@ void WeightsForm::types_Click() {
 void WeightsForm::ClearDropBoxes() {
   droptype.Value = dropyn.Value = labs.Value = labs.Visible = false;
   drop_.Close();
+}
+
+void WeightsForm::print_Click() {
+  PrintOrTell(Printout());
 }
 
 void WeightsForm::droptype_Click() {

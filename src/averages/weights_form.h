@@ -9,6 +9,7 @@
 #include "averages/frmdropgrade.h"
 #include "averages/frmtotals.h"
 #include "grades/cell_typing.h"
+#include "platform/table_printer.h"
 #include "store/program_state.h"
 
 namespace tallyroll {
@@ -18,7 +19,7 @@ struct WeightsForm : Portal {
   void QueryUnload() override { cancel_Click(); }
 
   Label totals, extra;  // sums of the new weights without and of extra credit
-  CommandButton newwt, equal, oldwt, clearwt, paste, frombd, types, exit, cancel;
+  CommandButton newwt, equal, oldwt, clearwt, paste, frombd, types, print, exit, cancel;
   CheckBox dropyn, droptype, labs;
 
   void newwt_Click();
@@ -28,6 +29,7 @@ struct WeightsForm : Portal {
   void paste_Click();
   void frombd_Click();
   void types_Click();
+  void print_Click();
   void droptype_Click();
   void dropyn_Click();
   void exit_Click();
@@ -55,7 +57,8 @@ struct WeightsForm : Portal {
   // The rows among which 100 is shared out evenly, and how much each but the last gets.
   virtual std::vector<int> EqualRows() const = 0;
   virtual Currency EqualWeight(int rows) const = 0;
-  virtual void MoveMark() {}  // the current cell has moved
+  virtual PrintedTable Printout() const = 0;  // the table as it goes to paper
+  virtual void MoveMark() {}                  // the current cell has moved
   virtual TypeSums WeightsByType() const = 0;
   virtual bool SumIsHundred() const = 0;
   virtual i16& Work() const = 0;  // AverageWork1 or AverageWork2

@@ -31,6 +31,10 @@ constexpr std::array kContexts = {
     340,  // naming grade types: frmcategories
     350,  // what letters count: frmletter
     360,  // missing grades: frmMgrade
+    410,  // printing: frmprintall
+    420,  // margins: frmmargins
+    430,  // title and progress of a printout: printmsg
+    440,  // preview: frmprintpre
     500,  // weights of grades: frmweights, frmdropgrade, frmtotals
     510,  // weights of types: frmpercents
     520,  // points: frmpoints

@@ -145,6 +145,7 @@ std::optional<PrintRange> HeadlessSurroundings::PrintDialog(const PrintRange& of
 
 std::unique_ptr<PrintTarget> HeadlessSurroundings::OpenPrinter(bool landscape,
                                                                std::string_view title) {
+  if (printer_refuses) return nullptr;
   auto target = MakeTarget(FixedPrintTarget::Kind::kPrinter, landscape);
   target->job->title = title;
   target->job->landscape = landscape;
@@ -155,7 +156,7 @@ std::unique_ptr<PrintTarget> HeadlessSurroundings::OpenPrinter(bool landscape,
 std::unique_ptr<PrintTarget> HeadlessSurroundings::OpenPdf(const std::string& path, bool landscape,
                                                            std::string_view title) {
   auto target = OpenPrinter(landscape, title);
-  print_jobs.back()->path = path;
+  if (target) print_jobs.back()->path = path;
   return target;
 }
 

@@ -6,6 +6,8 @@
 #include <functional>
 #include <map>
 #include <string>
+#include <tuple>
+#include <utility>
 #include <vector>
 
 #include "platform/fixed_print_target.h"
@@ -53,6 +55,12 @@ class HeadlessSurroundings : public Surroundings {
   std::unique_ptr<PrintTarget> OpenPrinter(bool landscape, std::string_view title) override;
   std::unique_ptr<PrintTarget> OpenPdf(const std::string& path, bool landscape,
                                        std::string_view title) override;
+  void PrinterSetUpDialog() override { ++printer_set_ups; }
+  bool FontDialog(std::string& name, float& points) override {
+    if (!font_answer) return false;
+    std::tie(name, points) = *font_answer;
+    return true;
+  }
   void PumpEvents() override {
     ++pumped;
     if (on_pump) on_pump();
@@ -72,6 +80,9 @@ class HeadlessSurroundings : public Surroundings {
   std::optional<PrintRange> print_answer = PrintRange();  // of the next print dialogs
   std::vector<PrintRange> print_dialogs;                  // what each offered
   std::vector<std::shared_ptr<PrintedJob>> print_jobs;    // every printer and PDF that was opened
+  bool printer_refuses = false;
+  int printer_set_ups = 0;
+  std::optional<std::pair<std::string, float>> font_answer;  // of the next font dialogs
   int help_shown = -1;
   int pumped = 0;
   bool wait_cursor = false;

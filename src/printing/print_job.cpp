@@ -39,6 +39,7 @@ void ResetPrintJob() {
 }
 
 bool Cancelled() {
+  if (Job.AtEachRow) Job.AtEachRow();
   Platform().PumpEvents();
   return Job.PrintFlag == kPrintCancelled;
 }

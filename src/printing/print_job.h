@@ -4,6 +4,7 @@
 // in any order and as often as wanted.
 #pragma once
 
+#include <functional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -21,7 +22,8 @@ struct PrintJob {
   i16 PrintFlag = kPrintWaits;  // every row loop of every writer polls it
   i16 PrintTab = 1;             // tab of the Printer Portal, 1 to 4
   i16 ReportCode = 0;
-  std::string PrintTitle;  // the teacher's own title, below the report's
+  std::string PrintTitle;           // the teacher's own title, below the report's
+  std::function<void()> AtEachRow;  // told once a row, by whoever shows how far the run has come
 
   int PageTextWidth = 0;  // twips from the left to the right margin
   int PageBottom = 0;     // the CurrentY below which no body line starts

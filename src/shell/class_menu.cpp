@@ -8,6 +8,7 @@
 #include "roster/frmEdit.h"
 #include "shell/shell_state.h"
 #include "store/frmpassword.h"
+#include "store/settings.h"
 
 namespace tallyroll {
 namespace {
@@ -84,9 +85,12 @@ constexpr ClassMenuRow kRows[] = {
     {.level = 3, .name = "mnutestingInstwithout", .caption = "Names, ID's plus Testing Instruments without Headers",
      .status = "Write all grades to a text file", .portal = "frmtxt", .open_state = 561},
     {.level = 1},
-    {.level = 1, .name = "mnuFont", .caption = "Printer &Font", .status = "Choose the font of printed pages", .action = NotYet},
-    {.level = 1, .name = "mnuPrinterSetUp", .caption = "&Printer Set Up...", .status = "Choose the printer and its paper", .action = NotYet},
-    {.level = 1, .name = "mnumargins", .caption = "Printer &Margins", .status = "Set the margins of printed pages", .action = NotYet},
+    {.level = 1, .name = "mnuFont", .caption = "Printer &Font", .status = "Choose the font of printed pages",
+     .action = [](Form1&) { Platform().FontDialog(PrinterFontName, PrinterFontSize); }},
+    {.level = 1, .name = "mnuPrinterSetUp", .caption = "&Printer Set Up...", .status = "Choose the printer and its paper",
+     .action = [](Form1&) { Platform().PrinterSetUpDialog(); }},
+    {.level = 1, .name = "mnumargins", .caption = "Printer &Margins", .status = "Set the margins of printed pages",
+     .portal = "frmmargins"},
     {.level = 1},
     {.level = 1, .name = "mnuFileList0", .status = "Open this class again", .action = OpenRecentEntry<0>},
     {.level = 1, .name = "mnuFileList1", .status = "Open this class again", .action = OpenRecentEntry<1>},

@@ -18,6 +18,10 @@
 #include "grades/frmcategories.h"
 #include "grades/frmdGrade.h"
 #include "grades/frmletter.h"
+#include "printing/frmmargins.h"
+#include "printing/frmprintall.h"
+#include "printing/frmprintpre.h"
+#include "printing/printmsg.h"
 #include "roster/frmAdd.h"
 #include "roster/frmEdit.h"
 #include "shell/frmWizard.h"
@@ -69,7 +73,10 @@ constexpr std::array kPortals{
     PortalRow{"frmgradesave", Make<frmgradesave>},
     PortalRow{"frmpoints", Make<frmpoints>},
     PortalRow{"frmoptions", Make<frmoptions>},
-    PortalRow{"frmprintall"},
+    PortalRow{"frmprintall", Make<frmprintall>},
+    PortalRow{"frmprintpre", Make<frmprintpre>},
+    PortalRow{"printmsg", Make<printmsg>},
+    PortalRow{"frmmargins", Make<frmmargins>},
     PortalRow{"frmstatistic"},
     PortalRow{"frmgraph"},
     PortalRow{"frmwrdproc"},

@@ -3,6 +3,8 @@
 
 #include "platform/class_window.h"
 #include "platform/portal.h"
+#include "platform/table_printer.h"
+#include "printing/weight_printout.h"
 #include "shell/current_window.h"
 #include "shell/portal_list.h"
 
@@ -27,6 +29,7 @@ void ResetShell() {
   Screen = &no_screen;
   SetClassWindow(&CurrentWindow());
   MakePortal = &MakePortalByName;
+  PrintTable = &PrintWeights;
 }
 
 }  // namespace tallyroll

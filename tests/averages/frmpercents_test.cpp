@@ -282,5 +282,20 @@ TEST_F(FrmPercentsTest, CancelChangesNothing) {
   EXPECT_EQ(Current().TypePercents[kQuizRow], Currency());
 }
 
+TEST_F(FrmPercentsTest, PrintHandsTheTableOverWithoutTheMark) {
+  static PrintedTable printed;
+  PrintTable = [](const PrintedTable& table) { printed = table; };
+  Open(portal);
+  TypeCell("typegrid", 10, 4, "60");
+  driver->Press("print");
+  EXPECT_EQ(printed.title, " Weights Printout by Type");
+  EXPECT_EQ(printed.head, (Texts{"NAME", "Types", "# of ", "OLD %", "NEW %"}));
+  EXPECT_EQ(printed.second_head, (Texts{"", "", "Items"}));
+  ASSERT_EQ(printed.rows.size(), 26u);
+  EXPECT_EQ(printed.rows[9][0], "Quiz");
+  EXPECT_EQ(printed.rows[9][1], "Q");
+  EXPECT_EQ(printed.rows[9][4], "60");
+}
+
 }  // namespace
 }  // namespace tallyroll

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "averages/frmpoints.h"
 
+#include "platform/table_printer.h"
+
 #include "averages/engine/engine.h"
 #include "tests/averages/portal_class.h"
 
@@ -137,11 +139,26 @@ TEST_F(FrmPointsTest, SummaryShowsThePointsByTypeAndFollowsTheFlags) {
   EXPECT_EQ(totals->grdgrade.TextMatrix(10, 3), "0");
 }
 
-TEST_F(FrmPointsTest, PrintWaitsForTheReports) {
+TEST_F(FrmPointsTest, PrintHandsTheTableOver) {
+  static PrintedTable printed;
+  PrintTable = [](const PrintedTable& table) { printed = table; };
+  Open(portal);
+  FlipRow(2);
+  driver->Press("print");
+  EXPECT_EQ(printed.title, " Points Printout");
+  EXPECT_EQ(printed.head, (Texts{"NAME", "Types", "MAX PTS.", "COUNT IN"}));
+  EXPECT_EQ(printed.second_head, (Texts{"", "", "", "TOTAL PTS."}));
+  ASSERT_GT(printed.rows.size(), 1u);
+  EXPECT_EQ(printed.rows[0].back(), "Y");
+  EXPECT_EQ(printed.rows[1].back(), "N");
+  EXPECT_FALSE(portal.Unloaded());
+}
+
+TEST_F(FrmPointsTest, WhereNothingCanBePrintedPrintSaysSo) {
+  PrintTable = nullptr;
   Open(portal);
   driver->Press("print");
   EXPECT_EQ(window.status, kPortalNotAvailable);
-  EXPECT_FALSE(portal.Unloaded());
 }
 
 TEST_F(FrmPointsTest, ContinueSavesOnYes) {

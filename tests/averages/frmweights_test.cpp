@@ -353,5 +353,20 @@ TEST_F(FrmWeightsTest, AClassWithoutGradesTakesNoKey) {
   EXPECT_TRUE(portal.Unloaded());
 }
 
+TEST_F(FrmWeightsTest, PrintHandsTheTableOver) {
+  static PrintedTable printed;
+  PrintTable = [](const PrintedTable& table) { printed = table; };
+  Open(portal);
+  TypeCell("grdgrade", 1, 3, "70");
+  driver->Press("print");
+  EXPECT_EQ(printed.title, " Weights Printout");
+  EXPECT_EQ(printed.head, (Texts{"NAME", "Types", "OLD WTS.", "NEW WTS."}));
+  EXPECT_TRUE(printed.second_head.empty());
+  ASSERT_EQ(static_cast<int>(printed.rows.size()), Current().NumInstruments);
+  EXPECT_EQ(printed.rows[0][0], Current().Instruments[1].title);
+  EXPECT_EQ(printed.rows[0][3], "70");
+  EXPECT_FALSE(portal.Unloaded());
+}
+
 }  // namespace
 }  // namespace tallyroll

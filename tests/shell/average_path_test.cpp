@@ -111,13 +111,38 @@ TEST_F(AveragePathTest, SettingsInForceAndSavedGrades) {
   EXPECT_EQ(window.Grid1.TextMatrix(2, 4), "80");
 }
 
-TEST_F(AveragePathTest, ForThePrinterThePortalIsNotAvailableYet) {
+TEST_F(AveragePathTest, ForThePrinterTheAveragesArePreviewedAndSaved) {
   Class c = Graded();
-  c.AverageSettings = "0,0,0,0,0";
+  c.AverageSettings = "0,0,0,0,0,0,0,0,0,0,0,0,0,0,0,0,0,0,0,0,0,0,0,0,0,0,0,0,0,0,0";
+  c.Instruments[1].weight = Currency::FromWhole(100);
   Form1& window = Open("A.TYR", c);
   screen.ExpectPortal("frmoptions", [](PortalDriver& work) { work.Press("continue"); });
+  screen.ExpectPortal("frmprintall", [this](PortalDriver& work) {
+    EXPECT_TRUE(work.Visible("studentboxes"));  // of the averages
+    screen.ExpectPortal("printmsg", [](PortalDriver& title) { title.Press("continue"); });
+    screen.ExpectPortal("frmprintpre", [this](PortalDriver& pages) {
+      EXPECT_EQ(pages.Text("Pagel"), "1");
+      screen.ExpectBox("Save Rounded Averaged Grades? (Recommended)", BoxAnswer::kYes);
+      pages.Press("twelve");
+    });
+    screen.ExpectPortal("frmgradesave", [](PortalDriver& save) { save.Press("cancel"); });
+    work.Press("preview");
+    work.Press("cancel");
+  });
   window.ClickMenu("mnuprtgrade");
-  EXPECT_EQ(window.StatusText, kPortalNotAvailable);
+}
+
+TEST_F(AveragePathTest, TheRoundingGoesOnToThePrintedAverages) {
+  Class c = Graded();
+  c.AverageSettings = "2,0,0,0,0";
+  Form1& window = Open("A.TYR", c);
+  screen.ExpectPortal("frmpoints", [](PortalDriver& work) { work.Press("exit"); });
+  screen.ExpectPortal("frmroundoff", [](PortalDriver& work) { work.Press("contprinter"); });
+  screen.ExpectPortal("frmprintall", [](PortalDriver& work) {
+    EXPECT_TRUE(work.Visible("studentboxes"));
+    work.Press("cancel");
+  });
+  window.ClickMenu("mnupoints");
 }
 
 TEST_F(AveragePathTest, AClassOfMoreThan32767PointsHasNoAverage) {

@@ -2,6 +2,7 @@
 // What menu entries, buttons and double clicks hand to the Portal that they open.
 #include "shell/class_menu.h"
 #include "shell/portal_list.h"
+#include "store/settings.h"
 #include "tests/shell/shell_test.h"
 
 namespace tallyroll {
@@ -209,13 +210,29 @@ TEST_F(CommandsTest, PasswordThatWasCancelledSavesNothing) {
 
 TEST_F(CommandsTest, MissingPortalSaysSoAndDoesNothingElse) {
   MakePortal = [](std::string_view) -> std::unique_ptr<Portal> { return nullptr; };
-  for (const char* entry : {"mnuMarks", "mnuSeating", "mnuStatistic", "mnuTransfer", "mnuFont",
-                            "mnuPrinterSetUp", "mnumargins"}) {
+  for (const char* entry :
+       {"mnuMarks", "mnuSeating", "mnuStatistic", "mnuTransfer", "mnumargins"}) {
     window->StatusText.clear();
     window->ClickMenu(entry);
     EXPECT_EQ(window->StatusText, "This portal is not available yet.") << entry;
   }
   EXPECT_EQ(Current().Changed, kFalse);
+}
+
+TEST_F(CommandsTest, PrinterEntriesAskForFontPaperAndMargins) {
+  screen.font_answer = {"Arial", 12.0f};
+  window->ClickMenu("mnuFont");
+  EXPECT_EQ(PrinterFontName, "Arial");
+  EXPECT_EQ(PrinterFontSize, 12);
+  window->ClickMenu("mnuPrinterSetUp");
+  EXPECT_EQ(screen.printer_set_ups, 1);
+  EXPECT_EQ(Click("mnumargins").portal, "frmmargins");
+}
+
+TEST_F(CommandsTest, ACancelledFontDialogKeepsTheFont) {
+  window->ClickMenu("mnuFont");
+  EXPECT_EQ(PrinterFontName, "Times New Roman");
+  EXPECT_EQ(PrinterFontSize, 10);
 }
 
 TEST_F(CommandsTest, WindowAndHelpEntriesAskTheScreen) {

@@ -1,0 +1,195 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "printing/frmprintpre.h"
+
+#include <algorithm>
+#include <optional>
+
+#include "base/number_text.h"
+#include "platform/class_window.h"
+#include "platform/surroundings.h"
+#include "printing/print_command.h"
+#include "printing/reports.h"
+#include "store/program_state.h"
+
+namespace tallyroll {
+namespace {
+
+constexpr int kRollBookTitles = 4, kFullClass = 11, kAveragesOfOne = 12;
+constexpr int kNoMethod = 5;
+constexpr std::array kZoomSteps = {50, 75, 100, 125, 150};
+constexpr int kFullSize = 2;
+constexpr int kPreviewTopic = 440, kAveragesTopic = 540;
+
+// The end steps draw a little off what they are called, so that a page stays at hand.
+double ZoomOf(int step) {
+  const double zoom = kZoomSteps[static_cast<std::size_t>(step)] / 100.0;
+  if (zoom == 1.5) return 1.4;
+  return zoom == 0.5 ? 0.55 : zoom;
+}
+
+}  // namespace
+
+frmprintpre::frmprintpre() : Portal("frmprintpre") {
+  Caption = "Print Preview Portal";
+  HelpContext = kPreviewTopic;
+  one.Caption = "Zoom &In";
+  two.Caption = "Zoom &Out";
+  three.Caption = "&First";
+  four.Caption = "&Back";
+  five.Caption = "&Next";
+  six.Caption = "&Last";
+  seven.Caption = "&Print";
+  eight.Caption = "E-&mail";
+  nine.Caption = "&Save to Text File";
+  ten.Caption = "Save to &HTML";
+  pdf.Caption = "Save as P&DF";
+  eleven.Caption = "H&elp";
+  twelve.Caption = "E&xit";
+  Frame1.Caption = "Save";
+  all.Caption = "All selected students";
+  current.Caption = "Current student only";
+  Command5.Caption = "Con&tinue";
+  Command7.Caption = "&Cancel";
+}
+
+void frmprintpre::Declare(ControlTable& table) {
+  DeclareToolbar(table);
+  table.Add("size", size).Change([this] { showscreen(); });
+  table.Add("pagenum", pagenum).Change([this] { ShowPage(pagenum.ListIndex); });
+  table.Add("Pagen", Pagen);
+  table.Add("Pagel", Pagel);
+  table.Add("Frame1", Frame1);
+  const auto choose = [this](bool current_only) {
+    current.Value = current_only;
+    all.Value = !current_only;
+  };
+  table.Add("all", all).Click([choose] { choose(false); });
+  table.Add("current", current).Click([choose] { choose(true); });
+  table.Add("Command5", Command5).Click([this] { Command5_Click(); });
+  table.Add("Command7", Command7).Click([this] { Command7_Click(); });
+  table.Add("picture1", picture1);
+}
+
+void frmprintpre::DeclareToolbar(ControlTable& table) {
+  table.Add("one", one).Click([this] { StepZoom(1); });
+  table.Add("two", two).Click([this] { StepZoom(-1); });
+  table.Add("three", three).Click([this] { ShowPage(0); });
+  table.Add("four", four).Click([this] { ShowPage(pagenum.ListIndex - 1); });
+  table.Add("five", five).Click([this] { ShowPage(pagenum.ListIndex + 1); });
+  table.Add("six", six).Click([this] { ShowPage(Job.PageCount - 1); });
+  table.Add("seven", seven).Click([this] { ShowPrint(); });
+  table.Add("eight", eight).Click([this] { eight_Click(); });
+  table.Add("nine", nine).Click([this] { AskAndSave(Save::kText); });
+  table.Add("ten", ten).Click([this] { AskAndSave(Save::kHtml); });
+  table.Add("pdf", pdf).Click([this] { pdf_Click(); });
+  table.Add("eleven", eleven).Click([] {
+    const bool averages = Job.ReportCode == kFullClass || Job.ReportCode == kAveragesOfOne;
+    Platform().ShowHelp(averages ? kAveragesTopic : kPreviewTopic);
+  });
+  table.Add("twelve", twelve).Click([this] { QueryUnload(); });
+}
+
+void frmprintpre::Load() {
+  folder_ = DataFolder;
+  ShowFrame1(false);
+  startup();
+}
+
+void frmprintpre::startup() {
+  Job.PrintFlag = kPrintRuns;
+  makesize();
+  makepage();
+  Pagel.Caption = PlainNumberText(Job.PageCount);
+  ShowPage(0);
+}
+
+void frmprintpre::makesize() {
+  size.List.clear();
+  for (const int step : kZoomSteps) size.List.push_back(PlainNumberText(step) + " %");
+  size.ListIndex = kFullSize;
+  size.Text = size.List[kFullSize];
+}
+
+void frmprintpre::makepage() {
+  pagenum.List.clear();
+  for (int page = 1; page <= Job.PageCount; ++page)
+    pagenum.List.push_back("Page " + PlainNumberText(page));
+}
+
+// The page is drawn by whoever shows the box, on the sheet for which it was laid out. A page that
+// is drawn meanwhile would lead a print astray.
+void frmprintpre::showscreen() {
+  if (running_) return;
+  const auto sheet = Platform().MakePrintBox(PrintsLandscape());
+  if (!sheet) return;
+  picture1.Zoom = ZoomOf(size.ListIndex);
+  picture1.SheetWidth = sheet->Width;
+  picture1.SheetHeight = sheet->Height;
+  picture1.Draw = [page = pagenum.ListIndex + 1, width = sheet->ScaleWidth,
+                   height = sheet->ScaleHeight](PrintTarget& target) {
+    target.ScaleWidth = width;
+    target.ScaleHeight = height;
+    Job.PrintFlag = kPrintRuns;
+    PrepareTarget(target);
+    RenderPage(target, page);
+  };
+  ++picture1.Revision;
+}
+
+void frmprintpre::StepZoom(int by) {
+  const int step = size.ListIndex + by;
+  if (step < 0 || step >= static_cast<int>(kZoomSteps.size())) return;
+  size.ListIndex = step;
+  size.Text = size.List[static_cast<std::size_t>(step)];
+  showscreen();
+}
+
+void frmprintpre::ShowPage(int index) {
+  if (running_ || index < 0 || index >= Job.PageCount) return;
+  pagenum.ListIndex = index;
+  pagenum.Text = pagenum.List[static_cast<std::size_t>(index)];
+  Pagen.Caption = pagenum.Text.substr(4);
+  showscreen();
+}
+
+void frmprintpre::ShowPrint() {
+  if (running_) return;
+  PrintRange offered = AllPages();
+  std::optional<PrintRange> range = Platform().PrintDialog(offered);
+  if (!range) return;
+  range->from_page = std::clamp<int>(range->from_page, 1, Job.PageCount);
+  range->to_page = std::clamp<int>(range->to_page, range->from_page, Job.PageCount);
+  running_ = true;
+  {
+    PrintMessage message;
+    PrintOnPrinter(*range, message);
+  }
+  running_ = false;
+  startup();
+}
+
+// The roll book with its full titles is there for paper.
+bool frmprintpre::Refuses(std::string_view function) const {
+  if (Job.ReportCode != kRollBookTitles) return false;
+  ShowMessage("The '" + std::string(function) +
+              "' function is unavailable with the 'Roll Book-Full Titles' print option. Choose the "
+              "'Roll Book' print option instead.");
+  return true;
+}
+
+void frmprintpre::eight_Click() {
+  if (!Refuses("E-mail")) ClassWindow().ShowStatus(kPortalNotAvailable);
+}
+
+// A final grade stands in the report that no grade of the class keeps yet.
+void frmprintpre::QueryUnload() {
+  if (running_) return;
+  if (Job.ReportCode == kFullClass && Current().Method != kNoMethod &&
+      Ask("Save Rounded Averaged Grades? (Recommended)", BoxButtons::kYesNo, BoxIcon::kQuestion,
+          "Save File") == BoxAnswer::kYes)
+    UnloadAndShow("frmgradesave");
+  else
+    Unload();
+}
+
+}  // namespace tallyroll

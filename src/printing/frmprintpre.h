@@ -1,0 +1,60 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// frmprintpre: the Print Preview Portal. It shows the pages of the report that was laid out, one at
+// a time and drawn afresh; from it they go to the printer and into files.
+#pragma once
+
+#include <array>
+#include <string>
+
+#include "platform/portal.h"
+
+namespace tallyroll {
+
+struct frmprintpre : Portal {
+  frmprintpre();
+  void Declare(ControlTable& table) override;
+  void Load() override;
+  void QueryUnload() override;
+
+  // Toolbar2.
+  CommandButton one, two;                // zoom in and out
+  CommandButton three, four, five, six;  // first, previous, next and last page
+  CommandButton seven, eight;            // print, e-mail
+  CommandButton nine, ten, pdf;          // save as text, HTML, PDF
+  CommandButton eleven, twelve;          // help, exit
+  ComboBox size, pagenum;
+  Label Pagen, Pagel;  // the page on screen, and how many there are
+  PictureBox picture1;
+  Frame Frame1;  // which students a file holds
+  OptionButton all, current;
+  CommandButton Command5, Command7;
+
+  void startup();
+  void showscreen();
+  void ShowPrint();
+  void Command5_Click();
+  void Command7_Click();
+
+ private:
+  enum class Save { kText, kHtml };
+
+  void DeclareToolbar(ControlTable& table);
+  void makesize();
+  void makepage();
+  void StepZoom(int by);
+  void ShowPage(int index);
+  bool Refuses(std::string_view function) const;
+  void eight_Click();
+  void AskAndSave(Save form);
+  void ShowFrame1(bool on);
+  // Of the student on screen alone, or of all.
+  void SaveFor(bool current_only);
+  void SaveReport(Save form);
+  void pdf_Click();
+
+  Save pending_ = Save::kText;  // waits for the answer of Frame1
+  std::string folder_;          // where the next save dialog starts
+  bool running_ = false;
+};
+
+}  // namespace tallyroll

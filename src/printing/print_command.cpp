@@ -1,0 +1,40 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "printing/print_command.h"
+
+#include "platform/surroundings.h"
+
+namespace tallyroll {
+namespace {
+
+void Print(PrintTarget& target, const PrintRange& range, PrintMessage& message) {
+  Job.PrintFlag = kPrintRuns;
+  PrepareTarget(target);
+  PrintPages(target, range, [&](int page) { message.ShowPage(page, Job.PageCount); });
+}
+
+}  // namespace
+
+PrintRange AllPages() {
+  return {.from_page = 1, .to_page = Job.PageCount, .copies = 1};
+}
+
+std::unique_ptr<PrintTarget> OpenPrinterOrTell() {
+  auto printer = Platform().OpenPrinter(PrintsLandscape(), Job.PrintTitle);
+  if (!printer)
+    ShowMessage("The printer can't be used. Choose one at Printer Set Up.", BoxIcon::kCritical);
+  return printer;
+}
+
+void PrintOnPrinter(const PrintRange& range, PrintMessage& message) {
+  if (const auto printer = OpenPrinterOrTell()) Print(*printer, range, message);
+}
+
+void PrintToPdf(const std::string& path, PrintMessage& message) {
+  const auto file = Platform().OpenPdf(path, PrintsLandscape(), Job.PrintTitle);
+  if (!file)
+    ShowMessage("File Error");
+  else
+    Print(*file, AllPages(), message);
+}
+
+}  // namespace tallyroll

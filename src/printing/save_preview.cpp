@@ -1,0 +1,94 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// How the Print Preview Portal saves a report as text, HTML or PDF.
+#include <filesystem>
+#include <utility>
+
+#include "platform/surroundings.h"
+#include "printing/frmprintpre.h"
+#include "printing/html_report.h"
+#include "printing/print_command.h"
+#include "printing/report_choice.h"
+#include "printing/reports.h"
+
+namespace tallyroll {
+namespace {
+
+constexpr int kSavingTopic = 120;
+
+// The name to save under; empty when the dialog was cancelled. `folder` follows it.
+std::string AskForName(std::string_view filter, std::string_view extension, std::string& folder) {
+  FileDialogRequest request;
+  request.save = true;
+  request.folder = folder;
+  request.filter = filter;
+  request.default_extension = extension;
+  request.overwrite_prompt = true;
+  request.help_context = kSavingTopic;
+  const std::string path = Platform().FileDialog(request).value_or("");
+  if (!path.empty()) folder = std::filesystem::path(path).parent_path().string();
+  return path;
+}
+
+}  // namespace
+
+void frmprintpre::AskAndSave(Save form) {
+  if (running_ || Refuses(form == Save::kText ? "Save to Text File" : "Save to HTML")) return;
+  pending_ = form;
+  if (Choice.students.size() > 1)
+    ShowFrame1(true);
+  else
+    SaveReport(form);
+}
+
+void frmprintpre::ShowFrame1(bool on) {
+  Frame1.Visible = on;
+  size.Visible = pagenum.Visible = !on;
+  all.Value = true;
+  current.Value = false;
+  if (on) SetFocus(all);
+}
+
+void frmprintpre::Command5_Click() {
+  const bool current_only = current.Value;
+  ShowFrame1(false);
+  SaveFor(current_only);
+}
+
+void frmprintpre::Command7_Click() {
+  ShowFrame1(false);
+}
+
+void frmprintpre::SaveFor(bool current_only) {
+  const std::vector<i16> selected = Choice.students;
+  const auto page = static_cast<std::size_t>(pagenum.ListIndex) + 1;
+  if (current_only) Choice.students = {Job.PageStudent[page]};
+  SaveReport(pending_);
+  Choice.students = selected;
+}
+
+void frmprintpre::SaveReport(Save form) {
+  Job.PrintFlag = kPrintRuns;
+  if (form == Save::kText) {
+    const std::string path = AskForName("Text Files (*.txt)|*.TXT", "TXT", folder_);
+    if (!path.empty()) SaveReportText(path);
+  } else if (form == Save::kHtml) {
+    const std::string path = AskForName("HTML Files (*.htm)|*.HTM", "HTM", folder_);
+    if (!path.empty()) SaveReportHtml(path);
+  }
+}
+
+void frmprintpre::pdf_Click() {
+  if (running_) return;
+  const std::string path = AskForName("PDF Files (*.pdf)|*.PDF", "PDF", folder_);
+  if (path.empty()) return;
+  running_ = true;
+  {
+    PrintMessage message;
+    PrintToPdf(path, message);
+  }
+  running_ = false;
+  Job.PrintFlag = kPrintRuns;
+  showscreen();
+}
+
+}  // namespace tallyroll
