@@ -51,14 +51,13 @@ std::string TableText(std::string& text) {
   heading.emplace_back("AVERAGE");
   heading.emplace_back("GRADE");
   Table table = {heading};
-  const std::string reason =
-      ForEachOutcome([&](int i, const Student&, const StudentAverage& outcome) {
-        std::vector<std::string> row = NameCells(Current(), i);
-        if (HasPoints()) row.push_back(PointsText(outcome.points));
-        row.push_back(PlainNumberText(outcome.exact));
-        row.push_back(outcome.grade.Text());
-        table.push_back(std::move(row));
-      });
+  std::string reason = ForEachOutcome([&](int i, const Student&, const StudentAverage& outcome) {
+    std::vector<std::string> row = NameCells(Current(), i);
+    if (HasPoints()) row.push_back(PointsText(outcome.points));
+    row.push_back(PlainNumberText(outcome.exact));
+    row.push_back(outcome.grade.Text());
+    table.push_back(std::move(row));
+  });
   text = Utf8FromCodePage(ClassHeading(Current()) + AlignedText(table));
   return reason;
 }
@@ -136,7 +135,7 @@ void AddJsonObject(const Student& student, const StudentAverage& outcome, std::s
 
 std::string ArrayText(std::string& text) {
   text = "[";
-  const std::string reason =
+  std::string reason =
       ForEachOutcome([&](int i, const Student& student, const StudentAverage& outcome) {
         text += i == 1 ? "\n" : ",\n";
         AddJsonObject(student, outcome, text);
