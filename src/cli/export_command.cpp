@@ -21,8 +21,8 @@ const std::map<std::string, int> kWhats = {{"names", kExportNames},
 struct ExportOptions {
   std::string file;
   std::string out;
-  int what = kExportNames;
-  i16 layout = kColumnsText;
+  std::string what;
+  std::string layout;
   i16 name_mode = 68;
   OpenOptions opening;
 };
@@ -33,7 +33,8 @@ CommandResult Export(const ExportOptions& options) {
   NameMode = options.name_mode;
   const std::string reason = OpenClassFile(options.file, options.opening);
   if (!reason.empty()) return Refused(options.file, reason);
-  const TextOfClass text = ExportText(Current(), options.what, options.layout);
+  const TextOfClass text =
+      ExportText(Current(), kWhats.at(options.what), kTextLayouts.at(options.layout));
   if (const int error = ReplaceFile(options.out, text.bytes, OldTail::kDrop))
     return Refused(options.out, FileErrorText(error));
   if (text.changed == 0) return Done();
@@ -48,10 +49,10 @@ void AddExportCommand(CLI::App& app, ChosenCommand& chosen) {
   command->add_option("FILE", options->file, "the class file")->required();
   command->add_option("--what", options->what, "what is written of each student")
       ->required()
-      ->transform(CLI::CheckedTransformer(kWhats));
+      ->check(CLI::IsMember(NamesOf(kWhats)));
   command->add_option("--layout", options->layout, "how the fields of a line are parted")
       ->required()
-      ->transform(CLI::CheckedTransformer(kTextLayouts));
+      ->check(CLI::IsMember(NamesOf(kTextLayouts)));
   command->add_option("--out", options->out, "the text file to write")->required();
   command
       ->add_option("--name-mode", options->name_mode,

@@ -19,7 +19,7 @@ namespace {
 struct ImportOptions {
   std::string text;
   std::string file;
-  i16 layout = kColumnsText;
+  std::string layout;
   bool leave_out = false;
 };
 
@@ -42,7 +42,7 @@ CommandResult Import(const ImportOptions& options) {
     return Refused(options.file, "is the text file itself, which is left as it is");
   const FileContents file = ReadWholeFile(options.text, kLargestTextFile);
   if (file.error != 0) return Refused(options.text, FileErrorText(file.error));
-  TextRoster roster = ReadRosterText(file.bytes, options.layout);
+  TextRoster roster = ReadRosterText(file.bytes, kTextLayouts.at(options.layout));
   if (!roster.refusal.empty()) return Refused(options.text, roster.refusal);
   if (!roster.lacking.empty() && !options.leave_out)
     return Refused(options.text, LackingReason(roster));
@@ -64,7 +64,7 @@ void AddImportCommand(CLI::App& app, ChosenCommand& chosen) {
   command->add_option("FILE", options->file, "the class file to write")->required();
   command->add_option("--layout", options->layout, "how the fields of a line are parted")
       ->required()
-      ->transform(CLI::CheckedTransformer(kTextLayouts));
+      ->check(CLI::IsMember(NamesOf(kTextLayouts)));
   command->add_flag("--leave-out", options->leave_out,
                     "leave a value empty that a class file cannot hold, and import the rest");
   command->callback(

@@ -3,6 +3,7 @@
 
 #include <map>
 #include <string>
+#include <vector>
 
 #include "store/text_layout.h"
 
@@ -12,5 +13,13 @@ namespace tallyroll {
 inline const std::map<std::string, i16> kTextLayouts = {
     {"columns", kColumnsText}, {"single", kSinglesText}, {"double", kDoublesText},
     {"tabs", kTabsText},       {"comma", kCommasText},   {"csv", kCsvText}};
+
+// The names in such a list, for an option to be checked against.
+template <typename Values>
+std::vector<std::string> NamesOf(const Values& values) {
+  std::vector<std::string> names;
+  for (const auto& [name, value] : values) names.push_back(name);
+  return names;
+}
 
 }  // namespace tallyroll

@@ -4,6 +4,7 @@
 #include <cmath>
 #include <initializer_list>
 
+#include "base/number_text.h"
 #include "base/text.h"
 #include "grades/grade_types.h"
 #include "grades/method_reset.h"
@@ -11,6 +12,8 @@
 #include "platform/class_window.h"
 #include "platform/surroundings.h"
 #include "store/class_defaults.h"
+#include "store/class_format.h"
+#include "store/clipboard_boxes.h"
 #include "store/program_state.h"
 
 namespace tallyroll {
@@ -18,10 +21,6 @@ namespace {
 
 constexpr std::string_view kUsualScore = "100";
 constexpr std::string_view kUsualPass = "65";
-
-void TellUnreadable() {
-  ShowMessage("Can not read from Clipboard.");
-}
 
 }  // namespace
 
@@ -77,7 +76,32 @@ void frmMarks::Declare(ControlTable& table) {
 }
 
 void frmMarks::Load() {
+  if (OpenState == kGradesById || OpenState == kGradesByName) {
+    imported_ = ReadGradeImport(OpenState);
+    next_import_ = imported_.columns.begin();
+    TellImport();
+  }
   StartOver();
+}
+
+// The status bar tells what of the file found its place, for a line without one is passed over.
+void frmMarks::TellImport() {
+  if (imported_.columns.empty()) return;
+  std::string told = PlainNumberText(imported_.matched) + " students found in the file";
+  if (imported_.skipped > 0)
+    told += "; " + PlainNumberText(imported_.skipped) + " lines match no student";
+  ClassWindow().ShowStatus(told + ".");
+}
+
+// Grade after grade, as they stand side by side in the file.
+void frmMarks::FillFromFile() {
+  if (next_import_ == imported_.columns.end()) return;
+  const GradeColumn& column = *next_import_++;
+  title.Text = Left(column.title, kLongestText);
+  code.Text = Left(column.code, static_cast<std::size_t>(code.MaxLength));
+  for (int i = 1; i < Grid1.Rows(); ++i)
+    SetMarkCell(i, Left(UpperCase(column.marks[static_cast<std::size_t>(i)]), kLongestMark));
+  DataEntered = true;
 }
 
 void frmMarks::StartOver() {
@@ -95,6 +119,7 @@ void frmMarks::StartOver() {
   testdate.Value = std::floor(Platform().Now());
   lowpass.Text = kUsualPass;
   DataEntered = false;
+  FillFromFile();
   SetFocus(title);
 }
 
@@ -234,7 +259,7 @@ void frmMarks::paste_Click() {
   if (clipboard.empty()) return;
   if (!HoldsHeader(clipboard)) return TellOtherClipboard();
   const auto header = ReadHeader(clipboard);
-  if (!header) return TellUnreadable();
+  if (!header) return TellUnreadableClipboard();
   if (!MayReplaceTitle()) return;
   for (int i = 1; i < Grid1.Rows(); ++i) SetMarkCell(i, "");
   ShowHeader(*header);
@@ -248,7 +273,7 @@ void frmMarks::pastegrade_Click() {
   if (clipboard.empty()) return;
   if (!HoldsGrade(clipboard)) return TellOtherClipboard();
   const auto grade = ReadGrade(clipboard);
-  if (!grade) return TellUnreadable();
+  if (!grade) return TellUnreadableClipboard();
   if (!MayReplaceTitle()) return;
   ShowHeader(grade->header);
   const std::size_t type = TypeOfCode(grade->header.type);

@@ -2,6 +2,8 @@
 #include "grades/frmMarks.h"
 
 #include "grades/student_grid.h"
+#include "store/safe_file.h"
+#include "store/text_layout.h"
 #include "tests/grades/grade_portal_test.h"
 
 namespace tallyroll {
@@ -32,6 +34,14 @@ class FrmMarksTest : public GradePortalTest {
     driver->Type("code", "RIV");
   }
   void ChooseType(int type) { driver->Choose("ttypelist", type - 1); }
+  // Opens the Portal on a file in comma layout.
+  void ImportMarks(std::string_view text, int by) {
+    ImportFile = Path("marks.txt");
+    ASSERT_EQ(ReplaceFile(ImportFile, text, OldTail::kDrop), 0);
+    TextMode = kCommasText;
+    OpenState = by;
+    OpenMarks();
+  }
   // A quiz for every student, accepted.
   void AddQuiz() {
     OpenMarks();
@@ -627,6 +637,59 @@ TEST_F(FrmMarksTest, AGradePastedFromAHeaderIsRefused) {
       "compatible module, then copy the information to the clipboard and try again.");
   driver->Press("pastegrade");
   EXPECT_EQ(driver->Text("title"), "");
+}
+
+// ---- A file of marks ----
+
+TEST_F(FrmMarksTest, MarksOfAFileFillTheColumn) {
+  ImportMarks("1,91\n3,abs\n", kGradesById);
+  EXPECT_EQ(Cell(1), "");
+  EXPECT_EQ(Cell(2), "91");
+  EXPECT_EQ(Cell(3), "ABS");
+  EXPECT_TRUE(portal.DataEntered);
+  EXPECT_EQ(window.status, "2 students found in the file.");
+}
+
+TEST_F(FrmMarksTest, MarksOfAFileAreCutAsTypedOnesAre) {
+  ImportMarks("Ng Ada,1234567\n", kGradesByName);
+  EXPECT_EQ(Cell(2), "12345");
+}
+
+TEST_F(FrmMarksTest, AStudentWhomTheFileLacksStillNeedsAMark) {
+  ImportMarks("1,91\n2,82\n", kGradesById);
+  TypeHeader();
+  screen.ExpectBox(kReminder);
+  driver->Press("exit");
+  TypeMark(3, "70");
+  driver->Press("exit");
+  EXPECT_EQ(Mark(2, 1), "91");
+  EXPECT_EQ(Mark(3, 1), "70");
+}
+
+TEST_F(FrmMarksTest, AnotherTakesTheNextGradeOfTheFile) {
+  ImportMarks("ID,NAME,Rivers,Lakes\n,,RIV,LAK\n1,Ng Ada,91,A\n2,Li Bo,82,B\n3,Orr Cy,73,C\n",
+              kGradesById);
+  EXPECT_EQ(driver->Text("title"), "Rivers");
+  EXPECT_EQ(driver->Text("code"), "RIV");
+  driver->Press("another");
+  EXPECT_EQ(driver->Text("title"), "Lakes");
+  EXPECT_EQ(Cell(1), "B");
+  driver->Press("another");
+  EXPECT_EQ(driver->Text("title"), "");
+  EXPECT_EQ(Cell(1), "");
+  driver->Press("exit");
+  EXPECT_EQ(Titles(), (std::vector<std::string>{"Rivers", "Lakes"}));
+  EXPECT_EQ(Mark(2, 2), "A");
+}
+
+TEST_F(FrmMarksTest, AFileThatCannotBeReadLeavesThePortalClean) {
+  ImportFile = Path("none.txt");
+  OpenState = kGradesById;
+  screen.ExpectBox("File Error 53");
+  OpenMarks();
+  driver->Press("exit");
+  EXPECT_TRUE(portal.Unloaded());
+  EXPECT_EQ(Current().NumInstruments, 0);
 }
 
 }  // namespace

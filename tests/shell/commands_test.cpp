@@ -208,7 +208,7 @@ TEST_F(CommandsTest, PasswordThatWasCancelledSavesNothing) {
 
 TEST_F(CommandsTest, MissingPortalSaysSoAndDoesNothingElse) {
   MakePortal = [](std::string_view) -> std::unique_ptr<Portal> { return nullptr; };
-  for (const char* entry : {"mnuMarks", "mnuSeating", "mnuStatistic", "mnuTransfer", "mnuFont",
+  for (const char* entry : {"mnuMarks", "mnuSeating", "mnuStatistic", "mnuFont",
                             "mnuPrinterSetUp", "mnumargins"}) {
     window->StatusText.clear();
     window->ClickMenu(entry);
