@@ -25,12 +25,17 @@ constexpr int kColumnWidth = 1700;
 struct Method {
   i16 mode;
   OptionButton frmtxt::*option;
+  std::string_view example;
 };
 
 constexpr std::array kMethods = {
-    Method{kColumnsText, &frmtxt::columns}, Method{kSinglesText, &frmtxt::singles},
-    Method{kDoublesText, &frmtxt::doubles}, Method{kTabsText, &frmtxt::Tabs},
-    Method{kCommasText, &frmtxt::commas},   Method{kCsvText, &frmtxt::csv}};
+    Method{kColumnsText, &frmtxt::columns,
+           "1001         Ng, Ada                          12 Main St"},
+    Method{kSinglesText, &frmtxt::singles, "1001'Ng, Ada'12 Main St'"},
+    Method{kDoublesText, &frmtxt::doubles, "\"1001\",\"Ng, Ada\",\"12 Main St\""},
+    Method{kTabsText, &frmtxt::Tabs, "1001     Ng, Ada     12 Main St"},
+    Method{kCommasText, &frmtxt::commas, "1001,Ng Ada,12 Main St"},
+    Method{kCsvText, &frmtxt::csv, "ID;Last name;First name;Address"}};
 
 bool AnyClassOpen() {
   return std::any_of(Classes.begin() + 1, Classes.begin() + MaxClassSlots,
@@ -66,12 +71,13 @@ void frmtxt::Declare(ControlTable& table) {
   table.Add("newclass", newclass);
   table.Add("cncel", cncel);
   table.Add("methodframe", methodframe);
-  table.Add("columns", columns);
-  table.Add("singles", singles);
-  table.Add("doubles", doubles);
-  table.Add("Tabs", Tabs);
-  table.Add("commas", commas);
-  table.Add("csv", csv);
+  table.Add("columns", columns).Click([this] { method_Click(); });
+  table.Add("singles", singles).Click([this] { method_Click(); });
+  table.Add("doubles", doubles).Click([this] { method_Click(); });
+  table.Add("Tabs", Tabs).Click([this] { method_Click(); });
+  table.Add("commas", commas).Click([this] { method_Click(); });
+  table.Add("csv", csv).Click([this] { method_Click(); });
+  table.Add("example", example);
   table.Add("columnframe", columnframe);
   table.Add("heading", heading).Change([this] { heading_Change(); });
   table.Add("preview", preview).Change([this] { preview_Change(); });
@@ -86,6 +92,7 @@ void frmtxt::Load() {
   OpenState = kOperationCancelled;
   append.Value = true;
   for (const Method& method : kMethods) (this->*method.option).Value = method.mode == TextMode;
+  method_Click();
   if (mode_ >= kAskColumns) return LoadColumns();
   if (mode_ != kImportNames) return GoTo(kMethodPage);
   if (AnyClassOpen()) return GoTo(kWherePage);
@@ -119,6 +126,11 @@ void frmtxt::okbt_Click() {
   Unload();
 }
 
+void frmtxt::method_Click() {
+  for (const Method& method : kMethods)
+    if ((this->*method.option).Value) example.Caption = method.example;
+}
+
 void frmtxt::TakeMethod() {
   for (const Method& method : kMethods)
     if ((this->*method.option).Value) TextMode = method.mode;
@@ -148,6 +160,7 @@ void frmtxt::LoadColumns() {
   chosen_ = GuessColumns(table_, Purpose());
   for (const CsvUse use : CsvUsesFor(Purpose())) field.List.emplace_back(CsvUseCaption(use));
   heading.Value = chosen_.heading;
+  preview.FixedCols = preview.Col = preview.LeftCol = 0;
   ShowColumns();
   GoTo(kColumnsPage);
 }
@@ -159,9 +172,6 @@ void frmtxt::ShowColumns() {
   preview.SetRedraw(false);
   preview.SetSize(rows + 1, width);
   preview.Clear();
-  preview.FixedRows = 1;
-  preview.FixedCols = 0;
-  preview.Col = std::min(preview.Col, width - 1);
   for (int col = 0; col < width; ++col) {
     preview.SetColWidth(col, kColumnWidth);
     preview.SetTextMatrix(0, col, CsvUseCaption(chosen_.uses[static_cast<std::size_t>(col)]));
@@ -169,7 +179,9 @@ void frmtxt::ShowColumns() {
   for (int row = 1; row <= rows; ++row) {
     const auto& cells = table_.records[static_cast<std::size_t>(row) - 1].cells;
     for (int col = 0; col < static_cast<int>(cells.size()); ++col) {
-      preview.SetTextMatrix(row, col, cells[static_cast<std::size_t>(col)].text);
+      const CsvCell& cell = cells[static_cast<std::size_t>(col)];
+      preview.SetTextMatrix(row, col,
+                            source_.Holds(cell.raw) ? cell.text : source_.Shown(cell.raw));
       if (row == 1 && chosen_.heading) preview.SetStyle(row, col, CellStyle::kShaded);
     }
   }

@@ -32,6 +32,7 @@ struct frmtxt : Portal {
   OptionButton append, newclass, cncel;
   struct Frame methodframe;
   OptionButton columns, singles, doubles, Tabs, commas, csv;
+  Label example;  // a line in the chosen layout
   struct Frame columnframe;
   CheckBox heading;
   Grid preview;  // the first rows, and above them what each column is
@@ -39,6 +40,7 @@ struct frmtxt : Portal {
   Label counted;
   CommandButton okbt, cancelbt;
 
+  void method_Click();
   void heading_Change();
   void preview_Change();
   void field_Change();

@@ -153,6 +153,19 @@ TEST_F(FrmTxtTest, APreviewShowsTheFirstRowsAndWhatTheyAreTakenFor) {
   EXPECT_EQ(portal.counted.Caption, "2 lines with students");
 }
 
+TEST_F(FrmTxtTest, ACharacterThatAClassFileLacksIsShownByItsNumber) {
+  OpenColumns(kImportNames, "ID,Name\n1,\xC5\x81u Ka\n");
+  EXPECT_EQ(portal.preview.TextMatrix(2, 1), "<U+0141>u Ka");
+}
+
+TEST_F(FrmTxtTest, AnExampleShowsTheChosenLayout) {
+  Open(kExportNames);
+  Pick("singles");
+  EXPECT_EQ(driver->Text("example"), "1001'Ng, Ada'12 Main St'");
+  Pick("commas");
+  EXPECT_EQ(driver->Text("example"), "1001,Ng Ada,12 Main St");
+}
+
 TEST_F(FrmTxtTest, AColumnCanBeTakenForAnotherField) {
   OpenColumns(kImportNames, "A,B,C\n1,Ng Ada,Oslo\n");
   EXPECT_FALSE(portal.heading.Value);
