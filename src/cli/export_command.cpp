@@ -38,7 +38,7 @@ CommandResult Export(const ExportOptions& options) {
   if (const int error = ReplaceFile(options.out, text.bytes, OldTail::kDrop))
     return Refused(options.out, FileErrorText(error));
   if (text.changed == 0) return Done();
-  return Done(PlainNumberText(text.changed) + " values were changed to fit the layout\n");
+  return Done("values changed to fit the layout: " + PlainNumberText(text.changed) + "\n");
 }
 
 }  // namespace

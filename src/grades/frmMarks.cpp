@@ -87,9 +87,9 @@ void frmMarks::Load() {
 // The status bar tells what of the file found its place, for a line without one is passed over.
 void frmMarks::TellImport() {
   if (imported_.columns.empty()) return;
-  std::string told = PlainNumberText(imported_.matched) + " students found in the file";
+  std::string told = "Students found in the file: " + PlainNumberText(imported_.matched);
   if (imported_.skipped > 0)
-    told += "; " + PlainNumberText(imported_.skipped) + " lines match no student";
+    told += "; lines that match no student: " + PlainNumberText(imported_.skipped);
   ClassWindow().ShowStatus(told + ".");
 }
 

@@ -186,9 +186,8 @@ void frmtxt::ShowColumns() {
     }
   }
   preview.SetRedraw(true);
-  counted.Caption = PlainNumberText(static_cast<std::int64_t>(table_.records.size()) -
-                                    (chosen_.heading ? 1 : 0)) +
-                    " lines with students";
+  const std::size_t students = table_.records.size() - (chosen_.heading ? 1 : 0);
+  counted.Caption = "Students: " + PlainNumberText(static_cast<std::int64_t>(students));
   ShowColumn();
 }
 

@@ -17,6 +17,17 @@ std::string CharacterNumber(char32_t character) {
   return "<U+" + digits + ">";
 }
 
+// No text of one byte a character or of UTF-8 has a zero, but programs and UTF-16 have. Elsewhere a
+// stray control character is no fault of the teacher's; compressed data is full of them.
+bool IsText(std::string_view bytes) {
+  constexpr std::ptrdiff_t kStray = 10;
+  if (bytes.find('\0') != std::string_view::npos) return false;
+  const auto controls = std::count_if(bytes.begin(), bytes.end(), [](char c) {
+    return static_cast<unsigned char>(c) < ' ' && !(c >= '\t' && c <= '\r');
+  });
+  return controls < kStray || static_cast<std::size_t>(controls) < bytes.size() / 50;
+}
+
 bool OnlyAscii(std::string_view bytes) {
   return std::all_of(bytes.begin(), bytes.end(),
                      [](char c) { return static_cast<unsigned char>(c) < 0x80; });
@@ -25,8 +36,7 @@ bool OnlyAscii(std::string_view bytes) {
 }  // namespace
 
 std::optional<SourceText> SourceText::FromBytes(std::string_view bytes) {
-  // No text of one byte a character or of UTF-8 has this byte; programs and UTF-16 have.
-  if (bytes.find('\0') != std::string_view::npos) return std::nullopt;
+  if (!IsText(bytes)) return std::nullopt;
   if (bytes.starts_with(kUtf8Mark)) bytes.remove_prefix(kUtf8Mark.size());
   if (bytes.ends_with(kOldEndOfFile)) bytes.remove_suffix(1);
   SourceText source;

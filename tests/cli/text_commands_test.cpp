@@ -125,7 +125,7 @@ TEST_F(TextCommandTest, ExportTellsWhatTheLayoutCouldNotCarry) {
   const CliRun run =
       RunCli({"export", file, "--what", "names", "--layout", "single", "--out", Path("out.txt")});
   EXPECT_EQ(run.status, 0);
-  EXPECT_EQ(run.out, "1 values were changed to fit the layout\n");
+  EXPECT_EQ(run.out, "values changed to fit the layout: 1\n");
 }
 
 TEST_F(TextCommandTest, ExportLeavesTheClassFileAlone) {

@@ -647,7 +647,7 @@ TEST_F(FrmMarksTest, MarksOfAFileFillTheColumn) {
   EXPECT_EQ(Cell(2), "91");
   EXPECT_EQ(Cell(3), "ABS");
   EXPECT_TRUE(portal.DataEntered);
-  EXPECT_EQ(window.status, "2 students found in the file.");
+  EXPECT_EQ(window.status, "Students found in the file: 2.");
 }
 
 TEST_F(FrmMarksTest, MarksOfAFileAreCutAsTypedOnesAre) {

@@ -43,7 +43,7 @@ class TextCommandsTest : public ShellTest {
   }
 };
 
-using Names_ = std::vector<std::string>;
+using Lastnames = std::vector<std::string>;
 
 TEST_F(TextCommandsTest, NamesAreAppendedToTheClass) {
   Form1& window = Open("A.TYR");
@@ -57,7 +57,7 @@ TEST_F(TextCommandsTest, NamesAreAppendedToTheClass) {
   EXPECT_EQ(screen.file_dialogs[0].folder, "/somewhere");
   EXPECT_FALSE(screen.file_dialogs[0].save);
   EXPECT_EQ(LastFolder, folder);
-  EXPECT_EQ(Names(), (Names_{"Abel", "Last01", "Last02"}));
+  EXPECT_EQ(Names(), (Lastnames{"Abel", "Last01", "Last02"}));
   EXPECT_EQ(window.Grid1.TextMatrix(2, 0), " 1 Abel, Bo");
   EXPECT_EQ(Current().Changed, kTrue);
   EXPECT_EQ(window.StatusText, "1 student added.");
@@ -107,7 +107,7 @@ TEST_F(TextCommandsTest, TheFrameStartsAClassFromATextFile) {
   Form1& window = *Window(1);
   EXPECT_EQ(window.Caption, "NewClass 1");
   EXPECT_EQ(window.Tag, "1");
-  EXPECT_EQ(Names(), (Names_{"Abel", "Ng"}));
+  EXPECT_EQ(Names(), (Lastnames{"Abel", "Ng"}));
   EXPECT_EQ(Current().Changed, kTrue);
   EXPECT_EQ(Current().LetterValues[1], Currency::FromWhole(99));
   EXPECT_EQ(Current().RoundTable[0][0], 99.5f);
@@ -119,11 +119,12 @@ TEST_F(TextCommandsTest, TheFrameStartsAClassFromATextFile) {
 }
 
 TEST_F(TextCommandsTest, TheLetterValuesOfNewClassesAreTheTeachersOwn) {
-  screen.WriteSetting("TALLYRLG8", "Settings", "LetterString", "");
+  screen.settings["TALLYRLG8/startup/LetterString"] =
+      "343'99.5'95'90'88'85'80'78'75'70'68'65'60'54'";
   ExpectChoice("", "Tabs");
   screen.ExpectFileDialog(Put("new.txt", "8\tNg, Ada\n"));
   Frame->ClickMenu("mnuLoadText");
-  EXPECT_EQ(Current().LetterValues[13], Currency::FromWhole(55));
+  EXPECT_EQ(Current().LetterValues[13], Currency::FromWhole(54));
 }
 
 TEST_F(TextCommandsTest, ANewClassGetsAWindowBesideTheOpenOne) {
@@ -134,7 +135,7 @@ TEST_F(TextCommandsTest, ANewClassGetsAWindowBesideTheOpenOne) {
   ASSERT_EQ(WindowCount(), 2);
   EXPECT_EQ(Window(2)->Caption, "NewClass 2");
   EXPECT_EQ(CurrentClass, 2);
-  EXPECT_EQ(Names(), (Names_{"Abel"}));
+  EXPECT_EQ(Names(), (Lastnames{"Abel"}));
   EXPECT_EQ(Classes[1].NumStudents, 2);
   EXPECT_EQ(Classes[1].Changed, kFalse);
 }
@@ -169,7 +170,7 @@ TEST_F(TextCommandsTest, ASpreadsheetIsAskedForItsColumns) {
   ExpectColumnsAccepted();
   window.ClickMenu("mnuimportnames");
   EXPECT_EQ(screen.file_dialogs[0].filter, "CSV Files (*.csv)|*.CSV;*.TXT");
-  EXPECT_EQ(Names(), (Names_{"Abel", "Last01", "Last02"}));
+  EXPECT_EQ(Names(), (Lastnames{"Abel", "Last01", "Last02"}));
 }
 
 TEST_F(TextCommandsTest, LeavingTheColumnsChangesNothing) {
@@ -243,7 +244,7 @@ TEST_F(TextCommandsTest, GradesGoByTheEnterGradesPortal) {
   EXPECT_EQ(Current().Students[1].Marks[1], "A-");
   EXPECT_EQ(Current().Students[2].Marks[1], "71");
   EXPECT_EQ(window.Grid1.TextMatrix(3, 2), "71");
-  EXPECT_EQ(window.StatusText, "2 students found in the file; 1 lines match no student.");
+  EXPECT_EQ(window.StatusText, "Students found in the file: 2; lines that match no student: 1.");
 }
 
 TEST_F(TextCommandsTest, GradesByNameOfASpreadsheet) {

@@ -150,7 +150,7 @@ TEST_F(FrmTxtTest, APreviewShowsTheFirstRowsAndWhatTheyAreTakenFor) {
   EXPECT_EQ(portal.preview.TextMatrix(1, 3), "Shoe size");
   EXPECT_EQ(portal.preview.Style(1, 3), CellStyle::kShaded);
   EXPECT_EQ(portal.preview.TextMatrix(2, 2), "Ada");
-  EXPECT_EQ(portal.counted.Caption, "2 lines with students");
+  EXPECT_EQ(portal.counted.Caption, "Students: 2");
 }
 
 TEST_F(FrmTxtTest, ACharacterThatAClassFileLacksIsShownByItsNumber) {
@@ -187,12 +187,12 @@ TEST_F(FrmTxtTest, AColumnCanBeTakenForAnotherField) {
 
 TEST_F(FrmTxtTest, TitlesCanBeSwitchedOnAndOff) {
   OpenColumns(kImportNames, "ID,Name\n1,Ng Ada\n");
-  EXPECT_EQ(portal.counted.Caption, "1 lines with students");
+  EXPECT_EQ(portal.counted.Caption, "Students: 1");
   driver->Tick("heading", false);
-  EXPECT_EQ(portal.counted.Caption, "2 lines with students");
+  EXPECT_EQ(portal.counted.Caption, "Students: 2");
   EXPECT_EQ(portal.preview.Style(1, 0), CellStyle::kPlain);
   driver->Tick("heading", true);
-  EXPECT_EQ(portal.counted.Caption, "1 lines with students");
+  EXPECT_EQ(portal.counted.Caption, "Students: 1");
 }
 
 TEST_F(FrmTxtTest, WithoutNamesItStays) {

@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 
+#include "store/safe_file.h"
 #include "store/text_layout.h"
 
 namespace tallyroll {
@@ -194,6 +195,16 @@ TEST(ReadRosterText, AByteOfZeroIsRefusedInEveryLayout) {
     EXPECT_EQ(Refusal(text, mode), "is not a text file");
 }
 
+TEST(ReadRosterText, DataFullOfControlCharactersIsNoText) {
+  std::string data;
+  for (int i = 0; i < 1000; ++i) data += static_cast<char>(1 + i * 37 % 255);
+  EXPECT_EQ(Refusal(data, kCommasText), "is not a text file");
+}
+
+TEST(ReadRosterText, AStrayControlCharacterIsNoFault) {
+  EXPECT_EQ(Only("1,Ng Ada,12\x01 Main\x0B St", kCommasText).address, "12\x01 Main\x0B St");
+}
+
 TEST(ReadRosterText, ATextThatNoClassFileCanHoldIsRefusedWithItsLine) {
   const std::string longest(65535, 'x');
   EXPECT_EQ(Only("1,Ng Ada," + longest, kCommasText).address, longest);
@@ -301,6 +312,26 @@ TEST(ReadRosterText, ASpreadsheetWithoutIdsSaysSo) {
   EXPECT_FALSE(ReadRosterText("Last name,First name\nNg,Ada\n", kCsvText).numbered);
   EXPECT_TRUE(ReadRosterText("ID,Name\n1,Ng\n", kCsvText).numbered);
   EXPECT_TRUE(ReadRosterText(",Ng Ada\n", kCommasText).numbered);
+}
+
+// Saved by LibreOffice Calc 7.4 from a sheet of text cells, with semicolons and UTF-8.
+TEST(ReadRosterText, AFileThatASpreadsheetProgramSavedIsReadWhole) {
+  const FileContents file = ReadWholeFile(TALLYROLL_SOURCE_DIR "/tests/store/data/spreadsheet.csv");
+  ASSERT_EQ(file.error, 0);
+  const TextRoster roster = ReadRosterText(file.bytes, kCsvText);
+  ASSERT_EQ(roster.students.size(), 4u);
+  EXPECT_TRUE(roster.lacking.empty());
+  EXPECT_EQ(roster.students[0].id, "0012");
+  EXPECT_EQ(roster.students[0].lastname, "Ng, Jr.");
+  EXPECT_EQ(roster.students[0].firstname, "Zo\xEB");
+  EXPECT_EQ(roster.students[0].address, "12 Main St, Apt 4");
+  EXPECT_EQ(roster.students[0].city, "K\xF6ln");
+  EXPECT_EQ(roster.students[0].parent, "Eve \"Evi\" Ng");
+  EXPECT_EQ(roster.students[1].lastname, "De La Cruz");
+  EXPECT_EQ(roster.students[1].parent, "");
+  EXPECT_EQ(roster.students[2].address, "1 Quay; rear");
+  EXPECT_EQ(roster.students[3].lastname, "\x8Cuvre");
+  EXPECT_EQ(roster.students[3].firstname, "\x9Fvonne \x96 \x93Y\x94");
 }
 
 }  // namespace

@@ -140,9 +140,8 @@ std::string BackFrom(i16 mode, std::string Student::*field, const std::string& v
 // Keeps to what the layout can carry, as the cases below list it.
 std::string Tame(std::string text, i16 mode, std::size_t longest) {
   const char separator = SeparatorOf(mode);
-  std::erase_if(text, [&](char c) {
-    return c == '\0' || c == '\r' || c == '\n' || c == '\x1A' || c == separator;
-  });
+  std::erase_if(text,
+                [&](char c) { return static_cast<unsigned char>(c) < ' ' || c == separator; });
   return std::string(Trim(Left(text, longest)));
 }
 

@@ -101,7 +101,7 @@ def text_file(this, program):
     program.keys("Return", "Down", "Down", "Down", "Down", "Down", "Return")
     program.choose_file("Open", roster)
     program.window("Text File Portal")
-    program.await_label("4 lines with students")
+    program.await_label("Students: 4")
     take(program, "frmtxt")
     program.keys("Escape")
     program.gone("Text File Portal")

@@ -25,7 +25,8 @@ def tell(this):
     program.keys("alt+s", "d")
     program.window("Delete Portal")
     program.await_focus(Atspi.Role.LIST, "Students")
-    program.keys("Home", "Down", "Tab", "Tab", "Tab", "space")
+    program.keys("Home", "Down")
+    program.click(program.widget(Atspi.Role.PUSH_BUTTON, "Delete to Clipbd"))
     program.box("NOTE: The Clipboard can hold only ONE student at a time. Delete Berger, Zoë and save "
                 "the student to the CLIPBOARD? ", "Return", title="Delete Portal")
     program.window("Delete Portal")

@@ -26,7 +26,7 @@ def tell(this):
     program.keys("Down", "Down", "Down", "Down", "Down", "Return")  # the spreadsheet
     program.choose_file("Open", roster)
     program.window("Text File Portal")
-    program.await_label("2 lines with students")
+    program.await_label("Students: 2")
     program.keys("Right", "Right", "Right", "alt+h", "c")  # the fourth column is the city
     program.keys("alt+o")
     program.gone("Text File Portal")
