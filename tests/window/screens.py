@@ -40,12 +40,15 @@ def sample_window(this, name, *options, **surroundings):
 SIZES = {"sample-150": (1500, 1000)}
 
 
-def portal(program, keys, title, name, prepare=()):
+def portal(program, keys, title, name, prepare=(), asks=None):
     program.keys(*keys)
     program.window(title)
     program.keys(*prepare)
     take(program, name)
     program.keys("Escape")
+    if asks:  # whether what was entered may go
+        program.window(asks)
+        program.keys("alt+y")
     program.gone(title)
 
 
@@ -113,7 +116,7 @@ def portals(this):
     portal(program, ["ctrl+e"], "Edit Portal", "frmEdit", ["Down"])
     portal(program, ["ctrl+g"], "Enter  Grades  Portal", "frmMarks",
            [*"Essay", "Tab", *"ESS", "alt+l", "Down", "Down", "Down", "Down", "Tab", *"85", "alt+o",
-            *"92", "Down", *"78", "Down", "F6", "Down", *"88"])
+            *"92", "Down", *"78", "Down", "F6", "Down", *"88"], asks="CANCEL")
     portal(program, ["alt+f", "i"], "Class Information Portal", "frmclassinfo")
     portal(program, ["alt+s", "d"], "Delete Portal", "frmdelete", ["Home", "Down"])
     text_file(this, program)
