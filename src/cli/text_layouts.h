@@ -18,6 +18,7 @@ inline const std::map<std::string, i16> kTextLayouts = {
 template <typename Values>
 std::vector<std::string> NamesOf(const Values& values) {
   std::vector<std::string> names;
+  names.reserve(values.size());
   for (const auto& [name, value] : values) names.push_back(name);
   return names;
 }

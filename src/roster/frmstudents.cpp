@@ -11,6 +11,7 @@ namespace {
 
 std::vector<std::string> LinesOf(const std::vector<i16>& places) {
   std::vector<std::string> lines;
+  lines.reserve(places.size());
   for (const i16 place : places)
     lines.push_back(StudentListLine(Current().Students[static_cast<std::size_t>(place)]));
   return lines;

@@ -81,7 +81,7 @@ class Lines {
   bool good_ = true;
 };
 
-std::string FieldOf(std::string line) {
+std::string FieldOf(const std::string& line) {
   return line.starts_with(kNothing) ? std::string() : line;
 }
 

@@ -44,6 +44,7 @@ class Taker {
 std::vector<std::string_view> FieldsOf(std::string_view line, i16 mode) {
   if (mode != kColumnsText) return CutFields(line, mode, kTextFields.size());
   std::vector<std::string_view> fields;
+  fields.reserve(kTextFields.size());
   for (const TextField& field : kTextFields)
     fields.push_back(CutColumn(line, field.position, field.length));
   return fields;

@@ -7,13 +7,15 @@
 namespace tallyroll {
 namespace {
 
-// Without commas, and with single blanks between the words.
+// Without commas, with single blanks between the words, and with one kind of apostrophe: where that
+// parts the fields of a file, a name in it is written with the other one.
 std::string NameKey(std::string_view name) {
+  constexpr char kRightQuote = '\x92';
   std::string key;
   for (const char c : name) {
     const bool blank = c == ' ' || c == ',';
     if (!blank)
-      key += c;
+      key += c == kRightQuote ? '\'' : c;
     else if (!key.empty() && key.back() != ' ')
       key += ' ';
   }

@@ -78,6 +78,11 @@ TEST_F(GradeFileTest, TwoStudentsOfOneNameEachGetALine) {
             (Marks{"", "91", "", "82"}));
 }
 
+TEST_F(GradeFileTest, ANameMatchesWithEitherApostrophe) {
+  Enrol("5", "O'Hara", "Di");
+  EXPECT_EQ(Read("O\x92Hara, Di'91\n", kSinglesText, kGradesByName), (Marks{"", "", "", "91"}));
+}
+
 TEST_F(GradeFileTest, SeveralMarksOfALineAreSeveralGrades) {
   const GradeFile file = ReadGradeText("1,91,B\n3,70\n", kCommasText, {}, kGradesById);
   ASSERT_EQ(file.columns.size(), 2u);
