@@ -10,12 +10,10 @@
 #include <memory>
 
 #include "bench/big_class.h"
+#include "bench/open_class.h"
 #include "desktop/grid_widget.h"
 #include "desktop/text_conversion.h"
-#include "platform/headless.h"
-#include "shell/program.h"
 #include "shell/shell_state.h"
-#include "store/program_state.h"
 
 namespace tallyroll {
 namespace {
@@ -25,19 +23,13 @@ constexpr int kGrades = 300;
 const QSize kWindow(1200, 800);
 
 // The class window's grid with its class, without the window around it.
-struct OpenClass {
-  OpenClass() {
-    ResetProgram();
-    SetPlatform(&screen);
-    CurrentClass = 1;
-    Current() = BigClass(kStudents, kGrades, 0);
+struct GridOfClass : OpenClass {
+  GridOfClass() : OpenClass(BigClass(kStudents, kGrades, 0)) {
     Current().SlotState = 10;
     window.Tag = "1";
     window.SlotIndex = 1;
   }
-  ~OpenClass() { SetPlatform(nullptr); }
 
-  HeadlessSurroundings screen;
   Form1 window;
 };
 
@@ -75,7 +67,7 @@ void ScrollOn(benchmark::State& state, QAbstractScrollArea& area, QScrollBar& ba
 }
 
 void FirstPaintOfTableView(benchmark::State& state) {
-  OpenClass open;
+  GridOfClass open;
   open.window.showform3();
   for (auto _ : state) {
     Texts texts(open.window.Grid1);
@@ -89,7 +81,7 @@ void FirstPaintOfTableView(benchmark::State& state) {
 BENCHMARK(FirstPaintOfTableView)->Unit(benchmark::kMillisecond)->UseRealTime();
 
 void FirstPaintOfClassGrid(benchmark::State& state) {
-  OpenClass open;
+  GridOfClass open;
   for (auto _ : state) {
     open.window.showform3();
     GridWidget widget;
@@ -106,7 +98,7 @@ void FirstPaintOfClassGrid(benchmark::State& state) {
 BENCHMARK(FirstPaintOfClassGrid)->Unit(benchmark::kMillisecond)->UseRealTime();
 
 void ScrollTableView(benchmark::State& state) {
-  OpenClass open;
+  GridOfClass open;
   open.window.showform3();
   Texts texts(open.window.Grid1);
   QTableView view;
@@ -116,7 +108,7 @@ void ScrollTableView(benchmark::State& state) {
 BENCHMARK(ScrollTableView)->Arg(1)->Arg(20)->Unit(benchmark::kMillisecond)->UseRealTime();
 
 void ScrollClassGrid(benchmark::State& state) {
-  OpenClass open;
+  GridOfClass open;
   open.window.showform3();
   GridWidget widget;
   widget.SetGrid(&open.window.Grid1);

@@ -14,13 +14,12 @@
 #include "averages/frmscrnavg.h"
 #include "base/number_text.h"
 #include "bench/big_class.h"
+#include "bench/open_class.h"
 #include "desktop/grid_widget.h"
 #include "desktop/portal_dialog.h"
 #include "desktop/text_conversion.h"
 #include "grades/frmMarks.h"
-#include "platform/headless.h"
-#include "shell/program.h"
-#include "store/program_state.h"
+#include "store/class_defaults.h"
 
 namespace tallyroll {
 namespace {
@@ -29,17 +28,8 @@ constexpr int kStudents = 1000;
 constexpr int kGrades = 100;
 const QSize kSize(940, 640);
 
-struct OpenClass {
-  OpenClass() {
-    ResetProgram();
-    SetPlatform(&screen);
-    CurrentClass = 1;
-    Current() = BigAveragedClass(kStudents, kGrades, 1);
-    PrepareWeights();
-  }
-  ~OpenClass() { SetPlatform(nullptr); }
-
-  HeadlessSurroundings screen;
+struct AveragedClass : OpenClass {
+  AveragedClass() : OpenClass(BigAveragedClass(kStudents, kGrades, 1)) { PrepareWeights(); }
 };
 
 // The names, identifiers and an empty column, as the Enter Grades Portal shows them.
@@ -71,6 +61,7 @@ class BareDialog : public QDialog {
 void ShowAndPaint(QDialog& dialog, QAbstractScrollArea& area) {
   dialog.resize(kSize);
   dialog.show();
+  QApplication::processEvents();  // a window is painted once the screen has shown it
   area.viewport()->repaint();
 }
 
@@ -85,7 +76,7 @@ void Key(QWidget& widget, int key, const QString& text) {
 }
 
 void KeyInBareCell(benchmark::State& state) {
-  OpenClass open;
+  AveragedClass open;
   BareDialog dialog;
   ShowAndPaint(dialog, dialog.view);
   int n = 0;
@@ -97,7 +88,7 @@ void KeyInBareCell(benchmark::State& state) {
 BENCHMARK(KeyInBareCell)->Unit(benchmark::kMicrosecond)->UseRealTime();
 
 void KeyInMarkCell(benchmark::State& state) {
-  OpenClass open;
+  AveragedClass open;
   frmMarks portal;
   portal.Load();
   PortalDialog dialog(portal);
@@ -111,7 +102,7 @@ void KeyInMarkCell(benchmark::State& state) {
 BENCHMARK(KeyInMarkCell)->Unit(benchmark::kMicrosecond)->UseRealTime();
 
 void OpenBareDialog(benchmark::State& state) {
-  OpenClass open;
+  AveragedClass open;
   for (auto _ : state) {
     BareDialog dialog;
     ShowAndPaint(dialog, dialog.view);
@@ -121,7 +112,7 @@ BENCHMARK(OpenBareDialog)->Unit(benchmark::kMicrosecond)->UseRealTime();
 
 template <typename P>
 void OpenPortal(benchmark::State& state, const char* grid) {
-  OpenClass open;
+  AveragedClass open;
   for (auto _ : state) {
     P portal;
     portal.Load();
@@ -140,7 +131,7 @@ BENCHMARK(OpenScreenAverages)->Unit(benchmark::kMicrosecond)->UseRealTime();
 
 // The student's whole record with the average is made anew; nothing is painted.
 void AverageAfterOneMark(benchmark::State& state) {
-  OpenClass open;
+  AveragedClass open;
   frmscrnavg portal;
   portal.Load();
   PortalDialog dialog(portal);

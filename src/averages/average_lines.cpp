@@ -11,11 +11,6 @@ bool IsPointMethod(i16 method) {
   return method == 2 || method == 3;
 }
 
-AverageError ComputePoints(Points& points, TypeTotals& totals) {
-  return Current().Method == 2 ? AverageByPoints(points, totals)
-                               : AverageByPointsAndTypes(points, totals);
-}
-
 // Exactly two decimals, a half going away from zero.
 std::string TwoDecimals(Currency value) {
   const std::int64_t half = value.scaled() < 0 ? -50 : 50;
@@ -26,28 +21,26 @@ std::string TwoDecimals(Currency value) {
          digits.substr(digits.size() - 2);
 }
 
-AverageError WriteLines(const LineWriter& line, const Points& points, bool blank_ahead) {
-  FinalGrade grade;
-  if (const AverageError error = RoundedGrade(grade)) return error;
+void PutLines(const LineWriter& line, const StudentAverage& student) {
   const std::string average = PlainNumberText(ExactAverage);
-  if (blank_ahead) line("");
+  const auto& [earned, possible] = student.points;
   if (IsPointMethod(Current().Method)) {
-    line("TOTAL POINTS: " + TwoDecimals(points.earned) + "/" + PlainNumberText(points.possible) +
+    line("TOTAL POINTS: " + TwoDecimals(earned) + "/" + PlainNumberText(possible) +
          "  AVERAGE = " + average);
   } else {
     line("AVERAGE IS: " + average);
   }
-  line("ROUNDED AVERAGE/GRADE: " + grade.Text());
-  return {};
+  line("ROUNDED AVERAGE/GRADE: " + student.grade.Text());
 }
 
 AverageError LinesOf(const LineWriter& line, bool blank_ahead) {
-  Points points;
-  TypeTotals totals;
-  if (IsPointMethod(Current().Method)) {
-    if (const AverageError error = ComputePoints(points, totals)) return error;
-  }
-  return WriteLines(line, points, blank_ahead);
+  StudentAverage student;
+  const AverageError error =
+      IsPointMethod(Current().Method) ? AverageStudent(student) : RoundedGrade(student.grade);
+  if (error) return error;
+  if (blank_ahead) line("");
+  PutLines(line, student);
+  return {};
 }
 
 }  // namespace
@@ -61,10 +54,11 @@ AverageError WriteAverageLines(const LineWriter& line) {
 }
 
 AverageError PrintAverageAndCompute(const LineWriter& line, TypeTotals& totals) {
-  Points points;
-  const AverageError error =
-      IsPointMethod(Current().Method) ? ComputePoints(points, totals) : ComputeAverage(totals);
-  return error ? error : WriteLines(line, points, false);
+  StudentAverage student;
+  const AverageError error = AverageStudent(student);
+  totals = student.totals;
+  if (!error) PutLines(line, student);
+  return error;
 }
 
 }  // namespace tallyroll

@@ -46,6 +46,10 @@ bool AnyGradeMayBeDropped() {
   return false;
 }
 
+bool AnyTypeMayBeDropped() {
+  return !DroppableTypes().empty();
+}
+
 void TellNoGradeMayBeDropped() {
   ShowMessage(
       "You haven't specified any grades which could be 'dropped' when making up the final average. "

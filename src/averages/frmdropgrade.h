@@ -12,6 +12,8 @@ namespace tallyroll {
 
 // Whether any grade of the class may be dropped.
 bool AnyGradeMayBeDropped();
+// Whether one of them has a type, without which it can't be chosen by type.
+bool AnyTypeMayBeDropped();
 // Says that none may.
 void TellNoGradeMayBeDropped();
 

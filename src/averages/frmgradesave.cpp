@@ -10,6 +10,7 @@
 #include "grades/marks.h"
 #include "platform/class_window.h"
 #include "platform/surroundings.h"
+#include "store/class_format.h"
 #include "store/program_state.h"
 
 namespace tallyroll {
@@ -22,10 +23,13 @@ std::string TwoDigits(int number) {
   return (number < 10 ? "0" : "") + PlainNumberText(number);
 }
 
-// "9/1/2026 14:05".
+// "9/1/2026 14:05". A full minute may lie a hair below itself, so whole seconds are taken first.
 std::string DateAndTimeText(double now) {
-  const int minutes = static_cast<int>(std::floor((now - std::floor(now)) * 24 * 60));
-  return DateText(now, Platform().ShortDateOrder()) + " " + TwoDigits(minutes / 60) + ":" +
+  constexpr double kSecondsOfDay = 24 * 60 * 60;
+  const double seconds = std::round(now * kSecondsOfDay);
+  const double day = std::floor(seconds / kSecondsOfDay);
+  const int minutes = static_cast<int>(seconds - day * kSecondsOfDay) / 60;
+  return DateText(day, Platform().ShortDateOrder()) + " " + TwoDigits(minutes / 60) + ":" +
          TwoDigits(minutes % 60);
 }
 
@@ -33,20 +37,20 @@ std::string DateAndTimeText(double now) {
 AverageError FinalMarks(std::vector<ShortText>& marks) {
   Class& c = Current();
   const TypeSums type_weights = c.TypeWeights;
+  const Currency exact = ExactAverage;
   std::vector<ShortText> before;
   for (int i = 1; i <= c.NumStudents; ++i)
     before.emplace_back(MarkOf(c.Students[static_cast<std::size_t>(i)], 0));
   AverageError error;
   for (int i = 1; i <= c.NumStudents && !error; ++i) {
     CurrentStudent = static_cast<i16>(i);
-    TypeTotals totals;
-    FinalGrade grade;
-    error = ComputeAverage(totals);
-    if (!error) error = RoundedGrade(grade);
-    marks.push_back(grade.mark);
+    StudentAverage average;
+    error = AverageStudent(average);
+    marks.push_back(average.grade.mark);
   }
   if (!error) return error;
   c.TypeWeights = type_weights;
+  ExactAverage = exact;
   for (std::size_t i = 1; i <= before.size(); ++i)
     if (!c.Students[i].Marks.empty()) c.Students[i].Marks[0] = before[i - 1];
   return error;
@@ -57,6 +61,7 @@ AverageError FinalMarks(std::vector<ShortText>& marks) {
 frmgradesave::frmgradesave() : Portal("frmgradesave") {
   Caption = "Save Grade Portal";
   HelpContext = 540;
+  title.MaxLength = static_cast<int>(kLongestText);
   code.MaxLength = kLongestCode;
   save.Caption = "&Save";
   cancel.Caption = "&Cancel";
@@ -74,6 +79,8 @@ void frmgradesave::save_Click() {
     ShowMessage("You must fill in both a Title and a 3 character code.", BoxIcon::kCritical);
     return SetFocusAndSelect(Trim(title.Text).empty() ? title : code);
   }
+  if (Current().NumInstruments == kMostGrades)
+    return static_cast<void>(ShowMessage(kNoMoreGrades, BoxIcon::kCritical));
   Platform().SetWaitCursor(true);
   std::vector<ShortText> marks;
   const AverageError error = FinalMarks(marks);

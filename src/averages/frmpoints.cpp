@@ -80,7 +80,7 @@ void frmpoints::Load() {
 }
 
 bool frmpoints::Counts(int row) const {
-  return Trim(grdgrade.TextMatrix(row, kFlagColumn)) != "N";
+  return grdgrade.TextMatrix(row, kFlagColumn) == "Y";
 }
 
 void frmpoints::ShowSums() {
@@ -127,8 +127,10 @@ void frmpoints::frombd_Click() {
   std::vector<std::string> lines;
   if (!PasteLines(kFormat, lines)) return;
   const int last = std::min(grdgrade.Rows() - 1, static_cast<int>(lines.size()));
-  for (int row = 1; row <= last; ++row)
-    grdgrade.SetTextMatrix(row, kFlagColumn, lines[static_cast<std::size_t>(row) - 1]);
+  for (int row = 1; row <= last; ++row) {
+    const bool counts = UpperCase(Trim(lines[static_cast<std::size_t>(row) - 1])) == "Y";
+    grdgrade.SetTextMatrix(row, kFlagColumn, counts ? "Y" : "N");
+  }
   Current().AverageWork1 = 1;
   ShowSums();
 }

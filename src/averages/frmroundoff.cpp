@@ -2,6 +2,7 @@
 #include "averages/frmroundoff.h"
 
 #include <algorithm>
+#include <limits>
 
 #include "averages/clipboard_column.h"
 #include "averages/rounding.h"
@@ -46,6 +47,12 @@ std::string NumberOf(i16 scale) {
   return PlainNumberText(scale);
 }
 
+// A cell as a minimum. One beyond Single is out of reach as well at the greatest of them.
+float MinimumOf(std::string_view cell) {
+  constexpr double kGreatest = std::numeric_limits<float>::max();
+  return static_cast<float>(std::clamp(LeadingNumber(cell), -kGreatest, kGreatest));
+}
+
 void MarkChanged() {
   Current().Changed = kTrue;
 }
@@ -60,10 +67,7 @@ frmroundoff::frmroundoff() : Portal("frmroundoff") {
   finalletter.Caption = "Letter Values";
   finalnumber.Caption = "Numeric Values";
   usescale[0].Caption = "&Default";
-  for (std::size_t s = 1; s < 4; ++s) {
-    usescale[s].Caption = "&" + NumberOf(static_cast<i16>(s));
-    savescale[s].Caption = NumberOf(static_cast<i16>(s));
-  }
+  for (i16 s = 1; s < 4; ++s) MarkScale(s, false);
   writeclip.Caption = "Copy &To";
   readclip.Caption = "Paste &From";
   continue_.Caption = "&Screen";
@@ -112,15 +116,22 @@ void frmroundoff::Load() {
   const bool from_summary = DefaultMethod == 5;
   framescreen.Visible = framecancel.Visible = !from_summary;
   frameprint.Visible = from_summary;
+  for (i16 s = 1; s < 4; ++s) MarkScale(s, ScaleOf(s)[2] == 0);
   ShowMode();
+}
+
+// An empty set says so until it is saved.
+void frmroundoff::MarkScale(i16 scale, bool empty) {
+  const auto i = static_cast<std::size_t>(scale);
+  const std::string text = NumberOf(scale) + (empty ? " (empty)" : "");
+  usescale[i].Caption = "&" + text;
+  savescale[i].Caption = text;
 }
 
 void frmroundoff::ShowMode() {
   const bool skipping = Current().RoundMode != 0;
   skip.Enabled = !skipping;
   noskip.Enabled = skipping;
-  finalletter.Value = Current().FinalGradeForm == kLetterForm;
-  finalnumber.Value = !finalletter.Value;
   readclip.Enabled = !skipping && ClipboardHas(kFormat);
   FillGrid();
   ShowScaleButtons();
@@ -129,6 +140,8 @@ void frmroundoff::ShowMode() {
 void frmroundoff::FillGrid() {
   const Class& c = Current();
   const bool letters = c.FinalGradeForm == kLetterForm;
+  finalletter.Value = letters;
+  finalnumber.Value = !letters;
   valueframe.Caption =
       "Value - " + (c.RoundScale == 0 ? std::string("Def.") : NumberOf(c.RoundScale));
   const std::string_view headings[] = {"Letter", "Number", " Min. Value"};
@@ -149,7 +162,7 @@ void frmroundoff::FillGrid() {
   }
 }
 
-// The scale in force is grey as long as nothing of it was changed; an empty set says so.
+// The scale in force is grey as long as nothing of it was changed.
 void frmroundoff::ShowScaleButtons() {
   const Class& c = Current();
   const bool enabled = c.RoundMode == 0;
@@ -157,10 +170,6 @@ void frmroundoff::ShowScaleButtons() {
     const auto i = static_cast<std::size_t>(s);
     usescale[i].Enabled = enabled && (changed_ || c.RoundScale != s);
     savescale[i].Enabled = enabled;
-    if (s == 0) continue;
-    const std::string mark = ScaleOf(s)[2] == 0 ? " (empty)" : "";
-    usescale[i].Caption = "&" + NumberOf(s) + mark;
-    savescale[i].Caption = NumberOf(s) + mark;
   }
 }
 
@@ -177,7 +186,15 @@ bool frmroundoff::grdgrade_KeyPress(unsigned char character) {
 void frmroundoff::CopyGridTo(i16 scale) {
   for (int row = 1; row <= kRows; ++row)
     ScaleOf(scale)[static_cast<std::size_t>(row) - 1] =
-        static_cast<float>(LeadingNumber(grdgrade.TextMatrix(row, kMinimum)));
+        MinimumOf(grdgrade.TextMatrix(row, kMinimum));
+}
+
+void frmroundoff::SaveAs(i16 scale) {
+  changed_ = false;
+  CopyGridTo(scale);
+  MarkScale(scale, false);
+  Current().RoundScale = scale;
+  MarkChanged();
 }
 
 bool frmroundoff::MayLoseChange() {
@@ -214,9 +231,7 @@ bool frmroundoff::SaveInEmptyScale() {
     ShowScaleButtons();
     return false;
   }
-  CopyGridTo(scale);
-  Current().RoundScale = scale;
-  MarkChanged();
+  SaveAs(scale);
   return true;
 }
 
@@ -262,10 +277,7 @@ void frmroundoff::savescale_Click(i16 scale) {
                                  ". Do you wish to overwrite them with the current Values?",
                              BoxButtons::kOkCancel, BoxIcon::kQuestion) != BoxAnswer::kOk)
     return;
-  changed_ = false;
-  Current().RoundScale = scale;
-  CopyGridTo(scale);
-  MarkChanged();
+  SaveAs(scale);
   ShowMode();
 }
 
@@ -273,7 +285,7 @@ void frmroundoff::finalform_Click(i16 form) {
   const std::vector<std::string> minimums = ColumnOf(grdgrade, kMinimum);
   if (Current().FinalGradeForm != form) MarkChanged();
   Current().FinalGradeForm = form;
-  ShowMode();
+  FillGrid();
   // What was typed stays.
   for (int row = 1; row <= kRows; ++row)
     grdgrade.SetTextMatrix(row, kMinimum, minimums[static_cast<std::size_t>(row) - 1]);
@@ -283,10 +295,14 @@ void frmroundoff::writeclip_Click() {
   std::vector<std::string> minimums = ColumnOf(grdgrade, kMinimum);
   for (std::string& each : minimums) each = std::string(Trim(each));
   CopyLines(kFormat, minimums);
-  readclip.Enabled = Current().RoundMode == 0;
+  readclip.Enabled = true;
 }
 
+// Under Skip Rounding the minimums are the letter values, and take no paste as they take no key.
 void frmroundoff::readclip_Click() {
+  if (Current().RoundMode != 0)
+    return static_cast<void>(
+        ShowMessage("Click on Enable Rounding before you paste Min. Values from the clipboard."));
   if (!MayLoseChange()) return;
   std::vector<std::string> lines;
   if (!PasteLines(kFormat, lines)) return;

@@ -42,7 +42,9 @@ struct frmroundoff : Portal {
   void ShowMode();
   void FillGrid();
   void ShowScaleButtons();
+  void MarkScale(i16 scale, bool empty);
   void CopyGridTo(i16 scale);
+  void SaveAs(i16 scale);
   bool MayLoseChange();
   bool SettleChange();
   bool SaveInEmptyScale();

@@ -14,18 +14,6 @@ bool IsPointMethod() {
   return Current().Method == 2 || Current().Method == 3;
 }
 
-AverageError ComputeShown(Points& points, FinalGrade& grade) {
-  TypeTotals totals;
-  AverageError error;
-  if (Current().Method == 2)
-    error = AverageByPoints(points, totals);
-  else if (Current().Method == 3)
-    error = AverageByPointsAndTypes(points, totals);
-  else
-    error = ComputeAverage(totals);
-  return error ? error : RoundedGrade(grade);
-}
-
 // There are averages that no grade of the class keeps yet.
 bool HasUnsavedAverages() {
   const Class& c = Current();
@@ -69,16 +57,16 @@ void frmscrnavg::ShowMore() {
   avg_label.Caption = IsPointMethod() ? "Points/Average" : "Exact Average";
   avg.Caption.clear();
   suggr.Caption.clear();
-  Points points;
-  FinalGrade grade;
-  if (const AverageError error = ComputeShown(points, grade)) {
+  StudentAverage average;
+  if (const AverageError error = AverageStudent(average)) {
     ShowMessage(AverageErrorText(error), BoxIcon::kCritical);
     return;
   }
+  const auto& [earned, possible] = average.points;
   if (IsPointMethod())
-    avg.Caption = PlainNumberText(points.earned) + "/" + PlainNumberText(points.possible) + "  ";
-  avg.Caption += PlainNumberText(ExactAverage);
-  suggr.Caption = TrimRight(grade.Text());
+    avg.Caption = PlainNumberText(earned) + "/" + PlainNumberText(possible) + "  ";
+  avg.Caption += PlainNumberText(average.exact);
+  suggr.Caption = TrimRight(average.grade.Text());
 }
 
 void frmscrnavg::Leave() {

@@ -82,4 +82,20 @@ AverageError RoundedGrade(FinalGrade& grade) {
   return {};
 }
 
+AverageError AverageStudent(StudentAverage& student) {
+  const TypeSums type_weights = Current().TypeWeights;
+  const Currency before = ExactAverage;
+  student = StudentAverage();
+  AverageError error = ComputeAverage(student.points, student.totals);
+  if (error) return error;
+  student.computed = ExactAverage;
+  error = RoundedGrade(student.grade);
+  student.exact = ExactAverage;
+  if (!error) return error;
+  student = StudentAverage();
+  Current().TypeWeights = type_weights;
+  ExactAverage = before;
+  return error;
+}
+
 }  // namespace tallyroll

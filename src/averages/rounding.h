@@ -36,4 +36,17 @@ struct FinalGrade {
 // force, and writes Marks[0] of CurrentStudent. An average beyond 16 bits changes nothing.
 AverageError RoundedGrade(FinalGrade& grade);
 
+// All that an average gives for one student.
+struct StudentAverage {
+  Points points;
+  TypeTotals totals;
+  Currency computed;  // before it is rounded
+  Currency exact;     // rounded to two decimals
+  FinalGrade grade;
+};
+
+// Averages CurrentStudent by the class's method and rounds. An error changes nothing, not even one
+// that is met only in rounding.
+AverageError AverageStudent(StudentAverage& student);
+
 }  // namespace tallyroll

@@ -65,9 +65,8 @@ void WeightsForm::Load() {
   grid_.FixedCols = grid_.Col = NewColumn();
   FillGrid();
   MoveMark();
-  const bool any = AnyGradeMayBeDropped();
-  droptype.Value = any && c.AverageFlag4 && drop_.Open();
-  dropyn.Value = any && c.AverageFlag2 && !droptype.Value;
+  droptype.Value = c.AverageFlag4 && AnyTypeMayBeDropped() && drop_.Open();
+  dropyn.Value = c.AverageFlag2 && AnyGradeMayBeDropped() && !droptype.Value;
   labs.Visible = droptype.Value || dropyn.Value;
   labs.Value = labs.Visible && c.AverageFlag1;
   ShowSums();

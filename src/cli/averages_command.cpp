@@ -23,33 +23,8 @@ struct AveragesOptions {
   OpenOptions opening;
 };
 
-// One student's figures.
-struct Outcome {
-  Currency computed;  // before rounding
-  Currency exact;     // after it
-  FinalGrade grade;
-  Points points;
-  TypeTotals totals;
-};
-
 bool HasPoints() {
   return Current().Method == 2 || Current().Method == 3;
-}
-
-AverageError Compute(Outcome& outcome) {
-  AverageError error;
-  if (Current().Method == 2) {
-    error = AverageByPoints(outcome.points, outcome.totals);
-  } else if (Current().Method == 3) {
-    error = AverageByPointsAndTypes(outcome.points, outcome.totals);
-  } else {
-    error = ComputeAverage(outcome.totals);
-  }
-  if (error) return error;
-  outcome.computed = ExactAverage;
-  error = RoundedGrade(outcome.grade);
-  outcome.exact = ExactAverage;
-  return error;
 }
 
 // Hands each student and his figures on. Answers why there are none, if one cannot be computed.
@@ -58,8 +33,8 @@ std::string ForEachOutcome(Visitor&& visit) {
   const Class& c = Current();
   for (int i = 1; i <= c.NumStudents; ++i) {
     CurrentStudent = static_cast<i16>(i);
-    Outcome outcome;
-    if (const AverageError error = Compute(outcome)) return AverageErrorText(error);
+    StudentAverage outcome;
+    if (const AverageError error = AverageStudent(outcome)) return AverageErrorText(error);
     visit(i, c.Students[static_cast<std::size_t>(i)], outcome);
   }
   return {};
@@ -77,7 +52,7 @@ std::string TableText(std::string& text) {
   heading.emplace_back("AVERAGE");
   heading.emplace_back("GRADE");
   Table table = {heading};
-  const std::string reason = ForEachOutcome([&](int i, const Student&, const Outcome& outcome) {
+  std::string reason = ForEachOutcome([&](int i, const Student&, const StudentAverage& outcome) {
     std::vector<std::string> row = NameCells(Current(), i);
     if (HasPoints()) row.push_back(PointsText(outcome.points));
     row.push_back(PlainNumberText(outcome.exact));
@@ -92,7 +67,7 @@ std::string TableText(std::string& text) {
 
 std::string CsvText(std::string& text) {
   text = "id,lastname,firstname,ComputedAverage,ExactAverage,FinalGrade,Marks0,earned,possible\n";
-  return ForEachOutcome([&](int, const Student& student, const Outcome& outcome) {
+  return ForEachOutcome([&](int, const Student& student, const StudentAverage& outcome) {
     const bool points = HasPoints();
     const std::string fields = "," + PlainNumberText(outcome.computed) + "," +
                                PlainNumberText(outcome.exact) + "," +
@@ -129,7 +104,7 @@ std::string Items(const TypeSums& sums) {
   return "[" + text + "]";
 }
 
-void AddJsonObject(const Student& student, const Outcome& outcome, std::string& text) {
+void AddJsonObject(const Student& student, const StudentAverage& outcome, std::string& text) {
   const bool points = HasPoints();
   const char* separator = "  {\n    \"";
   const auto add = [&](const char* name, const std::string& value) {
@@ -153,8 +128,8 @@ void AddJsonObject(const Student& student, const Outcome& outcome, std::string& 
 
 std::string ArrayText(std::string& text) {
   text = "[";
-  const std::string reason =
-      ForEachOutcome([&](int i, const Student& student, const Outcome& outcome) {
+  std::string reason =
+      ForEachOutcome([&](int i, const Student& student, const StudentAverage& outcome) {
         text += i == 1 ? "\n" : ",\n";
         AddJsonObject(student, outcome, text);
       });
@@ -168,9 +143,7 @@ CommandResult Averages(const AveragesOptions& options) {
   NameMode = options.name_mode;
   std::string reason = OpenClassFile(options.file, options.opening);
   if (!reason.empty()) return Refused(options.file, reason);
-  if (Current().Method == 2 && MakeTotalPossible() != 0) {
-    return Refused(options.file, "the grades have more than 32767 points in all");
-  }
+  MakeTotalPossible();
   std::string text;
   reason = options.json ? ArrayText(text) : options.csv ? CsvText(text) : TableText(text);
   return reason.empty() ? Done(text) : Refused(options.file, Utf8FromCodePage(reason));
@@ -185,10 +158,7 @@ void AddAveragesCommand(CLI::App& app, ChosenCommand& chosen) {
   command->add_option("FILE", options->file, "the class file")->required();
   CLI::Option* csv = command->add_flag("--csv", options->csv, "as comma-separated values");
   command->add_flag("--json", options->json, "as JSON, with the totals by type")->excludes(csv);
-  command
-      ->add_option("--name-mode", options->name_mode,
-                   "by name: 68 with the ID, 57 without; by ID: 82 with the name, 73 without")
-      ->check(CLI::IsMember({68, 57, 82, 73}));
+  AddNameMode(*command, options->name_mode);
   AddOpenOptions(*command, options->opening);
   command->callback(
       [&chosen, options] { chosen = [options](std::istream&) { return Averages(*options); }; });

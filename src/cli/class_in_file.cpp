@@ -75,6 +75,13 @@ void AddOpenOptions(CLI::App& command, OpenOptions& options) {
       ->check(CLI::IsMember({"mdy", "dmy", "ymd"}));
 }
 
+void AddNameMode(CLI::App& command, i16& name_mode) {
+  command
+      .add_option("--name-mode", name_mode,
+                  "by name: 68 with the ID, 57 without; by ID: 82 with the name, 73 without")
+      ->check(CLI::IsMember({68, 57, 82, 73}));
+}
+
 std::string OpenClassFile(const std::string& path, const OpenOptions& options) {
   CommandLineSurroundings surroundings(options.password, DateOrderOfOption(options.date_order));
   CurrentClass = 1;

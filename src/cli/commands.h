@@ -6,6 +6,8 @@
 #include <iosfwd>
 #include <string>
 
+#include "store/records.h"
+
 namespace CLI {
 class App;
 }
@@ -30,6 +32,8 @@ using ChosenCommand = std::function<CommandResult(std::istream& in)>;
 // Adds --password and --date-order to a command that opens a class.
 struct OpenOptions;
 void AddOpenOptions(CLI::App& command, OpenOptions& options);
+// How names and IDs are shown and sorted.
+void AddNameMode(CLI::App& command, i16& name_mode);
 
 // Each adds its command and its options, and fills `chosen` when it is the one.
 void AddDumpCommand(CLI::App& app, ChosenCommand& chosen);

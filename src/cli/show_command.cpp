@@ -51,10 +51,7 @@ void AddShowCommand(CLI::App& app, ChosenCommand& chosen) {
   CLI::App* command = app.add_subcommand("show", "Shows the students and their marks as a table");
   const auto options = std::make_shared<ShowOptions>();
   command->add_option("FILE", options->file, "the class file")->required();
-  command
-      ->add_option("--name-mode", options->name_mode,
-                   "by name: 68 with the ID, 57 without; by ID: 82 with the name, 73 without")
-      ->check(CLI::IsMember({68, 57, 82, 73}));
+  AddNameMode(*command, options->name_mode);
   AddOpenOptions(*command, options->opening);
   command->callback(
       [&chosen, options] { chosen = [options](std::istream&) { return Show(*options); }; });

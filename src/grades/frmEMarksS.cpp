@@ -75,7 +75,7 @@ void frmEMarksS::Show(int student) {
   lstName.ListIndex = student - 1;
   for (int k = 1; k < grdgrade.Rows(); ++k)
     grdgrade.SetTextMatrix(k, kMarkColumn, TrimRight(MarkOf(Shown(), k)));
-  marks.GoTo(1);
+  marks.StartOver();
   marks.Enable(true);
   DataChanged = false;
 }

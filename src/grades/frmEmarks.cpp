@@ -88,7 +88,7 @@ void frmEmarks::makefields() {
   ChooseType(TypeOfCode(grade.typecode));
   for (int i = 1; i < Grid1.Rows(); ++i)
     SetMarkCell(i, TrimRight(MarkOf(c.Students[static_cast<std::size_t>(i)], shown_)));
-  marks.GoTo(1);
+  marks.StartOver();
   EnableFields(true);
   DatePicked = DataChanged = false;
 }

@@ -7,6 +7,7 @@
 #include "base/number_text.h"
 #include "base/text.h"
 #include "grades/grade_types.h"
+#include "grades/marks.h"
 #include "grades/method_reset.h"
 #include "grades/student_grid.h"
 #include "platform/class_window.h"
@@ -107,11 +108,11 @@ void frmMarks::FillFromFile() {
 void frmMarks::StartOver() {
   const std::string clipboard = Platform().ClipboardText();
   paste.Enabled = HoldsHeader(clipboard);
-  pastegrade.Enabled = HoldsGrade(clipboard);
+  pastegrade.Enabled = grade_waits_ = HoldsGrade(clipboard);
   FillTypeList();
   ChooseType(1);
   FillStudentGrid(Grid1);
-  marks.GoTo(1);
+  marks.StartOver();
   title.Text.clear();
   code.Text.clear();
   mvalue.Text = kUsualScore;
@@ -130,6 +131,7 @@ void frmMarks::OpenFill(bool open) {
   for (Control* rest : std::initializer_list<Control*>{&headerframe, &specialframe, &clipframe,
                                                        &Grid1, &fill, &another, &exit, &cancel})
     rest->Enabled = !open;
+  pastegrade.Enabled = !open && grade_waits_;
 }
 
 void frmMarks::fill_Click() {
@@ -161,12 +163,15 @@ void frmMarks::Command6_Click() {
 }
 
 bool frmMarks::NothingEntered() const {
-  return EveryMarkEmpty() && Trim(title.Text).empty() && Trim(code.Text).empty() &&
-         mvalue.Text == kUsualScore;
+  return EveryMarkEmpty() && title.Text.empty() && code.Text.empty() && mvalue.Text == kUsualScore;
 }
 
-void frmMarks::AddGrade(i16 maximum_score) {
+bool frmMarks::AddGrade(i16 maximum_score) {
   Class& c = Current();
+  if (c.NumInstruments == kMostGrades) {
+    ShowMessage(kNoMoreGrades, BoxIcon::kCritical);
+    return false;
+  }
   Instrument grade;
   grade.title = title.Text;
   grade.code = code.Text;
@@ -191,14 +196,14 @@ void frmMarks::AddGrade(i16 maximum_score) {
   DataEntered = false;
   ClassWindow().showform3();
   GradeAdded(type_in_use);
+  return true;
 }
 
 void frmMarks::another_Click() {
   if (RequiredEmpty()) return Remind();
   const auto score = CheckMaximumScore(kNoteToTheTeacher);
   if (!score) return;
-  AddGrade(*score);
-  StartOver();
+  if (AddGrade(*score)) StartOver();
 }
 
 void frmMarks::exit_Click() {
@@ -207,8 +212,7 @@ void frmMarks::exit_Click() {
   const auto score = CheckMaximumScore(kNoteToTheTeacher);
   if (!score) return;
   if (RequiredEmpty()) return Remind();
-  AddGrade(*score);
-  Unload();
+  if (AddGrade(*score)) Unload();
 }
 
 void frmMarks::cancel_Click() {
@@ -248,6 +252,12 @@ void frmMarks::ShowHeader(const GradeHeaderText& header) {
   dropyn.Text = Trim(header.dropyn) == "Y" ? "Y" : "N";
 }
 
+// A type that this class does not have leaves the choice as it stands.
+void frmMarks::ChooseTypeOf(std::string_view typecode) {
+  const std::size_t type = TypeOfCode(typecode);
+  if (type > 0) ChooseType(type);
+}
+
 void frmMarks::GoToMarks() {
   DataEntered = true;
   marks.GoTo(Grid1.Row);
@@ -263,21 +273,18 @@ void frmMarks::paste_Click() {
   if (!MayReplaceTitle()) return;
   for (int i = 1; i < Grid1.Rows(); ++i) SetMarkCell(i, "");
   ShowHeader(*header);
-  const std::size_t type = TypeOfCode(Left(header->type, 2));
-  ChooseType(type > 0 ? type : kNoType);
+  ChooseTypeOf(Left(header->type, 2));
   GoToMarks();
 }
 
 void frmMarks::pastegrade_Click() {
+  if (!MayReplaceTitle()) return;
   const std::string clipboard = Platform().ClipboardText();
-  if (clipboard.empty()) return;
   if (!HoldsGrade(clipboard)) return TellOtherClipboard();
   const auto grade = ReadGrade(clipboard);
   if (!grade) return TellUnreadableClipboard();
-  if (!MayReplaceTitle()) return;
   ShowHeader(grade->header);
-  const std::size_t type = TypeOfCode(grade->header.type);
-  ChooseType(type > 0 ? type : kNoType);
+  ChooseTypeOf(grade->header.type);
   for (int i = 1; i < Grid1.Rows(); ++i) SetMarkCell(i, kNewMark);
   const Class& c = Current();
   for (const MarkText& mark : grade->marks) {

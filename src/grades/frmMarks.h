@@ -51,11 +51,13 @@ struct frmMarks : GradeForm {
   void OpenFill(bool open);
   std::string_view FillMark() const;
   bool NothingEntered() const;
-  void AddGrade(i16 maximum_score);
+  bool AddGrade(i16 maximum_score);  // false: the class holds no more
   bool MayReplaceTitle();
   void ShowHeader(const GradeHeaderText& header);
+  void ChooseTypeOf(std::string_view typecode);
   void GoToMarks();
 
+  bool grade_waits_ = false;  // the clipboard held a grade when the Portal began
   GradeFile imported_;  // of a text file; empty when the Portal was opened to type
   std::vector<GradeColumn>::const_iterator next_import_ = imported_.columns.begin();
 };

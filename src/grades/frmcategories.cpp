@@ -1,7 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "grades/frmcategories.h"
 
+#include <algorithm>
+#include <string>
 #include <utility>
+#include <vector>
 
 #include "base/text.h"
 #include "grades/marks.h"
@@ -20,24 +23,40 @@ std::string& CategoryOf(std::size_t type) {
   return Current().Categories[type - kExtraCreditType];
 }
 
-// Every grade with this typecode, blanks behind it aside, gets another.
-void Recode(std::string_view before, std::string_view after) {
+struct CodeChange {
+  std::string before, after;
+};
+
+// Each grade with a code of the list, blanks behind it aside, gets the new one. A grade changes
+// once: a code that is freed by one change may be given by another.
+void Recode(const std::vector<CodeChange>& changes) {
   Class& c = Current();
   for (int i = 1; i <= GradeCount(c); ++i) {
     std::string& typecode = c.Instruments[static_cast<std::size_t>(i)].typecode;
-    if (TrimRight(typecode) == TrimRight(before)) typecode = after;
+    const auto change = std::ranges::find_if(changes, [&](const CodeChange& each) {
+      return TrimRight(typecode) == TrimRight(each.before);
+    });
+    if (change != changes.end()) typecode = change->after;
   }
 }
 
 // A code of one character leaves the tilde before it among the last two: its grades keep it.
-void ResetCategory(std::size_t type) {
-  std::string& category = CategoryOf(type);
-  const std::string_view usual = DefaultTypeLabel(type);
-  if (category == usual) return;
-  Current().Changed = kTrue;
-  const std::string_view text = Trim(category);
-  if (!text.empty()) Recode(text.substr(text.size() < 2 ? 0 : text.size() - 2), Left(usual, 2));
-  category = usual;
+std::string_view LastTwo(std::string_view text) {
+  return text.substr(text.size() < 2 ? 0 : text.size() - 2);
+}
+
+void ResetCategories() {
+  std::vector<CodeChange> changes;
+  for (std::size_t t = kFirstModifiableType; t <= kNoType; ++t) {
+    std::string& category = CategoryOf(t);
+    const std::string_view usual = DefaultTypeLabel(t);
+    if (category == usual) continue;
+    Current().Changed = kTrue;
+    const std::string_view text = Trim(category);
+    if (!text.empty()) changes.push_back({std::string(LastTwo(text)), std::string(Left(usual, 2))});
+    category = usual;
+  }
+  Recode(changes);
 }
 
 }  // namespace
@@ -99,11 +118,26 @@ std::size_t frmcategories::Chosen() const {
   return static_cast<std::size_t>(listcat.ListIndex) + kFirstModifiableType;
 }
 
+// Whether the list goes to another line by this key; at its ends it stays.
+bool frmcategories::Walks(Key key) const {
+  switch (key) {
+    case Key::kUp:
+    case Key::kHome:
+    case Key::kPageUp:
+      return listcat.ListIndex != 0;
+    case Key::kDown:
+    case Key::kEnd:
+    case Key::kPageDown:
+      return listcat.ListIndex + 1 != static_cast<int>(listcat.List.size());
+    default:
+      return false;
+  }
+}
+
 // The arrow keys walk through the types; Return takes the one they come to.
 bool frmcategories::listcat_KeyDown(Key key) {
   const bool takes = key == Key::kEnter && Chosen() > 0;
-  walking_ = key == Key::kUp || key == Key::kDown || key == Key::kHome || key == Key::kEnd ||
-             key == Key::kPageUp || key == Key::kPageDown;
+  walking_ = Walks(key);
   if (takes) SetFocus(catdesc);
   return takes;
 }
@@ -155,20 +189,20 @@ bool frmcategories::Apply() {
     SetFocusAndSelect(description.empty() ? catdesc : catcode);
     return false;
   }
+  if (CodeTaken()) {
+    ShowMessage("You can't use a letter code already assigned to a another category.");
+    SetFocusAndSelect(catcode);
+    return false;
+  }
   // A tilde parts the two where they are kept.
   if ((catdesc.Text + catcode.Text).find('~') != std::string::npos) {
     ShowMessage("You can't use the character ~ in a description or code.");
     SetFocusAndSelect(catdesc.Text.find('~') != std::string::npos ? catdesc : catcode);
     return false;
   }
-  if (CodeTaken()) {
-    ShowMessage("You can't use a letter code already assigned to a another category.");
-    SetFocusAndSelect(catcode);
-    return false;
-  }
   catcode.Text = UpperCase(Trim(catcode.Text));
   CategoryOf(Chosen()) = std::string(description) + "~" + catcode.Text;
-  Recode(codes_[Chosen()], catcode.Text);
+  Recode({{std::string(codes_[Chosen()].view()), catcode.Text}});
   Current().Changed = kTrue;
   Pending = false;
   return true;
@@ -199,7 +233,7 @@ void frmcategories::defaults_Click() {
           "made. Continue?",
           BoxButtons::kYesNo, BoxIcon::kCritical, kNoteWithPoint);
   if (answer != BoxAnswer::kYes) return;
-  for (std::size_t t = kFirstModifiableType; t <= kNoType; ++t) ResetCategory(t);
+  ResetCategories();
   StartOver();
 }
 

@@ -32,6 +32,7 @@ struct frmcategories : Portal {
 
  private:
   std::size_t Chosen() const;  // the type; 0 is none
+  bool Walks(Key key) const;
   bool listcat_KeyDown(Key key);
   void EnterBox();
   void TypeInBox();
@@ -42,7 +43,7 @@ struct frmcategories : Portal {
 
   TypeCodes codes_;
   TypeTexts names_;
-  bool walking_ = false;  // the arrow keys walk through listcat
+  bool walking_ = false;  // a key goes to another line of listcat
 };
 
 }  // namespace tallyroll

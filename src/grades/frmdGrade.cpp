@@ -38,6 +38,14 @@ bool Confirmed(std::string text, std::string title) {
   return Platform().MessageBox(box) == BoxAnswer::kOk;
 }
 
+// The clipboard is emptied first, so that an older grade on it cannot pass for this one.
+bool PutOnClipboard(std::string_view grade) {
+  Platform().SetClipboardText("");
+  if (!Platform().ClipboardText().empty()) return false;
+  Platform().SetClipboardText(grade);
+  return HoldsGrade(Platform().ClipboardText());
+}
+
 template <typename T>
 void Remove(List<T>& list, int i) {
   if (i <= UpperBound(list)) list.erase(list.begin() + i);
@@ -128,8 +136,7 @@ void frmdGrade::transfer_Click() {
                     " to the clipboard? (The Grade will still remain in the current class.)",
                 "Transfer Portal");
   if (!wanted) return;
-  Platform().SetClipboardText(GradeOnClipboard(CurrentStudent));
-  if (!HoldsGrade(Platform().ClipboardText()))
+  if (!PutOnClipboard(GradeOnClipboard(CurrentStudent)))
     ShowMessage("An error has occured writing on Clipboard.");
 }
 

@@ -87,7 +87,7 @@ void GradeForm::SetMarkCell(int student, std::string_view mark) {
 
 bool GradeForm::EveryMarkEmpty() const {
   for (int i = 1; i < Grid1.Rows(); ++i)
-    if (!Blank(MarkCell(i))) return false;
+    if (!MarkCell(i).empty()) return false;
   return true;
 }
 
@@ -112,13 +112,15 @@ void GradeForm::Remind() {
 }
 
 std::optional<i16> GradeForm::CheckMaximumScore(std::string_view note_title) {
+  const double number = LeadingNumber(mvalue.Text);
   try {
-    const i16 score = RoundToInt16(LeadingNumber(mvalue.Text));
+    const i16 score = RoundToInt16(number);
     if (score != 0) return score;
     ShowMessage("The value for Maximum Score must be greater than 0", BoxIcon::kNone, note_title);
   } catch (const RunTimeError&) {
-    ShowMessage("The value for Maximum Score must not be greater than 32767", BoxIcon::kNone,
-                note_title);
+    ShowMessage(number < 0 ? "The value for Maximum Score must not be less than -32768"
+                           : "The value for Maximum Score must not be greater than 32767",
+                BoxIcon::kNone, note_title);
   }
   SetFocusAndSelect(mvalue);
   return std::nullopt;

@@ -31,12 +31,14 @@ struct GradeForm : Portal {
 
   std::string_view MarkCell(int student) const;
   void SetMarkCell(int student, std::string_view mark);
+  // No mark was typed, not even a blank.
   bool EveryMarkEmpty() const;
   // A required box or a mark is empty.
   bool RequiredEmpty() const;
   // The box that tells what is required, and the focus where something is missing.
   void Remind();
-  // mvalue as a class holds it; nothing when it is 0 or too large, after a box and with the focus.
+  // mvalue as a class holds it; nothing when it is 0 or out of range, after a box and with the
+  // focus.
   std::optional<i16> CheckMaximumScore(std::string_view note_title);
 
   void FillTypeList();

@@ -83,6 +83,11 @@ void CellEntry::GoTo(int row) {
   if (row >= grid_.FixedRows && row < grid_.Rows()) grid_.Row = row;
 }
 
+void CellEntry::StartOver() {
+  last_active_row_ = grid_.FixedRows;
+  GoTo(grid_.FixedRows);
+}
+
 // A name belongs to its row; a heading to none.
 void CellEntry::Click() {
   GoTo(grid_.MouseRow < grid_.FixedRows ? last_active_row_ : grid_.MouseRow);

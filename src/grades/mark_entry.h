@@ -25,6 +25,8 @@ class CellEntry {
   void LastRow();
   // Puts the current cell there; the next key replaces what it holds.
   void GoTo(int row);
+  // To the first row, which then counts as the row last active.
+  void StartOver();
   int LastActiveRow() const { return last_active_row_; }
 
  protected:

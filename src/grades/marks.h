@@ -23,6 +23,10 @@ MarkKind KindOfMark(std::string_view mark);
 // hold throws RunTimeError{kErrorOverflow}, as Currency's own operations do.
 Currency GradeValue(std::string_view mark);
 
+// What NumInstruments can hold, and what a Portal says that cannot add another one.
+inline constexpr int kMostGrades = 32767;
+inline constexpr std::string_view kNoMoreGrades = "You may only have 32767 grades in a class.";
+
 // NumInstruments, and never more than the list holds.
 int GradeCount(const Class& c);
 

@@ -126,7 +126,7 @@ void Form1::ReadInto(std::string_view path) {
 }
 
 void Form1::ShowOpenedClass() {
-  MakeTotalPossible();  // a class beyond its range has none; the Points Portal says so
+  MakeTotalPossible();
   const std::string path = Current().FileName;
   Caption = UpperCase(FileNameOf(PathForDisplay(path)));
   Tag = PlainNumberText(SlotIndex);

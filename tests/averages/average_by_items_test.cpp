@@ -65,6 +65,13 @@ TEST_F(AverageByItemsTest, AnUnknownTypeCountsWithItsWeightButInNoType) {
   EXPECT_EQ(counted, 1);
 }
 
+TEST_F(AverageByItemsTest, AnUnknownTypeIsComputedAsAnyOther) {
+  Put(0, {{"Q", 10, "8", "50"}, {"ZZ", 0, "6", "50"}});
+  const AverageError error = AverageByItems(totals);
+  EXPECT_EQ(error.number, kErrorDivisionByZero);
+  EXPECT_EQ(error.grade, 2);
+}
+
 TEST_F(AverageByItemsTest, EachPercentAndEachProductIsRoundedToFourDecimals) {
   Put(0, {{"Q", 3, "1", "33.3333"}, {"Q", 7, "5", "66.6667"}});
   // 1/3 is 33.3333%; 33.3333 x 33.3333 = 1111.10888..., kept as 1111.1089, a hundredth 11.1111.
@@ -146,9 +153,21 @@ TEST_F(AverageByItemsTest, ALeftOutMarkStandsAsLowestOnlyWhenAskedTo) {
 
 TEST_F(AverageByItemsTest, ALeftOutMarkThatMayNotBeDroppedNeverStandsAsLowest) {
   DropLowestOf(kQuiz);
-  Current().AverageFlag1 = kTrue;
-  Put(0, {{"Q", 10, "5", "40", "Y"}, {"Q", 10, "ABS", "20", "N"}, {"Q", 10, "9", "40", "Y"}});
-  EXPECT_EQ(Average(), "90");
+  for (const i16 flag : {kTrue, kFalse}) {
+    Current().AverageFlag1 = flag;
+    Put(0, {{"Q", 10, "5", "40", "Y"}, {"Q", 10, "ABS", "20", "N"}, {"Q", 10, "9", "40", "Y"}});
+    EXPECT_EQ(Average(), "90") << flag;
+  }
+}
+
+TEST_F(AverageByItemsTest, ALeftOutMarkThatMayNotBeDroppedIsNoSingleLowest) {
+  Current().AverageFlag2 = kTrue;
+  for (const i16 flag : {kTrue, kFalse}) {
+    Current().AverageFlag1 = flag;
+    Put(0, {{"Q", 10, "5", "25", "Y"}, {"T", 100, "ABS", "25", "N"}, {"T", 100, "90", "50", "Y"}});
+    // The quiz goes: 45 of 50.
+    EXPECT_EQ(Average(), "90") << flag;
+  }
 }
 
 TEST_F(AverageByItemsTest, OfTwoEqualPercentsTheEarlierGradeGoes) {
@@ -216,9 +235,13 @@ TEST_F(AverageByItemsTest, ALeftOutMarkAsSingleLowestDropsNoGrade) {
 
 TEST_F(AverageByItemsTest, ExtraCreditIsNeverTheSingleLowest) {
   Current().AverageFlag2 = kTrue;
+  DropLowestOf(kExtra);  // as a file may say
   Put(0, {{"Q", 10, "8", "50", "Y"}, {"Q", 10, "9", "50", "Y"}, {"X", 10, "1", "10", "Y"}});
-  // The 8 goes: 90, and a tenth of 10 on top.
-  EXPECT_EQ(Average(), "91");
+  for (const char* again : {"first", "second"}) {
+    // The 8 goes: 90, and a tenth of 10 on top.
+    EXPECT_EQ(Average(), "91") << again;
+    EXPECT_EQ(Current().TypeWeights[kExtra], Money("1"));
+  }
 }
 
 TEST_F(AverageByItemsTest, AFlaggedExtraCreditIsTakenOffThePointsAndTheTotal) {

@@ -2,6 +2,8 @@
 // Methods 2, "Use Points", and 3, "Use Points and Weights by Type".
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
 #include "base/run_time_error.h"
 #include "tests/averages/average_test.h"
 
@@ -94,14 +96,22 @@ TEST_F(AverageByPointsTest, AClassMayHave32767PointsAndNoMore) {
   Put(2, {{"Q", 32767, "32767"}, {"X", 100, "0"}});
   EXPECT_EQ(PointsAverage(), "32767/32767 = 100");
   Current().Instruments[2].typecode = "T";
-  EXPECT_EQ(MakeTotalPossible(), kErrorOverflow);
-  EXPECT_EQ(TotalPossible[1], 0);
+  MakeTotalPossible();
+  EXPECT_EQ(TotalPossible[1], std::nullopt);
+  Points points;
+  const AverageError error = AverageByPoints(points, totals);
+  EXPECT_EQ(error.number, kErrorOverflow);
+  EXPECT_EQ(error.student, 1);
+  EXPECT_EQ(error.grade, 0);
+  Current().Instruments[2].typecode = "X";
+  MakeTotalPossible();
+  EXPECT_EQ(TotalPossible[1], 32767);
 }
 
 TEST_F(AverageByPointsTest, TheTotalNeedsNoUseList) {
   Put(2, {{"Q", 50, "40"}});
   Current().InstrumentUse.clear();
-  EXPECT_EQ(MakeTotalPossible(), 0);
+  MakeTotalPossible();
   EXPECT_EQ(TotalPossible[1], 50);
 }
 
@@ -112,6 +122,12 @@ TEST_F(AverageByPointsTest, ASumBeyondCurrencyIsAnErrorAtItsGrade) {
   EXPECT_EQ(error.number, kErrorOverflow);
   EXPECT_EQ(error.grade, 2);
   EXPECT_EQ(points, Points());
+}
+
+TEST_F(AverageByPointsTest, AnUnknownTypeCountsInThePointsButInNoType) {
+  Put(2, {{"Q", 20, "15"}, {"ZZ", 20, "9"}});
+  EXPECT_EQ(PointsAverage(), "24/40 = 60");
+  EXPECT_EQ(std::count(totals.counts.begin(), totals.counts.end(), 1), 1);
 }
 
 TEST_F(AverageByPointsTest, WorkedExampleOfAPlainTerm) {
@@ -196,6 +212,11 @@ TEST_F(AverageByPointsAndTypesTest, ATypeWithoutAWeightIsInNothing) {
   EXPECT_EQ(totals.counts[kEssay], 0);
 }
 
+TEST_F(AverageByPointsAndTypesTest, WhatIsInNothingIsNeverComputed) {
+  Put(3, {{"Q", 20, "20"}, {"T", 40, "40"}, {"ZZ", 0, "1e30"}, {"E", 10, "1e30"}});
+  EXPECT_EQ(PointsAverage(), "60/60 = 100");
+}
+
 TEST_F(AverageByPointsAndTypesTest, ExtraCreditNeedsNoWeightAndIsAddedAtTheEnd) {
   Put(3, {{"Q", 20, "20"}, {"T", 40, "40"}, {"X", 10, "6"}});
   EXPECT_EQ(PointsAverage(), "66/60 = 110");
@@ -275,9 +296,9 @@ TEST_F(AverageByPointsAndTypesTest, WorkedExampleWithWeightsOfFourDecimals) {
           {"T", 10, "2"},
           {"T", 10, "1"}});
   // Homework 27 of 30, quizzes 18 of 30, tests 10 of 40: 100 possible.
-  // Weighted 27x33.3333 + 18x33.3333 + 10x33.3334 = 899.9991 + 599.9994 + 333.3340 - taken as
-  // 899.9991 + 599.9994 + 333.334 = 1833.3325; base 999.999 + 999.999 + 1333.336 = 3333.334.
-  // 1833.3325 x 100 / 3333.334 = 54.999964...
+  // Weighted 27x33.3333 + 18x33.3333 + 10x33.3334 = 899.9991 + 599.9994 + 333.334 = 1833.3325;
+  // base 999.999 + 999.999 + 1333.336 = 3333.334. 1833.3325 x 100 / 3333.334 = 54.999964..., in
+  // four decimals 55; of 100 that is 55.
   EXPECT_EQ(PointsAverage(), "55/100 = 55");
 }
 

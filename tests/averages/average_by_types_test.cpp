@@ -30,6 +30,18 @@ TEST_F(AverageByTypesTest, WithoutRedistributionATypeWithoutAGradeIsAZero) {
   EXPECT_EQ(Average(), "35");
 }
 
+TEST_F(AverageByTypesTest, WithoutRedistributionATypeThatTheClassLacksIsAZeroToo) {
+  Current().AverageFlag3 = kTrue;
+  Put(1, {{"Q", 10, "9"}, {"Q", 10, "5"}});
+  EXPECT_EQ(Average(), "35");
+}
+
+TEST_F(AverageByTypesTest, AGradeOfNoTypeIsNeverComputed) {
+  Put(1, {{"ZZ", 0, "5"}, {"Q", 10, "9"}, {"Q", 10, "5"}, {"ZZ", 10, "1e30"}, {"ZZ", 0, "CUT"}});
+  EXPECT_EQ(Average(), "70");
+  EXPECT_EQ(totals.counts[kQuiz], 2);
+}
+
 TEST_F(AverageByTypesTest, WithinATypeAGradeCountsByItsPoints) {
   Put(1, {{"Q", 50, "50"}, {"Q", 25, "10"}, {"T", 100, "60"}});
   // 60 of 75 are 0.8: 40 and 30.
@@ -138,9 +150,25 @@ TEST_F(AverageByTypesTest, ALeftOutMarkStandsAsLowestOnlyWhenAskedTo) {
 
 TEST_F(AverageByTypesTest, ALeftOutMarkThatMayNotBeDroppedNeverStandsAsLowest) {
   DropLowestOf(kQuiz);
-  Current().AverageFlag4 = Current().AverageFlag1 = kTrue;
-  Put(1, {{"Q", 10, "5", "0", "Y"}, {"Q", 10, "ABS", "0", "N"}, {"Q", 10, "9", "0", "Y"}});
-  EXPECT_EQ(Average(), "90");
+  Current().AverageFlag4 = kTrue;
+  for (const i16 flag : {kTrue, kFalse}) {
+    Current().AverageFlag1 = flag;
+    Put(1, {{"Q", 10, "5", "0", "Y"}, {"Q", 10, "ABS", "0", "N"}, {"Q", 10, "9", "0", "Y"}});
+    EXPECT_EQ(Average(), "90") << flag;
+  }
+}
+
+TEST_F(AverageByTypesTest, ALeftOutMarkThatMayNotBeDroppedIsNoSingleLowest) {
+  Current().AverageFlag2 = kTrue;
+  for (const i16 flag : {kTrue, kFalse}) {
+    Current().AverageFlag1 = flag;
+    Put(1, {{"Q", 10, "5", "0", "Y"},
+            {"Q", 10, "9", "0", "Y"},
+            {"T", 100, "ABS", "0", "N"},
+            {"T", 100, "90", "0", "Y"}});
+    // The quiz of 50% goes: 9 of 10 and 90 of 100.
+    EXPECT_EQ(Average(), "90") << flag;
+  }
 }
 
 TEST_F(AverageByTypesTest, ALeftOutExtraCreditNeverStandsAsLowest) {
@@ -174,6 +202,18 @@ TEST_F(AverageByTypesTest, ATieOfSingleLowestGradesGoesToTheEarlierType) {
   EXPECT_EQ(Average(), "80");
   EXPECT_EQ(totals.counts[kQuiz], 1);
   EXPECT_EQ(totals.counts[kTest], 2);
+}
+
+TEST_F(AverageByTypesTest, ExtraCreditIsNeverTheSingleLowest) {
+  Current().AverageFlag2 = kTrue;
+  Weigh(kExtra, "10");
+  DropLowestOf(kExtra);  // as a file may say
+  Put(1, {{"Q", 10, "8", "0", "Y"}, {"Q", 10, "9", "0", "Y"}, {"X", 10, "1", "0", "Y"}});
+  for (const char* again : {"first", "second"}) {
+    // The 8 goes: 90, and a tenth of 10 on top.
+    EXPECT_EQ(Average(), "91") << again;
+    EXPECT_EQ(Current().TypeWeights[kExtra], Money("1"));
+  }
 }
 
 TEST_F(AverageByTypesTest, ALeftOutMarkAsSingleLowestDropsNoGrade) {

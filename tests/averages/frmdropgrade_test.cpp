@@ -62,6 +62,8 @@ TEST_F(FrmDropGradeTest, WithoutAGradeToDropItSaysSoAndCloses) {
   frmdropgrade drop;
   screen.ExpectBox(kNoneToDrop);
   drop.Load();
+  EXPECT_EQ(screen.boxes.at(0).title, "Note to the Teacher");
+  EXPECT_EQ(screen.boxes.at(0).icon, BoxIcon::kNone);
   EXPECT_TRUE(drop.Unloaded());
 }
 
@@ -149,6 +151,8 @@ TEST_F(FrmDropGradeTest, ContinueWithoutATypeOpensItAgain) {
   EXPECT_EQ(Drop(), nullptr);
   screen.ExpectBox(kNoTypeChosen);
   driver->Press("exit");
+  EXPECT_EQ(screen.boxes.at(0).title, "Note to the Teacher");
+  EXPECT_EQ(screen.boxes.at(0).icon, BoxIcon::kNone);
   EXPECT_FALSE(portal.Unloaded());
   ASSERT_NE(Drop(), nullptr);
   FlipRow(2);
@@ -187,6 +191,22 @@ TEST_F(FrmDropGradeTest, BoxesOfAClassWithNothingToDropStartClear) {
   Open(portal);
   EXPECT_FALSE(portal.droptype.Value);
   EXPECT_FALSE(portal.labs.Value);
+}
+
+// The one grade that may be dropped is of no type, so that no type can be chosen.
+TEST_F(FrmDropGradeTest, OpeningNeverSaysThatThereIsNoneToDrop) {
+  NothingMayBeDropped();
+  AddGrade("Odd", "ZZ", "Y");
+  Current().AverageFlag4 = kTrue;
+  Open(portal);
+  EXPECT_TRUE(screen.boxes.empty());
+  EXPECT_FALSE(portal.droptype.Value);
+  EXPECT_FALSE(driver->Visible("labs"));
+  driver->Tick("dropyn");
+  EXPECT_TRUE(portal.dropyn.Value);
+  screen.ExpectBox(kNoneToDrop);
+  driver->Tick("droptype");
+  EXPECT_FALSE(portal.droptype.Value);
 }
 
 TEST_F(FrmDropGradeTest, FlagsOfTheSingleLowestAreNoChoice) {

@@ -37,12 +37,14 @@ TEST_F(FrmGradeSaveTest, BothFieldsAreAsked) {
   driver->Press("save");
   EXPECT_EQ(driver->Focused(), "title");
   EXPECT_EQ(screen.boxes.at(0).icon, BoxIcon::kCritical);
+  EXPECT_EQ(screen.boxes.at(0).title, "Note to the Teacher");
   driver->Type("title", "Term 1");
   screen.ExpectBox(kFillBoth);
   driver->Press("save");
   EXPECT_EQ(driver->Focused(), "code");
   EXPECT_EQ(Current().NumInstruments, 1);
   EXPECT_EQ(portal.code.MaxLength, 3);
+  EXPECT_EQ(portal.title.MaxLength, 65535);
 }
 
 TEST_F(FrmGradeSaveTest, AddsAGradeOfFinalGrades) {
@@ -71,6 +73,33 @@ TEST_F(FrmGradeSaveTest, AddsAGradeOfFinalGrades) {
   EXPECT_EQ(window.refills, 1);
 }
 
+TEST_F(FrmGradeSaveTest, EveryMinuteOfADayIsWrittenAsItself) {
+  const Class before = Current();
+  for (int minute = 0; minute < 24 * 60; ++minute) {
+    Current() = before;
+    screen.now = 46266 + minute / 1440.0;
+    frmgradesave each;
+    each.title.Text = "Term 1";
+    each.code.Text = "T1";
+    each.save_Click();
+    const std::string hours = PlainNumberText(100 + minute / 60).substr(1);
+    const std::string minutes = PlainNumberText(100 + minute % 60).substr(1);
+    EXPECT_EQ(Current().Instruments[2].testdate, "9/1/2026 " + hours + ":" + minutes);
+  }
+}
+
+TEST_F(FrmGradeSaveTest, TheTimeIsCutToItsMinute) {
+  screen.now = 46266 + 845 / 1440.0 + 59 / 86400.0;  // 14:05:59
+  Save();
+  EXPECT_EQ(Current().Instruments[2].testdate, "9/1/2026 14:05");
+}
+
+TEST_F(FrmGradeSaveTest, TheLastHalfSecondBelongsToTheNextDay) {
+  screen.now = 46266 + 86399.6 / 86400.0;
+  Save();
+  EXPECT_EQ(Current().Instruments[2].testdate, "9/2/2026 00:00");
+}
+
 TEST_F(FrmGradeSaveTest, ItsWorkIsSavedThen) {
   Save();
   EXPECT_EQ(Current().AverageWork1, 0);
@@ -83,6 +112,26 @@ TEST_F(FrmGradeSaveTest, UnderTypesTheirWorkIsSaved) {
   Save();
   EXPECT_EQ(Current().AverageWork1, 2);
   EXPECT_EQ(Current().AverageWork2, 0);
+}
+
+TEST_F(FrmGradeSaveTest, UnderPointsAndTypesBothWorksAreSaved) {
+  Class& c = Current();
+  c.Method = 3;
+  c.InstrumentUse = {Currency(), Money("1")};
+  c.TypePercents[10] = Money("100");
+  Save();
+  EXPECT_EQ(c.AverageWork1, 0);
+  EXPECT_EQ(c.AverageWork2, 0);
+  EXPECT_EQ(c.InstrumentUse[2], Money("2"));
+  EXPECT_EQ(c.Students[1].Marks[2], "95");
+}
+
+TEST_F(FrmGradeSaveTest, AnAverageAbove327IsSaved) {
+  Current().RoundMode = 1;
+  UseLetterValuesAsScale();
+  Current().Students[1].Marks[1] = "400";
+  Save();
+  EXPECT_EQ(Current().Students[1].Marks[2], "400");
 }
 
 TEST_F(FrmGradeSaveTest, WorkStillToBeSavedStays) {
@@ -114,10 +163,14 @@ TEST_F(FrmGradeSaveTest, AnErrorNamesStudentAndGradeAndChangesNothing) {
   c.Students[1].Marks[0] = "-";
   c.Students[2].Marks[1] = "1e17";
   const Class before = c;
+  ExactAverage = Money("77");
   screen.ExpectBox(
       "The average of Orr, Ada can't be computed: a number is too large in the grade \"Quiz 1\".");
   Save();
   EXPECT_FALSE(portal.Unloaded());
+  EXPECT_EQ(screen.boxes.at(0).title, "Note to the Teacher");
+  EXPECT_EQ(screen.boxes.at(0).icon, BoxIcon::kCritical);
+  EXPECT_EQ(ExactAverage, Money("77"));
   EXPECT_EQ(c.NumInstruments, 1);
   EXPECT_EQ(c.Students, before.Students);
   EXPECT_EQ(c.Instruments, before.Instruments);
@@ -126,6 +179,19 @@ TEST_F(FrmGradeSaveTest, AnErrorNamesStudentAndGradeAndChangesNothing) {
   c.Students[2].Marks[1] = "50";
   driver->Press("save");
   EXPECT_TRUE(portal.Unloaded());
+}
+
+TEST_F(FrmGradeSaveTest, AFinalGradeBeyond16BitsNamesTheStudentAndChangesNothing) {
+  Class& c = Current();
+  c.AverageFlag2 = kTrue;
+  c.TypeWeights[10] = Money("2");
+  c.Students[2].Marks[1] = "40000";
+  const Class before = c;
+  screen.ExpectBox("The average of Orr, Ada can't be computed: a number is too large.");
+  Save();
+  EXPECT_EQ(c.TypeWeights, before.TypeWeights);
+  EXPECT_EQ(c.Students, before.Students);
+  EXPECT_EQ(c.NumInstruments, 1);
 }
 
 TEST_F(FrmGradeSaveTest, CancelAddsNothing) {

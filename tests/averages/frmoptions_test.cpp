@@ -138,6 +138,50 @@ TEST_F(FrmOptionsTest, ChangeWeightsComesBackToAFreshSummary) {
   EXPECT_EQ(portal.amountgrid.TextMatrix(1, 2), "50");
 }
 
+TEST_F(FrmOptionsTest, ChangeWeightsOfTypesComesBackToAFreshSummary) {
+  Current().AverageSettings = "1,0,0,0,0";
+  OpenUnder(1);
+  screen.ExpectPortal("frmpercents", [this](PortalDriver& work) {
+    work.Press("equal");
+    screen.ExpectBox(kSaveWeights, BoxAnswer::kNo);
+    work.Press("exit");
+  });
+  driver->Press("Change1");
+  EXPECT_EQ(Row(portal.typegrid, 1), (Texts{"Quiz", "Q", "1", "50", "N"}));
+  EXPECT_FALSE(portal.Unloaded());
+  EXPECT_EQ(Current().Method, 1);
+}
+
+TEST_F(FrmOptionsTest, ChangePointsComesBackToAFreshSummary) {
+  OpenUnder(2);
+  screen.ExpectPortal("frmpoints", [this](PortalDriver& work) {
+    work.PickCell("grdgrade", 2, 3);
+    work.TypeKeys("grdgrade", " ");
+    screen.ExpectBox("Do you want to save these points", BoxAnswer::kNo);
+    work.Press("exit");
+  });
+  driver->Press("Change1");
+  EXPECT_EQ(Row(portal.amountgrid, 3), (Texts{"Test 1", "T", "100", "Y"}));
+  EXPECT_EQ(driver->Text("totals"), "150");
+  EXPECT_FALSE(portal.Unloaded());
+  EXPECT_EQ(Current().Method, 2);
+}
+
+TEST_F(FrmOptionsTest, ChangePointsAndTypesComesBackFromTheTypes) {
+  Current().AverageSettings = "3,0,0,0,0";
+  OpenUnder(3);
+  screen.ExpectPortal("frmpoints", [](PortalDriver& work) { work.Press("exit"); });
+  screen.ExpectPortal("frmpercents", [this](PortalDriver& work) {
+    work.Press("equal");
+    screen.ExpectBox(kSaveWeights, BoxAnswer::kNo);
+    work.Press("exit");
+  });
+  driver->Press("Change1");
+  EXPECT_EQ(Row(portal.typegrid, 1), (Texts{"Quiz", "Q", "50", "1", "N"}));
+  EXPECT_FALSE(portal.Unloaded());
+  EXPECT_EQ(Current().Method, 3);
+}
+
 TEST_F(FrmOptionsTest, ChangeRoundingComesBackToAFreshSummary) {
   OpenUnder(0);
   screen.ExpectPortal("frmroundoff", [](PortalDriver& work) {

@@ -186,6 +186,21 @@ TEST_F(FrmPercentsTest, ContinueSavesTheWeightsOnYes) {
   EXPECT_EQ(window.saved, 1);
 }
 
+TEST_F(FrmPercentsTest, WeightsOfFourDecimalsAreAccepted) {
+  AddGrade("Essay", "E ");
+  Open(portal);
+  TypeWeight(kEssayRow, "33.3333");
+  Share("33.3333", "33.3334");
+  EXPECT_EQ(driver->Text("totals"), "100");
+  screen.ExpectBox(kSaveWeights, BoxAnswer::kYes);
+  driver->Press("exit");
+  EXPECT_TRUE(portal.Unloaded());
+  EXPECT_EQ(Current().TypePercents[kTestRow], Currency::FromScaled(333334));
+  EXPECT_EQ(Current().PercentsText,
+            "0\r0\r0\r33.3333\r0\r0\r0\r0\r0\r33.3333\r0\r33.3334\r0\r0\r0\r0\r0\r0\r0\r0\r0\r0\r0"
+            "\r0\r0\r0");
+}
+
 TEST_F(FrmPercentsTest, WhatIsSavedIsReadBack) {
   Open(portal);
   Share("33.3", "66.7");

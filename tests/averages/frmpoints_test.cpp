@@ -104,7 +104,25 @@ TEST_F(FrmPointsTest, PasteRefusesAnotherText) {
   screen.clipboard = "5z\rN\r";
   screen.ExpectBox(kWrongClipboard);
   driver->Press("frombd");
+  EXPECT_EQ(screen.boxes.at(0).title, "Note to the Teacher");
+  EXPECT_EQ(screen.boxes.at(0).icon, BoxIcon::kNone);
   EXPECT_EQ(driver->Text("totals"), "250");
+}
+
+TEST_F(FrmPointsTest, OnlyYAndNComeFromTheClipboard) {
+  AddGrade("Quiz 2", "Q ").mvalue = 25;
+  AddGrade("Quiz 3", "Q ").mvalue = 30;
+  screen.clipboard = "4z\r y \rn\r\rmaybe\rY\r";
+  Open(portal);
+  driver->Press("frombd");
+  EXPECT_EQ(Column(portal.grdgrade, kFlag), (Texts{"Y", "N", "N", "N", "Y"}));
+  EXPECT_EQ(driver->Text("totals"), "80");
+  EXPECT_EQ(driver->Text("extra"), "0");
+  Accept(BoxAnswer::kYes);
+  EXPECT_EQ(Current().Instruments[1].countflag, "Y");
+  EXPECT_EQ(Current().Instruments[3].countflag, "N");
+  EXPECT_EQ(Current().Instruments[4].countflag, "N");
+  EXPECT_EQ(Current().InstrumentUse[4], Money("2"));
 }
 
 TEST_F(FrmPointsTest, SummaryShowsThePointsByTypeAndFollowsTheFlags) {

@@ -1,43 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "averages/frmroundoff.h"
+#include "tests/averages/roundoff_test.h"
 
-#include "averages/rounding.h"
-#include "base/text.h"
-#include "tests/averages/portal_class.h"
+#include <limits>
 
 namespace tallyroll {
 namespace {
-
-constexpr int kMin = 2;
-const std::string kLoseChange =
-    "You've changed current Rounding Value(s). If you load a Rounding Value, you'll lose that "
-    "change. Continue?";
-const std::string kSaveValues =
-    "You've entered current Rounding Value(s). Do you wish to save those values? ";
-const std::string kAllFull =
-    "All Rounding Values Save options currently contain Data. Select one to overwrite with the "
-    "newly entered data.";
-
-class FrmRoundOffTest : public AveragePortalTest {
- protected:
-  FrmRoundOffTest() {
-    Current().Method = 0;
-    Current().RoundMode = 0;
-    Enrol("Ng", {});
-  }
-  static void FillScale(std::size_t scale, float each) { Current().RoundTable[scale].fill(each); }
-  void TypeMinimum(int row, std::string_view text) { TypeCell("grdgrade", row, kMin, text); }
-  std::string_view Minimum(int row) const { return portal.grdgrade.TextMatrix(row, kMin); }
-  std::string GradeOf(const char* average) {
-    CurrentStudent = 1;
-    ExactAverage = Money(average);
-    FinalGrade grade;
-    EXPECT_FALSE(RoundedGrade(grade));
-    return std::string(TrimRight(grade.Text()));
-  }
-
-  frmroundoff portal;
-};
 
 TEST_F(FrmRoundOffTest, ShowsTheScaleInForce) {
   Current().FinalGradeForm = 3;
@@ -52,8 +19,25 @@ TEST_F(FrmRoundOffTest, ShowsTheScaleInForce) {
   EXPECT_EQ(Minimum(13), "58.5");
   EXPECT_EQ(portal.grdgrade.Style(1, 1), CellStyle::kShaded);
   EXPECT_EQ(portal.grdgrade.Style(1, 0), CellStyle::kPlain);
-  EXPECT_NE(driver->Text("mesage").find("then enter '101' next to that grade.)"),
-            std::string::npos);
+}
+
+TEST_F(FrmRoundOffTest, ExplainsItselfInFull) {
+  Open(portal);
+  EXPECT_EQ(
+      driver->Text("mesage"),
+      "Tallyroll provides an 'AVERAGE ROUNDING OPTION' for schools using standardized "
+      "number grades (e.g., grades in multiples of '5') or letter grades. "
+      "If you do not use this option, click on Skip Rounding; the grade will be the weighted "
+      "average to the nearest whole number (or your letter grade equivalent). A teacher grading "
+      "with points who wants to use the average rounding option should click on Enable Rounding."
+      "\n\n"
+      "You can use Tallyroll's Default Rounding Values, or you can make up to 3 sets of your own "
+      "values and save them; the program will later automatically use your last selected values."
+      "\n\n"
+      "When making up your new Minimum Values, note: If your school uses standard number grades, "
+      "but does not use one or more of the grades listed, then enter '101' for each item not used. "
+      "(For example, if your school doesn't use a grade of '88' [B+], then enter '101' next to "
+      "that grade.)");
 }
 
 TEST_F(FrmRoundOffTest, AnUnsetModeFollowsTheMethod) {
@@ -140,6 +124,61 @@ TEST_F(FrmRoundOffTest, EnableRoundingGoesBackToTheScaleBefore) {
   EXPECT_TRUE(portal.Unloaded());
 }
 
+TEST_F(FrmRoundOffTest, OpenedUnderSkipRoundingItEnablesTheDefaultScale) {
+  Current().RoundMode = 1;
+  Current().RoundScale = 4;
+  Open(portal);
+  EXPECT_EQ(driver->Text("valueframe"), "Value - 4");
+  EXPECT_EQ(Minimum(1), "100");
+  EXPECT_TRUE(driver->Enabled("noskip"));
+  EXPECT_FALSE(driver->Enabled("skip"));
+  driver->Press("noskip");
+  EXPECT_EQ(Current().RoundMode, 0);
+  EXPECT_EQ(Current().RoundScale, 0);
+  EXPECT_EQ(driver->Text("valueframe"), "Value - Def.");
+  EXPECT_EQ(Minimum(1), "99.5");
+  EXPECT_TRUE(driver->Enabled("skip"));
+  driver->Press("continue");
+  EXPECT_TRUE(portal.Unloaded());
+}
+
+TEST_F(FrmRoundOffTest, EnableRoundingBackToTheTemporaryScaleIsAChange) {
+  FillScale(4, 70);
+  Current().RoundScale = 4;
+  Open(portal);
+  EXPECT_EQ(Minimum(1), "70");
+  driver->Press("skip");
+  driver->Press("noskip");
+  EXPECT_EQ(Current().RoundScale, 4);
+  EXPECT_EQ(Minimum(2), "99");  // the letter values took its place
+  screen.ExpectBox(kSaveValues, BoxAnswer::kNo);
+  driver->Press("continue");
+  EXPECT_TRUE(portal.Unloaded());
+}
+
+TEST_F(FrmRoundOffTest, TheFrameNamesTheSetInForce) {
+  for (i16 scale = 1; scale <= 3; ++scale) {
+    FillScale(static_cast<std::size_t>(scale), 70);
+    Current().RoundScale = scale;
+    frmroundoff each;
+    Open(each);
+    EXPECT_EQ(driver->Text("valueframe"), "Value - " + PlainNumberText(scale));
+  }
+}
+
+TEST_F(FrmRoundOffTest, AMinimumBeyondASingleIsTheGreatestOne) {
+  Open(portal);
+  TypeMinimum(1, "1E39");
+  TypeMinimum(2, "-1E39");
+  TypeMinimum(3, "1E400");
+  driver->Press("savescale1");
+  constexpr float kGreatest = std::numeric_limits<float>::max();
+  EXPECT_EQ(Current().RoundTable[1][0], kGreatest);
+  EXPECT_EQ(Current().RoundTable[1][1], -kGreatest);
+  EXPECT_EQ(Current().RoundTable[1][2], kGreatest);
+  EXPECT_EQ(GradeOf("100"), " 99 (A+/EX/4.0)");
+}
+
 TEST_F(FrmRoundOffTest, AMinimumOf101PassesTheRowOver) {
   Open(portal);
   TypeMinimum(5, "101");
@@ -168,110 +207,6 @@ TEST_F(FrmRoundOffTest, AMinimumThatIsNoNumberIsReadAsZero) {
   EXPECT_EQ(GradeOf("41"), " 100 (A+/EX/4.0)");
 }
 
-TEST_F(FrmRoundOffTest, ZeroInTheSecondRowEmptiesTheSet) {
-  FillScale(1, 70);
-  Open(portal);
-  TypeMinimum(2, "0");
-  screen.ExpectBox(
-      "You've already saved Rounding Values as 1. Do you wish to overwrite them with the current "
-      "Values?",
-      BoxAnswer::kOk);
-  driver->Press("savescale1");
-  driver->Press("usescale0");
-  screen.ExpectBox(
-      "Rounding Values 1 is currently empty.  To create new values, change the current Min. Values "
-      "and Save Rounding Values as 1.");
-  driver->Press("usescale1");
-  EXPECT_EQ(Current().RoundScale, 0);
-}
-
-TEST_F(FrmRoundOffTest, OverwritingMayBeCancelled) {
-  FillScale(3, 70);
-  Open(portal);
-  TypeMinimum(1, "98");
-  screen.ExpectBox(
-      "You've already saved Rounding Values as 3. Do you wish to overwrite them with the current "
-      "Values?",
-      BoxAnswer::kCancel);
-  driver->Press("savescale3");
-  EXPECT_EQ(Current().RoundTable[3][0], 70);
-  EXPECT_EQ(Current().RoundScale, 0);
-  EXPECT_EQ(screen.boxes.at(0).buttons, BoxButtons::kOkCancel);
-}
-
-TEST_F(FrmRoundOffTest, LoadingASetAsksAboutAChange) {
-  FillScale(1, 70);
-  Open(portal);
-  TypeMinimum(1, "98");
-  screen.ExpectBox(kLoseChange, BoxAnswer::kCancel);
-  driver->Press("usescale1");
-  EXPECT_EQ(Minimum(1), "98");
-  EXPECT_EQ(screen.boxes.at(0).title, "Note to the teacher.");
-  screen.ExpectBox(kLoseChange, BoxAnswer::kOk);
-  driver->Press("usescale1");
-  EXPECT_EQ(Minimum(1), "70");
-  EXPECT_EQ(Current().RoundScale, 1);
-  EXPECT_EQ(driver->Text("valueframe"), "Value - 1");
-}
-
-TEST_F(FrmRoundOffTest, TheDefaultScaleIsMadeAfresh) {
-  FillScale(0, 1);
-  FillScale(1, 70);
-  Current().RoundScale = 1;
-  Open(portal);
-  driver->Press("usescale0");
-  EXPECT_EQ(Minimum(1), "99.5");
-  EXPECT_EQ(Current().RoundScale, 0);
-}
-
-TEST_F(FrmRoundOffTest, AChangeNotSavedIsATemporaryScale) {
-  Open(portal);
-  TypeMinimum(1, "98");
-  screen.ExpectBox(kSaveValues, BoxAnswer::kNo);
-  driver->Press("continue");
-  EXPECT_EQ(screen.boxes.at(0).title, "Note to the Teacher.");
-  EXPECT_EQ(Current().RoundScale, 4);
-  EXPECT_EQ(Current().RoundTable[4][0], 98);
-  EXPECT_EQ(portal.Next(), "frmscrnavg");
-  EXPECT_EQ(window.enabled, (Texts{"mnuoptions", "mnuprtgrade"}));
-}
-
-TEST_F(FrmRoundOffTest, AChangeIsSavedInTheFirstEmptySet) {
-  FillScale(1, 70);
-  Open(portal);
-  TypeMinimum(1, "98");
-  screen.ExpectBox(kSaveValues, BoxAnswer::kYes);
-  screen.ExpectBox("Save your current Rounding Values as 2?", BoxAnswer::kYes);
-  driver->Press("continue");
-  EXPECT_EQ(Current().RoundScale, 2);
-  EXPECT_EQ(Current().RoundTable[2][0], 98);
-  EXPECT_EQ(Current().Changed, kTrue);
-  EXPECT_TRUE(portal.Unloaded());
-}
-
-TEST_F(FrmRoundOffTest, RefusingTheSetStaysAndForgetsTheQuestion) {
-  Open(portal);
-  TypeMinimum(1, "98");
-  screen.ExpectBox(kSaveValues, BoxAnswer::kYes);
-  screen.ExpectBox("Save your current Rounding Values as 1?", BoxAnswer::kNo);
-  driver->Press("continue");
-  EXPECT_FALSE(portal.Unloaded());
-  driver->Press("continue");
-  EXPECT_TRUE(portal.Unloaded());
-  EXPECT_EQ(Current().RoundScale, 0);
-}
-
-TEST_F(FrmRoundOffTest, WithAllSetsFullTheTeacherHasToChoose) {
-  for (const std::size_t s : {1, 2, 3}) FillScale(s, 70);
-  Open(portal);
-  TypeMinimum(1, "98");
-  screen.ExpectBox(kSaveValues, BoxAnswer::kYes);
-  screen.ExpectBox(kAllFull);
-  driver->Press("skip");
-  EXPECT_EQ(Current().RoundMode, 0);
-  EXPECT_EQ(Minimum(1), "98");
-}
-
 TEST_F(FrmRoundOffTest, CopyAndPasteCarryTheMinimums) {
   Open(portal);
   EXPECT_FALSE(driver->Enabled("readclip"));
@@ -289,6 +224,8 @@ TEST_F(FrmRoundOffTest, CopyAndPasteCarryTheMinimums) {
   screen.ExpectBox(kWrongClipboard);
   driver->Press("readclip");
   EXPECT_EQ(Minimum(1), "50");
+  EXPECT_EQ(screen.boxes.back().title, "Note to the Teacher");
+  EXPECT_EQ(screen.boxes.back().icon, BoxIcon::kNone);
 }
 
 TEST_F(FrmRoundOffTest, PasteIsReadyOnlyUnderEnableRounding) {
@@ -297,6 +234,22 @@ TEST_F(FrmRoundOffTest, PasteIsReadyOnlyUnderEnableRounding) {
   EXPECT_TRUE(driver->Enabled("readclip"));
   driver->Press("skip");
   EXPECT_FALSE(driver->Enabled("readclip"));
+}
+
+TEST_F(FrmRoundOffTest, CopyUnderSkipRoundingReadiesAPasteThatDoesNoHarm) {
+  Open(portal);
+  driver->Press("skip");
+  driver->Press("writeclip");
+  EXPECT_TRUE(driver->Enabled("readclip"));
+  driver->Tick("finalletter");
+  EXPECT_TRUE(driver->Enabled("readclip"));
+  screen.clipboard = "12z\r50\r40\r";
+  screen.ExpectBox("Click on Enable Rounding before you paste Min. Values from the clipboard.");
+  driver->Press("readclip");
+  EXPECT_EQ(Minimum(1), "100");
+  EXPECT_EQ(Current().RoundTable[4][0], 100);
+  driver->Press("continue");
+  EXPECT_TRUE(portal.Unloaded());
 }
 
 TEST_F(FrmRoundOffTest, FromTheSummaryOnlyContinueLeadsBack) {

@@ -169,27 +169,56 @@ TEST_F(FrmScrnAvgTest, UnsavedWorkAsksToSaveTheGrades) {
   EXPECT_EQ(portal.Next(), "frmgradesave");
 }
 
-TEST_F(FrmScrnAvgTest, WithoutWorkNothingIsAsked) {
-  Current().Method = 2;
-  Current().AverageWork1 = 0;
-  Current().AverageWork2 = 1;
-  Open(portal);
-  driver->Press("exit");
-  EXPECT_EQ(portal.Next(), "");
-  EXPECT_TRUE(portal.Unloaded());
+TEST_F(FrmScrnAvgTest, OnlyTheWorkOfTheMethodAsks) {
+  struct Case {
+    i16 method, work1, work2;
+    bool asks;
+  };
+  for (const auto& [method, work1, work2, asks] :
+       {Case{0, 0, 0, false}, Case{0, 1, 0, true}, Case{0, 2, 0, true}, Case{0, 0, 1, false},
+        Case{0, 0, 2, false}, Case{1, 1, 0, false}, Case{1, 2, 0, false}, Case{1, 0, 1, true},
+        Case{1, 0, 2, true}, Case{2, 1, 0, true}, Case{2, 0, 0, false}, Case{2, 0, 1, false},
+        Case{2, 0, 2, false}, Case{3, 0, 0, false}, Case{3, 1, 0, true}, Case{3, 2, 0, true},
+        Case{3, 0, 1, true}, Case{3, 0, 2, true}}) {
+    Current().Method = method;
+    Current().AverageWork1 = work1;
+    Current().AverageWork2 = work2;
+    frmscrnavg each;
+    Open(each);
+    screen.boxes.clear();
+    if (asks) screen.ExpectBox(kSaveAverages, BoxAnswer::kNo);
+    driver->Press("exit");
+    EXPECT_EQ(screen.boxes.size(), asks ? 1U : 0U) << method << work1 << work2;
+    EXPECT_TRUE(each.Unloaded());
+    EXPECT_EQ(each.Next(), "");
+  }
 }
 
-TEST_F(FrmScrnAvgTest, UnderTypesOnlyTheirWorkAsks) {
-  Current().Method = 1;
-  Current().AverageWork1 = 1;
+TEST_F(FrmScrnAvgTest, AnAverageAbove327IsShown) {
+  Current().Students[1].Marks[1] = "400";
   Open(portal);
-  driver->Press("exit");
-  EXPECT_TRUE(portal.Unloaded());
-  Current().AverageWork2 = 1;
-  frmscrnavg again;
-  Open(again);
-  Leave(BoxAnswer::kNo);
-  EXPECT_EQ(again.Next(), "");
+  driver->Choose("lstName", 0);
+  EXPECT_EQ(driver->Text("avg"), "400");
+  EXPECT_EQ(driver->Text("suggr"), " 100 (A+/EX/4.0)");
+}
+
+// 40000 percent: an average, but no final grade.
+TEST_F(FrmScrnAvgTest, AFinalGradeBeyond16BitsIsToldAndChangesNothing) {
+  Class& c = Current();
+  c.AverageFlag2 = kTrue;
+  c.TypeWeights[10] = Money("2");
+  c.Students[1].Marks[1] = "40000";
+  ExactAverage = Money("77");
+  Open(portal);
+  screen.ExpectBox("The average of Ng, Ada can't be computed: a number is too large.");
+  driver->Choose("lstName", 0);
+  EXPECT_EQ(screen.boxes.at(0).icon, BoxIcon::kCritical);
+  EXPECT_EQ(screen.boxes.at(0).title, "Note to the Teacher");
+  EXPECT_EQ(driver->Text("avg"), "");
+  EXPECT_EQ(driver->Text("suggr"), "");
+  EXPECT_EQ(ExactAverage, Money("77"));
+  EXPECT_EQ(c.TypeWeights[10], Money("2"));
+  EXPECT_EQ(c.Students[1].Marks[0], "-");
 }
 
 TEST_F(FrmScrnAvgTest, AnArithmeticErrorIsToldAndThePortalGoesOn) {

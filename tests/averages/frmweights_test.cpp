@@ -186,6 +186,8 @@ TEST_F(FrmWeightsTest, PasteFromRefusesAnotherText) {
   screen.clipboard = "6z\r40\r60\r";
   screen.ExpectBox(kWrongClipboard);
   driver->Press("frombd");
+  EXPECT_EQ(screen.boxes.at(0).title, "Note to the Teacher");
+  EXPECT_EQ(screen.boxes.at(0).icon, BoxIcon::kNone);
   EXPECT_EQ(NewWeights(), (Texts{"0", "0", "0"}));
   EXPECT_EQ(Current().AverageWork1, 0);
 }
@@ -257,6 +259,20 @@ TEST_F(FrmWeightsTest, ContinueSavesTheWeightsOnYes) {
   EXPECT_EQ(c.AverageWork1, 2);
   EXPECT_EQ(c.AverageWork2, 1);
   EXPECT_EQ(window.saved, 1);
+}
+
+TEST_F(FrmWeightsTest, WeightsOfFourDecimalsAreAccepted) {
+  AddGrade("Test 2", "T ");
+  Open(portal);
+  TypeWeights({"33.3333", "33.3333", "5", "33.3334"});
+  EXPECT_EQ(driver->Text("totals"), "100");
+  screen.ExpectBox(kSaveWeights, BoxAnswer::kYes);
+  driver->Press("exit");
+  const Class& c = Current();
+  EXPECT_TRUE(portal.Unloaded());
+  EXPECT_EQ(c.Weights[1], Currency::FromScaled(333333));
+  EXPECT_EQ(c.Instruments[2].weight, Currency::FromScaled(333333));
+  EXPECT_EQ(c.Instruments[4].weight, Currency::FromScaled(333334));
 }
 
 TEST_F(FrmWeightsTest, ContinueWithoutSavingPutsTheWeightsInForceAlone) {

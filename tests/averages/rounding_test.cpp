@@ -134,6 +134,7 @@ TEST_F(RoundingTest, AMinimumOfZeroIsReachedByEveryAverage) {
   EXPECT_EQ(GradeOf("41"), " 100 (A+/EX/4.0)     ");
 }
 
+// The Single next to 92.3 is 92.3000030517578125: compared as it is, 92.3 would not reach it.
 TEST_F(RoundingTest, AMinimumWithDecimalsIsReachedAtItsOwnFigure) {
   for (const char* minimum : {"92.3", "92.6", "78.1", "66.7"}) {
     Current().RoundTable[0][0] = static_cast<float>(Money(minimum).ToDouble());
@@ -157,10 +158,14 @@ TEST_F(RoundingTest, AModeNotYetChosenRounds) {
 }
 
 TEST_F(RoundingTest, TheFormOfTheFinalGradeChangesNothing) {
-  Current().FinalGradeForm = 3;
-  const std::string letters = GradeOf("91");
-  Current().FinalGradeForm = 0;
-  EXPECT_EQ(GradeOf("91"), letters);
+  for (const bool skip : {false, true}) {
+    if (skip) SkipRounding();
+    for (const i16 form : {i16{3}, i16{0}}) {
+      Current().FinalGradeForm = form;
+      EXPECT_EQ(GradeOf("91"), skip ? " 91 (A-/EX/4.0)     " : " 90 (A-/EX/4.0)     ") << form;
+      EXPECT_EQ(Mark(), skip ? "91" : "90") << form;
+    }
+  }
 }
 
 TEST_F(RoundingTest, AnAverageAbove327IsNoOverflow) {
@@ -202,6 +207,46 @@ TEST_F(RoundingTest, DamagedScalesDoNoHarm) {
   Current().RoundTable[0][1] = std::numeric_limits<float>::infinity();
   Current().RoundTable[0][2] = -std::numeric_limits<float>::infinity();
   EXPECT_EQ(GradeOf("99"), " 95 (A/EX/4.0)      ");
+}
+
+class AverageStudentTest : public AverageTest {
+ protected:
+  StudentAverage student;
+};
+
+TEST_F(AverageStudentTest, HoldsAllFiguresOfAStudent) {
+  Put(2, {{"Q", 30, "25"}});
+  EXPECT_FALSE(AverageStudent(student));
+  EXPECT_EQ(student.points, (Points{Money("25"), Money("30")}));
+  EXPECT_EQ(student.totals.counts[kQuiz], 1);
+  EXPECT_EQ(student.computed, Money("83.3333"));
+  EXPECT_EQ(student.exact, Money("83.33"));
+  EXPECT_EQ(ExactAverage, Money("83.33"));
+  EXPECT_EQ(student.grade.Text(), " 85 (B/SAT/3.0)     ");
+}
+
+// 400 points of one are 40000 percent: an average, but no final grade.
+TEST_F(AverageStudentTest, AnErrorOfTheFinalGradeChangesNothing) {
+  Current().AverageFlag2 = kTrue;
+  Weigh(kQuiz, "100");
+  for (i16 method = 0; method <= 3; ++method) {
+    Put(method, {{"Q", 1, "400", "100"}});
+    Current().Students[1].Marks[0] = "90";
+    ASSERT_EQ(Average(), "40000") << method;
+    Current().TypeWeights.fill(Currency());
+    DropLowestOf(kTest);
+    const auto flags = Current().TypeWeights;
+    ExactAverage = Money("77");
+    const AverageError error = AverageStudent(student);
+    EXPECT_EQ(error.number, kErrorOverflow) << method;
+    EXPECT_EQ(error.student, 1);
+    EXPECT_EQ(error.grade, 0);
+    EXPECT_EQ(ExactAverage, Money("77")) << method;
+    EXPECT_EQ(Current().TypeWeights, flags) << method;
+    EXPECT_EQ(Current().Students[1].Marks[0], "90");
+    EXPECT_EQ(student.totals, TypeTotals());
+    EXPECT_EQ(student.points, Points());
+  }
 }
 
 class AverageLinesTest : public AverageTest {
@@ -257,6 +302,9 @@ TEST_F(AverageLinesTest, TheLastFormComputesByEveryMethod) {
 TEST_F(AverageLinesTest, AfterAnErrorThereAreNoLines) {
   Put(0, {{"Q", 0, "8", "100"}});
   EXPECT_TRUE(PrintAverageAndCompute(Writer(), totals));
+  Put(0, {{"Q", 1, "400", "100"}});
+  EXPECT_TRUE(PrintAverageAndCompute(Writer(), totals));
+  EXPECT_EQ(totals, TypeTotals());
   EXPECT_EQ(text, "");
 }
 

@@ -133,7 +133,23 @@ TEST_F(AveragesCommandTest, MorePointsThan16BitsAreRefused) {
   text.replace(text.find("\"mvalue\": 20"), 12, "\"mvalue\": 32758");
   const std::string file = Build(text);
   ExpectRefused(RunCli({"averages", file}),
-                file + ": the grades have more than 32767 points in all");
+                file + ": The average of Abe, Bo can't be computed: a number is too large.");
+}
+
+TEST_F(AveragesCommandTest, AnAverageAbove327) {
+  std::string text = kByPoints;
+  text.replace(text.find("18.5"), 4, "113");  // 120 of 30
+  EXPECT_EQ(RunCli({"averages", Build(text)}).out,
+            "NAME        ID  POINTS  AVERAGE  GRADE\n"
+            " 1 Abe, Bo  5   120/30  400       100 (A+/EX/4.0)\n");
+}
+
+TEST_F(AveragesCommandTest, AFinalGradeBeyond16BitsIsRefused) {
+  std::string text = kByPoints;
+  text.replace(text.find("18.5"), 4, "9999");  // 10006 of 30 are 33353.3333
+  const std::string file = Build(text);
+  ExpectRefused(RunCli({"averages", file}),
+                file + ": The average of Abe, Bo can't be computed: a number is too large.");
 }
 
 TEST_F(AveragesCommandTest, OneFormAtATime) {

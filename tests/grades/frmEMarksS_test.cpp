@@ -144,5 +144,60 @@ TEST_F(FrmEMarksSTest, AMarkTypedLikeThePaddedOneLeavesItsBytes) {
   EXPECT_EQ(Bytes(), before);
 }
 
+TEST_F(FrmEMarksSTest, EachNameModeHasItsLines) {
+  const std::pair<i16, const char*> modes[] = {
+      {68, "Li, Bo\t2"}, {57, "Li, Bo"}, {82, "2\tLi, Bo"}, {73, "2"}};
+  for (const auto& [mode, line] : modes) {
+    NameMode = mode;
+    frmEMarksS one;
+    one.Load();
+    EXPECT_EQ(one.lstName.List.at(0), line);
+  }
+}
+
+TEST_F(FrmEMarksSTest, AnotherStudentForgetsTheRowLastActive) {
+  OpenPortal();
+  driver->Choose("lstName", 0);
+  TypeMark(2, "90");
+  driver->Choose("lstName", 1);
+  driver->PickCell("grdgrade", 2, kMarkColumn);
+  driver->PickCell("grdgrade", 0, kMarkColumn);  // a heading belongs to no row
+  EXPECT_EQ(portal.grdgrade.Row, 1);
+}
+
+TEST_F(FrmEMarksSTest, ExitAfterAMerePickChangesNothing) {
+  OpenPortal();
+  driver->Choose("lstName", 0);
+  driver->Choose("lstName", 1);
+  driver->Press("Exitt");
+  EXPECT_TRUE(portal.Unloaded());
+  EXPECT_EQ(Current().Changed, kFalse);
+}
+
+TEST_F(FrmEMarksSTest, AClassWithoutGradesHasNoMarksToEdit) {
+  DropGrades();
+  const std::string before = Bytes();
+  OpenPortal();
+  driver->Choose("lstName", 1);
+  EXPECT_EQ(portal.grdgrade.Rows(), 1);
+  driver->TypeKeys("grdgrade", "5");
+  driver->Press("Command1");
+  driver->Choose("lstName", 0);
+  driver->Press("Exitt");
+  EXPECT_TRUE(portal.Unloaded());
+  EXPECT_EQ(Bytes(), before);
+  EXPECT_EQ(Current().Changed, kFalse);
+}
+
+TEST_F(FrmEMarksSTest, AClassWithoutStudentsHasNobodyToPick) {
+  DropStudents();
+  OpenPortal();
+  EXPECT_TRUE(portal.lstName.List.empty());
+  EXPECT_FALSE(driver->Enabled("grdgrade"));
+  driver->Press("Exitt");
+  EXPECT_TRUE(portal.Unloaded());
+  EXPECT_EQ(Current().Changed, kFalse);
+}
+
 }  // namespace
 }  // namespace tallyroll

@@ -319,5 +319,104 @@ TEST_F(FrmEmarksTest, ACodeLongerThanTheLimitIsShownWhole) {
   EXPECT_EQ(portal.code.MaxLength, 3);
 }
 
+TEST_F(FrmEmarksTest, AnotherTitleForgetsTheRowLastActive) {
+  OpenAt(1);
+  TypeMark(2, "90");
+  driver->Choose("list1", 1);
+  driver->PickCell("Grid1", 2, kMarkColumn);
+  driver->PickCell("Grid1", 0, kMarkColumn);  // a heading belongs to no row
+  EXPECT_EQ(portal.Grid1.Row, 1);
+}
+
+TEST_F(FrmEmarksTest, AMaximumScoreBelow16BitsIsRefused) {
+  OpenAt(1);
+  driver->Type("mvalue", "-40000");
+  screen.ExpectBox("The value for Maximum Score must not be less than -32768");
+  driver->Press("Exitt");
+  EXPECT_FALSE(portal.Unloaded());
+  ExpectLastBox(" Note To The Teacher", BoxIcon::kNone);
+  EXPECT_EQ(Grade(1).mvalue, 100);
+}
+
+TEST_F(FrmEmarksTest, WithEverythingEmptiedExitClosesAtOnce) {
+  Grade(1).dropyn = "";
+  OpenAt(1);
+  for (const char* box : {"Title", "code", "mvalue"}) driver->Type(box, "");
+  for (int student = 1; student <= 2; ++student) TypeMark(student, "\b");
+  driver->Press("Exitt");
+  EXPECT_TRUE(portal.Unloaded());
+  EXPECT_EQ(Grade(1).title, "Rivers");
+  EXPECT_EQ(Mark(1, 1), "81");
+  EXPECT_EQ(Current().Changed, kFalse);
+}
+
+TEST_F(FrmEmarksTest, OneBlankMarkIsNotEmptied) {
+  Grade(1).dropyn = "";
+  OpenAt(1);
+  for (const char* box : {"Title", "code", "mvalue"}) driver->Type(box, "");
+  TypeMark(1, "\b");
+  TypeMark(2, " ");
+  screen.ExpectBox(kReminder);
+  driver->Press("Exitt");
+  EXPECT_FALSE(portal.Unloaded());
+}
+
+TEST_F(FrmEmarksTest, KeysWriteTheSpecialMarks) {
+  const std::pair<Key, const char*> keys[] = {
+      {Key::kF6, "ABS"}, {Key::kF7, "NON"}, {Key::kF8, "CUT"}, {Key::kF9, "EXC"}};
+  OpenAt(1);
+  driver->PickCell("Grid1", 2, kMarkColumn);
+  for (const auto& [key, mark] : keys) {
+    driver->PressKey("Grid1", key);
+    EXPECT_EQ(Cell(2), mark);
+  }
+  EXPECT_TRUE(portal.DataChanged);
+}
+
+TEST_F(FrmEmarksTest, ButtonsWriteTheSpecialMarks) {
+  const std::pair<const char*, const char*> buttons[] = {
+      {"Command1", "ABS"}, {"Command2", "NON"}, {"Command3", "CUT"}, {"Command4", "EXC"}};
+  OpenAt(1);
+  driver->PickCell("Grid1", 2, kMarkColumn);
+  for (const auto& [button, mark] : buttons) {
+    driver->Press(button);
+    EXPECT_EQ(Cell(2), mark);
+    EXPECT_EQ(driver->Focused(), "Grid1");
+  }
+  driver->Press("Exitt");
+  EXPECT_EQ(Mark(2, 1), "EXC");
+}
+
+TEST_F(FrmEmarksTest, WithoutAMethodAChangeOfTypeEmptiesTheSettings) {
+  UseMethod(5);
+  OpenAt(3);
+  ChooseType(12);
+  driver->Press("Exitt");
+  ExpectMethodForgotten();
+}
+
+TEST_F(FrmEmarksTest, AClassWithoutGradesHasNothingToEdit) {
+  DropGrades();
+  OpenAt(1);
+  EXPECT_TRUE(portal.list1.List.empty());
+  EXPECT_FALSE(driver->Enabled("Title"));
+  EXPECT_FALSE(driver->Enabled("Grid1"));
+  driver->Press("Exitt");
+  EXPECT_TRUE(portal.Unloaded());
+  EXPECT_EQ(Current().Changed, kFalse);
+}
+
+TEST_F(FrmEmarksTest, WithoutStudentsTheHeaderCanBeEdited) {
+  DropStudents();
+  OpenAt(1);
+  EXPECT_EQ(portal.Grid1.Rows(), 1);
+  driver->TypeKeys("Grid1", "5");
+  driver->Press("Command1");
+  driver->Type("Title", "Seas");
+  driver->Press("Exitt");
+  EXPECT_TRUE(portal.Unloaded());
+  EXPECT_EQ(Grade(1).title, "Seas");
+}
+
 }  // namespace
 }  // namespace tallyroll

@@ -129,8 +129,7 @@ TEST_F(FrmMgradeTest, NextAtTheLastStudentKeepsWhatIsTyped) {
 }
 
 TEST_F(FrmMgradeTest, AClassWithoutStudentsHasNothingToShow) {
-  Current().NumStudents = 0;
-  ReDim(Current().Students, 0);
+  DropStudents();
   OpenPortal();
   EXPECT_FALSE(driver->Enabled("comments"));
   driver->Press("mnunextt");

@@ -297,5 +297,88 @@ TEST_F(FrmcategoriesTest, AChangedTypeIsOfferedWhenGradesAreEntered) {
   EXPECT_EQ(marks.ttypelist.List.at(13), "BD    -  Band");
 }
 
+TEST_F(FrmcategoriesTest, AKeyAtTheEndOfTheListDoesNotHoldUpTheNextClick) {
+  const struct {
+    Key key;
+    int line;
+  } ends[] = {{Key::kUp, 0},    {Key::kHome, 0}, {Key::kPageUp, 0},
+              {Key::kDown, 11}, {Key::kEnd, 11}, {Key::kPageDown, 11}};
+  for (const auto& [key, line] : ends) {
+    for (const int clicked : {line, 5}) {
+      frmcategories one;
+      one.Load();
+      PortalDriver hand(one);
+      hand.PressKey("listcat", Key::kDown);
+      hand.Choose("listcat", line);  // where the key came to
+      EXPECT_EQ(hand.Focused(), "listcat");
+      hand.PressKey("listcat", key);
+      hand.Choose("listcat", clicked);
+      EXPECT_EQ(hand.Focused(), "catdesc") << line << " " << clicked;
+    }
+  }
+}
+
+TEST_F(FrmcategoriesTest, EveryWalkingKeyLeavesTheFocusInTheList) {
+  for (const Key key :
+       {Key::kUp, Key::kHome, Key::kPageUp, Key::kDown, Key::kEnd, Key::kPageDown}) {
+    frmcategories one;
+    one.Load();
+    one.listcat.ListIndex = 5;
+    PortalDriver hand(one);
+    hand.PressKey("listcat", key);
+    hand.Choose("listcat", 4);
+    EXPECT_EQ(hand.Focused(), "listcat") << static_cast<int>(key);
+  }
+}
+
+TEST_F(FrmcategoriesTest, ATildeIsToldOfLast) {
+  OpenPortal();
+  Name(kM1, "A~B", " ");
+  screen.ExpectBox(kEnterBoth);
+  driver->Press("exit");
+  driver->Type("catcode", "HW");
+  screen.ExpectBox(kCodeTaken);
+  driver->Press("exit");
+  driver->Type("catcode", "BD");
+  screen.ExpectBox("You can't use the character ~ in a description or code.");
+  driver->Press("exit");
+  EXPECT_FALSE(portal.Unloaded());
+  EXPECT_EQ(driver->Focused(), "catdesc");
+}
+
+TEST_F(FrmcategoriesTest, DefaultsKeepTheGradesOfTwoTypesApart) {
+  Enrol("Li", "Bo", "2");
+  Give("One", "1", "M1", {"1"});
+  Give("Two", "2", "M2", {"2"});
+  OpenPortal();
+  Name(kM1, "Band", "XX");
+  screen.ExpectBox(kSelectNext);
+  driver->Press("another");
+  Name(kM2, "Choir", "M1");  // the code that the first type has left
+  screen.ExpectBox(kSelectNext);
+  driver->Press("another");
+  EXPECT_EQ(Grade(1).typecode, "XX");
+  EXPECT_EQ(Grade(2).typecode, "M1");
+  screen.ExpectBox(kResetQuestion, BoxAnswer::kYes);
+  driver->Press("defaults");
+  EXPECT_EQ(Grade(1).typecode, "M1");
+  EXPECT_EQ(Grade(2).typecode, "M2");
+}
+
+TEST_F(FrmcategoriesTest, CancelWithAChangePendingAsks) {
+  OpenPortal();
+  Name(kM1, "Band", "BD");
+  screen.ExpectBox(kChanged, BoxAnswer::kNo);
+  driver->Press("cancel");
+  EXPECT_FALSE(portal.Unloaded());
+  ExpectLastBox("CANCEL", BoxIcon::kQuestion, BoxButtons::kYesNo);
+  EXPECT_EQ(driver->Text("catdesc"), "Band");
+  screen.ExpectBox(kChanged, BoxAnswer::kYes);
+  driver->Press("cancel");
+  EXPECT_TRUE(portal.Unloaded());
+  EXPECT_EQ(Category(1), "");
+  EXPECT_EQ(Current().Changed, kFalse);
+}
+
 }  // namespace
 }  // namespace tallyroll

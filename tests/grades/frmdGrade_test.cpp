@@ -76,6 +76,7 @@ TEST_F(FrmdGradeTest, DeletingNeedsAChoice) {
   screen.ExpectBox("You must select a grade to delete or press Exit.");
   driver->Press("delete");
   EXPECT_FALSE(portal.Unloaded());
+  ExpectLastBox("Note to the Teacher", BoxIcon::kNone);
   EXPECT_EQ(Current().NumInstruments, 3);
 }
 
@@ -84,10 +85,7 @@ TEST_F(FrmdGradeTest, DeletingAsksAndCancelIsTheDefault) {
   driver->Choose("List1", 0);
   screen.ExpectBox("Delete Rivers?", BoxAnswer::kCancel);
   driver->Press("delete");
-  EXPECT_EQ(screen.boxes.at(0).title, "Delete Portal");
-  EXPECT_EQ(screen.boxes.at(0).buttons, BoxButtons::kOkCancel);
-  EXPECT_EQ(screen.boxes.at(0).icon, BoxIcon::kQuestion);
-  EXPECT_TRUE(screen.boxes.at(0).second_is_default);
+  ExpectLastBox("Delete Portal", BoxIcon::kQuestion, BoxButtons::kOkCancel, true);
   EXPECT_EQ(Current().NumInstruments, 3);
   EXPECT_EQ(Current().Changed, kFalse);
 }
@@ -151,6 +149,20 @@ TEST_F(FrmdGradeTest, UnderMethod2ADeleteNeverTouchesTheMethod) {
   ExpectMethodKept(2);
 }
 
+TEST_F(FrmdGradeTest, DeletingTheLastGradeOfATypeForgetsMethod3Too) {
+  UseMethod(3);
+  OpenFor(121);
+  Delete(2);
+  ExpectMethodForgotten();
+}
+
+TEST_F(FrmdGradeTest, WithoutAMethodADeleteEmptiesTheSettings) {
+  UseMethod(5);
+  OpenFor(121);
+  Delete(1);  // another quiz remains
+  ExpectMethodForgotten();
+}
+
 TEST_F(FrmdGradeTest, UnderMethod0ADeleteAlwaysForgetsTheMethod) {
   UseMethod(0);
   OpenFor(121);
@@ -164,6 +176,8 @@ TEST_F(FrmdGradeTest, TransferNeedsAChoice) {
       "No grade was chosen to place in the clipboard. Either choose a grade title to transfer or "
       "press Exit to leave this portal.");
   driver->Press("transfer");
+  EXPECT_FALSE(portal.Unloaded());
+  ExpectLastBox("Note to the Teacher", BoxIcon::kNone);
   EXPECT_EQ(screen.clipboard, "");
 }
 
@@ -174,8 +188,7 @@ TEST_F(FrmdGradeTest, TransferAsksFirst) {
       "Transfer Rivers to the clipboard? (The Grade will still remain in the current class.)",
       BoxAnswer::kCancel);
   driver->Press("transfer");
-  EXPECT_EQ(screen.boxes.at(0).title, "Transfer Portal");
-  EXPECT_TRUE(screen.boxes.at(0).second_is_default);
+  ExpectLastBox("Transfer Portal", BoxIcon::kQuestion, BoxButtons::kOkCancel, true);
   EXPECT_EQ(screen.clipboard, "");
 }
 
@@ -206,23 +219,50 @@ TEST_F(FrmdGradeTest, With12StudentsTheTextHas9AndThen12Lines) {
   EXPECT_EQ(std::ranges::count(screen.clipboard, '\r'), 9 + 12);
 }
 
-// A clipboard that another program holds fast.
+// A clipboard that another program holds fast, wholly or as far as it cannot be emptied.
 struct LostClipboard : HeadlessSurroundings {
-  void SetClipboardText(std::string_view) override {}
+  void SetClipboardText(std::string_view text) override {
+    if (can_be_emptied && text.empty()) clipboard.clear();
+  }
+  bool can_be_emptied = false;
 };
 
 TEST_F(FrmdGradeTest, AClipboardThatTakesNothingIsTold) {
-  LostClipboard lost;
-  SetPlatform(&lost);
+  const std::string before = Bytes();
+  for (const char* old : {"", "8z\rOld\r"}) {
+    for (const bool can_be_emptied : {false, true}) {
+      LostClipboard lost;
+      lost.clipboard = old;
+      lost.can_be_emptied = can_be_emptied;
+      SetPlatform(&lost);
+      OpenState = 157;
+      frmdGrade one;
+      one.Load();
+      PortalDriver hand(one);
+      hand.Choose("List1", 0);
+      lost.ExpectBox(
+          "Transfer Rivers to the clipboard? (The Grade will still remain in the current class.)",
+          BoxAnswer::kOk);
+      lost.ExpectBox("An error has occured writing on Clipboard.");
+      hand.Press("transfer");
+      EXPECT_EQ(lost.Complaints(), std::vector<std::string>{});
+      EXPECT_EQ(lost.boxes.at(1).title, "Note to the Teacher");
+      EXPECT_EQ(lost.boxes.at(1).icon, BoxIcon::kNone);
+      SetPlatform(&screen);
+    }
+  }
+  EXPECT_EQ(Bytes(), before);
+}
+
+TEST_F(FrmdGradeTest, TransferReplacesAnOlderGradeOnTheClipboard) {
+  screen.clipboard = "8z\rOld\r";
   OpenFor(157);
-  driver->Choose("List1", 0);
-  lost.ExpectBox(
-      "Transfer Rivers to the clipboard? (The Grade will still remain in the current class.)",
+  driver->Choose("List1", 2);
+  screen.ExpectBox(
+      "Transfer Hills to the clipboard? (The Grade will still remain in the current class.)",
       BoxAnswer::kOk);
-  lost.ExpectBox("An error has occured writing on Clipboard.");
   driver->Press("transfer");
-  EXPECT_EQ(lost.Complaints(), std::vector<std::string>{});
-  SetPlatform(&screen);
+  EXPECT_EQ(screen.clipboard, "8z\rHills\rHIL\r100\r65\r9/1/2026\rN\rQ \r2\r2,61\r1,62\r");
 }
 
 TEST_F(FrmdGradeTest, AGradeGoesToAnotherClassThroughTheClipboard) {
@@ -301,6 +341,35 @@ TEST_F(FrmdGradeTest, ReorderingSizesTheUseOfGradesAndKeepsIt) {
   OpenFor(269);
   EXPECT_EQ(UpperBound(Current().InstrumentUse), 3);
   EXPECT_EQ(Use(1), 1);
+}
+
+TEST_F(FrmdGradeTest, AClassWithoutGradesHasNothingToChoose) {
+  DropGrades();
+  const std::string before = Bytes();
+  for (const int mode : {121, 157, 269}) {
+    OpenState = mode;
+    frmdGrade one;
+    one.Load();
+    PortalDriver hand(one);
+    EXPECT_TRUE(one.List1.List.empty());
+    if (mode == 121) {
+      screen.ExpectBox("You must select a grade to delete or press Exit.");
+      hand.Press("delete");
+    } else if (mode == 157) {
+      screen.ExpectBox(
+          "No grade was chosen to place in the clipboard. Either choose a grade title to transfer "
+          "or press Exit to leave this portal.");
+      hand.Press("transfer");
+    } else {
+      hand.Press("up");
+      hand.Press("down");
+    }
+    hand.Press("exitbt");
+    EXPECT_TRUE(one.Unloaded());
+    EXPECT_EQ(hand.Complaints(), std::vector<std::string>{});
+  }
+  EXPECT_EQ(Bytes(), before);
+  EXPECT_EQ(Current().Changed, kFalse);
 }
 
 }  // namespace

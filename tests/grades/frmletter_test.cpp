@@ -211,5 +211,28 @@ TEST_F(FrmletterTest, CancelWithoutAnEditCloses) {
   EXPECT_TRUE(portal.Unloaded());
 }
 
+TEST_F(FrmletterTest, BackspaceTakesTheLastCharacter) {
+  OpenPortal();
+  TypeValue(2, "91\b");
+  EXPECT_EQ(Cell(2), "9");
+  TypeValue(2, "\b");  // as first key it empties the cell
+  EXPECT_EQ(Cell(2), "");
+  TypeValue(2, "\b88");
+  driver->Press("EXIT");
+  EXPECT_EQ(ValueText(2), "88");
+}
+
+TEST_F(FrmletterTest, ValuesForAllNewClassesMayHaveDecimals) {
+  OpenPortal();
+  TypeValue(3, "89.5");
+  TypeValue(13, "0.25");
+  driver->Tick("allclass");
+  driver->Press("EXIT");
+  EXPECT_TRUE(portal.Unloaded());
+  EXPECT_EQ(ValueText(0), "343");
+  EXPECT_EQ(ValueText(3), "89.5");
+  EXPECT_EQ(screen.settings[kLetterSetting], "343'99'95'89.5'88'85'80'78'75'70'68'65'60'0.25'");
+}
+
 }  // namespace
 }  // namespace tallyroll

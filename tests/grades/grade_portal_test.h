@@ -11,6 +11,7 @@
 #include "store/class_defaults.h"
 #include "store/class_format.h"
 #include "store/program_state.h"
+#include "tests/support/enrol_student.h"
 #include "tests/support/noting_window.h"
 #include "tests/support/portal_test.h"
 
@@ -30,14 +31,8 @@ class GradePortalTest : public PortalTest {
 
   static Student& Enrol(const std::string& lastname, const std::string& firstname,
                         const std::string& id) {
-    Class& c = Current();
-    ++c.NumStudents;
-    ReDimPreserve(c.Students, c.NumStudents);
-    Student& student = c.Students.back();
-    student.lastname = lastname;
-    student.firstname = firstname;
-    student.id = id;
-    ReDim(student.Marks, c.NumInstruments, ShortText("NEW"));
+    Student& student = EnrolStudent(lastname, firstname, id);
+    ReDim(student.Marks, Current().NumInstruments, ShortText("NEW"));
     return student;
   }
 
@@ -63,6 +58,19 @@ class GradePortalTest : public PortalTest {
     ReDimPreserve(c.Weights, n);
     ReDimPreserve(c.InstrumentUse, n, Currency::FromWhole(1));
     return grade;
+  }
+
+  static void DropGrades() {
+    Class& c = Current();
+    c.NumInstruments = 0;
+    ReDim(c.Instruments, 0);
+    ReDim(c.Weights, 0);
+    ReDim(c.InstrumentUse, 0);
+    for (Student& student : c.Students) ReDim(student.Marks, 0);
+  }
+  static void DropStudents() {
+    Current().NumStudents = 0;
+    ReDim(Current().Students, 0);
   }
 
   static std::string Mark(int student, int grade) {
@@ -96,6 +104,16 @@ class GradePortalTest : public PortalTest {
     EXPECT_EQ(Current().Method, 5);
     EXPECT_EQ(Current().AverageSettings, "");
     EXPECT_EQ(window.disabled, (std::set<std::string>{"mnuoptions", "mnuprtgrade"}));
+  }
+
+  // How the last box looked, its text aside.
+  void ExpectLastBox(std::string_view title, BoxIcon icon, BoxButtons buttons = BoxButtons::kOk,
+                     bool second_is_default = false) {
+    const MessageRequest& box = screen.boxes.at(screen.boxes.size() - 1);
+    EXPECT_EQ(box.title, title) << box.text;
+    EXPECT_EQ(box.icon, icon) << box.text;
+    EXPECT_EQ(box.buttons, buttons) << box.text;
+    EXPECT_EQ(box.second_is_default, second_is_default) << box.text;
   }
 
   void Open(Portal& portal) {

@@ -50,15 +50,39 @@ TEST_F(GradeTypesTest, CodesOfAClassWithoutModifications) {
 }
 
 TEST_F(GradeTypesTest, NamesAndLabelsOfAClassWithoutModifications) {
-  EXPECT_EQ(Name(2), "Class Activitiy");
-  EXPECT_EQ(Label(2), "CA  -  Class Activitiy");
-  EXPECT_EQ(Label(6), "HW  - Homework");
-  EXPECT_EQ(Label(1), "A    -  Averaged Grade");
-  EXPECT_EQ(Name(13), "Extra Credit");
-  EXPECT_EQ(Name(16), "Miscellaneous");
-  EXPECT_EQ(Name(25), "Subject 9");
-  EXPECT_EQ(Label(25), "S9  -  Subject 9");
-  EXPECT_EQ(Label(26), "       (None)      ");
+  const struct {
+    const char *name, *label;
+  } types[] = {{"Averaged Grade", "A    -  Averaged Grade"},
+               {"Class Activitiy", "CA  -  Class Activitiy"},
+               {"Class Participation", "CP  -  Class Participation"},
+               {"Essay/Composition", "E    -  Essay/Composition"},
+               {"Final Exam", "FE  -  Final Exam"},
+               {"Homework", "HW  - Homework"},
+               {"Lab", "L    -  Lab"},
+               {"Midterm Exam", "ME  -  Midterm Exam"},
+               {"Project", "P    -  Project"},
+               {"Quiz", "Q    -  Quiz"},
+               {"Report/Paper", "R    -  Report/Paper"},
+               {"Test", "T    -  Test"},
+               {"Extra Credit", "X    -  Extra Credit"},
+               {"Miscellaneous", "M1  -  Miscellaneous"},
+               {"Miscellaneous", "M2  -  Miscellaneous"},
+               {"Miscellaneous", "M3  -  Miscellaneous"},
+               {"Subject 1", "S1  -  Subject 1"},
+               {"Subject 2", "S2  -  Subject 2"},
+               {"Subject 3", "S3  -  Subject 3"},
+               {"Subject 4", "S4  -  Subject 4"},
+               {"Subject 5", "S5  -  Subject 5"},
+               {"Subject 6", "S6  -  Subject 6"},
+               {"Subject 7", "S7  -  Subject 7"},
+               {"Subject 8", "S8  -  Subject 8"},
+               {"Subject 9", "S9  -  Subject 9"},
+               {"(None)", "       (None)      "}};
+  ASSERT_EQ(std::size(types), 26u);
+  for (std::size_t t = 1; t <= 26; ++t) {
+    EXPECT_EQ(Name(t), types[t - 1].name);
+    EXPECT_EQ(Label(t), types[t - 1].label);
+  }
 }
 
 TEST_F(GradeTypesTest, AModificationGivesCodeNameAndLabel) {

@@ -7,6 +7,7 @@
 
 #include "platform/portal_driver.h"
 #include "store/program_state.h"
+#include "tests/support/enrol_student.h"
 #include "tests/support/portal_test.h"
 
 namespace tallyroll {
@@ -18,17 +19,9 @@ class RosterTest : public PortalTest {
     for (const std::string& complaint : driver->Complaints()) ADD_FAILURE() << complaint;
   }
 
-  // Puts a student at the end of the class.
   static Student& Enrol(const std::string& lastname, const std::string& firstname,
                         const std::string& id) {
-    Class& c = Current();
-    ++c.NumStudents;
-    ReDimPreserve(c.Students, c.NumStudents);
-    Student& student = c.Students.back();
-    student.lastname = lastname;
-    student.firstname = firstname;
-    student.id = id;
-    return student;
+    return EnrolStudent(lastname, firstname, id);
   }
 
   void Open(Portal& portal) {

@@ -120,6 +120,31 @@ TEST_F(AveragePathTest, ForThePrinterThePortalIsNotAvailableYet) {
   EXPECT_EQ(window.StatusText, kPortalNotAvailable);
 }
 
+TEST_F(AveragePathTest, AClassOfMoreThan32767PointsHasNoAverage) {
+  Class c = Graded();
+  c.AverageSettings = "2,0,0,0,0";
+  c.Instruments[1].mvalue = 32700;
+  Form1& window = Open("A.TYR", c);
+  EXPECT_EQ(TotalPossible[1], std::nullopt);
+  screen.ExpectPortal("frmoptions", [](PortalDriver& work) { work.Press("continue"); });
+  screen.ExpectPortal("frmscrnavg", [this](PortalDriver& work) {
+    screen.ExpectBox("The average of Last01, First01 can't be computed: a number is too large.");
+    work.Press("nextt");
+    EXPECT_EQ(work.Text("avg"), "");
+    work.Press("exit");
+  });
+  window.ClickMenu("mnuoptions");
+  // With one of the grades left out the Points Portal takes it.
+  screen.ExpectPortal("frmpoints", [this](PortalDriver& work) {
+    work.PickCell("grdgrade", 1, 3);
+    work.TypeKeys("grdgrade", " ");
+    ExpectSave("Do you want to save these points");
+    work.Press("exit");
+  });
+  ExpectAverage("90/100  90");
+  window.ClickMenu("mnupoints");
+}
+
 TEST_F(AveragePathTest, OpeningAClassMakesItsTotalPossibleAnew) {
   Class c = Graded();
   c.AverageSettings = "2,0,0,0,0";

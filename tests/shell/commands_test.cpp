@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // What menu entries, buttons and double clicks hand to the Portal that they open.
 #include "shell/class_menu.h"
+#include "shell/portal_list.h"
 #include "tests/shell/shell_test.h"
 
 namespace tallyroll {
@@ -262,6 +263,28 @@ TEST_F(CommandsTest, GridIsFilledAgainAfterADoubleClick) {
   window->Grid1.MouseCol = 0;
   window->Grid1_DblClick();
   EXPECT_EQ(window->Grid1.TextMatrix(2, 0), " 1 Changed, First01");
+}
+
+TEST_F(CommandsTest, GridIsFilledAgainAfterAPortalThatChangesGrades) {
+  int round = 0;
+  for (const char* entry :
+       {"mnuMarks", "mnuEMarksT", "mnuEMarksS", "mnuDMarks", "mnuTransfergrade", "mnureorder"}) {
+    const std::string mark = PlainNumberText(++round);
+    Current().Students[1].Marks[1] = mark;
+    EXPECT_NE(window->Grid1.TextMatrix(2, 2), mark) << entry;
+    Click(entry);
+    EXPECT_EQ(window->Grid1.TextMatrix(2, 2), mark) << entry;
+  }
+}
+
+TEST_F(CommandsTest, GridIsFilledAgainAsMissingGradesAreLeft) {
+  MakePortal = &MakePortalByName;
+  screen.ExpectPortal("frmMgrade", [](PortalDriver& driver) {
+    Current().Students[1].Marks[1] = "12";
+    driver.Press("mnuexit");
+  });
+  window->ClickMenu("mnuMGrades");
+  EXPECT_EQ(window->Grid1.TextMatrix(2, 2), "12");
 }
 
 TEST_F(CommandsTest, StatusBarTellsWhatADoubleClickWouldDo) {

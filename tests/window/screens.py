@@ -40,15 +40,12 @@ def sample_window(this, name, *options, **surroundings):
 SIZES = {"sample-150": (1500, 1000)}
 
 
-def portal(program, keys, title, name, prepare=(), asks=None):
+def portal(program, keys, title, name, prepare=()):
     program.keys(*keys)
     program.window(title)
     program.keys(*prepare)
     take(program, name)
     program.keys("Escape")
-    if asks:  # whether what was entered may go
-        program.window(asks)
-        program.keys("alt+y")
     program.gone(title)
 
 
@@ -110,13 +107,24 @@ def text_file(this, program):
     program.gone("Text File Portal")
 
 
+def marks(program):
+    title = "Enter  Grades  Portal"
+    program.keys("ctrl+g")
+    program.window(title)
+    program.keys(*"Essay", "Tab", *"ESS", *["Tab"] * 6)
+    program.keys(*"92", "Down", *"78", "Down", "F6", "Down", *"88")
+    take(program, "frmMarks")
+    program.keys("Escape")
+    program.window("CANCEL")
+    program.keys("alt+y")
+    program.gone(title)
+
+
 def portals(this):
     program = sample_window(this, "sample-light")
     portal(program, ["ctrl+Insert"], "Add Student Portal", "frmAdd")
     portal(program, ["ctrl+e"], "Edit Portal", "frmEdit", ["Down"])
-    portal(program, ["ctrl+g"], "Enter  Grades  Portal", "frmMarks",
-           [*"Essay", "Tab", *"ESS", "alt+l", "Down", "Down", "Down", "Down", "Tab", *"85", "alt+o",
-            *"92", "Down", *"78", "Down", "F6", "Down", *"88"], asks="CANCEL")
+    marks(program)
     portal(program, ["alt+f", "i"], "Class Information Portal", "frmclassinfo")
     portal(program, ["alt+s", "d"], "Delete Portal", "frmdelete", ["Home", "Down"])
     text_file(this, program)

@@ -13,8 +13,11 @@ inline double Divided(double dividend, double divisor) {
   return dividend / divisor;
 }
 
+// A product with a whole number needs no rounding.
 inline Currency Hundredfold(Currency value) {
-  return Currency::FromWhole(100) * value;
+  std::int64_t scaled = 0;
+  if (__builtin_mul_overflow(value.scaled(), 100, &scaled)) throw RunTimeError{kErrorOverflow};
+  return Currency::FromScaled(scaled);
 }
 
 // A mark's percent of the most that it could be.

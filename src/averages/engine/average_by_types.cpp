@@ -16,7 +16,9 @@ class TypesAverage {
     if (class_.AverageFlag2) FlagEveryType(type_weights_);
   }
 
+  // A grade of no type has no part in the average, whatever its mark.
   void Take(const SheetRow& row) {
+    if (row.types.empty()) return;
     if (row.kind == MarkKind::kLeftOut) return TakeLeftOut(row);
     const Currency value = GradeValue(row.mark);
     const Currency percent = PercentOf(value, row.instrument.mvalue);

@@ -9,12 +9,11 @@
 namespace tallyroll {
 
 Currency ExactAverage;
-std::array<i16, kClassSlots> TotalPossible{};
+std::array<std::optional<i16>, kClassSlots> TotalPossible{};
 
-int MakeTotalPossible() {
+void MakeTotalPossible() {
   const Class& c = Current();
-  i16& total = TotalPossible[static_cast<std::size_t>(CurrentClass)];
-  total = 0;
+  std::optional<i16>& total = TotalPossible[static_cast<std::size_t>(CurrentClass)];
   Currency points;
   for (int i = 1; i <= GradeCount(c); ++i) {
     const auto index = static_cast<std::size_t>(i);
@@ -27,15 +26,14 @@ int MakeTotalPossible() {
   }
   try {
     total = points.ToWhole16();
-  } catch (const RunTimeError& fault) {
-    return fault.number;
+  } catch (const RunTimeError&) {
+    total.reset();
   }
-  return 0;
 }
 
 void ResetAverages() {
   ExactAverage = Currency();
-  TotalPossible.fill(0);
+  TotalPossible.fill(i16{0});
 }
 
 }  // namespace tallyroll

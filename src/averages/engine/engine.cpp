@@ -42,13 +42,18 @@ std::string AverageErrorText(const AverageError& error) {
 
 AverageError ComputeAverage(TypeTotals& totals) {
   Points dropped;
+  return ComputeAverage(dropped, totals);
+}
+
+AverageError ComputeAverage(Points& points, TypeTotals& totals) {
+  points = Points();
   switch (Current().Method) {
     case 1:
       return AverageByTypes(totals);
     case 2:
-      return AverageByPoints(dropped, totals);
+      return AverageByPoints(points, totals);
     case 3:
-      return AverageByPointsAndTypes(dropped, totals);
+      return AverageByPointsAndTypes(points, totals);
     default:
       return AverageByItems(totals);
   }

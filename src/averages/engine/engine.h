@@ -43,8 +43,10 @@ struct Points {
   friend bool operator==(const Points&, const Points&) = default;
 };
 
-// By Method; a class without a method is averaged by its items.
+// By Method; a class without a method is averaged by its items. Without points, which only the
+// point methods have, they are dropped.
 AverageError ComputeAverage(TypeTotals& totals);
+AverageError ComputeAverage(Points& points, TypeTotals& totals);
 
 // The methods 0 to 3. Each sets ExactAverage and fills `totals`.
 AverageError AverageByItems(TypeTotals& totals);

@@ -5,7 +5,7 @@ namespace tallyroll {
 
 void FlagEveryType(TypeSums& type_weights) {
   for (std::size_t t = 1; t <= kGradeTypes; ++t) {
-    if (t != kExtraCreditType) type_weights[t] = kMayDrop;
+    type_weights[t] = t == kExtraCreditType ? kNoDrop : kMayDrop;
   }
 }
 

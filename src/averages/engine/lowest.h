@@ -17,7 +17,8 @@ inline constexpr Currency kNoLowest = Currency::FromScaled(1000'0000);
 // The lowest percent of a type in which a left-out mark stands as the lowest.
 inline constexpr Currency kLeftOutIsLowest = Currency::FromScaled(-50'0000);
 
-// Lays the drop flag on every type but extra credit, for the choice of a single lowest grade.
+// Lays the drop flag on every type but extra credit, which loses it, for the choice of a single
+// lowest grade.
 void FlagEveryType(TypeSums& type_weights);
 
 // Leaves the drop flag on the one type whose lowest percent is least; the earlier on a tie. Where
