@@ -13,6 +13,8 @@ class LineReader {
 
   // The next line without its end; nothing behind the last.
   std::optional<std::string_view> Next();
+  // What no line was taken from yet.
+  std::string_view Rest() const { return rest_; }
 
  private:
   std::string_view rest_;

@@ -10,6 +10,7 @@
 #include "cli/commands.h"
 #include "cli/json_text.h"
 #include "cli/table_text.h"
+#include "store/csv.h"
 
 namespace tallyroll {
 namespace {
@@ -63,14 +64,6 @@ std::string TableText(std::string& text) {
 }
 
 // ---- As comma-separated values ----
-
-// Quoted where a comma, a quote or a line end stands in the text.
-std::string CsvField(std::string_view text) {
-  if (text.find_first_of(",\"\r\n") == std::string_view::npos) return std::string(text);
-  std::string quoted = "\"";
-  for (const char c : text) quoted.append(c == '"' ? 2 : 1, c);
-  return quoted + "\"";
-}
 
 std::string CsvText(std::string& text) {
   text = "id,lastname,firstname,ComputedAverage,ExactAverage,FinalGrade,Marks0,earned,possible\n";

@@ -67,6 +67,8 @@ int RunCommandLine(int argc, const char* const* argv, std::istream& in, std::ost
   AddConvertCommand(app, chosen);
   AddShowCommand(app, chosen);
   AddAveragesCommand(app, chosen);
+  AddImportCommand(app, chosen);
+  AddExportCommand(app, chosen);
   try {
     app.parse(argc, argv);
   } catch (const CLI::ParseError& error) {

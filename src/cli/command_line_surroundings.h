@@ -3,6 +3,7 @@
 #pragma once
 
 #include <optional>
+#include <random>
 #include <string>
 #include <string_view>
 
@@ -35,7 +36,7 @@ class CommandLineSurroundings : public Surroundings {
   void WriteSetting(std::string_view, std::string_view, std::string_view,
                     std::string_view) override {}
   double Now() override;
-  double Random() override { return 0; }
+  double Random() override;
   DateOrder ShortDateOrder() override { return date_order_; }
   std::string ProfileFolder() override { return {}; }
   std::string ProgramFolder() override { return {}; }
@@ -45,6 +46,7 @@ class CommandLineSurroundings : public Surroundings {
  private:
   std::optional<std::string> password_;  // UTF-8, as typed
   DateOrder date_order_;
+  std::mt19937 random_;  // seeded from the clock
   std::string refusal_;
 };
 

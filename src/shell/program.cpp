@@ -2,6 +2,7 @@
 #include "shell/program.h"
 
 #include "averages/engine/average_state.h"
+#include "roster/frmstudents.h"
 #include "shell/shell_state.h"
 #include "store/program_state.h"
 #include "store/settings.h"
@@ -11,6 +12,7 @@ namespace tallyroll {
 void ResetProgram() {
   ResetStore();
   ResetSettings();
+  ChosenStudents.clear();
   ResetAverages();
   ResetShell();
 }

@@ -209,8 +209,8 @@ TEST_F(CommandsTest, PasswordThatWasCancelledSavesNothing) {
 
 TEST_F(CommandsTest, MissingPortalSaysSoAndDoesNothingElse) {
   MakePortal = [](std::string_view) -> std::unique_ptr<Portal> { return nullptr; };
-  for (const char* entry : {"mnuMarks", "mnuSeating", "mnuStatistic", "mnuTransfer", "mnuFont",
-                            "mnuPrinterSetUp", "mnumargins"}) {
+  for (const char* entry :
+       {"mnuMarks", "mnuSeating", "mnuStatistic", "mnuFont", "mnuPrinterSetUp", "mnumargins"}) {
     window->StatusText.clear();
     window->ClickMenu(entry);
     EXPECT_EQ(window->StatusText, "This portal is not available yet.") << entry;
