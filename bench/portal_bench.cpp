@@ -81,7 +81,8 @@ void KeyInBareCell(benchmark::State& state) {
   ShowAndPaint(dialog, dialog.view);
   int n = 0;
   for (auto _ : state) {
-    dialog.Write(n++ % 20, QString::number(n % 10));
+    dialog.Write(n % 20, QString::number(n % 10));
+    ++n;
     dialog.view.viewport()->repaint();
   }
 }

@@ -77,6 +77,24 @@ int Run(const std::filesystem::path& corpus) {
   Put(corpus / "settings/letter_string", "343'99'95'90'88'85'80'78'75'70'68'65'60'55'");
   Put(corpus / "settings/average_settings", "3,1,0,1,1,2,0,0,-1.5,1e3,922337203685477.5807,");
   Put(corpus / "settings/percents", "10\r20\r.5\r\r40");
+  Put(corpus / "text_import/columns",
+      "\x06"
+      "1001         Ng, Ada\r\n1002         Le, Bo\r\n");
+  Put(corpus / "text_import/single",
+      "\x01"
+      "1'Ng, Ada'12 Main St\n1'Le, Bo'85");
+  Put(corpus / "text_import/double", "\x02\"1\",\"Ng, Ada\"\n\"2\",\"Le, Bo\",\"85\"\n");
+  Put(corpus / "text_import/tabs",
+      "\x03"
+      "ID\tNAME\tRivers\n\t\tRIV\n1\tNg, Ada\t91\n");
+  Put(corpus / "text_import/comma",
+      "\x04"
+      "1,Ng Ada,91\r2,Le Bo,A-\r");
+  Put(corpus / "text_import/csv",
+      "\x05\xEF\xBB\xBFID;Name;Town\r\n1;\"Ng, \"\"Ada\"\"\";K\xC3\xB6ln\r\n2;\xC5\x81u Ka;\n");
+  Put(corpus / "student_clipboard/student",
+      "3z\rNg\rAda\r7\r=\r555\r=\r=\r=\rOslo\r=\r=\r=\rone\r\ntwo<END FIELD>\r1\r1\r1\r95\rT\r"
+      "3    \r12\r 1/ 2/ 0/ 0/\r");
   Put(corpus / "settings/recent", "1. C:\\CLASSES\\MATH.TYR");
   return 0;
 }

@@ -2,8 +2,8 @@
 #include "averages/clipboard_column.h"
 
 #include "base/line_reader.h"
-#include "grades/grade_clipboard.h"
 #include "platform/surroundings.h"
+#include "store/clipboard_boxes.h"
 
 namespace tallyroll {
 

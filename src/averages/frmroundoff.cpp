@@ -300,9 +300,10 @@ void frmroundoff::writeclip_Click() {
 
 // Under Skip Rounding the minimums are the letter values, and take no paste as they take no key.
 void frmroundoff::readclip_Click() {
-  if (Current().RoundMode != 0)
-    return static_cast<void>(
-        ShowMessage("Click on Enable Rounding before you paste Min. Values from the clipboard."));
+  if (Current().RoundMode != 0) {
+    ShowMessage("Click on Enable Rounding before you paste Min. Values from the clipboard.");
+    return;
+  }
   if (!MayLoseChange()) return;
   std::vector<std::string> lines;
   if (!PasteLines(kFormat, lines)) return;

@@ -101,6 +101,20 @@ std::optional<std::string> CodePageFromUtf8(std::string_view utf8) {
   return text;
 }
 
+std::optional<CodePageText> CodePageTextFromUtf8(std::string_view utf8) {
+  CodePageText result;
+  result.text.reserve(utf8.size());
+  while (!utf8.empty()) {
+    const std::optional<Decoded> decoded = FirstCharacter(utf8);
+    if (!decoded) return std::nullopt;
+    const auto byte = CodePageOf(decoded->character);
+    if (!byte) result.lacking.push_back({result.text.size(), decoded->character});
+    result.text.push_back(byte ? static_cast<char>(*byte) : '?');
+    utf8.remove_prefix(decoded->length);
+  }
+  return result;
+}
+
 std::string PathForDisplay(std::string_view path) {
   std::string text;
   text.reserve(path.size());

@@ -6,6 +6,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace tallyroll {
 
@@ -18,6 +19,18 @@ std::optional<unsigned char> CodePageOf(char32_t character);
 std::string Utf8FromCodePage(std::string_view text);
 // Nothing when the text is no valid UTF-8 or has a character that the code page lacks.
 std::optional<std::string> CodePageFromUtf8(std::string_view utf8);
+
+// The same for a text that may hold more than the code page: a "?" stands in the place of each
+// character that is lacking, and what it was is told with it. Nothing when it is no valid UTF-8.
+struct CodePageText {
+  struct Lacking {
+    std::size_t offset;  // of its "?" in the text
+    char32_t character;
+  };
+  std::string text;
+  std::vector<Lacking> lacking;  // in the order of the text
+};
+std::optional<CodePageText> CodePageTextFromUtf8(std::string_view utf8);
 
 // A file's path (bytes of the file system, UTF-8) as text for a message or a caption.
 // A character that the code page lacks stands as "_": a path shown is never a path opened.

@@ -52,7 +52,8 @@ class Currency {
   // The exact product, rounded to four decimals, a tie going to the even digit.
   friend Currency operator*(Currency a, Currency b);
 
-  friend constexpr auto operator<=>(Currency, Currency) = default;
+  // The check takes the 0 that the compiler compares with for a null pointer.
+  friend constexpr auto operator<=>(Currency, Currency) = default;  // NOLINT(modernize-use-nullptr)
 
  private:
   static constexpr std::int64_t kScale = 10000;

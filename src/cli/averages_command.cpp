@@ -10,6 +10,7 @@
 #include "cli/commands.h"
 #include "cli/json_text.h"
 #include "cli/table_text.h"
+#include "store/csv.h"
 
 namespace tallyroll {
 namespace {
@@ -51,27 +52,18 @@ std::string TableText(std::string& text) {
   heading.emplace_back("AVERAGE");
   heading.emplace_back("GRADE");
   Table table = {heading};
-  const std::string reason =
-      ForEachOutcome([&](int i, const Student&, const StudentAverage& outcome) {
-        std::vector<std::string> row = NameCells(Current(), i);
-        if (HasPoints()) row.push_back(PointsText(outcome.points));
-        row.push_back(PlainNumberText(outcome.exact));
-        row.push_back(outcome.grade.Text());
-        table.push_back(std::move(row));
-      });
+  std::string reason = ForEachOutcome([&](int i, const Student&, const StudentAverage& outcome) {
+    std::vector<std::string> row = NameCells(Current(), i);
+    if (HasPoints()) row.push_back(PointsText(outcome.points));
+    row.push_back(PlainNumberText(outcome.exact));
+    row.push_back(outcome.grade.Text());
+    table.push_back(std::move(row));
+  });
   text = Utf8FromCodePage(ClassHeading(Current()) + AlignedText(table));
   return reason;
 }
 
 // ---- As comma-separated values ----
-
-// Quoted where a comma, a quote or a line end stands in the text.
-std::string CsvField(std::string_view text) {
-  if (text.find_first_of(",\"\r\n") == std::string_view::npos) return std::string(text);
-  std::string quoted = "\"";
-  for (const char c : text) quoted.append(c == '"' ? 2 : 1, c);
-  return quoted + "\"";
-}
 
 std::string CsvText(std::string& text) {
   text = "id,lastname,firstname,ComputedAverage,ExactAverage,FinalGrade,Marks0,earned,possible\n";
@@ -136,7 +128,7 @@ void AddJsonObject(const Student& student, const StudentAverage& outcome, std::s
 
 std::string ArrayText(std::string& text) {
   text = "[";
-  const std::string reason =
+  std::string reason =
       ForEachOutcome([&](int i, const Student& student, const StudentAverage& outcome) {
         text += i == 1 ? "\n" : ",\n";
         AddJsonObject(student, outcome, text);

@@ -68,6 +68,8 @@ int RunCommandLine(int argc, const char* const* argv, std::istream& in, std::ost
   AddShowCommand(app, chosen);
   AddAveragesCommand(app, chosen);
   AddReportCommand(app, chosen);
+  AddImportCommand(app, chosen);
+  AddExportCommand(app, chosen);
   try {
     app.parse(argc, argv);
   } catch (const CLI::ParseError& error) {

@@ -21,7 +21,9 @@ std::unique_ptr<Portal> MakePasswordPortal(std::string_view name) {
 
 CommandLineSurroundings::CommandLineSurroundings(std::optional<std::string> password,
                                                  DateOrder date_order)
-    : password_(std::move(password)), date_order_(date_order) {
+    : password_(std::move(password)),
+      date_order_(date_order),
+      random_(static_cast<std::mt19937::result_type>(std::time(nullptr))) {
   SetPlatform(this);
   MakePortal = MakePasswordPortal;
 }
@@ -58,6 +60,10 @@ void CommandLineSurroundings::ShowModal(Portal& portal) {
     if (!portal.Unloaded()) refusal_ = "has another password";
   }
   portal.Unload();
+}
+
+double CommandLineSurroundings::Random() {
+  return static_cast<double>(random_()) / (static_cast<double>(std::mt19937::max()) + 1);
 }
 
 double CommandLineSurroundings::Now() {

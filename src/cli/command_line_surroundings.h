@@ -3,6 +3,7 @@
 #pragma once
 
 #include <optional>
+#include <random>
 #include <string>
 #include <string_view>
 
@@ -37,7 +38,7 @@ class CommandLineSurroundings : public Surroundings {
                     std::string_view) override {}
   double Now() override;
   std::optional<double> today;  // instead of the clock's day
-  double Random() override { return 0; }
+  double Random() override;
   DateOrder ShortDateOrder() override { return date_order_; }
   std::string ProfileFolder() override { return {}; }
   std::string ProgramFolder() override { return {}; }
@@ -50,6 +51,7 @@ class CommandLineSurroundings : public Surroundings {
  private:
   std::optional<std::string> password_;  // UTF-8, as typed
   DateOrder date_order_;
+  std::mt19937 random_;  // seeded from the clock
   std::string refusal_;
 };
 

@@ -10,7 +10,7 @@ namespace {
 
 // A grid of few columns is never narrower than they are: the last one is often the one that takes
 // keys. In average characters.
-constexpr int kWholeUpTo = 75;
+constexpr int kWholeUpTo = 90;
 
 class GridBinding : public Binding<Grid, GridWidget> {
  public:

@@ -16,6 +16,7 @@ constexpr std::array kContexts = {
     130,  // backups and files of older versions
     140,  // recent classes, several classes at a time
     150,  // starting the program: frmstartup
+    160,  // text files: frmtxt
     200,  // the class window: Form1
     210,  // all keys
     220,  // sorting by name or by ID
@@ -24,6 +25,8 @@ constexpr std::array kContexts = {
     250,  // adding students: frmAdd
     260,  // editing students: frmEdit
     270,  // passwords: frmpassword
+    280,  // deleting students: frmdelete
+    290,  // choosing students: frmstudents
     300,  // entering grades: frmMarks
     310,  // editing a grade: frmEmarks
     320,  // editing the grades of a student: frmEMarksS

@@ -4,6 +4,7 @@
 #include <cmath>
 #include <initializer_list>
 
+#include "base/number_text.h"
 #include "base/text.h"
 #include "grades/grade_types.h"
 #include "grades/marks.h"
@@ -12,6 +13,8 @@
 #include "platform/class_window.h"
 #include "platform/surroundings.h"
 #include "store/class_defaults.h"
+#include "store/class_format.h"
+#include "store/clipboard_boxes.h"
 #include "store/program_state.h"
 
 namespace tallyroll {
@@ -19,10 +22,6 @@ namespace {
 
 constexpr std::string_view kUsualScore = "100";
 constexpr std::string_view kUsualPass = "65";
-
-void TellUnreadable() {
-  ShowMessage("Can not read from Clipboard.");
-}
 
 }  // namespace
 
@@ -78,7 +77,32 @@ void frmMarks::Declare(ControlTable& table) {
 }
 
 void frmMarks::Load() {
+  if (OpenState == kGradesById || OpenState == kGradesByName) {
+    imported_ = ReadGradeImport(OpenState);
+    next_import_ = imported_.columns.begin();
+    TellImport();
+  }
   StartOver();
+}
+
+// The status bar tells what of the file found its place, for a line without one is passed over.
+void frmMarks::TellImport() {
+  if (imported_.columns.empty()) return;
+  std::string told = "Students found in the file: " + PlainNumberText(imported_.matched);
+  if (imported_.skipped > 0)
+    told += "; lines that match no student: " + PlainNumberText(imported_.skipped);
+  ClassWindow().ShowStatus(told + ".");
+}
+
+// Grade after grade, as they stand side by side in the file.
+void frmMarks::FillFromFile() {
+  if (next_import_ == imported_.columns.end()) return;
+  const GradeColumn& column = *next_import_++;
+  title.Text = Left(column.title, kLongestText);
+  code.Text = Left(column.code, static_cast<std::size_t>(code.MaxLength));
+  for (int i = 1; i < Grid1.Rows(); ++i)
+    SetMarkCell(i, Left(UpperCase(column.marks[static_cast<std::size_t>(i)]), kLongestMark));
+  DataEntered = true;
 }
 
 void frmMarks::StartOver() {
@@ -96,6 +120,7 @@ void frmMarks::StartOver() {
   testdate.Value = std::floor(Platform().Now());
   lowpass.Text = kUsualPass;
   DataEntered = false;
+  FillFromFile();
   SetFocus(title);
 }
 
@@ -244,7 +269,7 @@ void frmMarks::paste_Click() {
   if (clipboard.empty()) return;
   if (!HoldsHeader(clipboard)) return TellOtherClipboard();
   const auto header = ReadHeader(clipboard);
-  if (!header) return TellUnreadable();
+  if (!header) return TellUnreadableClipboard();
   if (!MayReplaceTitle()) return;
   for (int i = 1; i < Grid1.Rows(); ++i) SetMarkCell(i, "");
   ShowHeader(*header);
@@ -257,7 +282,7 @@ void frmMarks::pastegrade_Click() {
   const std::string clipboard = Platform().ClipboardText();
   if (!HoldsGrade(clipboard)) return TellOtherClipboard();
   const auto grade = ReadGrade(clipboard);
-  if (!grade) return TellUnreadable();
+  if (!grade) return TellUnreadableClipboard();
   ShowHeader(grade->header);
   ChooseTypeOf(grade->header.type);
   for (int i = 1; i < Grid1.Rows(); ++i) SetMarkCell(i, kNewMark);

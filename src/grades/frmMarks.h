@@ -1,11 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // frmMarks: the Enter Grades Portal. It adds a grade to the class with a mark for every student.
+// Opened with kGradesById or kGradesByName it takes them from ImportFile.
 #pragma once
 
 #include <string_view>
 
 #include "grades/grade_clipboard.h"
 #include "grades/grade_form.h"
+#include "store/grade_file.h"
 
 namespace tallyroll {
 
@@ -44,6 +46,8 @@ struct frmMarks : GradeForm {
 
  private:
   void StartOver();
+  void TellImport();
+  void FillFromFile();
   void OpenFill(bool open);
   std::string_view FillMark() const;
   bool NothingEntered() const;
@@ -54,6 +58,8 @@ struct frmMarks : GradeForm {
   void GoToMarks();
 
   bool grade_waits_ = false;  // the clipboard held a grade when the Portal began
+  GradeFile imported_;  // of a text file; empty when the Portal was opened to type
+  std::vector<GradeColumn>::const_iterator next_import_ = imported_.columns.begin();
 };
 
 }  // namespace tallyroll

@@ -7,7 +7,6 @@
 #include "base/number_text.h"
 #include "base/text.h"
 #include "grades/marks.h"
-#include "platform/surroundings.h"
 #include "store/class_format.h"
 #include "store/program_state.h"
 
@@ -51,13 +50,6 @@ bool HoldsHeader(std::string_view clipboard) {
 
 bool HoldsGrade(std::string_view clipboard) {
   return clipboard.starts_with(kGradeMark);
-}
-
-void TellOtherClipboard() {
-  ShowMessage(
-      "There are no appropriate fields to be found on the clipboard. The data on the clipboard may "
-      "not be the right type for inserting in the current module.  You need to go back to a "
-      "compatible module, then copy the information to the clipboard and try again.");
 }
 
 std::string HeaderOnClipboard(const GradeHeaderText& header) {

@@ -26,8 +26,6 @@ struct GradeText {
 
 bool HoldsHeader(std::string_view clipboard);
 bool HoldsGrade(std::string_view clipboard);
-// Tells the teacher that the clipboard holds something else than what the Portal can take.
-void TellOtherClipboard();
 
 std::string HeaderOnClipboard(const GradeHeaderText& header);
 // Grade i of the current class with the marks of all students.

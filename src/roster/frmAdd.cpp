@@ -1,9 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "roster/frmAdd.h"
 
-#include "platform/class_window.h"
+#include "base/text.h"
 #include "platform/surroundings.h"
 #include "store/class_defaults.h"
+#include "store/clipboard_boxes.h"
 #include "store/program_state.h"
 #include "store/sort_students.h"
 
@@ -40,6 +41,7 @@ bool frmAdd::RecordExists() const {
 
 void frmAdd::GoTo(int position) {
   Position = static_cast<i16>(position);
+  from_clipboard_.reset();
   if (RecordExists()) return ShowStudent();
   ClearFields();
   TabStrip1.Selected = 0;
@@ -55,6 +57,10 @@ void frmAdd::NewStudentRecord() {
   ReDim(student.SeatColumn, 1);
   ReDim(student.DailyMarks, c.NumDays);
   AddStudentDefaults();
+  // Another ID may have been typed since, but another student is not the clipboard's.
+  if (from_clipboard_ && Trim(lastname.Text) == Trim(from_clipboard_->fields.lastname))
+    TakeLists(*from_clipboard_, student);
+  from_clipboard_.reset();
   begun_ = true;
 }
 
@@ -80,8 +86,23 @@ void frmAdd::PREVIOUS_Click() {
   GoTo(Position > 1 ? Position - 1 : Position);
 }
 
+// The text is looked at first, so that one which cannot be taken changes nothing.
 void frmAdd::addclip_Click() {
-  ClassWindow().ShowStatus(kPortalNotAvailable);
+  const std::string clipboard = Platform().ClipboardText();
+  if (!clipboard.empty() && clipboard == ClipRead)
+    return void(ShowMessage("You have already read this information into the class."));
+  if (!HoldsStudent(clipboard)) return TellOtherClipboard();
+  const std::optional<StudentText> text = ReadStudent(clipboard);
+  if (!text) return TellUnreadableClipboard();
+  if (!(AllBlank() && !RecordExists())) {
+    if (!KeepStudent()) return;
+    GoTo(Current().NumStudents + 1);
+  }
+  ShowFields(text->fields);
+  from_clipboard_ = *text;
+  if (!CheckUniqueId()) return;
+  NewStudentRecord();
+  ClipRead = clipboard;
 }
 
 void frmAdd::Exitt_Click() {

@@ -2,6 +2,10 @@
 // frmAdd: the Add Student Portal. It adds students to the class one after another.
 #pragma once
 
+#include <optional>
+#include <string>
+
+#include "roster/student_clipboard.h"
 #include "roster/student_form.h"
 
 namespace tallyroll {
@@ -15,6 +19,8 @@ struct frmAdd : StudentForm {
   void QueryUnload() override { cancel_Click(); }
 
   CommandButton PREVIOUS, nextt, addclip, Exitt, cancel;
+
+  std::string ClipRead;  // the clipboard's text that was read last
 
   // Position has its record in the class.
   bool RecordExists() const;
@@ -33,6 +39,8 @@ struct frmAdd : StudentForm {
   void WithdrawBegun();
 
   bool begun_ = false;  // the record at Position was made and not yet stored
+  // The student on the form came from the clipboard, and the lists wait for the record.
+  std::optional<StudentText> from_clipboard_;
 };
 
 }  // namespace tallyroll

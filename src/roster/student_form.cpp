@@ -166,6 +166,13 @@ void StudentForm::ShowStudent() {
   FieldsAreFresh();
 }
 
+void StudentForm::ShowFields(const Student& student) {
+  ForEachBox([&](const Edits& e) { (this->*e.box).Text = Trim(student.*e.field); });
+  FieldsAreFresh();
+  Dirty = 1;
+  IdChanged = kTrue;
+}
+
 void StudentForm::ClearFields() {
   ForEachBox([this](const Edits& e) { (this->*e.box).Text.clear(); });
   FieldsAreFresh();

@@ -37,6 +37,8 @@ struct StudentForm : Portal {
   void DeclareOtherPages(ControlTable& table);
 
   void ShowStudent();  // the record at Position
+  // Somebody's fields as if they had been typed.
+  void ShowFields(const Student& student);
   void ClearFields();
   void EnableFields(bool on);
   bool RequiredBlank() const;  // all three of them

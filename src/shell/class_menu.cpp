@@ -9,6 +9,8 @@
 #include "shell/shell_state.h"
 #include "store/frmpassword.h"
 #include "store/settings.h"
+#include "store/grade_file.h"
+#include "store/text_export.h"
 
 namespace tallyroll {
 namespace {
@@ -66,24 +68,24 @@ constexpr ClassMenuRow kRows[] = {
      .portal = "frmclassinfo"},
     {.level = 1},
     {.level = 1, .name = "mnuTransfer", .caption = "&Transfer File ( Name/ID/Supp Info) to New Class",
-     .status = "Start a new class with the students of this one", .action = NotYet},
+     .status = "Start a new class with the students of this one", .action = [](Form1& window) { window.mnuTransfer_Click(); }},
     {.level = 1, .name = "mnuText", .caption = "Text Fi&les"},
     {.level = 2, .name = "mnuImport", .caption = "&Import"},
     {.level = 3, .name = "mnuimportnames", .caption = "Import Names, ID's and Supp Info", .status = "Add students from a text file",
-     .portal = "frmtxt", .open_state = 501},
+     .portal = "frmtxt", .action = [](Form1& window) { window.ImportText(); }},
     {.level = 3, .name = "mnugradesid", .caption = "Import Testing Instruments  by  ID", .status = "Add grades from a text file, found by ID",
-     .portal = "frmtxt", .open_state = 511},
+     .portal = "frmtxt", .action = [](Form1& window) { window.ImportGrades(kGradesById); }},
     {.level = 3, .name = "mnugradesname", .caption = "Import Testing Instruments by Name", .status = "Add grades from a text file, found by name",
-     .portal = "frmtxt", .open_state = 521},
+     .portal = "frmtxt", .action = [](Form1& window) { window.ImportGrades(kGradesByName); }},
     {.level = 2, .name = "mnuExport", .caption = "&Export"},
     {.level = 3, .name = "mnuNametext", .caption = "Names and ID's", .status = "Write names and IDs to a text file",
-     .portal = "frmtxt", .open_state = 451},
+     .portal = "frmtxt", .action = [](Form1& window) { window.ExportStudents(kExportNames); }},
     {.level = 3, .name = "mnuBio", .caption = "Names, ID's plus Supp. Info.", .status = "Write the students' information to a text file",
-     .portal = "frmtxt", .open_state = 441},
+     .portal = "frmtxt", .action = [](Form1& window) { window.ExportStudents(kExportInfo); }},
     {.level = 3, .name = "mnutestingInst", .caption = "Names, ID's plus Testing Instruments with Headers",
-     .status = "Write all grades and their titles to a text file", .portal = "frmtxt", .open_state = 541},
+     .status = "Write all grades and their titles to a text file", .portal = "frmtxt", .action = [](Form1& window) { window.ExportStudents(kExportGrades); }},
     {.level = 3, .name = "mnutestingInstwithout", .caption = "Names, ID's plus Testing Instruments without Headers",
-     .status = "Write all grades to a text file", .portal = "frmtxt", .open_state = 561},
+     .status = "Write all grades to a text file", .portal = "frmtxt", .action = [](Form1& window) { window.ExportStudents(kExportGradesPlain); }},
     {.level = 1},
     {.level = 1, .name = "mnuFont", .caption = "Printer &Font", .status = "Choose the font of printed pages",
      .action = [](Form1&) { Platform().FontDialog(PrinterFontName, PrinterFontSize); }},

@@ -68,6 +68,12 @@ void Form1::Load() {
     case 501:
       ImportText();
       break;
+    case kStartFromText:
+      StartFromText();
+      break;
+    case kTransferRoster:
+      TransferRoster();
+      break;
     default:
       break;
   }
@@ -146,10 +152,6 @@ void Form1::mnuStatistic_Click() {
   CurrentStudent = 0;
   RunPortal("frmstatistic", 0, AfterPortal::kNothing);
   if (CurrentStudent > 0) RunPortal("frmgraph", 0, AfterPortal::kNothing);
-}
-
-void Form1::ImportText() {
-  RunPortal("frmtxt", 501, AfterPortal::kNothing);
 }
 
 }  // namespace tallyroll

@@ -31,6 +31,10 @@ enum class AfterPortal {
   kSaveIfDone,  // the class is saved at once, if the Portal answered that it did its work
 };
 
+// PendingAction: a new class of the students of ImportFile, or of the class in work.
+inline constexpr int kStartFromText = 36;
+inline constexpr int kTransferRoster = 37;
+
 class Form1 {
  public:
   Form1();
@@ -76,13 +80,16 @@ class Form1 {
   void mnuAverage_Click();  // the Portal of the current method
   void mnuStatistic_Click();
   void SetNameMode(i16 mode);
+  void ImportText();              // students from a text file, into this class or a new one
+  void ImportGrades(int by);      // kGradesById or kGradesByName
+  void ExportStudents(int what);  // kExportNames and the like
+  void mnuTransfer_Click();       // a new class with these students
   void ShowStatus(std::string_view text);  // a message, which stands until the next command
 
  private:
   int Slot() const;  // from Tag
   void TakeUpClass();
   void ShowHint(std::string_view text);  // what the pointer is over, unless a message stands
-  void ImportText();
   void CheckNameMode();
 
   // Opening.
@@ -93,6 +100,11 @@ class Form1 {
   void OpenNewClass(int pending_action);
   void ReadInto(std::string_view path);
   void ShowOpenedClass();
+  void AppendStudents();  // of ImportFile
+  void StartFromText();
+  void TransferRoster();
+  void SetNewClassDefaults();
+  void ShowNewClass();
 
   // Saving.
   bool Save();  // WriteClassFile; false when it failed

@@ -29,7 +29,7 @@ class MDIForm1 {
   void ClickMenu(std::string_view name);
 
   // The frame's commands, also reached from a class window.
-  void NewClass(int pending_action);  // 10 by frmAdd, 15 by the wizard
+  void NewClass(int pending_action);  // 10 by frmAdd, 15 by the wizard, or as form1.h has it
   void mnuOpen_Click();
   void mnuLoadText_Click();  // a new class from a text file
   void OpenRecent(

@@ -24,10 +24,13 @@
 #include "printing/printmsg.h"
 #include "roster/frmAdd.h"
 #include "roster/frmEdit.h"
+#include "roster/frmdelete.h"
+#include "roster/frmstudents.h"
 #include "shell/frmWizard.h"
 #include "shell/frmclassinfo.h"
 #include "shell/frmstartup.h"
 #include "store/frmpassword.h"
+#include "store/frmtxt.h"
 
 namespace tallyroll {
 namespace {
@@ -49,7 +52,8 @@ constexpr std::array kPortals{
     PortalRow{"frmAdd", Make<frmAdd>},
     PortalRow{"frmEdit", Make<frmEdit>},
     PortalRow{"frmstartup", Make<frmstartup>},
-    PortalRow{"frmdelete"},
+    PortalRow{"frmdelete", Make<frmdelete>},
+    PortalRow{"frmstudents", Make<frmstudents>},
     PortalRow{"frmMarks", Make<frmMarks>},
     PortalRow{"frmAtt"},
     PortalRow{"frmAtsum"},
@@ -81,7 +85,7 @@ constexpr std::array kPortals{
     PortalRow{"frmgraph"},
     PortalRow{"frmwrdproc"},
     PortalRow{"frmseating"},
-    PortalRow{"frmtxt"},
+    PortalRow{"frmtxt", Make<frmtxt>},
 };
 
 std::vector<std::string_view> NamesOf(bool built) {

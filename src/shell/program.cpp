@@ -3,6 +3,7 @@
 
 #include "averages/engine/average_state.h"
 #include "printing/print_job.h"
+#include "roster/frmstudents.h"
 #include "shell/shell_state.h"
 #include "store/program_state.h"
 #include "store/settings.h"
@@ -12,6 +13,7 @@ namespace tallyroll {
 void ResetProgram() {
   ResetStore();
   ResetSettings();
+  ChosenStudents.clear();
   ResetAverages();
   ResetPrinting();
   ResetShell();

@@ -2,7 +2,9 @@
 #include "store/program_state.h"
 
 #include "store/class_file.h"
+#include "store/csv_columns.h"
 #include "store/settings.h"
+#include "store/text_layout.h"
 
 namespace tallyroll {
 
@@ -17,6 +19,8 @@ i16 NameMode = 68;
 std::string DataFolder;
 std::string ProgramFolder;
 std::string LastFolder;
+i16 TextMode = kColumnsText;
+std::string ImportFile;
 
 Class& Current() {
   return Classes[static_cast<std::size_t>(CurrentClass)];
@@ -35,6 +39,9 @@ void ResetStore() {
   DataFolder.clear();
   ProgramFolder.clear();
   LastFolder.clear();
+  TextMode = kColumnsText;
+  ImportFile.clear();
+  ImportColumns = CsvColumns();
   ResetSettings();
 }
 

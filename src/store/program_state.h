@@ -26,6 +26,8 @@ extern i16
 extern std::string DataFolder;     // the folder of class files; set by the settings
 extern std::string ProgramFolder;  // the program's own folder; set at start-up
 extern std::string LastFolder;     // where the last file dialog ended
+extern i16 TextMode;               // how a text file parts its fields; set by frmtxt
+extern std::string ImportFile;     // the text file that is read; set by the file dialog
 
 // The class in work.
 Class& Current();

@@ -99,7 +99,8 @@ TEST(HelpPages, TellWhatTheProgramDoes) {
       {140, "opened or saved under a new name last"},
       {200, "or only one of them"},
       {210, "most ask first if something was entered"},
-      {250, "It is not available yet"},
+      {160, "what is longer than its column is cut"},
+      {250, "If the ID is taken here, give another one"},
       {250, "most western European languages"},
       {260, "it asks first if you have changed something"},
   };

@@ -466,20 +466,5 @@ TEST_F(FrmAddTest, AnotherFieldEditedLeavesNamesAndIdByteForByte) {
   EXPECT_EQ(ada.phone, "555");
 }
 
-struct WatchedStatus : ClassWindowCalls {
-  void ShowStatus(std::string_view text) override { status = text; }
-  std::string status;
-};
-
-TEST_F(FrmAddTest, TheClipboardButtonSaysThatItIsNotAvailable) {
-  WatchedStatus window;
-  SetClassWindow(&window);
-  Open(portal);
-  driver->Press("addclip");
-  EXPECT_EQ(window.status, "This portal is not available yet.");
-  EXPECT_EQ(Current().NumStudents, 0);
-  SetClassWindow(nullptr);
-}
-
 }  // namespace
 }  // namespace tallyroll

@@ -176,12 +176,6 @@ TEST_F(OpenClassTest, OpenEnablesWhatTheClassHolds) {
   EXPECT_TRUE(window.menu.Find("mnunamefirst")->checked);
 }
 
-TEST_F(OpenClassTest, TextImportIsNotThereYet) {
-  Frame->ClickMenu("mnuLoadText");
-  EXPECT_EQ(Frame->StatusText, "This portal is not available yet.");
-  EXPECT_EQ(WindowCount(), 0);
-}
-
 TEST_F(OpenClassTest, NewClassThatIsGivenUpLeavesNothing) {
   Open("A.TYR");
   screen.ExpectPortal("frmAdd", [](PortalDriver& portal) { portal.Press("Exitt"); });

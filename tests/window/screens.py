@@ -88,6 +88,25 @@ def averages(this):
     program.stop()
 
 
+def text_file(this, program):
+    """The columns of a spreadsheet's file."""
+    roster = this.path("roster.csv")
+    with open(roster, "w", encoding="utf-8") as file:
+        file.write("Student ID,Surname,First name,Town,Guardian,Bus\n")
+        for line in ("9001,Okafor,Chidi,Riverside,Ada Okafor,12", "9002,Larsen,Freja,Riverside,Jens Larsen,4",
+                     "9003,Muñoz,Inés,Lakewood,Rosa Muñoz,12", "9004,Novak,Jan,Lakewood,Eva Novak,7"):
+            file.write(line + "\n")
+    program.keys("alt+f", "l", "i", "Return")
+    program.window("Text File Portal")
+    program.keys("Return", "Down", "Down", "Down", "Down", "Down", "Return")
+    program.choose_file("Open", roster)
+    program.window("Text File Portal")
+    program.await_label("Students: 4")
+    take(program, "frmtxt")
+    program.keys("Escape")
+    program.gone("Text File Portal")
+
+
 def marks(program):
     title = "Enter  Grades  Portal"
     program.keys("ctrl+g")
@@ -107,6 +126,8 @@ def portals(this):
     portal(program, ["ctrl+e"], "Edit Portal", "frmEdit", ["Down"])
     marks(program)
     portal(program, ["alt+f", "i"], "Class Information Portal", "frmclassinfo")
+    portal(program, ["alt+s", "d"], "Delete Portal", "frmdelete", ["Home", "Down"])
+    text_file(this, program)
     program.keys("F1")
     program.window("Tallyroll Help")
     take(program, "help")

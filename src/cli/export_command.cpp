@@ -1,0 +1,66 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include <CLI/CLI.hpp>
+#include <memory>
+
+#include "base/number_text.h"
+#include "cli/class_in_file.h"
+#include "cli/commands.h"
+#include "cli/text_layouts.h"
+#include "store/program_state.h"
+#include "store/safe_file.h"
+#include "store/text_export.h"
+
+namespace tallyroll {
+namespace {
+
+const std::map<std::string, int> kWhats = {{"names", kExportNames},
+                                           {"info", kExportInfo},
+                                           {"grades", kExportGrades},
+                                           {"grades-plain", kExportGradesPlain}};
+
+struct ExportOptions {
+  std::string file;
+  std::string out;
+  std::string what;
+  std::string layout;
+  i16 name_mode = 68;
+  OpenOptions opening;
+};
+
+CommandResult Export(const ExportOptions& options) {
+  if (IsSameFile(options.file, options.out))
+    return Refused(options.out, "is the class file itself, which is left as it is");
+  NameMode = options.name_mode;
+  const std::string reason = OpenClassFile(options.file, options.opening);
+  if (!reason.empty()) return Refused(options.file, reason);
+  const TextOfClass text =
+      ExportText(Current(), kWhats.at(options.what), kTextLayouts.at(options.layout));
+  if (const int error = ReplaceFile(options.out, text.bytes, OldTail::kDrop))
+    return Refused(options.out, FileErrorText(error));
+  if (text.changed == 0) return Done();
+  return Done("values changed to fit the layout: " + PlainNumberText(text.changed) + "\n");
+}
+
+}  // namespace
+
+void AddExportCommand(CLI::App& app, ChosenCommand& chosen) {
+  CLI::App* command = app.add_subcommand("export", "Writes the students of a class to a text file");
+  const auto options = std::make_shared<ExportOptions>();
+  command->add_option("FILE", options->file, "the class file")->required();
+  command->add_option("--what", options->what, "what is written of each student")
+      ->required()
+      ->check(CLI::IsMember(NamesOf(kWhats)));
+  command->add_option("--layout", options->layout, "how the fields of a line are parted")
+      ->required()
+      ->check(CLI::IsMember(NamesOf(kTextLayouts)));
+  command->add_option("--out", options->out, "the text file to write")->required();
+  command
+      ->add_option("--name-mode", options->name_mode,
+                   "the order of the students: by name 68 or 57, by ID 82 or 73")
+      ->check(CLI::IsMember({68, 57, 82, 73}));
+  AddOpenOptions(*command, options->opening);
+  command->callback(
+      [&chosen, options] { chosen = [options](std::istream&) { return Export(*options); }; });
+}
+
+}  // namespace tallyroll

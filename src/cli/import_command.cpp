@@ -1,0 +1,74 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include <CLI/CLI.hpp>
+#include <memory>
+
+#include "base/code_page.h"
+#include "cli/class_in_file.h"
+#include "cli/command_line_surroundings.h"
+#include "cli/commands.h"
+#include "cli/date_order.h"
+#include "cli/text_layouts.h"
+#include "store/class_defaults.h"
+#include "store/program_state.h"
+#include "store/safe_file.h"
+#include "store/text_import.h"
+
+namespace tallyroll {
+namespace {
+
+struct ImportOptions {
+  std::string text;
+  std::string file;
+  std::string layout;
+  bool leave_out = false;
+};
+
+std::string LackingReason(const TextRoster& roster) {
+  std::string reason = "holds what a class file cannot hold (--leave-out leaves it empty)";
+  for (const std::string& value : roster.lacking) reason += "; " + value;
+  return Utf8FromCodePage(reason);
+}
+
+void StartClass() {
+  CurrentClass = 1;
+  ResetClassSlot();
+  Current().Magic = "ty8";
+  SetDefaultRoundScale();
+  SetDefaultLetterValues();
+}
+
+CommandResult Import(const ImportOptions& options) {
+  if (IsSameFile(options.text, options.file))
+    return Refused(options.file, "is the text file itself, which is left as it is");
+  const FileContents file = ReadWholeFile(options.text, kLargestTextFile);
+  if (file.error != 0) return Refused(options.text, FileErrorText(file.error));
+  TextRoster roster = ReadRosterText(file.bytes, kTextLayouts.at(options.layout));
+  if (!roster.refusal.empty()) return Refused(options.text, roster.refusal);
+  if (!roster.lacking.empty() && !options.leave_out)
+    return Refused(options.text, LackingReason(roster));
+
+  const CommandLineSurroundings surroundings({}, DateOrderOfOption(""));
+  StartClass();
+  if (const int error = AddStudents(roster)) return Refused(options.text, FileErrorText(error));
+  const std::string reason = WriteClassTo(options.file, Current());
+  return reason.empty() ? Done() : Refused(options.file, reason);
+}
+
+}  // namespace
+
+void AddImportCommand(CLI::App& app, ChosenCommand& chosen) {
+  CLI::App* command =
+      app.add_subcommand("import", "Makes a class of the students that a text file holds");
+  const auto options = std::make_shared<ImportOptions>();
+  command->add_option("TEXT", options->text, "the text file, one student a line")->required();
+  command->add_option("FILE", options->file, "the class file to write")->required();
+  command->add_option("--layout", options->layout, "how the fields of a line are parted")
+      ->required()
+      ->check(CLI::IsMember(NamesOf(kTextLayouts)));
+  command->add_flag("--leave-out", options->leave_out,
+                    "leave a value empty that a class file cannot hold, and import the rest");
+  command->callback(
+      [&chosen, options] { chosen = [options](std::istream&) { return Import(*options); }; });
+}
+
+}  // namespace tallyroll

@@ -1,0 +1,37 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// Comma-separated values as spreadsheets write and read them.
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace tallyroll {
+
+struct CsvCell {
+  std::string_view raw;  // as it stands in the file, its quotes included
+  std::string text;
+};
+
+struct CsvRecord {
+  int line = 0;  // of the file, from 1, where it begins
+  std::vector<CsvCell> cells;
+};
+
+struct CsvTable {
+  std::vector<CsvRecord> records;  // those in which anything stands
+  int unclosed_line = 0;           // where a quote was opened that nothing closes; 0 is nowhere
+};
+
+// A semicolon, a comma or a tab, whichever parts the first lines most often and evenly. A first
+// line "sep=;" settles it.
+char FindSeparator(std::string_view text);
+
+// The cells keep to `text`, which must outlive them. A quoted cell may hold separators, line ends
+// and doubled quotes; blanks before its quote are passed over.
+CsvTable ParseCsv(std::string_view text);
+
+// Quoted where a separator, a quote or a line end stands in the text.
+std::string CsvField(std::string_view text, char separator = ',');
+
+}  // namespace tallyroll

@@ -1,0 +1,153 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include <nlohmann/json.hpp>
+
+#include "tests/cli/run_cli.h"
+
+namespace tallyroll {
+namespace {
+
+using Json = nlohmann::ordered_json;
+
+constexpr const char* kClass = R"({"Instruments": [{"title": "Rivers", "code": "RIV"}],
+  "Students": [
+    {"lastname": "Ng", "firstname": "Zoé", "id": "7", "city": "Köln", "Marks": ["", "A-"]},
+    {"lastname": "Abel", "firstname": "Bo", "id": "512", "Marks": ["", "91"]}]})";
+
+class TextCommandTest : public CliTest {
+ protected:
+  Json Import(const std::string& text, const std::string& layout) {
+    const CliRun run = RunCli({"import", Put("in.txt", text), Path("out.TYR"), "--layout", layout});
+    EXPECT_EQ(run.status, 0) << run.err;
+    EXPECT_EQ(run.out, "");
+    const CliRun dump = RunCli({"dump", Path("out.TYR")});
+    EXPECT_EQ(dump.status, 0) << dump.err;
+    return Json::parse(dump.out);
+  }
+  std::string Exported(const std::string& what, const std::string& layout) {
+    const CliRun run = RunCli(
+        {"export", Build(kClass), "--what", what, "--layout", layout, "--out", Path("out.txt")});
+    EXPECT_EQ(run.status, 0) << run.err;
+    EXPECT_EQ(run.out, "");
+    return Get(Path("out.txt"));
+  }
+};
+
+TEST_F(TextCommandTest, ImportMakesAClassInEachLayout) {
+  const std::pair<const char*, const char*> texts[] = {
+      {"columns", "7            Ng, Ada\r\n512          Abel, Bo\r\n"},
+      {"single", "7'Ng, Ada\n512'Abel, Bo"},
+      {"double", "\"7\",\"Ng, Ada\"\n\"512\",\"Abel, Bo\"\n"},
+      {"tabs", "7\tNg, Ada\n512\tAbel, Bo\n"},
+      {"comma", "7,Ng Ada\n512,Abel Bo\n"},
+      {"csv", "Student ID;Surname;First name\r\n7;Ng;Ada\r\n512;Abel;Bo\r\n"}};
+  for (const auto& [layout, text] : texts) {
+    const Json c = Import(text, layout);
+    EXPECT_EQ(c["NumStudents"], 2) << layout;
+    EXPECT_EQ(c["Students"][0]["lastname"], "Abel") << layout;
+    EXPECT_EQ(c["Students"][1]["firstname"], "Ada") << layout;
+    EXPECT_EQ(c["Students"][1]["id"], "7") << layout;
+    EXPECT_EQ(c["LastNameWidth"], 4) << layout;
+  }
+}
+
+TEST_F(TextCommandTest, AnImportedClassIsANewOne) {
+  const Json c = Import("7,Ng Ada\n", "comma");
+  EXPECT_EQ(c["Magic"], "ty8");
+  EXPECT_EQ(c["Reserved488"], "12");
+  EXPECT_EQ(c["RoundMode"], 2);
+  EXPECT_EQ(c["LetterValues"][1], "99");
+  EXPECT_EQ(c["RoundTable"][0][0], 99.5);
+  EXPECT_EQ(c["NumInstruments"], 0);
+  EXPECT_EQ(RunCli({"check", Path("out.TYR")}).status, 0);
+}
+
+TEST_F(TextCommandTest, ASecondStudentWithAnIdGetsAnother) {
+  const Json c = Import("7,Ng Ada\n7,Ng Bo\n7,Ng Cy\n", "comma");
+  std::set<std::string> ids;
+  for (const Json& student : c["Students"]) ids.insert(student["id"]);
+  EXPECT_EQ(ids.size(), 3u);
+  EXPECT_TRUE(ids.contains("7"));
+}
+
+TEST_F(TextCommandTest, ImportRefusesWhatIsNoText) {
+  const std::string text = Put("in.txt", std::string("a\0b", 3));
+  ExpectRefused(RunCli({"import", text, Path("out.TYR"), "--layout", "comma"}),
+                text + ": is not a text file");
+  EXPECT_FALSE(std::filesystem::exists(Path("out.TYR")));
+  ExpectRefused(RunCli({"import", Path("none"), Path("out.TYR"), "--layout", "comma"}),
+                Path("none") + ": File Error: 53 (there is no such file)");
+  ExpectRefused(RunCli({"import", text, text, "--layout", "comma"}),
+                text + ": is the text file itself, which is left as it is");
+}
+
+TEST_F(TextCommandTest, ImportListsWhatAClassFileCannotHold) {
+  const std::string text = Put("in.csv", "ID,Name\n7,Łu Ka\n8,Ng Ada\n");
+  ExpectRefused(RunCli({"import", text, Path("out.TYR"), "--layout", "csv"}),
+                text +
+                    ": holds what a class file cannot hold (--leave-out leaves it empty); "
+                    "Line 2, Full name: <U+0141>u Ka");
+  EXPECT_EQ(RunCli({"import", text, Path("out.TYR"), "--layout", "csv", "--leave-out"}).status, 0);
+  const Json c = Json::parse(RunCli({"dump", Path("out.TYR")}).out);
+  EXPECT_EQ(c["NumStudents"], 2);
+}
+
+TEST_F(TextCommandTest, TheLayoutIsNeededAndKnown) {
+  const std::string text = Put("in.txt", "7,Ng Ada\n");
+  EXPECT_EQ(RunCli({"import", text, Path("out.TYR")}).status, 2);
+  EXPECT_EQ(RunCli({"import", text, Path("out.TYR"), "--layout", "pipes"}).status, 2);
+  EXPECT_EQ(RunCli({"export", Build(kClass), "--what", "all", "--layout", "tabs", "--out",
+                    Path("out.txt")})
+                .status,
+            2);
+}
+
+TEST_F(TextCommandTest, ExportWritesEachContent) {
+  EXPECT_EQ(Exported("names", "tabs"), "512\tAbel, Bo\r\n7\tNg, Zo\xE9\r\n");
+  EXPECT_EQ(Exported("info", "comma"), "512,Abel Bo,,,,,,,,,\r\n7,Ng Zo\xE9,,K\xF6ln,,,,,,,\r\n");
+  EXPECT_EQ(Exported("grades", "double"),
+            "\"ID\",\"NAME\",\"Rivers\"\r\n\"\",\"\",\"RIV\"\r\n"
+            "\"512\",\"Abel, Bo\",\"91\"\r\n\"7\",\"Ng, Zo\xE9\",\"A-\"\r\n");
+  EXPECT_EQ(Exported("grades-plain", "single"), "512'Abel, Bo'91\r\n7'Ng, Zo\xE9'A-\r\n");
+  EXPECT_EQ(Exported("names", "columns"), "512          Abel, Bo\r\n7            Ng, Zo\xE9\r\n");
+  EXPECT_EQ(Exported("names", "csv"),
+            "\xEF\xBB\xBFID,Last name,First name\r\n512,Abel,Bo\r\n7,Ng,Zoé\r\n");
+}
+
+TEST_F(TextCommandTest, ExportByIdSortsById) {
+  RunCli({"export", Build(kClass), "--what", "names", "--layout", "comma", "--out", Path("out.txt"),
+          "--name-mode", "73"});
+  EXPECT_EQ(Get(Path("out.txt")), "512,Abel Bo\r\n7,Ng Zo\xE9\r\n");
+}
+
+TEST_F(TextCommandTest, ExportTellsWhatTheLayoutCouldNotCarry) {
+  const std::string file =
+      Build(R"({"Students": [{"lastname": "O'Hara", "firstname": "Bo", "id": "7"}]})");
+  const CliRun run =
+      RunCli({"export", file, "--what", "names", "--layout", "single", "--out", Path("out.txt")});
+  EXPECT_EQ(run.status, 0);
+  EXPECT_EQ(run.out, "values changed to fit the layout: 1\n");
+}
+
+TEST_F(TextCommandTest, ExportLeavesTheClassFileAlone) {
+  const std::string file = Build(kClass);
+  const std::string before = Get(file);
+  ExpectRefused(RunCli({"export", file, "--what", "names", "--layout", "tabs", "--out", file}),
+                file + ": is the class file itself, which is left as it is");
+  EXPECT_EQ(Get(file), before);
+  EXPECT_EQ(RunCli({"export", file, "--what", "names", "--layout", "tabs", "--out",
+                    Path("no folder/out.txt")})
+                .status,
+            1);
+}
+
+TEST_F(TextCommandTest, AnExportComesBack) {
+  for (const char* layout : {"columns", "single", "double", "tabs", "comma", "csv"}) {
+    const std::string text = Exported("info", layout);
+    const Json c = Import(text, layout);
+    EXPECT_EQ(c["Students"][1]["firstname"], "Zoé") << layout;
+    EXPECT_EQ(c["Students"][1]["city"], "Köln") << layout;
+  }
+}
+
+}  // namespace
+}  // namespace tallyroll

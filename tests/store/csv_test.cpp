@@ -1,0 +1,89 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "store/csv.h"
+
+#include <gtest/gtest.h>
+
+namespace tallyroll {
+namespace {
+
+std::vector<std::vector<std::string>> Texts(std::string_view text) {
+  std::vector<std::vector<std::string>> texts;
+  for (const CsvRecord& record : ParseCsv(text).records) {
+    texts.emplace_back();
+    for (const CsvCell& cell : record.cells) texts.back().push_back(cell.text);
+  }
+  return texts;
+}
+
+using Rows = std::vector<std::vector<std::string>>;
+
+TEST(Csv, QuotedCellsHoldSeparatorsQuotesAndLineEnds) {
+  EXPECT_EQ(Texts("a,\"b, c\",\"d \"\"e\"\"\",\"f\r\ng\"\r\nh,,i,\r\n"),
+            (Rows{{"a", "b, c", "d \"e\"", "f\r\ng"}, {"h", "", "i", ""}}));
+}
+
+TEST(Csv, TheLastRecordNeedsNoLineEnd) {
+  EXPECT_EQ(Texts("a,b\nc,d"), (Rows{{"a", "b"}, {"c", "d"}}));
+  EXPECT_EQ(Texts("a,b\nc,"), (Rows{{"a", "b"}, {"c", ""}}));
+}
+
+TEST(Csv, RecordsInWhichNothingStandsArePassedOver) {
+  EXPECT_EQ(Texts("a,b\n\n,,\n \nc,d\n,\n"), (Rows{{"a", "b"}, {"c", "d"}}));
+}
+
+TEST(Csv, AQuoteInsideAPlainCellIsAQuote) {
+  EXPECT_EQ(Texts("5\" disk,x\"y\"\n"), (Rows{{"5\" disk", "x\"y\""}}));
+}
+
+TEST(Csv, BlanksBeforeAQuoteArePassedOver) {
+  EXPECT_EQ(Texts("1, \"Ng, Ada\"\n"), (Rows{{"1", "Ng, Ada"}}));
+}
+
+TEST(Csv, WhatFollowsAClosingQuoteStays) {
+  EXPECT_EQ(Texts("\"a\"b,c\n"), (Rows{{"ab", "c"}}));
+}
+
+TEST(Csv, RecordsKnowTheirLine) {
+  const CsvTable table = ParseCsv("a\n\"b\nc\"\n\nd\r\n\"e\r\nf\"\rg");
+  ASSERT_EQ(table.records.size(), 5u);
+  EXPECT_EQ(table.records[1].line, 2);
+  EXPECT_EQ(table.records[2].line, 5);
+  EXPECT_EQ(table.records[3].line, 6);
+  EXPECT_EQ(table.records[4].line, 8);
+}
+
+TEST(Csv, AQuoteThatIsNeverClosedIsTold) {
+  EXPECT_EQ(ParseCsv("a,b\nc,\"d\ne").unclosed_line, 2);
+  EXPECT_EQ(ParseCsv("a,\"b\"").unclosed_line, 0);
+}
+
+TEST(FindSeparator, IsTheOneOfTheFirstLines) {
+  EXPECT_EQ(FindSeparator("a,b\nc,d\n"), ',');
+  EXPECT_EQ(FindSeparator("a;b\nc;d\n"), ';');
+  EXPECT_EQ(FindSeparator("a\tb\nc\td\n"), '\t');
+  EXPECT_EQ(FindSeparator("a\nb\n"), ',');
+  EXPECT_EQ(FindSeparator(""), ',');
+}
+
+TEST(FindSeparator, LooksAtEveryLineAndNotIntoQuotes) {
+  EXPECT_EQ(FindSeparator("Name;ID\nNg, Ada;1\n"), ';');
+  EXPECT_EQ(FindSeparator("1,\"a;b;c\"\n2,\"d;e;f\"\n"), ',');
+  EXPECT_EQ(FindSeparator("1,2,a;b\n1,2,c;d\n"), ',');
+}
+
+TEST(FindSeparator, ALineOfItsOwnSettlesIt) {
+  EXPECT_EQ(FindSeparator("sep=;\na,b,c\n"), ';');
+  EXPECT_EQ(Texts("sep=;\na,b;c\n"), (Rows{{"a,b", "c"}}));
+}
+
+TEST(CsvField, IsQuotedOnlyWhereItMust) {
+  EXPECT_EQ(CsvField("Ng Ada"), "Ng Ada");
+  EXPECT_EQ(CsvField("Ng, Ada"), "\"Ng, Ada\"");
+  EXPECT_EQ(CsvField("a;b"), "a;b");
+  EXPECT_EQ(CsvField("a;b", ';'), "\"a;b\"");
+  EXPECT_EQ(CsvField("a \"b\""), "\"a \"\"b\"\"\"");
+  EXPECT_EQ(CsvField("a\nb"), "\"a\nb\"");
+}
+
+}  // namespace
+}  // namespace tallyroll
