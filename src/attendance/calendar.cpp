@@ -2,7 +2,9 @@
 #include "attendance/calendar.h"
 
 #include <algorithm>
+#include <vector>
 
+#include "attendance/daily_codes.h"
 #include "base/number_text.h"
 #include "base/text.h"
 #include "platform/surroundings.h"
@@ -12,12 +14,6 @@ namespace tallyroll {
 namespace {
 
 constexpr i16 kFromDates = 2;
-
-// Indexes of AttendanceDays, both included; none when first is above last.
-struct DayRange {
-  int first = 1;
-  int last = 0;
-};
 
 // The lowest index of that date; `otherwise` when the text is no date or the date is no day.
 int IndexOfDate(const Class& c, std::string_view text, int otherwise) {
@@ -29,25 +25,84 @@ int IndexOfDate(const Class& c, std::string_view text, int otherwise) {
   return otherwise;
 }
 
+struct RangeSummary {
+  std::size_t index;
+  DayRange range;
+};
+
 // A date outside the stored range widens the summary quietly.
-DayRange RangeOf(const Class& c, const AttendanceSummary& summary) {
-  return {IndexOfDate(c, summary.startdate, 1), IndexOfDate(c, summary.enddate, c.NumDays)};
-}
-
-i16 CountOf(const Student& s, DayRange range, char code) {
-  const int last = std::min(range.last, UpperBound(s.DailyMarks));
-  i16 count = 0;
-  for (int j = range.first; j <= last; ++j) {
-    if (s.DailyMarks[static_cast<std::size_t>(j)].view().front() == code) ++count;
+std::vector<RangeSummary> RangeSummaries(const Class& c) {
+  std::vector<RangeSummary> found;
+  for (std::size_t k = 1; k <= static_cast<std::size_t>(c.NumSummaries); ++k) {
+    const AttendanceSummary& summary = c.Summaries[k];
+    if (summary.kind != kFromDates) continue;
+    found.push_back(
+        {k, {IndexOfDate(c, summary.startdate, 1), IndexOfDate(c, summary.enddate, c.NumDays)}});
   }
-  return count;
+  return found;
 }
 
-std::string DetailText(const Student& s, DayRange range) {
-  std::string text;
-  for (const char code : {'C', 'E', 'S', 'N'})
-    text += SignedNumberText(CountOf(s, range, code)) + "/";
-  return text;
+// Counts from day 1 up to each day: one pass over a student's marks serves all his summaries.
+class RunningCounts {
+ public:
+  explicit RunningCounts(int days) : up_to_(static_cast<std::size_t>(days) + 1) {}
+
+  void Take(const Student& student) {
+    CodeCounts counts;
+    for (std::size_t j = 1; j < up_to_.size(); ++j) {
+      const CodeCounts& one = kOne[PlaceOfMark(MarkOn(student, static_cast<int>(j)))];
+      for (std::size_t k = 0; k < counts.at.size(); ++k)
+        counts.at[k] = static_cast<i16>(counts.at[k] + one.at[k]);
+      up_to_[j] = counts;
+    }
+  }
+
+  CodeCounts Of(DayRange range) const {
+    CodeCounts counts;
+    if (range.last < range.first) return counts;
+    const CodeCounts& all = up_to_[static_cast<std::size_t>(range.last)];
+    const CodeCounts& before = up_to_[static_cast<std::size_t>(range.first) - 1];
+    for (std::size_t k = 0; k < counts.at.size(); ++k)
+      counts.at[k] = static_cast<i16>(all.at[k] - before.at[k]);
+    return counts;
+  }
+
+ private:
+  // What a mark adds, by its place.
+  static constexpr std::array<CodeCounts, 8> kOne = [] {
+    std::array<CodeCounts, 8> ones{};
+    for (std::size_t k = 0; k < ones.size(); ++k) ones[k].at[k] = 1;
+    return ones;
+  }();
+
+  std::vector<CodeCounts> up_to_;
+};
+
+// Each figure that can come up as text, made once: a class has many more summaries than figures.
+struct FigureTexts {
+  explicit FigureTexts(int highest) {
+    for (int n = 0; n <= highest; ++n) {
+      plain.push_back(PlainNumberText(n));
+      slashed.push_back(SignedNumberText(n) + "/");
+    }
+  }
+  const std::string& Plain(i16 n) const { return plain[static_cast<std::size_t>(n)]; }
+  const std::string& Slashed(i16 n) const { return slashed[static_cast<std::size_t>(n)]; }
+
+  std::vector<std::string> plain, slashed;
+};
+
+// A text that stays the same is not made anew.
+void Put(std::string_view text, ShortText& item) {
+  if (item != text) item = text;
+}
+
+void StoreCounts(const CodeCounts& counts, const FigureTexts& texts, std::size_t k, Student& s) {
+  s.SummaryAbsent[k] = FixedText<5>(texts.Plain(counts.Of('A')));
+  Put(texts.Plain(counts.Of('L')), s.SummaryLate[k]);
+  std::string detail;
+  for (const char code : {'C', 'E', 'S', 'N'}) detail += texts.Slashed(counts.Of(code));
+  Put(detail, s.SummaryDetail[k]);
 }
 
 }  // namespace
@@ -68,15 +123,20 @@ std::string FirstOfMonthDate(int month, int year) {
 
 void RecalculateRangeSummaries() {
   Class& c = Current();
-  for (std::size_t k = 1; k <= static_cast<std::size_t>(c.NumSummaries); ++k) {
-    if (c.Summaries[k].kind != kFromDates) continue;
-    const DayRange range = RangeOf(c, c.Summaries[k]);
-    for (std::size_t i = 1; i <= static_cast<std::size_t>(c.NumStudents); ++i) {
-      Student& s = c.Students[i];
-      s.SummaryAbsent[k] = FixedText<5>(PlainNumberText(CountOf(s, range, 'A')));
-      s.SummaryLate[k] = PlainNumberText(CountOf(s, range, 'L'));
-      s.SummaryDetail[k] = DetailText(s, range);
-    }
+  const std::vector<RangeSummary> summaries = RangeSummaries(c);
+  if (summaries.empty()) return;
+  const FigureTexts texts(c.NumDays);
+  RunningCounts counts(c.NumDays);
+  for (std::size_t i = 1; i <= static_cast<std::size_t>(c.NumStudents); ++i) {
+    Student& s = c.Students[i];
+    // A student who came from elsewhere may have fewer.
+    for (auto* list : {&s.SummaryLate, &s.SummaryDetail})
+      if (UpperBound(*list) < c.NumSummaries) ReDimPreserve(*list, c.NumSummaries);
+    if (UpperBound(s.SummaryAbsent) < c.NumSummaries)
+      ReDimPreserve(s.SummaryAbsent, c.NumSummaries);
+    counts.Take(s);
+    for (const RangeSummary& summary : summaries)
+      StoreCounts(counts.Of(summary.range), texts, summary.index, s);
   }
 }
 

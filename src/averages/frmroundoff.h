@@ -4,7 +4,7 @@
 
 #include <array>
 
-#include "grades/cell_typing.h"
+#include "platform/cell_typing.h"
 #include "platform/portal.h"
 #include "store/program_state.h"
 

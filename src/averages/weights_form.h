@@ -8,7 +8,7 @@
 #include "averages/average_settings.h"
 #include "averages/frmdropgrade.h"
 #include "averages/frmtotals.h"
-#include "grades/cell_typing.h"
+#include "platform/cell_typing.h"
 #include "platform/table_printer.h"
 #include "store/program_state.h"
 

@@ -94,6 +94,10 @@ void QtSurroundings::ShowHelp(int context) {
   if (help_hook) help_hook(context);
 }
 
+void QtSurroundings::Beep() {
+  QApplication::beep();
+}
+
 std::string QtSurroundings::ClipboardText() {
   QString text = QApplication::clipboard()->text();
   text.replace(QLatin1String("\r\n"), QLatin1String("\n"));

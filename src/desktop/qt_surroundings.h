@@ -24,6 +24,7 @@ class QtSurroundings : public Surroundings {
   void ShowBeside(Portal& portal) override;
   void HideBeside(Portal& portal) override;
   void ShowHelp(int context) override;
+  void Beep() override;
 
   std::string ClipboardText() override;
   void SetClipboardText(std::string_view text) override;

@@ -5,7 +5,7 @@
 #include <functional>
 #include <string_view>
 
-#include "grades/cell_typing.h"
+#include "platform/cell_typing.h"
 #include "platform/portal.h"
 
 namespace tallyroll {

@@ -8,6 +8,7 @@
 
 namespace tallyroll {
 
+class Grid;
 class PrintTarget;
 
 struct Control {
@@ -51,7 +52,8 @@ struct ListBox : Control {
 struct ComboBox : Control {
   std::vector<std::string> List;
   int ListIndex = -1;
-  std::string Text;  // what is typed or chosen
+  std::string Text;            // what is typed or chosen
+  const Grid* Over = nullptr;  // stands over this grid's current cell; null where the form puts it
 };
 
 // A group with a caption, switched as one.
@@ -71,7 +73,9 @@ struct TabStrip : Control {
 };
 
 struct DTPicker : Control {
-  double Value = 0;  // day serial
+  double Value = 0;    // day serial
+  double MinDate = 0;  // what can be picked, both days included
+  double MaxDate = 0;  // 0 sets no bounds
 };
 
 // An ornament, of which the form says which picture it is; or a sheet of paper, drawn anew whenever

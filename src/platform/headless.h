@@ -39,6 +39,7 @@ class HeadlessSurroundings : public Surroundings {
   Portal* PortalBeside(std::string_view name) const;
   int WindowsShown() const override { return windows_shown_; }
   void ShowHelp(int context) override { help_shown = context; }
+  void Beep() override { ++beeps; }
   std::string ClipboardText() override { return clipboard; }
   void SetClipboardText(std::string_view text) override { clipboard = text; }
   std::string ReadSetting(std::string_view application, std::string_view section,
@@ -84,6 +85,7 @@ class HeadlessSurroundings : public Surroundings {
   int printer_set_ups = 0;
   std::optional<std::pair<std::string, float>> font_answer;  // of the next font dialogs
   int help_shown = -1;
+  int beeps = 0;
   int pumped = 0;
   bool wait_cursor = false;
 

@@ -162,6 +162,10 @@ void PortalDriver::PickTab(std::string_view strip, int index) {
 void PortalDriver::PickDate(std::string_view picker, double serial) {
   DTPicker* control = As<DTPicker>(picker, "pick a date in");
   if (!control || !MoveFocus(*table_.Find(picker))) return;
+  if (control->MaxDate > 0 && (serial < control->MinDate || serial > control->MaxDate)) {
+    complaints_.push_back("pick a date in " + std::string(picker) + ": it is out of bounds");
+    return;
+  }
   control->Value = serial;
   Raise(*table_.Find(picker), {&ControlRow::change});
 }

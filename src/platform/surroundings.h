@@ -65,6 +65,7 @@ class Surroundings {
   // How many boxes, dialogs and Portals came up so far; only a script counts them.
   virtual int WindowsShown() const { return 0; }
   virtual void ShowHelp(int context) = 0;
+  virtual void Beep() {}  // a key that cannot be taken
 
   virtual std::string ClipboardText() = 0;
   virtual void SetClipboardText(std::string_view text) = 0;

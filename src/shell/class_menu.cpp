@@ -120,7 +120,7 @@ constexpr ClassMenuRow kRows[] = {
     {.level = 2, .name = "mnuAttend", .caption = "Daily &Attendance", .status = "Enter the attendance of a day",
      .shortcut = "Ctrl+D", .portal = "frmAtt", .open_state = 15},
     {.level = 2, .name = "mnuattsumm", .caption = "&Summary Attendance", .status = "Enter the attendance of a period",
-     .portal = "frmAtsum"},
+     .portal = "frmAtsum", .action = [](Form1& window) { window.mnuattsumm_Click(); }},
     {.level = 2, .name = "mnuTransfergrade", .caption = "T&ransfer Grade Between Classes", .status = "Carry a grade to another class",
      .portal = "frmdGrade", .open_state = 157, .after = kRefill},
     {.level = 1, .name = "mnuEditRecords", .caption = "E&dit Records"},

@@ -3,8 +3,10 @@
 
 #include <algorithm>
 
+#include "attendance/summary_periods.h"
 #include "base/number_text.h"
 #include "platform/portal.h"
+#include "platform/surroundings.h"
 #include "shell/class_menu.h"
 #include "shell/class_toolbar.h"
 #include "shell/shell_state.h"
@@ -146,6 +148,13 @@ void Form1::RunPortal(std::string_view portal, int open_state, AfterPortal after
 
 void Form1::mnuAverage_Click() {
   menu[AverageEntry(Current().Method)].click();
+}
+
+void Form1::mnuattsumm_Click() {
+  if (Current().NumSummaries < kMostSummaries)
+    RunPortal("frmAtsum", 0, AfterPortal::kNothing);
+  else
+    ShowMessage(kNoMoreSummaries);
 }
 
 void Form1::mnuStatistic_Click() {

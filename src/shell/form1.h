@@ -79,6 +79,7 @@ class Form1 {
   void mnusaveas_Click();
   void mnuAverage_Click();  // the Portal of the current method
   void mnuStatistic_Click();
+  void mnuattsumm_Click();
   void SetNameMode(i16 mode);
   void ImportText();              // students from a text file, into this class or a new one
   void ImportGrades(int by);      // kGradesById or kGradesByName

@@ -3,6 +3,11 @@
 
 #include <array>
 
+#include "attendance/frmAtsum.h"
+#include "attendance/frmAtt.h"
+#include "attendance/frmDatt.h"
+#include "attendance/frmEatt.h"
+#include "attendance/frmatset.h"
 #include "averages/frmgradesave.h"
 #include "averages/frminfo.h"
 #include "averages/frmoptions.h"
@@ -55,15 +60,16 @@ constexpr std::array kPortals{
     PortalRow{"frmdelete", Make<frmdelete>},
     PortalRow{"frmstudents", Make<frmstudents>},
     PortalRow{"frmMarks", Make<frmMarks>},
-    PortalRow{"frmAtt"},
-    PortalRow{"frmAtsum"},
+    PortalRow{"frmAtt", Make<frmAtt>},
+    PortalRow{"frmatset", Make<frmatset>},
+    PortalRow{"frmAtsum", Make<frmAtsum>},
     PortalRow{"frmdGrade", Make<frmdGrade>},
     PortalRow{"frmEmarks", Make<frmEmarks>},
     PortalRow{"frmEMarksS", Make<frmEMarksS>},
     PortalRow{"frmcategories", Make<frmcategories>},
     PortalRow{"frmletter", Make<frmletter>},
-    PortalRow{"frmEatt"},
-    PortalRow{"frmDatt"},
+    PortalRow{"frmEatt", Make<frmEatt>},
+    PortalRow{"frmDatt", Make<frmDatt>},
     PortalRow{"frmsingles"},
     PortalRow{"frminfo", Make<frminfo>},
     PortalRow{"FRMROLLBOOK"},

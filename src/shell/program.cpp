@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "shell/program.h"
 
+#include "attendance/term_table.h"
 #include "averages/engine/average_state.h"
 #include "printing/print_job.h"
 #include "roster/frmstudents.h"
@@ -14,6 +15,7 @@ void ResetProgram() {
   ResetStore();
   ResetSettings();
   ChosenStudents.clear();
+  ResetAttendance();
   ResetAverages();
   ResetPrinting();
   ResetShell();

@@ -2,8 +2,10 @@
 #include "shell/shell_state.h"
 
 #include "platform/class_window.h"
+#include "platform/month_printer.h"
 #include "platform/portal.h"
 #include "platform/table_printer.h"
+#include "printing/month_printout.h"
 #include "printing/weight_printout.h"
 #include "shell/current_window.h"
 #include "shell/portal_list.h"
@@ -30,6 +32,7 @@ void ResetShell() {
   SetClassWindow(&CurrentWindow());
   MakePortal = &MakePortalByName;
   PrintTable = &PrintWeights;
+  PrintMonth = &PrintAttendanceMonth;
 }
 
 }  // namespace tallyroll

@@ -41,20 +41,33 @@ TEST(CheckClassTest, EveryListOfAStudentIsHeldAgainstItsCount) {
   Class c = Plain(1);
   Student& s = c.Students[1];
   ReDim(s.Marks, 1);
-  ReDim(s.SummaryAbsent, 1);
-  ReDim(s.SummaryDetail, 1);
-  ReDim(s.SummaryLate, 1);
   ReDim(s.DailyMarks, 1);
   ReDim(s.SeatRow, 2);
   ReDim(s.SeatColumn, 2);
   EXPECT_THAT(BrokenInvariants(c),
               ElementsAre("Students[1].Marks has 1 items, NumInstruments is 0",
-                          "Students[1].SummaryAbsent has 1 items, NumSummaries is 0",
-                          "Students[1].SummaryDetail has 1 items, NumSummaries is 0",
-                          "Students[1].SummaryLate has 1 items, NumSummaries is 0",
                           "Students[1].DailyMarks has 1 items, NumDays is 0",
                           "Students[1].SeatRow has 2 items, NumCharts is 0",
                           "Students[1].SeatColumn has 2 items, NumCharts is 0"));
+}
+
+TEST(CheckClassTest, AStudentHasAPlaceForEverySummaryAndMayHaveMore) {
+  Class c = Plain(2);
+  c.NumSummaries = 1;
+  ReDim(c.Summaries, 1);
+  for (Student& s : c.Students) {
+    ReDim(s.SummaryAbsent, 2);
+    ReDim(s.SummaryDetail, 2);
+    ReDim(s.SummaryLate, 2);
+  }
+  EXPECT_THAT(BrokenInvariants(c), ElementsAre());
+  c.Students[2].SummaryAbsent.clear();
+  c.Students[2].SummaryDetail.clear();
+  c.Students[2].SummaryLate.clear();
+  EXPECT_THAT(BrokenInvariants(c),
+              ElementsAre("Students[2].SummaryAbsent has 0 items, NumSummaries is 1",
+                          "Students[2].SummaryDetail has 0 items, NumSummaries is 1",
+                          "Students[2].SummaryLate has 0 items, NumSummaries is 1"));
 }
 
 TEST(CheckClassTest, DailyMarksNeverDimensionedAreNoFault) {

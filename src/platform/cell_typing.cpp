@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "grades/cell_typing.h"
+#include "platform/cell_typing.h"
 
 #include <utility>
 
