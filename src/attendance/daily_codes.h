@@ -56,4 +56,7 @@ struct DayRange {
 
 CodeCounts CountDays(const Student& student, DayRange range);
 
+// The days of the class from one date to another, both included.
+DayRange DaysBetween(double first, double last);
+
 }  // namespace tallyroll

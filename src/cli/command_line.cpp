@@ -67,6 +67,7 @@ int RunCommandLine(int argc, const char* const* argv, std::istream& in, std::ost
   AddConvertCommand(app, chosen);
   AddShowCommand(app, chosen);
   AddAveragesCommand(app, chosen);
+  AddAttendanceCommand(app, chosen);
   AddReportCommand(app, chosen);
   AddImportCommand(app, chosen);
   AddExportCommand(app, chosen);

@@ -42,6 +42,7 @@ void AddCheckCommand(CLI::App& app, ChosenCommand& chosen);
 void AddConvertCommand(CLI::App& app, ChosenCommand& chosen);
 void AddShowCommand(CLI::App& app, ChosenCommand& chosen);
 void AddAveragesCommand(CLI::App& app, ChosenCommand& chosen);
+void AddAttendanceCommand(CLI::App& app, ChosenCommand& chosen);
 void AddReportCommand(CLI::App& app, ChosenCommand& chosen);
 void AddImportCommand(CLI::App& app, ChosenCommand& chosen);
 void AddExportCommand(CLI::App& app, ChosenCommand& chosen);

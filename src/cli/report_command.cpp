@@ -7,12 +7,12 @@
 
 #include "base/code_page.h"
 #include "base/date_serial.h"
-#include "base/number_text.h"
 #include "base/text.h"
 #include "cli/class_in_file.h"
 #include "cli/command_line_surroundings.h"
 #include "cli/commands.h"
 #include "cli/date_order.h"
+#include "cli/months_option.h"
 #include "cli/pdf.h"
 #include "grades/marks.h"
 #include "printing/html_report.h"
@@ -40,27 +40,13 @@ struct ReportOptions {
   OpenOptions opening;
 };
 
-// "YYYY-MM" as the first of the month.
-std::optional<double> FirstOfMonth(std::string_view text) {
-  if (text.size() != 7 || text[4] != '-') return std::nullopt;
-  const auto year = WholeNumberText(text.substr(0, 4)), month = WholeNumberText(text.substr(5));
-  if (!year || !month) return std::nullopt;
-  const CivilDate date{static_cast<int>(*year), static_cast<int>(*month), 1};
-  if (!IsValidDate(date)) return std::nullopt;
-  return DateSerial(date);
-}
-
 // Each of these answers why the choice is refused.
 std::string TakeMonths(const ReportOptions& options) {
-  const std::size_t dots = options.months.find("..");
-  if (dots == std::string::npos) return "--months is needed, as YYYY-MM..YYYY-MM";
-  const auto first = FirstOfMonth(options.months.substr(0, dots));
-  const auto last = FirstOfMonth(options.months.substr(dots + 2));
-  if (!first || !last) return "--months is no range of months";
-  if (*last < *first) return "The start date must be less than the ending date";
-  Choice.month_first = *first;
-  Choice.month_last = *last;
-  return {};
+  MonthRange months;
+  const std::string reason = TakeMonthsOption(options.months, months);
+  Choice.month_first = months.first;
+  Choice.month_last = months.last;
+  return reason;
 }
 
 std::string TakeStudents(const ReportOptions& options) {

@@ -1,17 +1,21 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Combo boxes, tabs, pages and date pickers.
+#include <QAbstractItemView>
 #include <QCalendarWidget>
 #include <QComboBox>
 #include <QDateEdit>
 #include <QEvent>
 #include <QLineEdit>
+#include <QScrollBar>
 #include <QSignalBlocker>
 #include <QStackedWidget>
+#include <QStyle>
 #include <QTabWidget>
 #include <cmath>
 
 #include "desktop/control_binding.h"
 #include "desktop/field_validator.h"
+#include "desktop/grid_widget.h"
 #include "desktop/text_conversion.h"
 
 namespace tallyroll {
@@ -55,6 +59,7 @@ class ComboBinding : public Binding<ComboBox, QComboBox> {
     text_ = control_.Text;
     const QString text = FromText(text_);
     if (widget_.isEditable() && widget_.currentText() != text) widget_.setEditText(text);
+    if (control_.Over) PlaceOverGrid();
   }
 
  private:
@@ -70,9 +75,41 @@ class ComboBinding : public Binding<ComboBox, QComboBox> {
     index_ = -1;
   }
 
+  GridWidget* FindGrid() {
+    for (auto* grid : widget_.window()->findChildren<GridWidget*>())
+      if (grid->grid() == control_.Over) return grid;
+    return nullptr;
+  }
+
+  // The user scrolls without a word to the Portal; the list stays with its cell.
+  void FollowGrid() {
+    grid_ = FindGrid();
+    if (!grid_) return;
+    for (QScrollBar* bar : {grid_->horizontalScrollBar(), grid_->verticalScrollBar()}) {
+      QObject::connect(bar, &QScrollBar::valueChanged, this, [this] { PlaceOverGrid(); });
+      QObject::connect(bar, &QScrollBar::rangeChanged, this, [this] { PlaceOverGrid(); });
+    }
+    QAbstractItemView& lines = *widget_.view();
+    lines.setMinimumWidth(lines.sizeHintForColumn(0) + 2 * lines.frameWidth());
+  }
+
+  // The text stands in the cell, and the arrow behind it. A cell out of sight takes the list along.
+  void PlaceOverGrid() {
+    if (!grid_) FollowGrid();
+    if (!grid_) return;
+    const QWidget& seen = *grid_->viewport();
+    QRect place = grid_->CellRect(control_.Over->Row, control_.Over->Col);
+    if (!seen.rect().intersects(place)) return widget_.move(-widget_.width(), 0);
+    place.setWidth(place.width() + widget_.style()->pixelMetric(QStyle::PM_ScrollBarExtent));
+    place.moveTopLeft(seen.mapTo(widget_.parentWidget(), place.topLeft()));
+    widget_.setGeometry(place);
+    widget_.raise();
+  }
+
   std::vector<std::string> list_;
   int index_ = -1;
   std::string text_;
+  GridWidget* grid_ = nullptr;  // of a list that stands over a grid
 };
 
 class TabBinding : public Binding<TabStrip, QTabWidget> {
@@ -138,6 +175,8 @@ class DateBinding : public Binding<DTPicker, QDateEdit> {
  protected:
   void ShowValue() override {
     const QSignalBlocker silence(widget_);
+    if (control_.MaxDate > 0)
+      widget_.setDateRange(DayOf(control_.MinDate), DayOf(control_.MaxDate));
     if (widget_.date() != DayOf(control_.Value)) widget_.setDate(DayOf(control_.Value));
   }
 

@@ -1,0 +1,192 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include <CLI/CLI.hpp>
+#include <memory>
+#include <vector>
+
+#include "attendance/consecutive.h"
+#include "attendance/daily_codes.h"
+#include "base/code_page.h"
+#include "base/date_serial.h"
+#include "base/number_text.h"
+#include "cli/class_in_file.h"
+#include "cli/commands.h"
+#include "cli/json_text.h"
+#include "cli/months_option.h"
+#include "cli/table_text.h"
+#include "store/csv.h"
+#include "store/program_state.h"
+
+namespace tallyroll {
+namespace {
+
+struct AttendanceOptions {
+  std::string file;
+  std::string months;
+  int consecutive = 0;  // 0: counts are wanted
+  bool csv = false;
+  bool json = false;
+  i16 name_mode = 68;
+  OpenOptions opening;
+};
+
+constexpr std::string_view kTotal = "T";
+
+const Student& StudentAt(int i) {
+  return Current().Students[static_cast<std::size_t>(i)];
+}
+
+std::string Iso(double day) {
+  std::string text = DateText(day, DateOrder::kYearFirst);
+  for (char& c : text) c = c == '/' ? '-' : c;
+  return text;
+}
+
+std::string CsvNames(const Student& student) {
+  return CsvField(student.id) + "," + CsvField(student.lastname) + "," +
+         CsvField(student.firstname);
+}
+
+Json JsonNames(const Student& student) {
+  return {{"id", Utf8FromCodePage(student.id)},
+          {"lastname", Utf8FromCodePage(student.lastname)},
+          {"firstname", Utf8FromCodePage(student.firstname)}};
+}
+
+std::string TableText(const Table& table) {
+  return Utf8FromCodePage(ClassHeading(Current()) + AlignedText(table));
+}
+
+// ---- Counts ----
+
+std::vector<std::string> Figures(const CodeCounts& counts) {
+  std::vector<std::string> figures;
+  for (const char code : kDailyCodes) figures.push_back(PlainNumberText(int{counts.Of(code)}));
+  figures.push_back(PlainNumberText(counts.Absences()));
+  return figures;
+}
+
+std::string CountsTable(DayRange range) {
+  std::vector<std::string> heading = NameHeading();
+  for (const char code : kDailyCodes) heading.emplace_back(1, code);
+  heading.emplace_back(kTotal);
+  Table table = {heading};
+  for (int i = 1; i <= Current().NumStudents; ++i) {
+    std::vector<std::string> row = NameCells(Current(), i);
+    for (std::string& figure : Figures(CountDays(StudentAt(i), range)))
+      row.push_back(std::move(figure));
+    table.push_back(std::move(row));
+  }
+  return TableText(table);
+}
+
+std::string CountsCsv(DayRange range) {
+  std::string text = "id,lastname,firstname";
+  for (const char code : kDailyCodes) text += std::string(",") + code;
+  text += "," + std::string(kTotal) + "\n";
+  for (int i = 1; i <= Current().NumStudents; ++i) {
+    text += CsvNames(StudentAt(i));
+    for (const std::string& figure : Figures(CountDays(StudentAt(i), range))) text += "," + figure;
+    text += "\n";
+  }
+  return Utf8FromCodePage(text);
+}
+
+std::string CountsJson(DayRange range) {
+  Json all = Json::array();
+  for (int i = 1; i <= Current().NumStudents; ++i) {
+    const CodeCounts counts = CountDays(StudentAt(i), range);
+    Json student = JsonNames(StudentAt(i));
+    for (const char code : kDailyCodes) student[std::string(1, code)] = counts.Of(code);
+    student[std::string(kTotal)] = counts.Absences();
+    all.push_back(std::move(student));
+  }
+  return JsonText(all);
+}
+
+// ---- Absences in a row ----
+
+std::string Dates(const AbsenceRun& run) {
+  std::string text;
+  for (const double day : run.dates) text += (text.empty() ? "" : " ") + Iso(day);
+  return text;
+}
+
+std::string RunsTable(const std::vector<AbsenceRun>& runs) {
+  std::vector<std::string> heading = NameHeading();
+  heading.emplace_back("DAYS");
+  heading.emplace_back("DATES");
+  Table table = {heading};
+  for (const AbsenceRun& run : runs) {
+    std::vector<std::string> row = NameCells(Current(), run.student);
+    row.push_back(PlainNumberText(static_cast<int>(run.dates.size())));
+    row.push_back(Dates(run));
+    table.push_back(std::move(row));
+  }
+  return TableText(table);
+}
+
+std::string RunsCsv(const std::vector<AbsenceRun>& runs) {
+  std::string text = "id,lastname,firstname,days,dates\n";
+  for (const AbsenceRun& run : runs)
+    text += CsvNames(StudentAt(run.student)) + "," +
+            PlainNumberText(static_cast<int>(run.dates.size())) + "," + Dates(run) + "\n";
+  return Utf8FromCodePage(text);
+}
+
+std::string RunsJson(const std::vector<AbsenceRun>& runs) {
+  Json all = Json::array();
+  for (const AbsenceRun& run : runs) {
+    Json found = JsonNames(StudentAt(run.student));
+    found["dates"] = Json::array();
+    for (const double day : run.dates) found["dates"].push_back(Iso(day));
+    all.push_back(std::move(found));
+  }
+  return JsonText(all);
+}
+
+// ---- The command ----
+
+std::string Output(const AttendanceOptions& options, DayRange range) {
+  if (options.consecutive > 0) {
+    const std::vector<AbsenceRun> runs = AbsencesInARow(range, options.consecutive);
+    return options.json ? RunsJson(runs) : options.csv ? RunsCsv(runs) : RunsTable(runs);
+  }
+  return options.json ? CountsJson(range) : options.csv ? CountsCsv(range) : CountsTable(range);
+}
+
+CommandResult Attendance(const AttendanceOptions& options) {
+  NameMode = options.name_mode;
+  std::string reason = OpenClassFile(options.file, options.opening);
+  if (!reason.empty()) return Refused(options.file, reason);
+  DayRange range{1, Current().NumDays};
+  if (!options.months.empty()) {
+    MonthRange months;
+    reason = TakeMonthsOption(options.months, months);
+    if (!reason.empty()) return Refused(options.file, reason);
+    const CivilDate last = DateOfSerial(months.last);
+    range = DaysBetween(months.first, DateSerial({last.year, last.month + 1, 1}) - 1);
+  }
+  return Done(Output(options, range));
+}
+
+}  // namespace
+
+void AddAttendanceCommand(CLI::App& app, ChosenCommand& chosen) {
+  CLI::App* command =
+      app.add_subcommand("attendance", "Counts every student's absences, cuts, lates and so on");
+  const auto options = std::make_shared<AttendanceOptions>();
+  command->add_option("FILE", options->file, "the class file")->required();
+  command->add_option("--months", options->months, "these months alone, YYYY-MM..YYYY-MM");
+  command
+      ->add_option("--consecutive", options->consecutive,
+                   "who was absent on so many marked days in a row, with the dates")
+      ->check(CLI::Range(1, 32767));
+  CLI::Option* csv = command->add_flag("--csv", options->csv, "as comma-separated values");
+  command->add_flag("--json", options->json, "as JSON")->excludes(csv);
+  AddNameMode(*command, options->name_mode);
+  AddOpenOptions(*command, options->opening);
+  command->callback(
+      [&chosen, options] { chosen = [options](std::istream&) { return Attendance(*options); }; });
+}
+
+}  // namespace tallyroll
