@@ -125,8 +125,7 @@ class AttendanceTest : public PortalTest {
   std::optional<PortalDriver> driver;
 };
 
-inline const std::string kSureToCancel =
-    "Data has been entered. Are you sure you want to CANCEL?";
+inline const std::string kSureToCancel = "Data has been entered. Are you sure you want to CANCEL?";
 inline const std::string kStartsLater =
     "You are starting at a later month; the information for the earlier month(s) will be lost.";
 inline const std::string kEndsEarlier =

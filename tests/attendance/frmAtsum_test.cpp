@@ -1,0 +1,482 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "attendance/frmAtsum.h"
+
+#include "tests/attendance/attendance_test.h"
+
+namespace tallyroll {
+namespace {
+
+const std::string kReminder =
+    "You must fill in the TITLE and CODE of the attendance period, and the ATTENDANCE for each "
+    "student.\nUse TAB to move from one entry to the next.\nUse ARROW KEYS to move between student "
+    "names.";
+const std::string kBackwards = "The start date must come befor the end date. Please Correct.";
+const std::string kNoOk =
+    "You changed a date but didn't press OK. Do you want to abandon your summary?";
+
+class FrmAtsumTest : public AttendanceTest {
+ protected:
+  FrmAtsumTest() {
+    Enrol("Li", "Bo", "2");
+    Enrol("Ng", "Ada", "1");
+  }
+  void OpenWithDays() {
+    SetRange({9, 2026}, {6, 2027});
+    Open(portal);
+  }
+  void Figure(int student, int col, const std::string& keys) {
+    driver->PickCell("Grid1", student, col);
+    driver->TypeKeys("Grid1", keys);
+  }
+  void FillDirect() {
+    driver->Type("Title", "First marking period");
+    driver->Type("code", "MP1");
+    Figure(1, 2, "3");
+    Figure(1, 3, "1");
+    Figure(2, 2, "0");
+    Figure(2, 3, "12");
+  }
+  std::string Row(int row) const {
+    std::string text;
+    for (int col = 2; col < portal.Grid1.Cols(); ++col)
+      text += (col == 2 ? "" : "|") + std::string(portal.Grid1.TextMatrix(row, col));
+    return text;
+  }
+  static AttendanceSummary& Period(std::size_t k) { return Current().Summaries.at(k); }
+
+  frmAtsum portal;
+};
+
+TEST_F(FrmAtsumTest, WithoutDailyAttendanceOnlyDirectEntryIsOffered) {
+  Open(portal);
+  EXPECT_EQ(portal.Caption, "Summary Attendance Portal");
+  for (const char* hidden : {"typpe", "message", "summ"}) EXPECT_FALSE(driver->Visible(hidden));
+  EXPECT_TRUE(driver->Visible("ind"));
+  EXPECT_EQ(portal.summkind, 1);
+  EXPECT_TRUE(portal.Hand.Value);
+  EXPECT_FALSE(driver->Enabled("another"));
+  EXPECT_EQ(driver->Focused(), "Title");
+}
+
+TEST_F(FrmAtsumTest, WithDailyAttendanceTheKindIsChosen) {
+  OpenWithDays();
+  EXPECT_TRUE(driver->Visible("typpe"));
+  EXPECT_TRUE(driver->Visible("message"));
+  EXPECT_FALSE(driver->Visible("summ"));
+  EXPECT_FALSE(driver->Visible("ind"));
+  EXPECT_EQ(portal.termstart.Value, Day(2026, 9, 1));
+  EXPECT_EQ(portal.termend.Value, Day(2027, 6, 30));
+  for (const DTPicker* picker : {&portal.termstart, &portal.termend}) {
+    EXPECT_EQ(picker->MinDate, Day(2026, 9, 1));
+    EXPECT_EQ(picker->MaxDate, Day(2027, 6, 30));
+  }
+}
+
+TEST_F(FrmAtsumTest, TheTextsAreThoseThatTeachersKnow) {
+  EXPECT_EQ(portal.typpe.Caption, "Summary Attendace Options");
+  EXPECT_EQ(portal.Summary.Caption, "Summary--Range of Dates");
+  EXPECT_EQ(portal.Hand.Caption, "Direct Entering of Att.Info");
+  EXPECT_EQ(portal.labmessage.Caption, "Please Choose an option for your Summary Attendance.");
+  EXPECT_EQ(portal.summ.Caption, "Attendance Summary");
+}
+
+TEST_F(FrmAtsumTest, TheDirectLayout) {
+  Open(portal);
+  const Grid& grid = portal.Grid1;
+  EXPECT_EQ(grid.Rows(), 3);
+  EXPECT_EQ(grid.Cols(), 4);
+  EXPECT_EQ(grid.TextMatrix(0, 0), "     NAME");
+  EXPECT_EQ(grid.TextMatrix(0, 1), "       ID");
+  EXPECT_EQ(Row(0), "ABS|LATE");
+  EXPECT_EQ(grid.TextMatrix(1, 0), "Li, Bo");
+  EXPECT_EQ(grid.TextMatrix(1, 1), "2");
+  EXPECT_EQ(grid.ColWidth(0), 3125);
+  EXPECT_EQ(grid.ColWidth(1), 1440);
+  EXPECT_EQ(grid.ColWidth(2), 780);
+  EXPECT_EQ(grid.ColWidth(3), 780);
+}
+
+TEST_F(FrmAtsumTest, TheRangeLayout) {
+  OpenWithDays();
+  driver->Tick("Summary");
+  const Grid& grid = portal.Grid1;
+  EXPECT_EQ(portal.summkind, 2);
+  EXPECT_EQ(grid.Cols(), 9);
+  EXPECT_EQ(Row(0), "A|C|E|S|N|L|T");
+  EXPECT_EQ(grid.ColWidth(0), 3100);
+  EXPECT_EQ(grid.ColWidth(2), 470);
+  for (int col = 3; col <= 8; ++col) EXPECT_EQ(grid.ColWidth(col), 600);
+  EXPECT_TRUE(driver->Visible("summ"));
+  EXPECT_FALSE(driver->Visible("message"));
+  EXPECT_FALSE(driver->Visible("ind"));
+}
+
+TEST_F(FrmAtsumTest, ChoosingAKindStoresNothing) {
+  OpenWithDays();
+  const std::string before = Bytes();
+  driver->Tick("Summary");
+  driver->Tick("Hand");
+  EXPECT_EQ(portal.summkind, 1);
+  EXPECT_TRUE(driver->Visible("ind"));
+  EXPECT_FALSE(driver->Visible("summ"));
+  EXPECT_EQ(driver->Focused(), "Title");
+  EXPECT_EQ(Bytes(), before);
+}
+
+// ---- Ranges ----
+
+TEST_F(FrmAtsumTest, TheTotalLeavesOutExcusedAndLate) {
+  SetRange({9, 2026}, {6, 2027});
+  int day = 1;
+  for (const char code : std::string("ACCEEESSSSNNNNNLLLLLL"))
+    Mark(2, Day(2026, 9, day++), std::string(1, code).c_str());
+  Open(portal);
+  driver->Tick("Summary");
+  driver->Press("ok");
+  EXPECT_EQ(Row(1), "0|0|0|0|0|0|0");
+  EXPECT_EQ(Row(2), "1|2|3|4|5|6|12");
+  EXPECT_TRUE(driver->Enabled("another"));
+}
+
+TEST_F(FrmAtsumTest, BothDaysBelongToTheRange) {
+  SetRange({9, 2026}, {6, 2027});
+  for (const int day : {1, 2, 3, 4}) Mark(1, Day(2026, 9, day), "A");
+  Open(portal);
+  driver->Tick("Summary");
+  driver->PickDate("termstart", Day(2026, 9, 2));
+  driver->PickDate("termend", Day(2026, 9, 3));
+  driver->Press("ok");
+  EXPECT_EQ(Row(1), "2|0|0|0|0|0|2");
+}
+
+TEST_F(FrmAtsumTest, OneDayIsARange) {
+  SetRange({9, 2026}, {6, 2027});
+  for (const int day : {1, 2, 3}) Mark(1, Day(2026, 9, day), "A");
+  Open(portal);
+  driver->Tick("Summary");
+  driver->PickDate("termstart", Day(2026, 9, 2));
+  driver->PickDate("termend", Day(2026, 9, 2));
+  driver->Press("ok");
+  EXPECT_EQ(Row(1), "1|0|0|0|0|0|1");
+}
+
+TEST_F(FrmAtsumTest, AStartBehindTheEndIsRefused) {
+  OpenWithDays();
+  driver->Tick("Summary");
+  driver->PickDate("termstart", Day(2026, 10, 2));
+  driver->PickDate("termend", Day(2026, 10, 1));
+  screen.ExpectBox(kBackwards);
+  driver->Press("ok");
+  ExpectLastBox("Note to the Teacher", BoxButtons::kOk, BoxIcon::kCritical);
+  EXPECT_EQ(Row(1), "||||||");
+  EXPECT_EQ(portal.datechanged, 0);
+  EXPECT_EQ(portal.entered, 1);
+  EXPECT_FALSE(driver->Enabled("another"));
+  driver->Press("Exits");
+  EXPECT_TRUE(portal.Unloaded());
+  EXPECT_EQ(Current().NumSummaries, 0);
+}
+
+TEST_F(FrmAtsumTest, TheFirstRangeIsA1WithItsDatesForATitle) {
+  SetRange({9, 2026}, {6, 2027});
+  Mark(1, Day(2026, 9, 1), "A");
+  Mark(1, Day(2026, 9, 2), "L");
+  Mark(1, Day(2026, 9, 3), "C");
+  Mark(2, Day(2026, 9, 3), "E");
+  Mark(2, Day(2026, 9, 4), "S");
+  Mark(2, Day(2026, 11, 15), "N");
+  Mark(2, Day(2026, 11, 16), "A");
+  Open(portal);
+  driver->Tick("Summary");
+  driver->PickDate("termend", Day(2026, 11, 15));
+  driver->Press("ok");
+  driver->Press("Exits");
+  EXPECT_TRUE(portal.Unloaded());
+  ASSERT_EQ(Current().NumSummaries, 1);
+  EXPECT_EQ(Period(1),
+            (AttendanceSummary{"9/1/2026- 11/15/2026", "A1", 2, 1, "9/1/2026", "11/15/2026"}));
+  EXPECT_EQ(Figures(1, 1), "1    |1|1/0/0/0/");
+  EXPECT_EQ(Figures(2, 1), "0    |0|0/1/1/1/");
+  EXPECT_EQ(Current().Changed, kTrue);
+  EXPECT_GE(window.enablings, 1);
+}
+
+TEST_F(FrmAtsumTest, ARangeTakesTheNumberBehindTheLastOneThatStands) {
+  AddPeriod("second", "A2", 2).rangenumber = 2;  // the first was deleted
+  AddPeriod("by hand", "H", 1).rangenumber = 0;
+  OpenWithDays();
+  driver->Tick("Summary");
+  driver->Press("ok");
+  driver->Press("Exits");
+  EXPECT_EQ(Period(3).code, "A3");
+  EXPECT_EQ(Period(3).rangenumber, 3);
+}
+
+TEST_F(FrmAtsumTest, TypingDoesNotReachARange) {
+  OpenWithDays();
+  driver->Tick("Summary");
+  driver->Press("ok");
+  Figure(1, 2, "9");
+  EXPECT_EQ(Row(1), "0|0|0|0|0|0|0");
+}
+
+TEST_F(FrmAtsumTest, ExitAsksAboutADateThatWasNotTaken) {
+  OpenWithDays();
+  driver->Tick("Summary");
+  driver->Press("ok");
+  driver->PickDate("termend", Day(2026, 11, 15));
+  screen.ExpectBox(kNoOk, BoxAnswer::kNo);
+  driver->Press("Exits");
+  ExpectLastBox("Note to the Teacher", BoxButtons::kYesNo, BoxIcon::kNone);
+  EXPECT_FALSE(portal.Unloaded());
+  screen.ExpectBox(kNoOk, BoxAnswer::kYes);
+  driver->Press("Exits");
+  EXPECT_TRUE(portal.Unloaded());
+  EXPECT_EQ(Current().NumSummaries, 0);
+}
+
+TEST_F(FrmAtsumTest, AnotherStoresARangeAndBeginsAnew) {
+  OpenWithDays();
+  driver->Tick("Summary");
+  driver->Press("ok");
+  driver->Press("another");
+  EXPECT_EQ(Current().NumSummaries, 1);
+  EXPECT_EQ(portal.summkind, 0);
+  EXPECT_TRUE(driver->Visible("message"));
+  EXPECT_FALSE(driver->Enabled("another"));
+  driver->Press("Exits");
+  EXPECT_EQ(Current().NumSummaries, 1);
+}
+
+TEST_F(FrmAtsumTest, ARangeThatWasNeverCountedIsNotStored) {
+  OpenWithDays();
+  driver->Tick("Hand");
+  driver->Type("Title", "Started");
+  driver->Tick("Summary");
+  driver->Press("Exits");
+  EXPECT_TRUE(portal.Unloaded());
+  EXPECT_EQ(Current().NumSummaries, 0);
+}
+
+// ---- Direct entry ----
+
+TEST_F(FrmAtsumTest, ADirectSummaryIsStoredAsTyped) {
+  Open(portal);
+  FillDirect();
+  EXPECT_TRUE(driver->Enabled("another"));
+  driver->Press("Exits");
+  EXPECT_TRUE(portal.Unloaded());
+  EXPECT_EQ(Period(1), (AttendanceSummary{"First marking period", "MP1", 1, 0, "", ""}));
+  EXPECT_EQ(Figures(1, 1), "3    |1| 0/ 0/ 0/ 0/");
+  EXPECT_EQ(Figures(2, 1), "0    |12| 0/ 0/ 0/ 0/");
+  EXPECT_EQ(Current().Changed, kTrue);
+}
+
+TEST_F(FrmAtsumTest, ALetterIsTakenAndStored) {
+  Open(portal);
+  FillDirect();
+  Figure(1, 2, "x");
+  driver->Press("Exits");
+  EXPECT_EQ(Figures(1, 1), "x    |1| 0/ 0/ 0/ 0/");
+}
+
+TEST_F(FrmAtsumTest, AbsencesAreCutToFiveCharacters) {
+  Open(portal);
+  FillDirect();
+  Figure(1, 2, "1234567");
+  driver->Press("Exits");
+  EXPECT_EQ(Figures(1, 1), "12345|1| 0/ 0/ 0/ 0/");
+}
+
+TEST_F(FrmAtsumTest, TheFirstKeyInACellReplacesAndBackspaceTakesTheLast) {
+  Open(portal);
+  Figure(1, 2, "12");
+  EXPECT_EQ(Row(1), "12|");
+  driver->TypeKeys("Grid1", "\b");
+  EXPECT_EQ(Row(1), "1|");
+  driver->TypeKeys("Grid1", "\b\b");
+  EXPECT_EQ(Row(1), "|");
+  Figure(1, 2, "7");
+  driver->PressKey("Grid1", Key::kDown);
+  driver->PressKey("Grid1", Key::kUp);
+  driver->TypeKeys("Grid1", "8");
+  EXPECT_EQ(Row(1), "8|");
+}
+
+TEST_F(FrmAtsumTest, TabGoesFromAbsencesToLatesAndToTheNextStudent) {
+  Open(portal);
+  driver->PickCell("Grid1", 1, 2);
+  for (const char* key : {"1", "2", "3", "4"}) {
+    driver->TypeKeys("Grid1", key);
+    driver->PressKey("Grid1", Key::kTab);
+  }
+  EXPECT_EQ(Row(1), "1|2");
+  EXPECT_EQ(Row(2), "3|4");
+  EXPECT_EQ(portal.Grid1.Row, 2);
+  EXPECT_EQ(portal.Grid1.Col, 3);
+}
+
+TEST_F(FrmAtsumTest, CodeHoldsThreeCharacters) {
+  EXPECT_EQ(portal.code.MaxLength, 3);
+}
+
+TEST_F(FrmAtsumTest, WithoutATitleExitLeadsThere) {
+  Open(portal);
+  FillDirect();
+  driver->Type("Title", "");
+  screen.ExpectBox(kReminder);
+  driver->Press("Exits");
+  ExpectLastBox("Note to the Teacher", BoxButtons::kOk, BoxIcon::kCritical);
+  EXPECT_FALSE(portal.Unloaded());
+  EXPECT_EQ(driver->Focused(), "Title");
+  EXPECT_EQ(Current().NumSummaries, 0);
+}
+
+TEST_F(FrmAtsumTest, WithoutACodeAnotherLeadsThere) {
+  Open(portal);
+  FillDirect();
+  driver->Type("code", "");
+  screen.ExpectBox(kReminder);
+  driver->Press("another");
+  EXPECT_EQ(driver->Focused(), "code");
+  EXPECT_EQ(Current().NumSummaries, 0);
+}
+
+TEST_F(FrmAtsumTest, WithoutAFigureItLeadsToTheFirstStudent) {
+  for (const char* missing : {"\b\b", " "}) {
+    frmAtsum again;
+    Open(again);
+    FillDirect();
+    Figure(2, 3, missing);
+    screen.ExpectBox(kReminder);
+    driver->Press("Exits");
+    EXPECT_EQ(driver->Focused(), "Grid1");
+    EXPECT_EQ(again.Grid1.Row, 1);
+    EXPECT_EQ(again.Grid1.Col, 2);
+  }
+}
+
+TEST_F(FrmAtsumTest, ExitWithNothingTypedClosesAndStoresNothing) {
+  AddPeriod("old", "O", 1);
+  Open(portal);
+  const std::string before = Bytes();
+  driver->Press("Exits");
+  EXPECT_TRUE(portal.Unloaded());
+  EXPECT_EQ(Bytes(), before);
+  EXPECT_EQ(window.enablings, 1);
+}
+
+TEST_F(FrmAtsumTest, AnotherStoresADirectSummaryAndEmptiesTheFields) {
+  Open(portal);
+  FillDirect();
+  driver->Press("another");
+  EXPECT_EQ(Current().NumSummaries, 1);
+  EXPECT_EQ(driver->Text("Title"), "");
+  EXPECT_EQ(driver->Text("code"), "");
+  EXPECT_EQ(Row(1), "|");
+  EXPECT_FALSE(driver->Enabled("another"));
+  FillDirect();
+  driver->Press("Exits");
+  EXPECT_EQ(Current().NumSummaries, 2);
+}
+
+// ---- The limit ----
+
+TEST_F(FrmAtsumTest, ExitStoresTheTwentieth) {
+  for (int k = 1; k <= 19; ++k) AddPeriod("T", "C", 1);
+  Open(portal);
+  FillDirect();
+  driver->Press("Exits");
+  EXPECT_EQ(Current().NumSummaries, 20);
+}
+
+TEST_F(FrmAtsumTest, AnotherStoresTheTwentiethAndOffersNoOtherOne) {
+  for (int k = 1; k <= 19; ++k) AddPeriod("T", "C", 1);
+  Open(portal);
+  FillDirect();
+  screen.ExpectBox(kTwenty);
+  driver->Press("another");
+  EXPECT_EQ(Current().NumSummaries, 20);
+  EXPECT_TRUE(portal.Unloaded());
+}
+
+TEST_F(FrmAtsumTest, AnotherBehindTheTwentiethIsRefused) {
+  for (int k = 1; k <= 20; ++k) AddPeriod("T", "C", 1);
+  Open(portal);
+  FillDirect();
+  screen.ExpectBox(kTwenty);
+  driver->Press("another");
+  ExpectLastBox("Note to the Teacher", BoxButtons::kOk, BoxIcon::kCritical);
+  EXPECT_EQ(Current().NumSummaries, 20);
+  EXPECT_EQ(driver->Text("Title"), "First marking period");
+}
+
+// ---- Cancel ----
+
+TEST_F(FrmAtsumTest, CancelAsksOnceATitleWasTyped) {
+  Open(portal);
+  const std::string before = Bytes();
+  FillDirect();
+  screen.ExpectBox(kSureToCancel, BoxAnswer::kNo);
+  driver->Press("cancel");
+  ExpectLastBox("CANCEL", BoxButtons::kYesNo, BoxIcon::kQuestion);
+  EXPECT_FALSE(portal.Unloaded());
+  screen.ExpectBox(kSureToCancel, BoxAnswer::kYes);
+  driver->CloseWindow();
+  EXPECT_TRUE(portal.Unloaded());
+  EXPECT_EQ(Bytes(), before);
+  EXPECT_EQ(Current().Changed, kFalse);
+}
+
+TEST_F(FrmAtsumTest, CancelOfARangeIsQuiet) {
+  OpenWithDays();
+  const std::string before = Bytes();
+  driver->Tick("Summary");
+  driver->Press("ok");
+  driver->Press("cancel");
+  EXPECT_TRUE(portal.Unloaded());
+  EXPECT_EQ(Bytes(), before);
+}
+
+TEST_F(FrmAtsumTest, CancelIsQuietWithFiguresAlone) {
+  Open(portal);
+  Figure(1, 2, "3");
+  driver->Press("cancel");
+  EXPECT_TRUE(portal.Unloaded());
+}
+
+TEST_F(FrmAtsumTest, CancelAfterATitleWasTakenBackAsksWhileAStudentIsBlank) {
+  Open(portal);
+  driver->Type("Title", "x");
+  driver->Type("Title", "");
+  screen.ExpectBox(kSureToCancel, BoxAnswer::kNo);
+  driver->Press("cancel");
+  Figure(1, 2, "3");
+  Figure(2, 2, "3");
+  driver->Press("cancel");
+  EXPECT_TRUE(portal.Unloaded());
+}
+
+TEST_F(FrmAtsumTest, AClassWithoutStudentsTakesATitleAndACode) {
+  Current().NumStudents = 0;
+  ReDim(Current().Students, 0);
+  Open(portal);
+  driver->Type("Title", "Empty");
+  driver->Type("code", "E");
+  driver->Press("Exits");
+  EXPECT_EQ(Current().NumSummaries, 1);
+}
+
+TEST_F(FrmAtsumTest, AStoredRangeFollowsTheDailyMarks) {
+  OpenWithDays();
+  driver->Tick("Summary");
+  driver->Press("ok");
+  driver->Press("Exits");
+  LoadTermGrid();
+  Grid2.SetMark(1, 1, 'A');
+  StoreDailyMarks();
+  EXPECT_EQ(Figures(1, 1), "1    |0| 0/ 0/ 0/ 0/");
+}
+
+}  // namespace
+}  // namespace tallyroll
