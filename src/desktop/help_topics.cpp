@@ -34,6 +34,11 @@ constexpr std::array kContexts = {
     340,  // naming grade types: frmcategories
     350,  // what letters count: frmletter
     360,  // missing grades: frmMgrade
+    370,  // daily attendance: frmAtt
+    375,  // its months: frmatset
+    380,  // summary attendance: frmAtsum
+    390,  // editing it: frmEatt
+    400,  // deleting it: frmDatt
     410,  // printing: frmprintall
     420,  // margins: frmmargins
     430,  // title and progress of a printout: printmsg

@@ -18,10 +18,6 @@ namespace {
 constexpr auto kRefill = AfterPortal::kRefill;
 constexpr auto kSaveIfDone = AfterPortal::kSaveIfDone;
 
-void NotYet(Form1& window) {
-  window.ShowStatus(kPortalNotAvailable);
-}
-
 void EditStudent(Form1& window, int open_state) {
   CurrentStudent = 0;
   window.RunPortal("frmEdit", open_state, kRefill);

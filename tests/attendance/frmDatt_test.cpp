@@ -74,7 +74,7 @@ TEST_F(FrmDattTest, TheListsKeepTheirLengthAndAreNoFault) {
   EXPECT_EQ(At(1).SummaryAbsent.size(), 4u);
   EXPECT_EQ(Figures(1, 3), "3    |30| 3/ 3/ 3/ 3/");
   Class read;
-  ASSERT_EQ(ParseClass(Bytes(), read), 0);
+  ASSERT_EQ(ParseClass(Bytes(), read).error, 0);
   EXPECT_TRUE(BrokenInvariants(read).empty());
   EXPECT_EQ(read.NumSummaries, 2);
 }

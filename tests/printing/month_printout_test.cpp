@@ -9,7 +9,7 @@ namespace {
 class MonthPrintoutTest : public PrintPortalTest {};
 
 TEST_F(MonthPrintoutTest, PrintsTheMonthOfThatDayAlone) {
-  AddStudent("Ng", "Ada", "1");
+  Enrol("Ng", "Ada", "1");
   for (int j = 0; j < 61; ++j) AddDay(46266 + j);  // September and October 2026
   Current().Students[1].DailyMarks[1] = "A";
   Current().Students[1].DailyMarks[61] = "L";
@@ -29,8 +29,8 @@ TEST_F(MonthPrintoutTest, PrintsTheMonthOfThatDayAlone) {
 }
 
 TEST_F(MonthPrintoutTest, LeavesTheStudentsInTheirOrder) {
-  AddStudent("Ng", "Ada", "1");
-  AddStudent("Abe", "Bo", "2");
+  Enrol("Ng", "Ada", "1");
+  Enrol("Abe", "Bo", "2");
   AddDay(46266);
   ExpectTitle();
   PrintAttendanceMonth(46266);
@@ -38,7 +38,7 @@ TEST_F(MonthPrintoutTest, LeavesTheStudentsInTheirOrder) {
 }
 
 TEST_F(MonthPrintoutTest, WithoutATitleNothingIsPrinted) {
-  AddStudent("Ng", "Ada", "1");
+  Enrol("Ng", "Ada", "1");
   AddDay(46266);
   screen.ExpectPortal("printmsg", [](PortalDriver& work) { work.Press("exit"); });
   PrintAttendanceMonth(46266);
