@@ -148,7 +148,8 @@ class RangeProperty : public AttendanceRangeTest, public testing::WithParamInter
     SetRange(start_, end_);
     for (int i = 1; i <= 4; ++i)
       for (std::size_t j = 1; j < At(i).DailyMarks.size(); ++j)
-        At(i).DailyMarks[j] = std::string(1, " ACESNL"[Pick(0, 6)]);
+        At(i).DailyMarks[j] =
+            std::string_view(" ACESNL").substr(static_cast<std::size_t>(Pick(0, 6)), 1);
     MoveRangeTo(start_, end_);  // the texts of its ends as a move writes them
   }
   int Pick(int low, int high) { return std::uniform_int_distribution<int>(low, high)(random_); }

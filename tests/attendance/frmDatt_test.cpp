@@ -73,6 +73,7 @@ TEST_F(FrmDattTest, TheListsKeepTheirLengthAndAreNoFault) {
   EXPECT_EQ(Current().Summaries.size(), 4u);
   EXPECT_EQ(At(1).SummaryAbsent.size(), 4u);
   EXPECT_EQ(Figures(1, 3), "3    |30| 3/ 3/ 3/ 3/");
+  Current().Magic = "ty8";
   Class read;
   ASSERT_EQ(ParseClass(Bytes(), read).error, 0);
   EXPECT_TRUE(BrokenInvariants(read).empty());

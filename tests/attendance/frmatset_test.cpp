@@ -489,8 +489,8 @@ TEST_P(RangeMoveTest, MovesNothingWithoutMarks) {
 }
 
 INSTANTIATE_TEST_SUITE_P(Moves, RangeMoveTest, testing::ValuesIn(kMoves),
-                         [](const testing::TestParamInfo<Move>& info) {
-                           std::string name(info.param.name);
+                         [](const testing::TestParamInfo<Move>& move) {
+                           std::string name(move.param.name);
                            std::erase_if(name, [](char c) { return !std::isalpha(c); });
                            return name;
                          });
