@@ -25,16 +25,6 @@ constexpr LabelTable kLabels = {{
     {{{Holds::kName, "     NAME", kNameWidth}, {}}},
 }};
 
-// What nobody edited keeps the blanks that a file pads it with.
-void Keep(std::string_view typed, std::string& field) {
-  if (typed != TrimRight(field)) field = typed;
-}
-
-template <typename T>
-void KeepFigure(std::string_view typed, T& item) {
-  if (typed != Trim(item)) item = T(typed);
-}
-
 }  // namespace
 
 frmEatt::frmEatt() : Portal("frmEatt"), figures(Grid1, [this] { return GridKey(); }) {
@@ -147,12 +137,12 @@ void frmEatt::Store() {
     ReDimPreserve(s.SummaryAbsent, std::max(UpperBound(s.SummaryAbsent), shown_));
     ReDimPreserve(s.SummaryLate, std::max(UpperBound(s.SummaryLate), shown_));
     ReDimPreserve(s.SummaryDetail, std::max(UpperBound(s.SummaryDetail), shown_));
-    KeepFigure(Grid1.TextMatrix(i, kAbsentColumn), s.SummaryAbsent[k]);
-    KeepFigure(Grid1.TextMatrix(i, kLateColumn), s.SummaryLate[k]);
+    s.SummaryAbsent[k] = FixedText<5>(Grid1.TextMatrix(i, kAbsentColumn));
+    s.SummaryLate[k] = Grid1.TextMatrix(i, kLateColumn);
     s.SummaryDetail[k] = kNewSummaryDetail;
   }
-  Keep(Title.Text, Shown().title);
-  Keep(code.Text, Shown().code);
+  Shown().title = Title.Text;
+  Shown().code = code.Text;
   c.Changed = kTrue;
   edited = false;
   FillList();

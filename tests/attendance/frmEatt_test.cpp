@@ -95,9 +95,9 @@ TEST_F(FrmEattTest, ExitStoresADirectPeriod) {
   Figure(2, 3, "x");
   driver->Press("exit");
   EXPECT_TRUE(portal.Unloaded());
-  EXPECT_EQ(Figures(1, 1), "14   | 1| 0/ 0/ 0/ 0/");
+  EXPECT_EQ(Figures(1, 1), "14   |1| 0/ 0/ 0/ 0/");
   EXPECT_EQ(Figures(2, 1), "0    |x| 0/ 0/ 0/ 0/");
-  EXPECT_EQ(Current().Summaries[1].title, " Fall ");
+  EXPECT_EQ(Current().Summaries[1].title, " Fall");
   EXPECT_EQ(Current().Changed, kTrue);
 }
 

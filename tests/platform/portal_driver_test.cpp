@@ -211,5 +211,21 @@ TEST_F(PortalDriverTest, TheDayShownIsAPickToo) {
   EXPECT_EQ(portal.log, Lines{"day change"});
 }
 
+TEST(PortalDriverBounds, ADayOutOfBoundsCannotBePicked) {
+  LoggingPortal portal;
+  portal.day.MinDate = 10;
+  portal.day.MaxDate = 12;
+  portal.day.Value = 11;
+  PortalDriver driver(portal);
+  driver.PickDate("day", 10);
+  driver.PickDate("day", 12);
+  EXPECT_TRUE(driver.Complaints().empty());
+  driver.PickDate("day", 9);
+  driver.PickDate("day", 13);
+  EXPECT_EQ(portal.day.Value, 12);
+  EXPECT_EQ(driver.Complaints(), (Lines{"pick a date in day: it is out of bounds",
+                                        "pick a date in day: it is out of bounds"}));
+}
+
 }  // namespace
 }  // namespace tallyroll

@@ -115,6 +115,18 @@ TEST_F(CommandsTest, EntriesOpenTheirPortalInItsMode) {
   }
 }
 
+TEST_F(CommandsTest, TwentySummariesOfAttendanceAreTheMost) {
+  Current().NumSummaries = 19;
+  EXPECT_EQ(Click("mnuattsumm").portal, "frmAtsum");
+  Current().NumSummaries = 20;
+  openings.clear();
+  screen.ExpectBox(
+      "You have entered the maximum number of summary attendance periods allowed for this class.");
+  window->ClickMenu("mnuattsumm");
+  EXPECT_TRUE(openings.empty());
+  EXPECT_EQ(screen.boxes.back().title, "Note to the Teacher");
+}
+
 TEST_F(CommandsTest, WeightsEntriesHandOverTheMethod) {
   const std::tuple<const char*, const char*, int> entries[] = {{"mnuindweights", "frmweights", 0},
                                                                {"mnupercent", "frmpercents", 1},

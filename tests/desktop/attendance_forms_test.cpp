@@ -1,0 +1,205 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The forms of attendance: their texts word for word, the list of codes over the current cell, and
+// dates that keep within their bounds.
+#include <gtest/gtest.h>
+
+#include <QAction>
+#include <QComboBox>
+#include <QDateEdit>
+#include <QMenu>
+#include <QScrollBar>
+#include <QTest>
+#include <map>
+
+#include "attendance/attendance_range.h"
+#include "attendance/frmAtsum.h"
+#include "attendance/frmAtt.h"
+#include "base/date_serial.h"
+#include "desktop/form_loader.h"
+#include "desktop/grid_widget.h"
+#include "desktop/portal_dialog.h"
+#include "platform/headless.h"
+#include "shell/program.h"
+#include "tests/support/enrol_student.h"
+
+namespace tallyroll {
+namespace {
+
+// By the name of the widget; "" is the title of the window.
+using Texts = std::map<std::string, std::string>;
+
+Texts TextsOf(const std::string& portal) {
+  QDialog dialog;
+  const LoadedForm form = Forms().Load(FormFile(portal), dialog);
+  EXPECT_TRUE(form.complaints.isEmpty()) << portal;
+  Texts texts{{"", dialog.windowTitle().toStdString()}};
+  for (const QObject* object : form.objects)
+    for (const char* property : {"text", "title"})
+      if (const std::string text = object->property(property).toString().toStdString();
+          !text.empty())
+        texts[object->objectName().toStdString()] = text;
+  return texts;
+}
+
+TEST(AttendanceForms, frmAttReadsAsTeachersKnowIt) {
+  const Texts texts = TextsOf("frmAtt");
+  const Texts told = {{"mnudate", "&Date Setting"},
+                      {"munatt", "&Att Summary"},
+                      {"mnuPrint", "&Print"},
+                      {"mnuOptiona", "Display &Totals"},
+                      {"mnuStudent", "Show &Student Summary"},
+                      {"mnuDaily", "Show &Daily Summary"},
+                      {"mnucancel", "&Cancel"},
+                      {"mnuExit", "E&xit"}};
+  for (const auto& [name, text] : told) EXPECT_EQ(texts.at(name), text);
+}
+
+TEST(AttendanceForms, frmatsetReadsAsTeachersKnowIt) {
+  const Texts texts = TextsOf("frmatset");
+  EXPECT_EQ(texts.at(""), "Attendance Settings Portal");
+  EXPECT_EQ(texts.at("startquestion"), "What is the first month you will be taking attendance?");
+  EXPECT_EQ(texts.at("endquestion"), "What is the last month you will be  taking attendance?");
+}
+
+TEST(AttendanceForms, frmAtsumReadsAsTeachersKnowIt) {
+  const Texts texts = TextsOf("frmAtsum");
+  EXPECT_EQ(texts.at(""), "Summary Attendance Portal");
+  EXPECT_EQ(texts.at("termstart_label"), "Please Enter the Starting  Date");
+  EXPECT_EQ(texts.at("termend_label"), "Please Enter the Ending Date");
+  EXPECT_EQ(texts.at("Title_label"), "Title of  Attendance");
+  EXPECT_EQ(texts.at("code_label"), "Up to 3 Character Code");
+}
+
+TEST(AttendanceForms, frmEattAndFrmDattReadAsTeachersKnowThem) {
+  EXPECT_EQ(TextsOf("frmEatt").at(""), "Edit  Summary Attendance Portal");
+  EXPECT_EQ(TextsOf("frmEatt").at("list1_label"), "Choose From List of Titles of Attendances");
+  EXPECT_EQ(TextsOf("frmDatt").at(""), "Delete Attendance Portal");
+  EXPECT_EQ(TextsOf("frmDatt").at("list1_label"), "Choose From List of Attendance Summary Titles");
+}
+
+// Forty students in September 2026.
+class AttendanceDialogs : public testing::Test {
+ protected:
+  AttendanceDialogs() {
+    ResetProgram();
+    SetPlatform(&surroundings);
+    for (int i = 1; i <= 40; ++i) EnrolStudent("Student", std::string(1, char('A' + i)), "1");
+    SetUpRange(*DatesOf({{9, 2026}, {6, 2027}, 2027}));
+  }
+  ~AttendanceDialogs() override {
+    dialog.reset();
+    SetPlatform(nullptr);
+    ResetProgram();
+  }
+  void Open(Portal& portal) {
+    portal.Load();
+    dialog = std::make_unique<PortalDialog>(portal);
+    ASSERT_EQ(dialog->Complaints().join(u'\n').toStdString(), "");
+    dialog->resize(1000, 400);
+    dialog->show();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(dialog.get()));
+  }
+  template <typename W>
+  W& Find(const char* name) {
+    auto* found = dialog->findChild<W*>(QString::fromLatin1(name));
+    EXPECT_NE(found, nullptr) << name;
+    return *found;
+  }
+  GridWidget& grid() { return Find<GridWidget>("Grid1"); }
+  QComboBox& codes() { return Find<QComboBox>("Combo1"); }
+  QRect PlaceOf(int row, int col) {
+    QRect place = grid().CellRect(row, col);
+    place.moveTopLeft(grid().viewport()->mapTo(dialog.get(), place.topLeft()));
+    return place;
+  }
+
+  HeadlessSurroundings surroundings;
+  frmAtt month;
+  frmAtsum summary;
+  std::unique_ptr<PortalDialog> dialog;
+};
+
+class frmAttDialog : public AttendanceDialogs {};
+
+TEST_F(frmAttDialog, AMonthIsEnteredByKeysAlone) {
+  OpenState = 15;
+  Open(month);
+  EXPECT_TRUE(codes().isHidden());
+  QTest::keyClick(&grid(), Qt::Key_Down);
+  QTest::keyClicks(&grid(), QStringLiteral("a"));
+  QTest::keyClick(&grid(), Qt::Key_Down);
+  QTest::keyClicks(&grid(), QStringLiteral("l"));
+  QTest::keyClick(&grid(), Qt::Key_Right);
+  QTest::keyClicks(&grid(), QStringLiteral("c"));
+  EXPECT_EQ(month.Grid1.TextMatrix(1, 2), "A");
+  EXPECT_EQ(month.Grid1.TextMatrix(2, 2), "L");
+  EXPECT_EQ(month.Grid1.TextMatrix(2, 3), "C");
+}
+
+TEST_F(frmAttDialog, TheListStandsOverTheCurrentCell) {
+  OpenState = 15;
+  Open(month);
+  QTest::keyClick(&grid(), Qt::Key_Down);
+  ASSERT_FALSE(codes().isHidden());
+  EXPECT_EQ(codes().geometry().topLeft(), PlaceOf(1, 2).topLeft());
+  EXPECT_EQ(codes().height(), PlaceOf(1, 2).height());
+  QTest::keyClick(&grid(), Qt::Key_Right);
+  EXPECT_EQ(codes().geometry().topLeft(), PlaceOf(1, 3).topLeft());
+  QTest::keyClicks(&grid(), QStringLiteral("s"));
+  EXPECT_EQ(codes().currentText(), QStringLiteral("S"));
+  EXPECT_TRUE(grid().hasFocus());
+}
+
+TEST_F(frmAttDialog, TheListFollowsAScrolledCellAndLeavesWithIt) {
+  OpenState = 15;
+  Open(month);
+  for (int i = 0; i < 5; ++i) QTest::keyClick(&grid(), Qt::Key_Down);
+  grid().verticalScrollBar()->setValue(2);
+  EXPECT_EQ(codes().geometry().topLeft(), PlaceOf(5, 2).topLeft());
+  grid().verticalScrollBar()->setValue(grid().verticalScrollBar()->maximum());
+  EXPECT_FALSE(dialog->rect().intersects(codes().geometry()));
+}
+
+TEST_F(frmAttDialog, AChoiceFromTheListWritesItsCode) {
+  OpenState = 15;
+  Open(month);
+  QTest::keyClick(&grid(), Qt::Key_Down);
+  codes().setCurrentIndex(4);
+  Q_EMIT codes().activated(4);
+  EXPECT_EQ(month.Grid1.TextMatrix(1, 2), "N");
+  EXPECT_TRUE(codes().isHidden());
+  EXPECT_TRUE(grid().hasFocus());
+}
+
+TEST_F(frmAttDialog, TheMenuShowsTotals) {
+  OpenState = 15;
+  Open(month);
+  QTest::keyClick(&grid(), Qt::Key_Down);
+  QTest::keyClicks(&grid(), QStringLiteral("a"));
+  Find<QAction>("mnuStudent").trigger();
+  EXPECT_TRUE(Find<QAction>("mnuStudent").isChecked());
+  EXPECT_EQ(month.Grid1.TextMatrix(1, 32), "1");
+}
+
+TEST_F(frmAttDialog, TheViewHidesWhatChangesAnything) {
+  OpenState = 112;
+  Open(month);
+  for (const char* hidden : {"mnudate", "munatt", "mnuPrint", "mnuExit"})
+    EXPECT_FALSE(Find<QAction>(hidden).isVisible()) << hidden;
+  EXPECT_EQ(Find<QAction>("mnucancel").text(), QStringLiteral("E&xit"));
+}
+
+class frmAtsumDialog : public AttendanceDialogs {};
+
+TEST_F(frmAtsumDialog, DatesStayWithinTheRange) {
+  Open(summary);
+  EXPECT_EQ(Find<QDateEdit>("termstart").date(), QDate(2026, 9, 1));
+  EXPECT_EQ(Find<QDateEdit>("termend").date(), QDate(2027, 6, 30));
+  for (const char* picker : {"termstart", "termend"}) {
+    EXPECT_EQ(Find<QDateEdit>(picker).minimumDate(), QDate(2026, 9, 1));
+    EXPECT_EQ(Find<QDateEdit>(picker).maximumDate(), QDate(2027, 6, 30));
+  }
+}
+
+}  // namespace
+}  // namespace tallyroll
