@@ -161,7 +161,7 @@ void WrapComments(PrintTarget& target) {
   do {
     PrintWrapped(target, ahead + std::string(lines.Next().value_or("")));
     ahead.clear();
-  } while (!lines.AtEnd());
+  } while (!lines.Rest().empty());
 }
 
 void Rule(PrintTarget& target) {

@@ -5,6 +5,7 @@
 
 #include "store/safe_file.h"
 #include "store/text_layout.h"
+#include "tests/support/source_dir.h"
 
 namespace tallyroll {
 namespace {
@@ -316,7 +317,7 @@ TEST(ReadRosterText, ASpreadsheetWithoutIdsSaysSo) {
 
 // Saved by LibreOffice Calc 7.4 from a sheet of text cells, with semicolons and UTF-8.
 TEST(ReadRosterText, AFileThatASpreadsheetProgramSavedIsReadWhole) {
-  const FileContents file = ReadWholeFile(TALLYROLL_SOURCE_DIR "/tests/store/data/spreadsheet.csv");
+  const FileContents file = ReadWholeFile(SourceDir() + "/tests/store/data/spreadsheet.csv");
   ASSERT_EQ(file.error, 0);
   const TextRoster roster = ReadRosterText(file.bytes, kCsvText);
   ASSERT_EQ(roster.students.size(), 4u);
