@@ -8,8 +8,8 @@
 #include "roster/frmEdit.h"
 #include "shell/shell_state.h"
 #include "store/frmpassword.h"
-#include "store/settings.h"
 #include "store/grade_file.h"
+#include "store/settings.h"
 #include "store/text_export.h"
 
 namespace tallyroll {
@@ -17,10 +17,6 @@ namespace {
 
 constexpr auto kRefill = AfterPortal::kRefill;
 constexpr auto kSaveIfDone = AfterPortal::kSaveIfDone;
-
-void NotYet(Form1& window) {
-  window.ShowStatus(kPortalNotAvailable);
-}
 
 void EditStudent(Form1& window, int open_state) {
   CurrentStudent = 0;

@@ -15,11 +15,11 @@ constexpr const char* kClass = R"({"description": "Algebra", "school": "Riversid
   "Summaries": [{"title": "First term", "code": "FT", "kind": 1}],
   "Students": [
     {"lastname": "Muñoz", "firstname": "Zoé", "id": "7", "comments": "Reads well.",
-     "Marks": ["", "18", "90"], "DailyMarks": ["", "A"],
-     "SummaryAbsent": ["", "2    "], "SummaryLate": ["", "1"], "SummaryDetail": ["", " 0/ 0/ 0/ 0/"]},
+     "Marks": ["", "18", "90"], "DailyMarks": [" ", "A"],
+     "SummaryAbsent": ["     ", "2    "], "SummaryLate": ["", "1"], "SummaryDetail": ["", " 0/ 0/ 0/ 0/"]},
     {"lastname": "Abe", "firstname": "Bo", "id": "512",
-     "Marks": ["", "14", "ABS"], "DailyMarks": ["", " "],
-     "SummaryAbsent": ["", "0    "], "SummaryLate": ["", "0"], "SummaryDetail": ["", " 0/ 0/ 0/ 0/"]}]})";
+     "Marks": ["", "14", "ABS"], "DailyMarks": [" ", " "],
+     "SummaryAbsent": ["     ", "0    "], "SummaryLate": ["", "0"], "SummaryDetail": ["", " 0/ 0/ 0/ 0/"]}]})";
 
 class ReportCommandTest : public CliTest {
  protected:
@@ -249,7 +249,7 @@ TEST_F(ReportCommandTest, AnAverageThatCannotBeMadeIsRefusedAndNothingIsWritten)
 TEST_F(ReportCommandTest, AFileThatCannotBeWrittenIsRefused) {
   const std::string out = Path("none/a.txt");
   ExpectRefused(RunCli({"report", "--code", "1", "--out", out, Build(kClass)}),
-                out + ": File Error: 76");
+                out + ": File Error: 76 (there is no such folder)");
 }
 
 TEST_F(ReportCommandTest, AFileThatIsMissingIsRefused) {
