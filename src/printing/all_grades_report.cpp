@@ -94,7 +94,7 @@ std::string Title() {
 }
 
 Section GradesSection(PrintTarget& target, const std::vector<int>& grades) {
-  const double base = (target.FontSize < 9 ? 37 : 33) * Job.CharUnit;
+  const double base = GradeBase(target);
   const auto move = [&target, base](double bases, int) { target.CurrentX = bases * base; };
   const auto put = [&target](std::string_view text) { target.PrintOpen(text); };
   const int comment_lines = LinesOfComment(target);

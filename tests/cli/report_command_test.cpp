@@ -58,7 +58,8 @@ TEST_F(ReportCommandTest, TheTextGoesToStandardOutput) {
   EXPECT_EQ(Report({"--code", "1"}),
             "                    Full Grades Printout\r\n\r\n"
             "512 Abe, Bo\r\nQ1    T1\r\n14    ABS\r\n\r\n" +
-                kRule + "\r\n" + "7 Muñoz, Zoé\r\nQ1    T1\r\n18    90\r\n\r\n" + kRule + "\r\n");
+                kRule + "\r\n\r\n" + "7 Muñoz, Zoé\r\nQ1    T1\r\n18    90\r\n\r\n" + kRule +
+                "\r\n\r\n");
 }
 
 TEST_F(ReportCommandTest, EveryCodeIsMade) {
