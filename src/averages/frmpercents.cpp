@@ -107,6 +107,7 @@ Currency frmpercents::EqualWeight(int rows) const {
 // The mark of the row in work is no part of a name.
 PrintedTable frmpercents::Printout() const {
   PrintedTable table{.title = " Weights Printout by Type",
+                     .first_column = 1,
                      .head = {"NAME", "Types", "# of ", "OLD %", "NEW %"},
                      .second_head = {"", "", "Items"},
                      .rows = RowsToPrint(typegrid)};

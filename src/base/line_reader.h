@@ -13,7 +13,6 @@ class LineReader {
 
   // The next line without its end; nothing behind the last.
   std::optional<std::string_view> Next();
-  bool AtEnd() const { return rest_.empty(); }
   // What no line was taken from yet.
   std::string_view Rest() const { return rest_; }
 

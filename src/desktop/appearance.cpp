@@ -3,9 +3,9 @@
 #include "desktop/appearance.h"
 
 #include <QApplication>
-#include <QStyleFactory>
 
 #include "desktop/palette_icon.h"
+#include "desktop/program_style.h"
 
 namespace tallyroll {
 
@@ -31,7 +31,7 @@ QPalette DarkPalette() {
 }
 
 void SetAppearance(QApplication& application, bool dark) {
-  application.setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
+  application.setStyle(new ProgramStyle);
   if (dark) application.setPalette(DarkPalette());
 }
 

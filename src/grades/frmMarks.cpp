@@ -91,6 +91,11 @@ void frmMarks::TellImport() {
   std::string told = "Students found in the file: " + PlainNumberText(imported_.matched);
   if (imported_.skipped > 0)
     told += "; lines that match no student: " + PlainNumberText(imported_.skipped);
+  if (imported_.cut > 0)
+    told += "; grades cut to five characters: " + PlainNumberText(imported_.cut);
+  if (imported_.columns.size() > 1)
+    told += "; grades side by side: " +
+            PlainNumberText(static_cast<std::int64_t>(imported_.columns.size()));
   ClassWindow().ShowStatus(told + ".");
 }
 

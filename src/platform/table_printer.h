@@ -9,6 +9,7 @@ namespace tallyroll {
 
 struct PrintedTable {
   std::string title;
+  int first_column = 7;                  // where the first column stands, 1 being the left edge
   std::vector<std::string> head;         // of each column
   std::vector<std::string> second_head;  // the line below; may be empty
   std::vector<std::vector<std::string>> rows;

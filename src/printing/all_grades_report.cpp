@@ -8,6 +8,7 @@
 #include "base/number_text.h"
 #include "base/text.h"
 #include "grades/marks.h"
+#include "printing/grade_columns.h"
 #include "printing/report_choice.h"
 #include "printing/report_writers.h"
 #include "printing/student_tail.h"
@@ -46,70 +47,33 @@ std::vector<int> GradesInOrder() {
 
 // ---- Columns: those of the rows stand a little beside their heads ----
 
-struct Column {
-  double head, row;  // in bases
-  int text;          // characters in a text file
-  std::string_view first, second;
-  std::string (*value)(int grade);
-};
-
 constexpr std::array kColumns = {
-    Column{0, 0, 1, "TITLE", "", [](int i) { return Text(GradeInReport(i).title); }},
-    Column{0.96, 0.96, 34, "CODE", "", [](int i) { return Text(GradeInReport(i).code); }},
-    Column{1.1, 1.1, 40, "TP.", "", [](int i) { return Text(GradeInReport(i).typecode); }},
-    Column{1.2, 1.2, 45, " DATE", "", [](int i) { return Text(GradeInReport(i).testdate); }},
-    Column{1.44, 1.45, 58, "GRADE", "", [](int i) { return Text(MarkOf(StudentInReport(), i)); }},
-    Column{1.61, 1.61, 66, "MAX.", "SCORE",
-           [](int i) { return PlainNumberText(GradeInReport(i).mvalue); }},
+    GradeColumn{0, 0, 1, "TITLE", "", [](int i) { return Text(GradeInReport(i).title); }},
+    GradeColumn{0.96, 0.96, 34, "CODE", "", [](int i) { return Text(GradeInReport(i).code); }},
+    GradeColumn{1.1, 1.1, 40, "TP.", "", [](int i) { return Text(GradeInReport(i).typecode); }},
+    GradeColumn{1.2, 1.2, 45, " DATE", "", [](int i) { return Text(GradeInReport(i).testdate); }},
+    GradeColumn{1.44, 1.45, 58, "GRADE", "",
+                [](int i) { return Text(MarkOf(StudentInReport(), i)); }},
+    GradeColumn{1.61, 1.61, 66, "MAX.", "SCORE",
+                [](int i) { return PlainNumberText(GradeInReport(i).mvalue); }},
 };
-constexpr double kUseHead = 1.79, kUseRow = 1.78;
-constexpr int kUseText = 74;
-
-template <typename Move, typename Put>
-void PutHead(bool first_line, Move&& move, Put&& put) {
-  for (const Column& column : kColumns) {
-    const std::string_view head = first_line ? column.first : column.second;
-    if (head.empty()) continue;
-    move(column.head, column.text);
-    put(head);
-  }
-  if (!ShowsWeightOrUse() || !first_line) return;
-  move(kUseHead, kUseText);
-  put(WeightOrUseHead());
-}
-
-template <typename Move, typename Put>
-void PutRow(int grade, Move&& move, Put&& put) {
-  for (const Column& column : kColumns) {
-    move(column.row, column.text);
-    put(column.value(grade));
-  }
-  if (!ShowsWeightOrUse()) return;
-  move(kUseRow, kUseText);
-  put(WeightOrUse(grade));
-}
+constexpr GradeColumns kTable{kColumns, 1.79, 1.78, 74};
 
 std::string Title() {
   return std::string(ReportWithAverages() ? kAverageTitle : kPlainTitle) + StudentLabel();
 }
 
 Section GradesSection(PrintTarget& target, const std::vector<int>& grades) {
-  const double base = (target.FontSize < 9 ? 37 : 33) * Job.CharUnit;
-  const auto move = [&target, base](double bases, int) { target.CurrentX = bases * base; };
-  const auto put = [&target](std::string_view text) { target.PrintOpen(text); };
+  const double base = GradeBase(target);
   const int comment_lines = LinesOfComment(target);
   return {.rows = static_cast<int>(grades.size()),
           .print =
-              [&target, &grades, move, put](int row) {
-                PutRow(grades[static_cast<std::size_t>(row) - 1], move, put);
-                target.Print();
+              [&target, &grades, base](int row) {
+                PrintGradeRow(target, kTable, base, grades[static_cast<std::size_t>(row) - 1]);
               },
           .head =
-              [&target, move, put] {
-                for (const bool first_line : {true, false}) {
-                  PutHead(first_line, move, put);
-                  target.Print();
-                }
+              [&target, base] {
+                PrintGradeHead(target, kTable, base);
                 target.Print();
               },
           .head_lines = 3,
@@ -133,17 +97,8 @@ void WriteAllGrades(TextReport& text) {
   text.Row(kTextRule, '=');
   text.Line(Title());
   text.End();
-  const auto move = [&](double, int column) { text.Tab(column); };
-  const auto put = [&](std::string_view part) { text.Put(part); };
-  for (const bool first_line : {true, false}) {
-    PutHead(first_line, move, put);
-    text.End();
-  }
-  text.Row(kTextRule, '_');
-  for (const int grade : GradesInOrder()) {
-    PutRow(grade, move, put);
-    text.End();
-  }
+  WriteGradeHead(text, kTable);
+  for (const int grade : GradesInOrder()) WriteGradeRow(text, kTable, grade);
   text.Line("   ");
   WriteTypeTotals(text);
   WriteStudentTail(text);

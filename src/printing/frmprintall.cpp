@@ -269,10 +269,6 @@ void frmprintall::LoadTitles() {
     lstatt.List.emplace_back(Trim(c.Summaries[static_cast<std::size_t>(i)].title));
 }
 
-void frmprintall::TickAll(bool on) {
-  lstName.Checked.assign(lstName.List.size(), on);
-}
-
 int frmprintall::Code() const {
   for (const Row& row : kRows)
     if (row.tab == TabStrip1.Selected + 1 && (this->*row.option).Value) return row.code;

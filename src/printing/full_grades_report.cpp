@@ -40,9 +40,12 @@ void WriteStudent(TextReport& text) {
   WriteStudentRows(text);
   if (Choice.attendance1) WriteAttendanceRows(text);
   if (Choice.comment1) WriteComments(text);
-  if (ReportWithAverages()) WriteAverages(text);
-  text.End();
+  if (ReportWithAverages())
+    WriteAverages(text);
+  else
+    text.End();
   text.Row(kTextRule, '_');
+  text.End();
 }
 
 }  // namespace
@@ -78,7 +81,6 @@ void WriteFullGrades(TextReport& text) {
     WriteStudent(text);
   }
   if (!EndsWithDetails()) return;
-  text.End();
   WriteCodeDetails(text);
   text.End();
   WriteTypeTotals(text);

@@ -2,8 +2,7 @@
 #include "printing/line_table.h"
 
 #include <algorithm>
-
-#include "printing/sections.h"
+#include <iterator>
 
 namespace tallyroll {
 namespace {
@@ -78,11 +77,13 @@ Section SectionOf(const Paper& paper, const LineBlock& block) {
 
 }  // namespace
 
-void PrintTable(ReportPass& pass, const LineTable& table, bool restart) {
+void PrintTable(ReportPass& pass, const LineTable& table, bool restart,
+                std::vector<Section> behind) {
   const Paper paper(pass.target, table.width);
   std::vector<Section> sections;
-  sections.reserve(table.blocks.size());
+  sections.reserve(table.blocks.size() + behind.size());
   for (const LineBlock& block : table.blocks) sections.push_back(SectionOf(paper, block));
+  std::move(behind.begin(), behind.end(), std::back_inserter(sections));
   PrintSections(pass, sections, restart);
 }
 

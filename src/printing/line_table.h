@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "printing/page_frame.h"
+#include "printing/sections.h"
 #include "printing/text_report.h"
 
 namespace tallyroll {
@@ -36,8 +37,10 @@ struct LineTable {
   int text_rule = width;  // characters of a rule in a text file
 };
 
-// Prints the rows of the pass, blocks one behind the other. `restart` is that of PageFooter.
-void PrintTable(ReportPass& pass, const LineTable& table, bool restart = false);
+// Prints the rows of the pass, blocks one behind the other, and what stands behind the table.
+// `restart` is that of PageFooter.
+void PrintTable(ReportPass& pass, const LineTable& table, bool restart = false,
+                std::vector<Section> behind = {});
 void WriteTable(TextReport& text, const LineTable& table);
 
 }  // namespace tallyroll

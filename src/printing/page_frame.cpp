@@ -58,18 +58,18 @@ int CommentLines(const PrintTarget& target) {
 }
 
 // A word that is wider than a line stands on one of its own.
-void PrintWrapped(PrintTarget& target, std::string text) {
+void Wrap(const PrintTarget& target, std::string text, std::vector<std::string>& lines) {
   std::string line;
   for (std::string word = NextWord(text); !word.empty(); word = NextWord(text)) {
     if (target.TextWidth(line + word) > Job.PageTextWidth && !line.empty()) {
-      target.Print(line);
+      lines.push_back(line);
       line.clear();
     }
     line += word;
   }
-  if (target.TextWidth(line + text) < Job.PageTextWidth) return target.Print(line + text);
-  if (!line.empty()) target.Print(line);
-  target.Print(text);
+  if (target.TextWidth(line + text) < Job.PageTextWidth) return lines.push_back(line + text);
+  if (!line.empty()) lines.push_back(line);
+  lines.push_back(text);
 }
 
 }  // namespace
@@ -153,15 +153,21 @@ void FitBlock(ReportPass& pass) {
   }
 }
 
-void WrapComments(PrintTarget& target) {
+std::vector<std::string> WrappedComment(const PrintTarget& target) {
   const std::string& comments =
       Current().Students[static_cast<std::size_t>(CurrentStudent)].comments;
-  LineReader lines(Trim(comments));
+  LineReader typed(Trim(comments));
   std::string ahead(kComments);
+  std::vector<std::string> lines;
   do {
-    PrintWrapped(target, ahead + std::string(lines.Next().value_or("")));
+    Wrap(target, ahead + std::string(typed.Next().value_or("")), lines);
     ahead.clear();
-  } while (!lines.AtEnd());
+  } while (!typed.Rest().empty());
+  return lines;
+}
+
+void WrapComments(PrintTarget& target) {
+  for (const std::string& line : WrappedComment(target)) target.Print(line);
 }
 
 void Rule(PrintTarget& target) {

@@ -35,7 +35,8 @@ bool WouldPassBottom(const PrintTarget& target, int lines);
 // the layout with that student.
 void FitBlock(ReportPass& pass);
 
-// "COMMENTS: " and the comment of CurrentStudent, wrapped at words.
+// "COMMENTS: " and the comment of CurrentStudent, wrapped at words into lines of the current font.
+std::vector<std::string> WrappedComment(const PrintTarget& target);
 void WrapComments(PrintTarget& target);
 
 // A rule across the page at the pen.

@@ -93,6 +93,10 @@ std::vector<i16> frmprintall::TickedStudents() const {
   return students;
 }
 
+void frmprintall::TickAll(bool on) {
+  lstName.Checked.assign(lstName.List.size(), on);
+}
+
 void frmprintall::RefreshNames() {
   const std::vector<i16> ticked = TickedStudents();
   lstName.List.clear();

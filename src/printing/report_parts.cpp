@@ -35,9 +35,16 @@ double NumberAt(std::string_view detail, int place) {
   return LeadingNumber(detail);
 }
 
+// Four lines are looked for above the page's bottom, and the last of the words may stand below it.
+constexpr int kSignatureLines = 4;
+
 // Cells of `column` units side by side behind `left` units, as many as fit.
 int CellsInRow(double width, double left, double column) {
   return std::max(static_cast<int>((width - left) / column), 1);
+}
+
+int PeriodsInRow() {
+  return CellsInRow(Job.PageTextWidth / std::max(Job.CharUnit, 1.0), kSummaryLeft, kSummaryColumn);
 }
 
 void PrintCells(PrintTarget& target, std::string_view label, int first, int last,
@@ -111,6 +118,10 @@ std::string WeightOrUse(int grade) {
   return i < c.InstrumentUse.size() && c.InstrumentUse[i] == Currency::FromWhole(2) ? "N" : "Y";
 }
 
+double GradeBase(const PrintTarget& target) {
+  return (target.FontSize < 9 ? 37 : 33) * Job.CharUnit;
+}
+
 std::string AttendanceCell(const Student& student, int summary) {
   const auto i = static_cast<std::size_t>(summary);
   const std::string_view absent =
@@ -124,14 +135,18 @@ std::string AttendanceCell(const Student& student, int summary) {
 
 void PrintAttendanceRows(PrintTarget& target) {
   const int count = Current().NumSummaries;
-  const int in_row =
-      CellsInRow(Job.PageTextWidth / std::max(Job.CharUnit, 1.0), kSummaryLeft, kSummaryColumn);
+  const int in_row = PeriodsInRow();
   for (int first = 1; first <= count; first += in_row) {
     const int last = std::min(first + in_row - 1, count);
     PrintCells(target, kSummaryLabel, first, last, SummaryCode);
     PrintCells(target, kCellLabel, first, last, SummaryCell);
     Job.BlockLines += 2;
   }
+}
+
+int LinesOfAttendance() {
+  const int in_row = PeriodsInRow();
+  return 2 * ((Current().NumSummaries + in_row - 1) / in_row);
 }
 
 void WriteAttendanceRows(TextReport& text) {
@@ -155,17 +170,19 @@ void WriteAverages(TextReport& text) {
   CheckAverage(PrintAverageAndCompute([&](std::string_view line) { text.Line(line); }, totals));
 }
 
-void PrintParentSignature(PrintTarget& target, double x) {
+void PrintParentSignature(PrintTarget& target) {
   for (int i = 0; i < 3; ++i) target.Print();
   Rule(target);
   target.Print();
-  target.CurrentX = x;
+  target.CurrentX = GradeBase(target) / 2;
   target.Print("Parent's Signature");
 }
 
-LineBlock SignatureBlock() {
-  const TableLine empty, rule{{}, '_'}, words{{{0, "Parent's Signature"}}};
-  return {{}, {{empty, empty, empty, rule, empty, words}}, {}};
+std::vector<Section> SignatureSections(PrintTarget& target) {
+  if (!Choice.parentsig) return {};
+  return {{.rows = 1,
+           .print = [&target](int) { PrintParentSignature(target); },
+           .lines = [](int) { return kSignatureLines; }}};
 }
 
 void WriteParentSignature(TextReport& text) {

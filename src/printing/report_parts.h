@@ -8,6 +8,7 @@
 
 #include "printing/line_table.h"
 #include "printing/page_frame.h"
+#include "printing/sections.h"
 #include "printing/text_report.h"
 
 namespace tallyroll {
@@ -28,6 +29,9 @@ std::string_view WeightOrUseHead();
 // "Y" or "N" under the point methods, otherwise the grade's weight in force.
 std::string WeightOrUse(int grade);
 
+// What the columns of one student's grades are multiples of.
+double GradeBase(const PrintTarget& target);
+
 // A period's total of absences, the excused ones left out, "/" and its lates. Below 1 the number of
 // absences stands as it was entered.
 std::string AttendanceCell(const Student& student, int summary);
@@ -35,15 +39,16 @@ std::string AttendanceCell(const Student& student, int summary);
 // The summary periods in rows as wide as the page: a line of codes and a line of cells. Each row
 // adds 2 to BlockLines.
 void PrintAttendanceRows(PrintTarget& target);
+int LinesOfAttendance();
 void WriteAttendanceRows(TextReport& text);
 
 // The two lines of an average. One that cannot be computed ends the report with the reason.
 void PrintAverages(PrintTarget& target);
 void WriteAverages(TextReport& text);
 
-void PrintParentSignature(PrintTarget& target, double x);
-// The same as the end of a table.
-LineBlock SignatureBlock();
+void PrintParentSignature(PrintTarget& target);
+// The same as what closes a report, where the parent is to sign.
+std::vector<Section> SignatureSections(PrintTarget& target);
 void WriteParentSignature(TextReport& text);
 
 // "Comments: " and the comment.

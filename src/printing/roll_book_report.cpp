@@ -143,13 +143,15 @@ void PrintTitles(PrintTarget& target, const std::vector<int>& grades) {
   Rule(target);
 }
 
-void PrintStudent(PrintTarget& target, const Student& student, const std::vector<int>& grades) {
+// The first student has no rule below, as in the book without titles, unless he is the last.
+void PrintStudent(PrintTarget& target, int row, const std::vector<int>& grades) {
+  const Student& student = Current().Students[static_cast<std::size_t>(row)];
   for (const LineCell& cell : RowOf(student, grades).cells) {
     target.CurrentX = cell.column * Unit();
     target.PrintOpen(cell.text);
   }
   target.Print();
-  Rule(target);
+  if (row > 1 || row == Current().NumStudents) Rule(target);
 }
 
 void PrintFullTitles(ReportPass& pass) {
@@ -157,14 +159,10 @@ void PrintFullTitles(ReportPass& pass) {
   const std::vector<std::vector<int>> blocks = GradesByBlock();
   std::vector<Section> sections;
   for (const std::vector<int>& grades : blocks)
-    sections.push_back(
-        {.rows = Current().NumStudents,
-         .print =
-             [&target, &grades](int row) {
-               PrintStudent(target, Current().Students[static_cast<std::size_t>(row)], grades);
-             },
-         .head = [&target, &grades] { PrintTitles(target, grades); },
-         .head_lines = TitleLines(target, grades) + 1});
+    sections.push_back({.rows = Current().NumStudents,
+                        .print = [&target, &grades](int row) { PrintStudent(target, row, grades); },
+                        .head = [&target, &grades] { PrintTitles(target, grades); },
+                        .head_lines = TitleLines(target, grades) + 1});
   PrintSections(pass, sections);
 }
 

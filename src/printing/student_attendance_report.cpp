@@ -94,9 +94,7 @@ std::string Title() {
 
 void PrintStudentAttendance(ReportPass& pass) {
   StudentHeader(pass, Title(), pass.first == 1);
-  LineTable table = Table();
-  if (Choice.parentsig) table.blocks.push_back(SignatureBlock());
-  PrintTable(pass, table, true);
+  PrintTable(pass, Table(), true, SignatureSections(pass.target));
 }
 
 void WriteStudentAttendance(TextReport& text) {

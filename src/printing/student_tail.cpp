@@ -2,6 +2,9 @@
 #include "printing/student_tail.h"
 
 #include <algorithm>
+#include <string>
+#include <utility>
+#include <vector>
 
 #include "base/text.h"
 #include "printing/report_choice.h"
@@ -10,28 +13,21 @@
 namespace tallyroll {
 namespace {
 
-constexpr int kLastLines = 4;
-constexpr double kSmallFont = 9;
+constexpr int kLastLines = 4;  // for the signature, whether there is one or not
+constexpr int kAverageLines = 2;
 
-double SignatureColumn(const PrintTarget& target) {
-  return (target.FontSize < kSmallFont ? 37 : 33) * Job.CharUnit / 2;
-}
-
-void PrintTail(ReportPass& pass) {
-  PrintTarget& target = pass.target;
-  target.Print();
-  if (Choice.attendance1) PrintAttendanceRows(target);
-  if (Choice.comment1) WrapComments(target);
+void PrintClose(PrintTarget& target) {
   target.Print();
   if (ReportWithAverages()) PrintAverages(target);
-  if (Choice.parentsig) PrintParentSignature(target, SignatureColumn(target));
+  if (Choice.parentsig) PrintParentSignature(target);
 }
 
-int TailLines(const PrintTarget& target) {
-  int lines = kLastLines + LinesOfComment(target);
-  if (Choice.attendance1) lines += 2 * std::max<int>(Current().NumSummaries, 1);
-  if (ReportWithAverages()) lines += 2;
-  return lines;
+int LinesOfClose() {
+  return 1 + (ReportWithAverages() ? kAverageLines : 0) + kLastLines;
+}
+
+int LinesAheadOfComment() {
+  return 1 + (Choice.attendance1 ? LinesOfAttendance() : 0);
 }
 
 }  // namespace
@@ -44,9 +40,25 @@ int LinesOfComment(const PrintTarget& target) {
 }
 
 Section StudentTailSection(ReportPass& pass) {
-  return {.rows = 1,
-          .print = [&pass](int) { PrintTail(pass); },
-          .lines = [&pass](int) { return TailLines(pass.target); }};
+  std::vector<std::string> comment;
+  if (Choice.comment1) comment = WrappedComment(pass.target);
+  const auto lines = static_cast<int>(comment.size());
+  const int rows = std::max(lines, 1);
+  return {.rows = rows,
+          .print =
+              [&target = pass.target, comment = std::move(comment), rows](int row) {
+                if (row == 1) {
+                  target.Print();
+                  if (Choice.attendance1) PrintAttendanceRows(target);
+                }
+                if (!comment.empty()) target.Print(comment[static_cast<std::size_t>(row) - 1]);
+                if (row == rows) PrintClose(target);
+              },
+          .lines =
+              [lines, rows](int row) {
+                if (row == 1) return LinesAheadOfComment() + lines + LinesOfClose();
+                return 1 + (row == rows ? LinesOfClose() : 0);
+              }};
 }
 
 void WriteStudentTail(TextReport& text) {

@@ -10,7 +10,8 @@ namespace tallyroll {
 // How many lines are kept free for the comment below each row of the report.
 int LinesOfComment(const PrintTarget& target);
 
-// One row of the report, so that it stays together.
+// It stays together on a page, or where no page can hold it goes on between lines of the comment,
+// which are its rows.
 Section StudentTailSection(ReportPass& pass);
 void WriteStudentTail(TextReport& text);
 

@@ -216,9 +216,7 @@ void WriteAllSummaries(TextReport& text) {
 
 void PrintAttendanceSummaryForStudent(ReportPass& pass) {
   StudentHeader(pass, StudentTitle(), pass.first == 1);
-  LineTable table = StudentTable();
-  if (Choice.parentsig) table.blocks.push_back(SignatureBlock());
-  PrintTable(pass, table, true);
+  PrintTable(pass, StudentTable(), true, SignatureSections(pass.target));
 }
 
 void WriteAttendanceSummaryForStudent(TextReport& text) {

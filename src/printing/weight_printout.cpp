@@ -12,7 +12,6 @@ namespace tallyroll {
 namespace {
 
 // In widths of the average character.
-constexpr int kNameColumn = 7;            // counted from 1, as a tab
 constexpr int kGap = 3;                   // behind the names and the heads
 constexpr int kFirstStep = 5, kStep = 7;  // the least that the later columns lie apart
 
@@ -23,7 +22,7 @@ std::vector<double> ColumnsOf(const PrintedTable& table, PrintTarget& target) {
   double names = 0;
   for (const auto& row : table.rows) names = std::max(names, target.TextWidth(row.front()));
   target.FontBold = true;
-  std::vector<double> columns = {(kNameColumn - 1) * character};
+  std::vector<double> columns = {(table.first_column - 1) * character};
   for (std::size_t i = 1; i < table.head.size(); ++i) {
     const double step = (i == 1 ? 0 : i == 2 ? kFirstStep : kStep) * character;
     const double head = target.TextWidth(table.head[i - 1]) + kGap * character;

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "roster/frmAdd.h"
 
+#include <limits>
+
 #include "base/text.h"
 #include "platform/surroundings.h"
 #include "store/class_defaults.h"
@@ -9,6 +11,11 @@
 #include "store/sort_students.h"
 
 namespace tallyroll {
+namespace {
+
+constexpr int kMostStudents = std::numeric_limits<i16>::max();  // what NumStudents can hold
+
+}  // namespace
 
 frmAdd::frmAdd() : StudentForm("frmAdd") {
   Caption = "Add Student Portal";
@@ -40,6 +47,10 @@ bool frmAdd::RecordExists() const {
 }
 
 void frmAdd::GoTo(int position) {
+  if (position > kMostStudents) {
+    ShowMessage("You may only have 32767 students in a class.", BoxIcon::kCritical);
+    position = kMostStudents;
+  }
   Position = static_cast<i16>(position);
   from_clipboard_.reset();
   if (RecordExists()) return ShowStudent();
@@ -97,6 +108,7 @@ void frmAdd::addclip_Click() {
   if (!(AllBlank() && !RecordExists())) {
     if (!KeepStudent()) return;
     GoTo(Current().NumStudents + 1);
+    if (RecordExists()) return;
   }
   ShowFields(text->fields);
   from_clipboard_ = *text;

@@ -106,9 +106,11 @@ void frmdelete::delclip_Click() {
   if (!Confirmed("NOTE: The Clipboard can hold only ONE student at a time. Delete " +
                  PlainName(Chosen()) + " and save the student to the CLIPBOARD? "))
     return;
-  Platform().SetClipboardText(StudentOnClipboard(Chosen(), info.Value));
+  const std::string text = StudentOnClipboard(Chosen(), info.Value);
+  Platform().SetClipboardText(text);
   const auto kept = ReadStudent(Platform().ClipboardText());
-  if (!kept || kept->fields.id != Chosen().id)
+  const auto sent = ReadStudent(text);
+  if (!kept || !sent || kept->fields.id != sent->fields.id)
     return void(ShowMessage("An error has occured writing on Clipboard."));
   RemoveChosen();
 }

@@ -35,8 +35,10 @@ void AddLine(std::string& text, std::string_view line) {
   text += '\r';
 }
 
-std::string_view OrNothing(const std::string& value) {
-  return Trim(value).empty() ? kNothing : std::string_view(value);
+// A value that begins like nothing gets a blank before it, which every Portal trims off again.
+std::string OrNothing(const std::string& value) {
+  if (Trim(value).empty()) return std::string(kNothing);
+  return value.starts_with(kNothing) ? " " + value : value;
 }
 
 template <typename T>

@@ -8,8 +8,8 @@
 #include "roster/frmEdit.h"
 #include "shell/shell_state.h"
 #include "store/frmpassword.h"
-#include "store/settings.h"
 #include "store/grade_file.h"
+#include "store/settings.h"
 #include "store/text_export.h"
 
 namespace tallyroll {

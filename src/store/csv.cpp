@@ -2,8 +2,10 @@
 #include "store/csv.h"
 
 #include <algorithm>
+#include <array>
+#include <optional>
 
-#include "base/line_reader.h"
+#include "base/number_text.h"
 #include "base/text.h"
 
 namespace tallyroll {
@@ -11,35 +13,56 @@ namespace {
 
 constexpr std::string_view kSeparators = ";,\t";  // on equal terms the earlier one
 constexpr std::string_view kSeparatorLine = "sep=";
-constexpr int kLinesLookedAt = 20;
+constexpr int kRecordsLookedAt = 20;
+constexpr std::size_t kMostCells = 1000;
 constexpr char kQuote = '"';
 
 bool TellsSeparator(std::string_view text) {
-  return text.starts_with(kSeparatorLine) && text.size() > kSeparatorLine.size();
+  return text.starts_with(kSeparatorLine) && text.size() > kSeparatorLine.size() &&
+         std::string_view("\"\r\n").find(text[kSeparatorLine.size()]) == std::string_view::npos;
 }
 
-int CountOutsideQuotes(std::string_view line, char separator) {
-  int count = 0;
-  bool quoted = false;
-  for (const char c : line) {
-    if (c == kQuote) quoted = !quoted;
-    if (c == separator && !quoted) ++count;
-  }
-  return count;
+using Counts = std::array<int, kSeparators.size()>;
+
+// Where the text behind a quote goes on: behind the closing one.
+std::size_t BehindQuoted(std::string_view text, std::size_t at) {
+  while (at < text.size() && (text[at] != kQuote || text.substr(at + 1).starts_with(kQuote)))
+    at += text[at] == kQuote ? 2 : 1;
+  return at;
 }
 
-// How many times the separator stands in each of the first lines at least.
-int EvenCount(std::string_view text, char separator) {
-  LineReader lines(text);
-  int least = -1;
-  for (int i = 0; i < kLinesLookedAt; ++i) {
-    const auto line = lines.Next();
-    if (!line) break;
-    if (Trim(*line).empty()) continue;
-    const int count = CountOutsideQuotes(*line, separator);
-    least = least < 0 ? count : std::min(least, count);
+// Takes a record off the text and counts the separators outside its quotes. Nothing when no text
+// stands in it.
+std::optional<Counts> CountRecord(std::string_view& text) {
+  Counts counts{};
+  bool opens = true;  // a quote here opens a cell
+  std::size_t at = 0;
+  for (; at < text.size() && text[at] != '\r' && text[at] != '\n'; ++at) {
+    const std::size_t separator = kSeparators.find(text[at]);
+    const bool parts = separator != std::string_view::npos;
+    if (parts) ++counts[separator];
+    if (opens && text[at] == kQuote) at = BehindQuoted(text, at + 1);
+    if (at >= text.size()) break;
+    opens = parts || (opens && text[at] == ' ');
   }
-  return std::max(least, 0);
+  const bool blank = Trim(text.substr(0, at)).empty();
+  text.remove_prefix(std::min(at + 1, text.size()));
+  if (blank) return std::nullopt;
+  return counts;
+}
+
+// How many times each separator stands in each of the first records at least.
+Counts EvenCounts(std::string_view text) {
+  Counts least{};
+  int records = 0;
+  while (!text.empty() && records < kRecordsLookedAt) {
+    const std::optional<Counts> counts = CountRecord(text);
+    if (!counts) continue;
+    for (std::size_t i = 0; i < least.size(); ++i)
+      least[i] = records == 0 ? (*counts)[i] : std::min(least[i], (*counts)[i]);
+    ++records;
+  }
+  return least;
 }
 
 class Parser {
@@ -48,21 +71,28 @@ class Parser {
 
   CsvTable Table() {
     CsvTable table;
-    while (at_ < text_.size() && table.unclosed_line == 0) {
-      CsvRecord record;
-      record.line = line_;
-      do record.cells.push_back(Cell());
-      while (Take(separator_));
-      TakeLineEnd();
+    while (at_ < text_.size() && table.unclosed_line == 0 && !table.too_long) {
+      CsvRecord record = Record();
       table.unclosed_line = unclosed_line_;
       const bool blank = std::ranges::all_of(
           record.cells, [](const CsvCell& cell) { return Trim(cell.text).empty(); });
-      if (!blank) table.records.push_back(std::move(record));
+      table.too_long = !blank && table.records.size() == kMostRecords;
+      if (!blank && !table.too_long) table.records.push_back(std::move(record));
     }
     return table;
   }
 
  private:
+  CsvRecord Record() {
+    CsvRecord record;
+    record.line = line_;
+    do {
+      CsvCell cell = Cell();
+      if (record.cells.size() < kMostCells) record.cells.push_back(std::move(cell));
+    } while (Take(separator_));
+    TakeLineEnd();
+    return record;
+  }
   bool AtEnd() const { return at_ >= text_.size(); }
   bool AtLineEnd() const { return text_[at_] == '\r' || text_[at_] == '\n'; }
   bool Take(char c) {
@@ -114,21 +144,22 @@ class Parser {
 
 char FindSeparator(std::string_view text) {
   if (TellsSeparator(text)) return text[kSeparatorLine.size()];
-  char best = ',';
-  int most = 0;
-  for (const char separator : kSeparators) {
-    const int count = EvenCount(text, separator);
-    if (count <= most) continue;
-    most = count;
-    best = separator;
-  }
-  return best;
+  const Counts counts = EvenCounts(text);
+  const auto most = std::ranges::max_element(counts);
+  return *most == 0 ? ',' : kSeparators[static_cast<std::size_t>(most - counts.begin())];
 }
 
 CsvTable ParseCsv(std::string_view text) {
   CsvTable table = Parser(text, FindSeparator(text)).Table();
   if (TellsSeparator(text) && !table.records.empty()) table.records.erase(table.records.begin());
   return table;
+}
+
+std::string FaultOf(const CsvTable& table) {
+  if (table.unclosed_line > 0)
+    return "has a quotation mark in line " + PlainNumberText(table.unclosed_line) +
+           " that is never closed";
+  return table.too_long ? "has more than " + PlainNumberText(kMostRecords) + " lines" : "";
 }
 
 std::string CsvField(std::string_view text, char separator) {

@@ -8,6 +8,8 @@
 
 namespace tallyroll {
 
+inline constexpr int kMostRecords = 200'000;
+
 struct CsvCell {
   std::string_view raw;  // as it stands in the file, its quotes included
   std::string text;
@@ -21,15 +23,19 @@ struct CsvRecord {
 struct CsvTable {
   std::vector<CsvRecord> records;  // those in which anything stands
   int unclosed_line = 0;           // where a quote was opened that nothing closes; 0 is nowhere
+  bool too_long = false;           // more records than kMostRecords
 };
 
-// A semicolon, a comma or a tab, whichever parts the first lines most often and evenly. A first
+// A semicolon, a comma or a tab, whichever parts the first records most often and evenly. A first
 // line "sep=;" settles it.
 char FindSeparator(std::string_view text);
 
 // The cells keep to `text`, which must outlive them. A quoted cell may hold separators, line ends
-// and doubled quotes; blanks before its quote are passed over.
+// and doubled quotes; blanks before its quote are passed over. Cells behind the thousandth of a
+// record are left.
 CsvTable ParseCsv(std::string_view text);
+// Why the table cannot be taken, as the end of a sentence; empty when it can.
+std::string FaultOf(const CsvTable& table);
 
 // Quoted where a separator, a quote or a line end stands in the text.
 std::string CsvField(std::string_view text, char separator = ',');

@@ -145,17 +145,17 @@ CsvPurpose frmtxt::Purpose() const {
 void frmtxt::LoadColumns() {
   const FileContents file = ReadWholeFile(ImportFile, kLargestTextFile);
   std::optional<SourceText> source = SourceText::FromBytes(file.bytes);
-  std::string_view fault = source ? "" : "is not a text file";
+  std::string fault = source ? "" : "is not a text file";
   if (source) {
     source_ = std::move(*source);
     table_ = ParseCsv(source_.text());
-    if (table_.unclosed_line > 0) fault = "has a quotation mark that is never closed";
+    fault = FaultOf(table_);
     if (fault.empty() && table_.records.empty()) fault = "holds no students";
   }
   if (file.error != 0)
     ShowTextFileError(file.error);
   else if (!fault.empty())
-    ShowMessage(PathForDisplay(ImportFile) + " " + std::string(fault) + ".", BoxIcon::kCritical);
+    ShowMessage(PathForDisplay(ImportFile) + " " + fault + ".", BoxIcon::kCritical);
   if (file.error != 0 || !fault.empty()) return Unload();
   chosen_ = GuessColumns(table_, Purpose());
   for (const CsvUse use : CsvUsesFor(Purpose())) field.List.emplace_back(CsvUseCaption(use));

@@ -27,6 +27,9 @@ struct GradeFile {
   std::vector<GradeColumn> columns;
   int matched = 0;  // lines with a student of the class
   int skipped = 0;  // lines without
+  int cut = 0;      // marks with more letters than a class holds
+  // Texts that the code page cannot hold, a line each; they are left out.
+  std::vector<std::string> lacking;
 };
 
 // The marks for the students of the current class. Beside the key a line may also hold the other

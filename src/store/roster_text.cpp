@@ -15,6 +15,8 @@ namespace tallyroll {
 namespace {
 
 constexpr std::size_t kNamesAndMark = 31;  // what two names may have together, and their mark
+// One more than any class can take: a log that was mistaken for a roster does not fill the memory.
+constexpr std::size_t kStudentsRead = 32768;
 
 // Takes values out of the text, as far as a class file can hold them.
 class Taker {
@@ -75,7 +77,7 @@ void ReadLines(const SourceText& source, i16 mode, TextRoster& roster) {
     const std::vector<std::string_view> fields = FieldsOf(*line, mode);
     if (NothingIn(fields)) continue;
     roster.students.push_back(StudentOfLine(fields, number, taker));
-    if (!roster.refusal.empty()) return;
+    if (!roster.refusal.empty() || roster.students.size() == kStudentsRead) return;
   }
 }
 
@@ -116,9 +118,7 @@ Student StudentOfRecord(const CsvRecord& record, const CsvColumns& columns, Take
 void ReadRecords(const SourceText& source, const CsvColumns& chosen, TextRoster& roster) {
   const CsvTable table = ParseCsv(source.text());
   Taker taker(source, roster);
-  if (table.unclosed_line > 0)
-    return taker.Refuse("has a quotation mark in line " + PlainNumberText(table.unclosed_line) +
-                        " that is never closed");
+  if (const std::string fault = FaultOf(table); !fault.empty()) return taker.Refuse(fault);
   const CsvColumns columns =
       chosen.uses.empty() ? GuessColumns(table, CsvPurpose::kStudents) : chosen;
   if (!WhatIsMissing(columns, CsvPurpose::kStudents).empty())
@@ -126,7 +126,7 @@ void ReadRecords(const SourceText& source, const CsvColumns& chosen, TextRoster&
   roster.numbered = columns.Find(CsvUse::kId) >= 0;
   for (std::size_t i = columns.heading ? 1 : 0; i < table.records.size(); ++i) {
     roster.students.push_back(StudentOfRecord(table.records[i], columns, taker));
-    if (!roster.refusal.empty()) return;
+    if (!roster.refusal.empty() || roster.students.size() == kStudentsRead) return;
   }
 }
 

@@ -23,6 +23,11 @@ char Nearest(char separator) {
   return separator == '"' ? '\'' : ' ';
 }
 
+// No text file holds them: a reader would end the line there, or take the file for no text.
+bool IsControl(char c) {
+  return c >= '\0' && c < ' ' && c != '\t';
+}
+
 // One line of the text file, put together value by value.
 class LineWriter {
  public:
@@ -48,7 +53,7 @@ class LineWriter {
   std::string Kept(std::string_view value) {
     std::string kept(value);
     for (char& c : kept) {
-      if (c == '\r' || c == '\n') c = ' ';
+      if (IsControl(c)) c = ' ';
       if (separator_ != 0 && c == separator_) c = Nearest(separator_);
     }
     if (kept != value) ++out_.changed;
@@ -126,10 +131,18 @@ constexpr CsvUse kInfoUses[] = {CsvUse::kAddress,   CsvUse::kCity,      CsvUse::
                                 CsvUse::kZip,       CsvUse::kParent,    CsvUse::kBirth,
                                 CsvUse::kHomePhone, CsvUse::kWorkPhone, CsvUse::kEmail};
 
+// Quotes hold the end of a line, but nothing holds the other ones.
+std::string WithoutControls(std::string value, TextOfClass& out) {
+  const auto unfit = [](char c) { return IsControl(c) && c != '\r' && c != '\n'; };
+  if (std::ranges::any_of(value, unfit)) ++out.changed;
+  std::ranges::replace_if(value, unfit, ' ');
+  return value;
+}
+
 void AddCsvRecord(const std::vector<std::string>& values, TextOfClass& out) {
   for (std::size_t i = 0; i < values.size(); ++i) {
     if (i > 0) out.bytes += ',';
-    out.bytes += Utf8FromCodePage(CsvField(values[i]));
+    out.bytes += Utf8FromCodePage(CsvField(WithoutControls(values[i], out)));
   }
   out.bytes += kLineEnd;
 }

@@ -113,8 +113,12 @@ bool ReadImportFile(TextRoster& roster) {
     ShowMessage(PathForDisplay(ImportFile) + " " + roster.refusal + ".", BoxIcon::kCritical);
     return false;
   }
-  return roster.lacking.empty() || Ask(LackingBox(roster.lacking), BoxButtons::kYesNo,
-                                       BoxIcon::kExclamation) == BoxAnswer::kYes;
+  return AcceptsLacking(roster.lacking);
+}
+
+bool AcceptsLacking(const std::vector<std::string>& lacking) {
+  return lacking.empty() ||
+         Ask(LackingBox(lacking), BoxButtons::kYesNo, BoxIcon::kExclamation) == BoxAnswer::kYes;
 }
 
 void AddImportedStudents(TextRoster& roster) {

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <string>
+#include <vector>
 
 #include "store/records.h"
 #include "store/roster_text.h"
@@ -18,6 +19,9 @@ int AddStudents(TextRoster& roster);
 
 // Reads ImportFile by TextMode, with the boxes that tell why not. False: there is nothing to add.
 bool ReadImportFile(TextRoster& roster);
+// Lists values that the code page cannot hold, and asks. True: there are none, or they may be left
+// empty.
+bool AcceptsLacking(const std::vector<std::string>& lacking);
 // AddStudents with its box.
 void AddImportedStudents(TextRoster& roster);
 

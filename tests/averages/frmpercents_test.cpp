@@ -291,6 +291,7 @@ TEST_F(FrmPercentsTest, PrintHandsTheTableOverWithoutTheMark) {
   EXPECT_EQ(printed.title, " Weights Printout by Type");
   EXPECT_EQ(printed.head, (Texts{"NAME", "Types", "# of ", "OLD %", "NEW %"}));
   EXPECT_EQ(printed.second_head, (Texts{"", "", "Items"}));
+  EXPECT_EQ(printed.first_column, 1);
   ASSERT_EQ(printed.rows.size(), 26u);
   EXPECT_EQ(printed.rows[9][0], "Quiz");
   EXPECT_EQ(printed.rows[9][1], "Q");

@@ -148,6 +148,7 @@ TEST_F(FrmPointsTest, PrintHandsTheTableOver) {
   EXPECT_EQ(printed.title, " Points Printout");
   EXPECT_EQ(printed.head, (Texts{"NAME", "Types", "MAX PTS.", "COUNT IN"}));
   EXPECT_EQ(printed.second_head, (Texts{"", "", "", "TOTAL PTS."}));
+  EXPECT_EQ(printed.first_column, 7);
   ASSERT_GT(printed.rows.size(), 1u);
   EXPECT_EQ(printed.rows[0].back(), "Y");
   EXPECT_EQ(printed.rows[1].back(), "N");

@@ -362,6 +362,7 @@ TEST_F(FrmWeightsTest, PrintHandsTheTableOver) {
   EXPECT_EQ(printed.title, " Weights Printout");
   EXPECT_EQ(printed.head, (Texts{"NAME", "Types", "OLD WTS.", "NEW WTS."}));
   EXPECT_TRUE(printed.second_head.empty());
+  EXPECT_EQ(printed.first_column, 7);
   ASSERT_EQ(static_cast<int>(printed.rows.size()), Current().NumInstruments);
   EXPECT_EQ(printed.rows[0][0], Current().Instruments[1].title);
   EXPECT_EQ(printed.rows[0][3], "70");

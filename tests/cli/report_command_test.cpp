@@ -15,11 +15,11 @@ constexpr const char* kClass = R"({"description": "Algebra", "school": "Riversid
   "Summaries": [{"title": "First term", "code": "FT", "kind": 1}],
   "Students": [
     {"lastname": "Muñoz", "firstname": "Zoé", "id": "7", "comments": "Reads well.",
-     "Marks": ["", "18", "90"], "DailyMarks": ["", "A"],
-     "SummaryAbsent": ["", "2    "], "SummaryLate": ["", "1"], "SummaryDetail": ["", " 0/ 0/ 0/ 0/"]},
+     "Marks": ["", "18", "90"], "DailyMarks": [" ", "A"],
+     "SummaryAbsent": ["     ", "2    "], "SummaryLate": ["", "1"], "SummaryDetail": ["", " 0/ 0/ 0/ 0/"]},
     {"lastname": "Abe", "firstname": "Bo", "id": "512",
-     "Marks": ["", "14", "ABS"], "DailyMarks": ["", " "],
-     "SummaryAbsent": ["", "0    "], "SummaryLate": ["", "0"], "SummaryDetail": ["", " 0/ 0/ 0/ 0/"]}]})";
+     "Marks": ["", "14", "ABS"], "DailyMarks": [" ", " "],
+     "SummaryAbsent": ["     ", "0    "], "SummaryLate": ["", "0"], "SummaryDetail": ["", " 0/ 0/ 0/ 0/"]}]})";
 
 class ReportCommandTest : public CliTest {
  protected:
@@ -58,7 +58,8 @@ TEST_F(ReportCommandTest, TheTextGoesToStandardOutput) {
   EXPECT_EQ(Report({"--code", "1"}),
             "                    Full Grades Printout\r\n\r\n"
             "512 Abe, Bo\r\nQ1    T1\r\n14    ABS\r\n\r\n" +
-                kRule + "\r\n" + "7 Muñoz, Zoé\r\nQ1    T1\r\n18    90\r\n\r\n" + kRule + "\r\n");
+                kRule + "\r\n\r\n" + "7 Muñoz, Zoé\r\nQ1    T1\r\n18    90\r\n\r\n" + kRule +
+                "\r\n\r\n");
 }
 
 TEST_F(ReportCommandTest, EveryCodeIsMade) {
@@ -249,7 +250,7 @@ TEST_F(ReportCommandTest, AnAverageThatCannotBeMadeIsRefusedAndNothingIsWritten)
 TEST_F(ReportCommandTest, AFileThatCannotBeWrittenIsRefused) {
   const std::string out = Path("none/a.txt");
   ExpectRefused(RunCli({"report", "--code", "1", "--out", out, Build(kClass)}),
-                out + ": File Error: 76");
+                out + ": File Error: 76 (there is no such folder)");
 }
 
 TEST_F(ReportCommandTest, AFileThatIsMissingIsRefused) {

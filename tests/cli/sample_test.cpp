@@ -9,6 +9,7 @@
 #include "base/code_page.h"
 #include "base/date_serial.h"
 #include "tests/cli/run_cli.h"
+#include "tests/support/source_dir.h"
 
 namespace tallyroll {
 namespace {
@@ -20,7 +21,7 @@ class SampleTest : public CliTest {
  protected:
   void SetUp() override {
     file = Path("Sample8.TYR");
-    const CliRun build = RunCli({"build", TALLYROLL_SOURCE_DIR "/sample/Sample8.json", file});
+    const CliRun build = RunCli({"build", SourceDir() + "/sample/Sample8.json", file});
     ASSERT_EQ(build.status, 0) << build.err;
     sample = json::parse(RunCli({"dump", file}).out);
     opened = json::parse(RunCli({"dump", "--opened", file}).out);

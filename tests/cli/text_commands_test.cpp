@@ -114,9 +114,18 @@ TEST_F(TextCommandTest, ExportWritesEachContent) {
 }
 
 TEST_F(TextCommandTest, ExportByIdSortsById) {
-  RunCli({"export", Build(kClass), "--what", "names", "--layout", "comma", "--out", Path("out.txt"),
-          "--name-mode", "73"});
-  EXPECT_EQ(Get(Path("out.txt")), "512,Abel Bo\r\n7,Ng Zo\xE9\r\n");
+  const std::string file = Build(R"({"Students": [
+      {"lastname": "Ng", "firstname": "Ada", "id": "100"},
+      {"lastname": "Abel", "firstname": "Bo", "id": "512"}]})");
+  const std::pair<const char*, const char*> orders[] = {{"68", "512,Abel Bo\r\n100,Ng Ada\r\n"},
+                                                        {"57", "512,Abel Bo\r\n100,Ng Ada\r\n"},
+                                                        {"82", "100,Ng Ada\r\n512,Abel Bo\r\n"},
+                                                        {"73", "100,Ng Ada\r\n512,Abel Bo\r\n"}};
+  for (const auto& [mode, text] : orders) {
+    RunCli({"export", file, "--what", "names", "--layout", "comma", "--out", Path("out.txt"),
+            "--name-mode", mode});
+    EXPECT_EQ(Get(Path("out.txt")), text) << mode;
+  }
 }
 
 TEST_F(TextCommandTest, ExportTellsWhatTheLayoutCouldNotCarry) {

@@ -45,6 +45,7 @@ Texts WeightsTexts(const char* title) {
           {"dropyn", "Drop Single Lowest Grade"},
           {"droptype", "Drop Lowest by Type"},
           {"labs", "Drop \"ABS\"/\"EXC\" or  \"NEW\" as lowest"},
+          {"print", "&Print"},
           {"exit", "C&ontinue"},
           {"cancel", "&Cancel"}};
 }

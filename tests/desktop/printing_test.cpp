@@ -3,6 +3,7 @@
 // dialog names.
 #include <gtest/gtest.h>
 
+#include <QApplication>
 #include <QComboBox>
 #include <QFontDialog>
 #include <QLocale>

@@ -31,6 +31,7 @@ TEST_F(FrmMarksImportTest, MarksOfAFileFillTheColumn) {
 TEST_F(FrmMarksImportTest, MarksOfAFileAreCutAsTypedOnesAre) {
   ImportMarks("Ng Ada,1234567\n", kGradesByName);
   EXPECT_EQ(Cell(2), "12345");
+  EXPECT_EQ(window.status, "Students found in the file: 1; grades cut to five characters: 1.");
 }
 
 TEST_F(FrmMarksImportTest, AStudentWhomTheFileLacksStillNeedsAMark) {
@@ -47,6 +48,7 @@ TEST_F(FrmMarksImportTest, AStudentWhomTheFileLacksStillNeedsAMark) {
 TEST_F(FrmMarksImportTest, AnotherTakesTheNextGradeOfTheFile) {
   ImportMarks("ID,NAME,Rivers,Lakes\n,,RIV,LAK\n1,Ng Ada,91,A\n2,Li Bo,82,B\n3,Orr Cy,73,C\n",
               kGradesById);
+  EXPECT_EQ(window.status, "Students found in the file: 3; grades side by side: 2.");
   EXPECT_EQ(driver->Text("title"), "Rivers");
   EXPECT_EQ(driver->Text("code"), "RIV");
   driver->Press("another");

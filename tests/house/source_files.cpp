@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Reading C++ closely enough to tell code from comments and quoted text.
 #include "tests/house/source_files.h"
+#include "tests/support/source_dir.h"
 
 #include <algorithm>
 #include <cctype>
@@ -55,7 +56,7 @@ void AppendBlanked(std::string& code, std::string_view piece) {
 }  // namespace
 
 std::vector<SourceFile> SourceFiles() {
-  const std::filesystem::path root = std::filesystem::path(TALLYROLL_SOURCE_DIR) / "src";
+  const std::filesystem::path root = std::filesystem::path(SourceDir()) / "src";
   std::vector<SourceFile> files;
   for (const auto& entry : std::filesystem::recursive_directory_iterator(root)) {
     if (!entry.is_regular_file() || !IsSource(entry.path())) continue;

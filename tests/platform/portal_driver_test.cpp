@@ -211,7 +211,9 @@ TEST_F(PortalDriverTest, TheDayShownIsAPickToo) {
   EXPECT_EQ(portal.log, Lines{"day change"});
 }
 
-TEST(PortalDriverBounds, ADayOutOfBoundsCannotBePicked) {
+class PortalDriverBounds : public PortalTest {};
+
+TEST_F(PortalDriverBounds, ADayOutOfBoundsCannotBePicked) {
   LoggingPortal portal;
   portal.day.MinDate = 10;
   portal.day.MaxDate = 12;

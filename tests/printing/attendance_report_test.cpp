@@ -170,6 +170,19 @@ TEST_F(AttendanceReportTest, TheParentSignsBelow) {
             (Rows{"", "", Row(48, '_'), "", "           Parent's Signature", "", "   "}));
 }
 
+TEST_F(AttendanceReportTest, OnPaperTheSignatureStandsAsBelowTheGrades) {
+  Choice.parentsig = true;
+  Choice.students = {2};
+  LayOut(15);
+  const PrintedPage page = Page(1);
+  // Six codes that did not occur take three lines each from 1392; three empty lines, a rule and
+  // another empty line follow. The words begin at half of 33 characters.
+  const double signature = 1392 + 6 * 3 * 240 + 4 * 240;
+  EXPECT_EQ(Find(page, "Parent's Signature"),
+            (PrintedText{1650, signature, "Parent's Signature", 10}));
+  EXPECT_EQ(page.lines, (std::vector<PrintedLine>{{0, signature - 240, 11240, signature - 240}}));
+}
+
 TEST_F(AttendanceReportTest, DatesOnPaperAre12CharactersApart) {
   for (int day = 1; day <= 6; ++day) AddDay(kFirstOfOctober + day, "A  ");
   LayOut(15);

@@ -85,8 +85,8 @@ TEST_F(ReportPagesTest, ASummaryNeverStandsLowerThanFourLinesAboveTheBottom) {
   MarginBottom = "-12000";  // the bottom at 2380
   LayOut(17);
   // Heads from 1392 to 1872; the first type is the page's first row and stays, the next, from 2112,
-  // would need to 3072. Page 2: heads from 240 to 720, types at 720, 960 and what closes them, of
-  // 5 lines, from 1200 to 2400, which does not fit.
+  // would need to 3072. Page 2: heads from 240 to 720, types at 720, 960 and what closes them, two
+  // empty lines and four more, from 1200 to 2640, which does not fit.
   EXPECT_EQ(PageTable(), (Pages{{1, 1}, {2, 3}, {4, 4}}));
 }
 
@@ -167,10 +167,31 @@ TEST_F(ReportPagesTest, ACommentLongerThanAPageLeavesNoPageEmpty) {
   Choice.comment1 = true;
   for (int i = 0; i < 2000; ++i) Current().Students[1].comments += "word ";
   LayOut(13);
-  // Each of the three grades and what closes them has its own page; the type stands with the last.
-  EXPECT_EQ(PageTable(), (Pages{{1, 1}, {2, 2}, {3, 4}, {5, 5}}));
-  const Rows last = PageRows(4);
-  EXPECT_EQ(last.front().substr(0, 15), "COMMENTS: word ");
+  // Each of the three grades has its own page; the type stands with the last. The comment's first
+  // line holds "COMMENTS: " and 20 words of 5 characters, 11000 of 11240 twips, the others 22: 91
+  // lines. Below an empty line from 240, page 4 has 55 of them to 13680, page 5 the other 36.
+  EXPECT_EQ(PageTable(), (Pages{{1, 1}, {2, 2}, {3, 4}, {5, 59}, {60, 95}}));
+  EXPECT_EQ(PageRows(4).front().substr(0, 15), "COMMENTS: word ");
+  EXPECT_EQ(PageRows(5).size(), 36U + 1);
+}
+
+TEST_F(ReportPagesTest, WhatClosesAStudentStaysTogether) {
+  EnrolMany(1);
+  AddGrades(1);
+  AddPeriod("First term", "FT", 1);
+  Choice.students = {1};
+  Choice.attendance1 = Choice.comment1 = Choice.parentsig = true;
+  Current().Students[1].comments = "Reads\r\nwell";
+  // The type's row ends at 2112; an empty line, two of attendance, two of the comment, another
+  // empty line and four more end at 4512. A bottom of 4512 holds them, one of 4511 does not.
+  const auto bottom_at = [](int twips) { return PlainNumberText(twips - 15840 + 500 + 960); };
+  MarginBottom = bottom_at(4512);
+  LayOut(17);
+  ASSERT_EQ(Job.PageBottom, 4512);
+  EXPECT_EQ(PageTable(), (Pages{{1, 3}}));
+  MarginBottom = bottom_at(4511);
+  LayOut(17);
+  EXPECT_EQ(PageTable(), (Pages{{1, 1}, {2, 3}}));
 }
 
 }  // namespace

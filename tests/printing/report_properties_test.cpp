@@ -2,8 +2,10 @@
 // What holds for every report of every class.
 #include <gtest/gtest.h>
 
+#include <map>
 #include <numeric>
 #include <random>
+#include <sstream>
 
 #include "store/settings.h"
 #include "tests/printing/random_report_class.h"
@@ -19,9 +21,9 @@ class ReportPropertiesTest : public ReportTest, public testing::WithParamInterfa
  protected:
   static i16 Code() { return static_cast<i16>(GetParam()); }
 
-  // A random class with everything on its reports but comments. A comment is not bounded by the
-  // page: a word of it may be wider than a line, and its lines weigh a quarter when a block is
-  // fitted, so long ones pass the bottom.
+  // A random class with everything on its reports but comments. Those of the class reports are not
+  // bounded by the page: their lines weigh a quarter when a block is fitted, so long ones pass the
+  // bottom.
   // False where the report has nothing to choose from.
   static bool Choose(unsigned seed) {
     RandomReportClass(seed).Make();
@@ -173,6 +175,47 @@ TEST_P(ReportPropertiesTest, TheTableGoesThroughTheRowsWithoutAGap) {
     }
   });
 }
+
+class StudentCommentTest : public ReportPropertiesTest {
+ protected:
+  // Words that no other student has, short ones and more than a page of them.
+  static void Comment(int student, int words) {
+    std::string& comment = Current().Students[static_cast<std::size_t>(student)].comments;
+    for (int word = 1; word <= words; ++word)
+      comment += "s" + PlainNumberText(student) + "w" + PlainNumberText(word) + " ";
+  }
+  // How often each of those words stands on the pages.
+  static std::map<std::string, int> WordsOnPages() {
+    std::map<std::string, int> words;
+    for (const PrintedPage& page : AllPages())
+      for (const PrintedText& text : page.texts) {
+        std::istringstream stream(text.text);
+        for (std::string word; stream >> word;) ++words[word];
+      }
+    return words;
+  }
+};
+
+TEST_P(StudentCommentTest, GoesOnOnTheNextPageWithEachWordOnce) {
+  for (unsigned seed = 1; seed <= 4; ++seed) {
+    SCOPED_TRACE(seed);
+    Choose(seed);
+    Choice.comment1 = true;
+    const int words = seed % 2 == 0 ? 1000 : 40;
+    for (const i16 student : Choice.students) Comment(student, words);
+    LayOut(Code());
+    for (const PrintedPage& page : AllPages()) ExpectWithinThePage(page);
+    const std::map<std::string, int> printed = WordsOnPages();
+    for (const i16 student : Choice.students)
+      for (int word = 1; word <= words; ++word) {
+        const std::string text = "s" + PlainNumberText(student) + "w" + PlainNumberText(word);
+        EXPECT_EQ(printed.count(text) ? printed.at(text) : 0, 1) << text;
+      }
+  }
+}
+
+INSTANTIATE_TEST_SUITE_P(GradesOfAStudent, StudentCommentTest, testing::Values(12, 13, 17, 18),
+                         [](const auto& code) { return "Code" + PlainNumberText(code.param); });
 
 INSTANTIATE_TEST_SUITE_P(EveryCode, ReportPropertiesTest, testing::ValuesIn(kCodes),
                          [](const auto& code) { return "Code" + PlainNumberText(code.param); });

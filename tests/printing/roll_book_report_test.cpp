@@ -139,6 +139,26 @@ TEST_F(RollBookReportTest, FullTitlesRunUpwardsOverTheirColumns) {
   EXPECT_EQ(PageRows(1)[4], "17  Ng, Ada 18 45 9");
 }
 
+TEST_F(RollBookReportTest, BothBooksHaveTheSameRulesBetweenTheirStudents) {
+  LayOut(4);
+  // One below the heads, at 1392 + 5 * 240, none below the first student.
+  EXPECT_EQ(Page(1).lines,
+            (std::vector<PrintedLine>{
+                {0, 2592, 11240, 2592}, {0, 3072, 11240, 3072}, {0, 3312, 11240, 3312}}));
+  LayOut(3);
+  // Three lines of heads from 1392. The rule that closes the book lies on that of the last student.
+  EXPECT_EQ(Page(1).lines,
+            (std::vector<PrintedLine>{
+                {0, 2592, 11240, 2592}, {0, 2832, 11240, 2832}, {0, 2832, 11240, 2832}}));
+}
+
+TEST_F(RollBookReportTest, AClassOfOneHasARuleBelowItsRow) {
+  Current().NumStudents = 1;
+  LayOut(4);
+  EXPECT_EQ(Page(1).lines,
+            (std::vector<PrintedLine>{{0, 2592, 11240, 2592}, {0, 2832, 11240, 2832}}));
+}
+
 TEST_F(RollBookReportTest, ALongTitleStaysBelowTheHead) {
   Current().Instruments[2].title = std::string(60, 'w');  // 5400 twips, 23 lines
   LayOut(4);

@@ -139,7 +139,7 @@ TEST_F(SummaryReportTest, PaperHasTheSignatureThatTheTextHas) {
   const PrintedPage page = Page(1);
   const double signature = 1392 + 2 * 240 + 2 * 240 + 4 * 240;
   EXPECT_EQ(page.texts[page.texts.size() - 2],
-            (PrintedText{0, signature, "Parent's Signature", 10}));
+            (PrintedText{1650, signature, "Parent's Signature", 10}));
   EXPECT_EQ(page.lines, (std::vector<PrintedLine>{{0, 1872, 11240, 1872},
                                                   {0, signature - 240, 11240, signature - 240}}));
 }

@@ -12,6 +12,7 @@ using WeightPrintoutTest = PrintPortalTest;
 
 PrintedTable Points(int rows) {
   PrintedTable table{" Points Printout",
+                     7,
                      {"NAME", "Types", "MAX PTS.", "COUNT IN"},
                      {"", "", "", "TOTAL PTS."},
                      {}};
@@ -52,6 +53,20 @@ TEST_F(WeightPrintoutTest, OnlyTheHeadIsBoldAndStandsOverItsColumn) {
   EXPECT_EQ(plain["Q"], 1500);
   EXPECT_EQ(plain["50"], 2300);
   EXPECT_EQ(plain["Y"], 3400);
+}
+
+TEST_F(WeightPrintoutTest, ATableMayBeginAtTheLeftEdge) {
+  ExpectTitle();
+  PrintedTable table = Points(1);
+  table.first_column = 1;
+  PrintWeights(table);
+  std::map<std::string, double> columns;
+  for (const PrintedText& text : screen.print_jobs.back()->pages[0].texts)
+    columns[text.text] = text.x;
+  EXPECT_EQ(columns["NAME"], 0);
+  EXPECT_EQ(columns["Quiz 1"], 0);
+  EXPECT_EQ(columns["Types"], 900);
+  EXPECT_EQ(columns["TOTAL PTS."], 2800);
 }
 
 TEST_F(WeightPrintoutTest, ALongTableGoesOnWithItsHead) {

@@ -179,5 +179,42 @@ TEST_F(FrmAddClipboardTest, ALongIdAndLongNamesStandWhole) {
   EXPECT_EQ(Last().id, "1234567890123456");
 }
 
+TEST_F(FrmAddClipboardTest, AValueThatBeginsLikeNothingArrives) {
+  Student ada;
+  ada.lastname = "Ng";
+  ada.firstname = "Ada";
+  ada.id = "=7";
+  ada.comments = "=5 points";
+  screen.clipboard = StudentOnClipboard(ada, false);
+  Open(portal);
+  driver->Press("addclip");
+  EXPECT_EQ(driver->Text("comments"), "=5 points");
+  driver->Press("Exitt");
+  EXPECT_EQ(Last().id, "=7");
+  EXPECT_EQ(Last().comments, "=5 points");
+}
+
+TEST_F(FrmAddClipboardTest, AFullClassTakesNobody) {
+  constexpr int kMost = 32767;
+  Class& c = Current();
+  c.NumStudents = kMost;
+  ReDim(c.Students, kMost);
+  c.Students.back().lastname = "Zorn";
+  c.Students.back().firstname = "Ed";
+  c.Students.back().id = "9";
+  const std::string full = "You may only have 32767 students in a class.";
+  screen.ExpectBox(full);
+  Open(portal);
+  EXPECT_EQ(driver->Text("lastname"), "Zorn");
+  screen.ExpectBox(full);
+  driver->Press("nextt");
+  screen.ExpectBox(full);
+  driver->Press("addclip");
+  EXPECT_EQ(driver->Text("lastname"), "Zorn");
+  driver->Press("Exitt");
+  EXPECT_EQ(c.NumStudents, kMost);
+  EXPECT_EQ(c.Changed, kFalse);
+}
+
 }  // namespace
 }  // namespace tallyroll

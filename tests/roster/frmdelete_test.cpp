@@ -182,5 +182,20 @@ TEST_F(FrmDeleteTest, EscapeLeaves) {
   EXPECT_TRUE(portal.Unloaded());
 }
 
+TEST_F(FrmDeleteTest, AnIdThatTheClipboardWritesOtherwiseIsNoFault) {
+  Open(portal);
+  const std::pair<const char*, const char*> ids[] = {{"=2", " =2"}, {"  ", ""}};
+  for (const auto& [id, read] : ids) {
+    Current().Students[1].id = id;
+    driver->Choose("List1", 0);
+    const std::string name = Current().Students[1].lastname == "Le" ? "Le, Bo" : "Ng, Ada";
+    screen.ExpectBox("NOTE: The Clipboard can hold only ONE student at a time. Delete " + name +
+                     " and save the student to the CLIPBOARD? ");
+    driver->Press("delclip");
+    EXPECT_EQ(ReadStudent(screen.clipboard)->fields.id, read);
+  }
+  EXPECT_EQ(Current().NumStudents, 1);
+}
+
 }  // namespace
 }  // namespace tallyroll

@@ -162,5 +162,15 @@ TEST_F(StudentClipboardTest, MarksLoseTheBlanksThatFillThemUp) {
   EXPECT_EQ(bo.SummaryLate[1], "0");
 }
 
+// An equals sign at the beginning would be read as nothing.
+TEST_F(StudentClipboardTest, AValueThatBeginsLikeNothingGetsABlankBeforeIt) {
+  Current().Students[1].city = "=Oslo";
+  Current().Students[1].comments = "=5 points\r\n= more";
+  const auto text = ReadStudent(StudentOnClipboard(Ada(), true));
+  ASSERT_TRUE(text);
+  EXPECT_EQ(text->fields.city, " =Oslo");
+  EXPECT_EQ(text->fields.comments, " =5 points\r\n= more");
+}
+
 }  // namespace
 }  // namespace tallyroll

@@ -8,6 +8,7 @@
 #include "roster/frmAdd.h"
 #include "store/program_state.h"
 #include "tests/support/portal_test.h"
+#include "tests/support/source_dir.h"
 
 namespace tallyroll {
 namespace {
@@ -289,7 +290,7 @@ TEST_F(FrmWizardTest, CancelConfirmedGivesTheClassUp) {
 }
 
 TEST(FrmWizardForm, SaysItsPagesAndItsQuotation) {
-  std::ifstream file(TALLYROLL_SOURCE_DIR "/src/desktop/forms/frmWizard.ui");
+  std::ifstream file(SourceDir() + "/src/desktop/forms/frmWizard.ui");
   const std::string form{std::istreambuf_iterator<char>(file), {}};
   for (const char* text :
        {"Welcome", "Class Information (Optional)", "Student Information (Required)",

@@ -323,6 +323,15 @@ TEST_F(TextCommandsTest, ATransferredClassCanBeSavedAndTakesGrades) {
   Form1& window = Open("A.TYR");
   screen.ExpectBox(kTransferBox, BoxAnswer::kYes);
   window.ClickMenu("mnuTransfer");
+  screen.ExpectPortal("frmMarks", [](PortalDriver& portal) {
+    portal.Type("title", "Rivers");
+    portal.Type("code", "RIV");
+    portal.Press("fill");
+    portal.Press("Command5");
+    portal.Press("exit");
+  });
+  Window(2)->ClickMenu("mnuMarks");
+  EXPECT_EQ(Current().Students[2].Marks[1], "ABS");
   screen.ExpectFileDialog(Path("B.TYR"));
   Window(2)->ClickMenu("mnusave");
   EXPECT_EQ(Current().Changed, kFalse);

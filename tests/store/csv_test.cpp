@@ -57,6 +57,20 @@ TEST(Csv, AQuoteThatIsNeverClosedIsTold) {
   EXPECT_EQ(ParseCsv("a,\"b\"").unclosed_line, 0);
 }
 
+TEST(Csv, CellsBehindTheThousandthAreLeft) {
+  const CsvTable table = ParseCsv("a" + std::string(5000, ',') + "b\nc,d\n");
+  ASSERT_EQ(table.records.size(), 2u);
+  EXPECT_EQ(table.records[0].cells.size(), 1000u);
+  EXPECT_EQ(table.records[1].cells[1].text, "d");
+}
+
+TEST(Csv, TooManyLinesAreTold) {
+  std::string lines;
+  for (int i = 0; i < 200'000; ++i) lines += "a\n";
+  EXPECT_EQ(FaultOf(ParseCsv(lines + "\n\n")), "");
+  EXPECT_EQ(FaultOf(ParseCsv(lines + "a")), "has more than 200000 lines");
+}
+
 TEST(FindSeparator, IsTheOneOfTheFirstLines) {
   EXPECT_EQ(FindSeparator("a,b\nc,d\n"), ',');
   EXPECT_EQ(FindSeparator("a;b\nc;d\n"), ';');
@@ -69,6 +83,20 @@ TEST(FindSeparator, LooksAtEveryLineAndNotIntoQuotes) {
   EXPECT_EQ(FindSeparator("Name;ID\nNg, Ada;1\n"), ';');
   EXPECT_EQ(FindSeparator("1,\"a;b;c\"\n2,\"d;e;f\"\n"), ',');
   EXPECT_EQ(FindSeparator("1,2,a;b\n1,2,c;d\n"), ',');
+}
+
+TEST(FindSeparator, ALineEndInsideQuotesClosesNoRecord) {
+  EXPECT_EQ(FindSeparator("1;Ng;\"12 Main St\nApt 4\"\n2;Le;\n"), ';');
+  EXPECT_EQ(FindSeparator("1;\"a \"\"b, c, d\"\" e\n\"\n2;f\n"), ';');
+}
+
+TEST(FindSeparator, AQuoteInsideAPlainCellHidesNothing) {
+  EXPECT_EQ(FindSeparator("5\" disk;a\n6\" disk;b\n"), ';');
+}
+
+TEST(FindSeparator, ALineEndOrAQuoteIsNone) {
+  EXPECT_EQ(Texts("sep=\na,b\n"), (Rows{{"sep="}, {"a", "b"}}));
+  EXPECT_EQ(FindSeparator("sep=\"\na;b\n"), ',');
 }
 
 TEST(FindSeparator, ALineOfItsOwnSettlesIt) {

@@ -12,6 +12,7 @@
 #include "store/password.h"
 #include "store/program_state.h"
 #include "tests/support/portal_test.h"
+#include "tests/support/source_dir.h"
 
 namespace tallyroll {
 namespace {
@@ -250,7 +251,7 @@ TEST_F(FrmPasswordTest, WithoutAModeItDoesNotShow) {
 }
 
 TEST(FrmPasswordForm, SaysItsFramesAndLabelsAndShowsDots) {
-  std::ifstream file(TALLYROLL_SOURCE_DIR "/src/desktop/forms/frmpassword.ui");
+  std::ifstream file(SourceDir() + "/src/desktop/forms/frmpassword.ui");
   const std::string form{std::istreambuf_iterator<char>(file), {}};
   for (const char* text :
        {"Password Window", "New Password", "Confirm Password", "Change Password", "Enter Password",

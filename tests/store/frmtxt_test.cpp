@@ -239,7 +239,7 @@ TEST_F(FrmTxtTest, AFileThatCannotBeTakenApartIsLeftAtOnce) {
 }
 
 TEST_F(FrmTxtTest, AnOpenQuoteIsTold) {
-  screen.ExpectBox(Path("names.csv") + " has a quotation mark that is never closed.");
+  screen.ExpectBox(Path("names.csv") + " has a quotation mark in line 2 that is never closed.");
   OpenColumns(kImportNames, "ID,Name\n1,\"Ng\n");
   EXPECT_TRUE(portal.Unloaded());
 }

@@ -128,8 +128,92 @@ TEST_F(GradeFileTest, ExportsWithoutTitlesComeBackInTheToldLayouts) {
           << mode << " " << by;
 }
 
-TEST_F(GradeFileTest, AMarkThatAClassFileCannotHoldIsLeftOut) {
-  EXPECT_EQ(Read("1,\xC5\x81\n2,A\n", kCommasText, kGradesById), (Marks{"A", "", ""}));
+TEST_F(GradeFileTest, AStudentWithAnotherNameNowKeepsTheMarksInTheirColumn) {
+  const char* titled = "ID\tNAME\tRivers\n\t\tRIV\n1\tOld, Ada\t91\n";
+  EXPECT_EQ(Read(titled, kTabsText, kGradesById), (Marks{"", "91", ""}));
+  const char* plain = "1\tOld, Ada\t91\n2\tLe, Bo\t82\n";
+  EXPECT_EQ(Read(plain, kTabsText, kGradesById), (Marks{"82", "91", ""}));
+  EXPECT_EQ(ReadGradeText(plain, kTabsText, {}, kGradesById).columns.size(), 1u);
+  const std::string columns =
+      "1            Old, Ada                         91\n"
+      "2            Le, Bo                           82\n";
+  EXPECT_EQ(Read(columns, kColumnsText, kGradesById), (Marks{"82", "91", ""}));
+}
+
+// What a layout writes for a mark of its own inside a name, and a name longer than its column.
+TEST_F(GradeFileTest, NamesThatALayoutCannotCarryStillFindTheirStudent) {
+  Class& c = Current();
+  Enrol("4", "Ng", "Robert \"Bob\"");
+  Enrol("5", "Tab\tber, Jr.", "Eve");
+  Enrol("6", std::string(20, 'l'), std::string(20, 'f'));
+  c.NumInstruments = 1;
+  ReDim(c.Instruments, 1);
+  for (std::size_t i = 1; i <= 6; ++i)
+    ReDim(c.Students[i].Marks, 1, ShortText(std::string(i, 'A')));
+  c.Students[6].Marks[1] = "B";
+  const Marks all = {"A", "AA", "AAA", "AAAA", "AAAAA", "B"};
+  for (const i16 mode : {kColumnsText, kSinglesText, kDoublesText, kTabsText, kCommasText})
+    for (const int by : {kGradesById, kGradesByName}) {
+      const std::string text = ExportText(c, kExportGradesPlain, mode).bytes;
+      EXPECT_EQ(Read(text, mode, by), all) << mode << " " << by;
+      EXPECT_EQ(ReadGradeText(text, mode, {}, by).columns.size(), 1u) << mode << " " << by;
+    }
+}
+
+TEST_F(GradeFileTest, AStudentWithoutAFirstNameIsFoundByTheLastName) {
+  Enrol("5", "Poe", "-");
+  EXPECT_EQ(Read("Poe,70\n", kCommasText, kGradesByName), (Marks{"", "", "", "70"}));
+  EXPECT_EQ(Read("Poe, -\t70\n", kTabsText, kGradesByName), (Marks{"", "", "", "70"}));
+}
+
+TEST_F(GradeFileTest, ALastNameAloneDoesNotTakeTheLineOfAnother) {
+  Enrol("5", "Ng", "-");
+  EXPECT_EQ(Read("Ng, Ada,91\nNg,55\n", kCommasText, kGradesByName), (Marks{"", "91", "", "55"}));
+}
+
+TEST_F(GradeFileTest, AMarkBehindANameIsNoPartOfIt) {
+  EXPECT_EQ(Read("Ng Ada,-,91\n", kCommasText, kGradesByName), (Marks{"", "-", ""}));
+  EXPECT_EQ(Read("Ng Ada,,91\n", kCommasText, kGradesByName), (Marks{"", "", ""}));
+}
+
+TEST_F(GradeFileTest, ALineWithoutAKeyIsNobodys) {
+  Enrol("", "Poe", "Di");
+  for (const i16 mode : {kCommasText, kCsvText}) {
+    const GradeFile file = ReadGradeText("1,91\n,83\n", mode, {}, kGradesById);
+    EXPECT_EQ(file.matched, 1);
+    EXPECT_EQ(file.skipped, 1);
+    EXPECT_EQ(file.columns.at(0).marks.at(4), "");
+  }
+}
+
+TEST_F(GradeFileTest, TextsThatAClassFileCannotHoldAreListedAndLeftOut) {
+  const GradeFile lines = ReadGradeText("1,9,\xC5\x81\n2,A\n", kCommasText, {}, kGradesById);
+  EXPECT_EQ(lines.lacking, (Marks{"Line 1, grade 2: <U+0141>"}));
+  EXPECT_EQ(lines.columns.at(0).marks, (Marks{"", "A", "9", ""}));
+  EXPECT_EQ(lines.columns.at(1).marks, (Marks{"", "", "", ""}));
+  const GradeFile csv =
+      ReadGradeText("ID,\xC5\x81ok [LOK]\n1,91\n2,\xC5\x81\n", kCsvText, {}, kGradesById);
+  EXPECT_EQ(csv.lacking, (Marks{"Line 1, title 1: <U+0141>ok [LOK]", "Line 3, grade 1: <U+0141>"}));
+  EXPECT_EQ(csv.columns.at(0).title, "");
+  EXPECT_EQ(csv.columns.at(0).code, "");
+  EXPECT_EQ(csv.columns.at(0).marks, (Marks{"", "", "91", ""}));
+}
+
+TEST_F(GradeFileTest, TheListIsShownBeforeAnythingIsTaken) {
+  ImportFile = Path("marks.txt");
+  TextMode = kCommasText;
+  ASSERT_EQ(ReplaceFile(ImportFile, "1,\xC5\x81\n2,A\n", OldTail::kDrop), 0);
+  const std::string box =
+      "A class file cannot hold these values. They will be left empty, and you can enter them in "
+      "another spelling afterwards.\n\nLine 1, grade 1: <U+0141>\n\nContinue?";
+  screen.ExpectBox(box, BoxAnswer::kNo);
+  EXPECT_TRUE(ReadGradeImport(kGradesById).columns.empty());
+  screen.ExpectBox(box, BoxAnswer::kYes);
+  EXPECT_EQ(ReadGradeImport(kGradesById).columns.at(0).marks, (Marks{"", "A", "", ""}));
+}
+
+TEST_F(GradeFileTest, MarksThatWillBeCutAreCounted) {
+  EXPECT_EQ(ReadGradeText("1,123456\n2, 12345 \n", kCommasText, {}, kGradesById).cut, 1);
 }
 
 TEST_F(GradeFileTest, RefusalsSayWhy) {
@@ -139,6 +223,8 @@ TEST_F(GradeFileTest, RefusalsSayWhy) {
             "holds no student of this class");
   EXPECT_EQ(ReadGradeText("City,Street\nOslo,Main Street\n", kCsvText, {}, kGradesById).refusal,
             "has no columns with students and grades");
+  EXPECT_EQ(ReadGradeText("ID,Quiz\n1,\"91\n", kCsvText, {}, kGradesById).refusal,
+            "has a quotation mark in line 2 that is never closed");
 }
 
 TEST_F(GradeFileTest, AFileThatIsNotThereIsAFileError) {

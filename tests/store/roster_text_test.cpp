@@ -5,6 +5,7 @@
 
 #include "store/safe_file.h"
 #include "store/text_layout.h"
+#include "tests/support/source_dir.h"
 
 namespace tallyroll {
 namespace {
@@ -299,6 +300,25 @@ TEST(ReadRosterText, ALineEndInsideASpreadsheetsCellBecomesABlank) {
   EXPECT_EQ(roster.students[0].address, "12 Main St Apt 4");
 }
 
+TEST(ReadRosterText, ALineEndInsideACellLeavesSemicolonsKnown) {
+  const TextRoster roster =
+      ReadRosterText("ID;Name;Address\n1;\"Ng, Ada\";\"12 Main St\nApt 4\"\n", kCsvText);
+  ASSERT_EQ(roster.students.size(), 1u);
+  EXPECT_EQ(roster.students[0].lastname, "Ng");
+  EXPECT_EQ(roster.students[0].address, "12 Main St Apt 4");
+}
+
+// One student beyond those that fit is read, so that the class can tell that it is full.
+TEST(ReadRosterText, NoMoreStudentsAreReadThanAClassCanTell) {
+  std::string text;
+  for (int i = 0; i < 40'000; ++i) text += "1,N A\n";
+  for (const i16 mode : {kCommasText, kCsvText}) {
+    const TextRoster roster = ReadRosterText(text, mode);
+    EXPECT_EQ(roster.refusal, "");
+    EXPECT_EQ(roster.students.size(), 32768u);
+  }
+}
+
 TEST(ReadRosterText, AQuoteThatIsNeverClosedIsRefused) {
   EXPECT_EQ(Refusal("ID,Name\n1,Ng Ada\n2,\"Le Bo\n3,Orr Cy\n", kCsvText),
             "has a quotation mark in line 3 that is never closed");
@@ -316,7 +336,7 @@ TEST(ReadRosterText, ASpreadsheetWithoutIdsSaysSo) {
 
 // Saved by LibreOffice Calc 7.4 from a sheet of text cells, with semicolons and UTF-8.
 TEST(ReadRosterText, AFileThatASpreadsheetProgramSavedIsReadWhole) {
-  const FileContents file = ReadWholeFile(TALLYROLL_SOURCE_DIR "/tests/store/data/spreadsheet.csv");
+  const FileContents file = ReadWholeFile(SourceDir() + "/tests/store/data/spreadsheet.csv");
   ASSERT_EQ(file.error, 0);
   const TextRoster roster = ReadRosterText(file.bytes, kCsvText);
   ASSERT_EQ(roster.students.size(), 4u);

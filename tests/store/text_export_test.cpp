@@ -192,6 +192,15 @@ TEST(TextRoundTripLoses, TheLineEndInsideAValueEverywhere) {
   }
 }
 
+TEST(TextRoundTripLoses, ControlCharactersEverywhere) {
+  for (const i16 mode : kLayouts) {
+    int changed = 0;
+    EXPECT_EQ(BackFrom(mode, &Student::city, std::string("Os\0lo\x01.\f!", 9), &changed), "Os lo . !")
+        << mode;
+    EXPECT_EQ(changed, 1) << mode;
+  }
+}
+
 TEST(TextRoundTripLoses, OuterBlanksOfNamesEverywhere) {
   for (const i16 mode : kLayouts) EXPECT_EQ(BackFrom(mode, &Student::lastname, " Ng "), "Ng");
 }
@@ -216,6 +225,13 @@ TEST(TextRoundTripLoses, TheCommaInALastNameButInSpreadsheets) {
 TEST(TextRoundTripLoses, TheBlankInALastNameInCommaMode) {
   EXPECT_EQ(BackFrom(kCommasText, &Student::lastname, "De Wit"), "De");
   EXPECT_EQ(BackFrom(kTabsText, &Student::lastname, "De Wit"), "De Wit");
+}
+
+TEST(TextRoundTripLoses, AnEmptyLastNameInCommaMode) {
+  EXPECT_EQ(BackFrom(kCommasText, &Student::lastname, ""), "Ada");
+  EXPECT_EQ(BackFrom(kCommasText, &Student::firstname, ""), "-");
+  for (const i16 mode : {kColumnsText, kSinglesText, kDoublesText, kTabsText, kCsvText})
+    EXPECT_EQ(BackFrom(mode, &Student::lastname, ""), "") << mode;
 }
 
 TEST(TextRoundTripLoses, WhatIsLongerThanItsColumn) {

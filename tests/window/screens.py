@@ -120,6 +120,25 @@ def marks(program):
     program.gone(title)
 
 
+def reports(program):
+    program.keys("ctrl+p")
+    program.window("Printer Portal")
+    program.click(program.widget(Atspi.Role.RADIO_BUTTON, "Roll Book"))
+    take(program, "frmprintall")
+    program.keys("alt+c")
+    program.click(program.widget(Atspi.Role.PUSH_BUTTON, "Preview"))
+    program.window("Tallyroll Printing")
+    program.keys("Return")
+    program.window("Print Preview Portal")
+    take(program, "frmprintpre")
+    program.keys("Escape")
+    program.window("Save File")
+    program.keys("alt+n")
+    program.window("Printer Portal")
+    program.keys("Escape")
+    program.gone("Printer Portal")
+
+
 def portals(this):
     program = sample_window(this, "sample-light")
     portal(program, ["ctrl+Insert"], "Add Student Portal", "frmAdd")
@@ -127,6 +146,7 @@ def portals(this):
     marks(program)
     portal(program, ["alt+f", "i"], "Class Information Portal", "frmclassinfo")
     portal(program, ["alt+s", "d"], "Delete Portal", "frmdelete", ["Home", "Down"])
+    reports(program)
     text_file(this, program)
     program.keys("F1")
     program.window("Tallyroll Help")

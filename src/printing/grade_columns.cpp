@@ -1,0 +1,67 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "printing/grade_columns.h"
+
+namespace tallyroll {
+namespace {
+
+constexpr int kTextRule = 80;
+
+// One walk for paper and text: `place` goes to a column and puts a text there.
+template <typename Place>
+void PutHead(const GradeColumns& table, bool first_line, Place&& place) {
+  for (const GradeColumn& column : table.columns) {
+    const std::string_view head = first_line ? column.first : column.second;
+    if (!head.empty()) place(column.head, column.text, head);
+  }
+  if (ShowsWeightOrUse() && first_line) place(table.use_head, table.use_text, WeightOrUseHead());
+}
+
+template <typename Place>
+void PutRow(const GradeColumns& table, int grade, Place&& place) {
+  for (const GradeColumn& column : table.columns)
+    place(column.row, column.text, column.value(grade));
+  if (ShowsWeightOrUse()) place(table.use_row, table.use_text, WeightOrUse(grade));
+}
+
+auto OnPaper(PrintTarget& target, double unit) {
+  return [&target, unit](double units, int, std::string_view text) {
+    target.CurrentX = units * unit;
+    target.PrintOpen(text);
+  };
+}
+
+auto InText(TextReport& report) {
+  return [&report](double, int column, std::string_view text) {
+    report.Tab(column);
+    report.Put(text);
+  };
+}
+
+}  // namespace
+
+void PrintGradeHead(PrintTarget& target, const GradeColumns& table, double unit) {
+  for (const bool first_line : {true, false}) {
+    PutHead(table, first_line, OnPaper(target, unit));
+    target.Print();
+  }
+}
+
+void PrintGradeRow(PrintTarget& target, const GradeColumns& table, double unit, int grade) {
+  PutRow(table, grade, OnPaper(target, unit));
+  target.Print();
+}
+
+void WriteGradeHead(TextReport& text, const GradeColumns& table) {
+  for (const bool first_line : {true, false}) {
+    PutHead(table, first_line, InText(text));
+    text.End();
+  }
+  text.Row(kTextRule, '_');
+}
+
+void WriteGradeRow(TextReport& text, const GradeColumns& table, int grade) {
+  PutRow(table, grade, InText(text));
+  text.End();
+}
+
+}  // namespace tallyroll
