@@ -3,7 +3,6 @@
 
 #include <algorithm>
 #include <cmath>
-#include <utility>
 
 #include "attendance/attendance_range.h"
 #include "attendance/daily_codes.h"
@@ -11,7 +10,6 @@
 #include "attendance/term_table.h"
 #include "base/date_serial.h"
 #include "base/number_text.h"
-#include "base/text.h"
 #include "platform/class_window.h"
 #include "platform/month_printer.h"
 #include "platform/surroundings.h"
@@ -20,13 +18,9 @@
 namespace tallyroll {
 namespace {
 
-constexpr int kEnter = 15;
 constexpr int kEdit = 25;
-constexpr int kView = 112;
 constexpr int kByExit = 1;
 constexpr int kByCancel = 2;
-constexpr int kMovesInList = 38;
-constexpr unsigned char kBackspace = 8;
 
 double FirstDay() {
   return Current().AttendanceDays[1].date;
@@ -115,10 +109,10 @@ void frmAtt::Load() {
 }
 
 void frmAtt::ShowMode() {
-  Caption = mode_ == kEdit   ? "Edit Attendance Portal"
-            : mode_ == kView ? "View Daily Attendance Portal"
-                             : "Enter Attendance Portal";
-  if (mode_ != kView) return;
+  Caption = mode_ == kEdit ? "Edit Attendance Portal"
+            : OnlyShows()  ? "View Daily Attendance Portal"
+                           : "Enter Attendance Portal";
+  if (!OnlyShows()) return;
   mnudate.Visible = munatt.Visible = mnuPrint.Visible = mnuExit.Visible = false;
   mnucancel.Caption = "E&xit";
 }
@@ -170,94 +164,6 @@ void frmAtt::StepMonth(int by) {
   ShowMonth();
 }
 
-// ---- Entering codes ----
-
-void frmAtt::EnterCell() {
-  if (mode_ == kView) return;
-  firstkey = 1;
-  FollowCursor();
-}
-
-void frmAtt::FollowCursor() {
-  if (IsDayCell(Grid1, blue_row_, blue_col_))
-    Grid1.SetStyle(blue_row_, blue_col_, CellStyle::kPlain);
-  Combo1.Visible = IsDayCell(Grid1, Grid1.Row, Grid1.Col);
-  if (!Combo1.Visible) return;
-  blue_row_ = Grid1.Row;
-  blue_col_ = Grid1.Col;
-  Grid1.SetStyle(blue_row_, blue_col_, CellStyle::kInWork);
-  Combo1.ListIndex = -1;
-  Combo1.Text = Trim(Grid1.TextMatrix(blue_row_, blue_col_));
-}
-
-void frmAtt::Write(std::string_view mark) {
-  Grid1.SetTextMatrix(Grid1.Row, Grid1.Col, mark);
-}
-
-void frmAtt::UpdateTotals() {
-  if (mnuDaily.Value) dailysummaryone(Grid1, Grid1.Col);
-  if (mnuStudent.Value) studentSummaryone(Grid1, Grid1.Row);
-}
-
-// A cell holds one code, so a key that is none costs the cell what it held.
-bool frmAtt::Grid1_KeyPress(unsigned char key) {
-  if (mode_ == kView) return true;
-  portalchanged = monthchanged = 1;
-  if (!IsDayCell(Grid1, Grid1.Row, Grid1.Col)) return true;
-  firstkey = 0;
-  const char code = UpperCase(std::string(1, static_cast<char>(key))).front();
-  Write(IsDailyCode(code) ? std::string_view(&code, 1) : std::string_view());
-  if (!IsDailyCode(code) && key != kBackspace) Platform().Beep();
-  UpdateTotals();
-  FollowCursor();
-  return true;
-}
-
-// The first arrow goes to the first student, on the day of today where the month has it.
-bool frmAtt::Grid1_KeyDown(Key key) {
-  if (mode_ == kView) return false;
-  if (key != Key::kUp && key != Key::kDown && key != Key::kLeft && key != Key::kRight &&
-      key != Key::kEnter)
-    return false;
-  firstkey = 1;
-  if (Grid1.Row < 1 || Grid1.Col < kFirstDayColumn) {
-    const double today = std::floor(Platform().Now());
-    const bool has_today = MonthOf(today) == MonthOf(attdate);
-    Grid1.Row = 1;
-    Grid1.Col = has_today ? DateOfSerial(today).day + 1 : kFirstDayColumn;
-  } else if (key == Key::kEnter) {
-    Grid1.Row = std::min<int>(Grid1.Row + 1, std::max<int>(Current().NumStudents, 1));
-  } else {
-    return false;
-  }
-  EnterCell();
-  return true;
-}
-
-void frmAtt::Combo1_Click() {
-  portalchanged = monthchanged = 1;
-  Combo1.Visible = false;
-  SetFocus(Grid1);
-  if (std::exchange(navkey, 0) == kMovesInList) return;
-  if (Combo1.ListIndex < 0 || !IsDayCell(Grid1, Grid1.Row, Grid1.Col)) return;
-  const auto chosen = static_cast<std::size_t>(Combo1.ListIndex);
-  Write(chosen < kDailyCodes.size() ? kDailyCodes.substr(chosen, 1) : " ");
-  UpdateTotals();
-}
-
-bool frmAtt::Combo1_KeyDown(Key key) {
-  if (key == Key::kHome || key == Key::kUp || key == Key::kRight || key == Key::kDown)
-    navkey = kMovesInList;
-  return false;
-}
-
-bool frmAtt::Combo1_KeyPress(unsigned char key) {
-  Combo1.Visible = false;
-  firstkey = 1;
-  SetFocus(Grid1);
-  return Grid1_KeyPress(key);
-}
-
 // ---- The menu ----
 
 void frmAtt::Store() {
@@ -288,12 +194,14 @@ void frmAtt::TellMovedMarks(int marks_before) {
   const int waiting = portalchanged == 1 ? 0 : MarksNotMovedYet();
   Grid2.TakeDates();
   status.Caption.clear();
-  if (moved > 0)
-    status.Caption += PlainNumberText(moved) + " mark(s) now stand under other dates. ";
-  if (lost > 0) status.Caption += PlainNumberText(lost) + " mark(s) fell out of the range. ";
-  if (waiting > 0)
-    status.Caption += PlainNumberText(waiting) +
-                      " mark(s) keep their dates only if a mark is entered before Exit. ";
+  const auto tell = [this](std::string_view what, int count) {
+    if (count == 0) return;
+    if (!status.Caption.empty()) status.Caption += "  ";
+    status.Caption += std::string(what) + PlainNumberText(count) + ".";
+  };
+  tell("Marks that now stand under other dates: ", moved);
+  tell("Marks that fell out of the range: ", lost);
+  tell("Marks that keep their dates only if one is entered before Exit: ", waiting);
 }
 
 void frmAtt::munatt_Click() {

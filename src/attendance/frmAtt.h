@@ -43,6 +43,7 @@ struct frmAtt : Portal {
   void mnuExit_Click();
 
  private:
+  bool OnlyShows() const { return mode_ == 112; }
   void ShowMode();
   void ChooseMonth();
   void ShowMonth();

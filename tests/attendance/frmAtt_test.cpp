@@ -426,7 +426,7 @@ TEST_F(FrmAttTest, MarksThatComeUnderOtherDatesAreTold) {
   OpenPortal();
   screen.ExpectPortal("frmatset", Settings(12, 12));
   driver->Press("mnudate");
-  EXPECT_EQ(driver->Text("status"), "2 mark(s) now stand under other dates. ");
+  EXPECT_EQ(driver->Text("status"), "Marks that now stand under other dates: 2.");
   screen.ExpectPortal("frmatset", [](PortalDriver& work) { work.Press("CancelButton"); });
   driver->Press("mnudate");
   EXPECT_EQ(driver->Text("status"), "");
@@ -438,7 +438,7 @@ TEST_F(FrmAttTest, MarksThatFellOutOfTheRangeAreTold) {
   OpenPortal();
   screen.ExpectPortal("frmatset", Settings(0, -12));
   driver->Press("mnudate");
-  EXPECT_EQ(driver->Text("status"), "1 mark(s) fell out of the range. ");
+  EXPECT_EQ(driver->Text("status"), "Marks that fell out of the range: 1.");
 }
 
 TEST_F(FrmAttTest, MovedMarksThatExitWouldNotStoreAreTold) {
@@ -450,7 +450,7 @@ TEST_F(FrmAttTest, MovedMarksThatExitWouldNotStoreAreTold) {
   screen.ExpectBox(kStartsLater);
   driver->Press("mnudate");
   EXPECT_EQ(driver->Text("status"),
-            "1 mark(s) keep their dates only if a mark is entered before Exit. ");
+            "Marks that keep their dates only if one is entered before Exit: 1.");
   driver->Press("mnuExit");
   // Index 90 of a range that begins a month later.
   EXPECT_EQ(Picture(1), "5/1/2027 A");
