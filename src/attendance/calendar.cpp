@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "attendance/daily_codes.h"
+#include "attendance/summary_periods.h"
 #include "base/number_text.h"
 #include "base/text.h"
 #include "platform/surroundings.h"
@@ -12,8 +13,6 @@
 
 namespace tallyroll {
 namespace {
-
-constexpr i16 kFromDates = 2;
 
 // The lowest index of that date; `otherwise` when the text is no date or the date is no day.
 int IndexOfDate(const Class& c, std::string_view text, int otherwise) {
@@ -35,7 +34,7 @@ std::vector<RangeSummary> RangeSummaries(const Class& c) {
   std::vector<RangeSummary> found;
   for (std::size_t k = 1; k <= static_cast<std::size_t>(c.NumSummaries); ++k) {
     const AttendanceSummary& summary = c.Summaries[k];
-    if (summary.kind != kFromDates) continue;
+    if (summary.kind != kRangeSummary) continue;
     found.push_back(
         {k, {IndexOfDate(c, summary.startdate, 1), IndexOfDate(c, summary.enddate, c.NumDays)}});
   }
@@ -129,11 +128,7 @@ void RecalculateRangeSummaries() {
   RunningCounts counts(c.NumDays);
   for (std::size_t i = 1; i <= static_cast<std::size_t>(c.NumStudents); ++i) {
     Student& s = c.Students[i];
-    // A student who came from elsewhere may have fewer.
-    for (auto* list : {&s.SummaryLate, &s.SummaryDetail})
-      if (UpperBound(*list) < c.NumSummaries) ReDimPreserve(*list, c.NumSummaries);
-    if (UpperBound(s.SummaryAbsent) < c.NumSummaries)
-      ReDimPreserve(s.SummaryAbsent, c.NumSummaries);
+    MakeRoomForSummaries(s);
     counts.Take(s);
     for (const RangeSummary& summary : summaries)
       StoreCounts(counts.Of(summary.range), texts, summary.index, s);

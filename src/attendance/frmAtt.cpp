@@ -195,7 +195,7 @@ void frmAtt::TellMovedMarks(int marks_before) {
   Grid2.TakeDates();
   status.Caption.clear();
   const auto tell = [this](std::string_view what, int count) {
-    if (count == 0) return;
+    if (count <= 0) return;
     if (!status.Caption.empty()) status.Caption += "  ";
     status.Caption += std::string(what) + PlainNumberText(count) + ".";
   };

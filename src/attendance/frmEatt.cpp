@@ -134,9 +134,7 @@ void frmEatt::Store() {
   const auto k = static_cast<std::size_t>(shown_);
   for (int i = 1; Shown().kind != kRangeSummary && i <= c.NumStudents; ++i) {
     Student& s = c.Students[static_cast<std::size_t>(i)];
-    ReDimPreserve(s.SummaryAbsent, std::max(UpperBound(s.SummaryAbsent), shown_));
-    ReDimPreserve(s.SummaryLate, std::max(UpperBound(s.SummaryLate), shown_));
-    ReDimPreserve(s.SummaryDetail, std::max(UpperBound(s.SummaryDetail), shown_));
+    MakeRoomForSummaries(s);
     s.SummaryAbsent[k] = FixedText<5>(Grid1.TextMatrix(i, kAbsentColumn));
     s.SummaryLate[k] = Grid1.TextMatrix(i, kLateColumn);
     s.SummaryDetail[k] = kNewSummaryDetail;

@@ -21,6 +21,11 @@ int DayOfText(std::string_view date) {
   return 0;
 }
 
+template <typename T>
+void MakeRoom(List<T>& list) {
+  if (UpperBound(list) < Current().NumSummaries) ReDimPreserve(list, Current().NumSummaries);
+}
+
 // Everything behind the index moves one place to the front.
 template <typename T>
 void CloseGap(List<T>& list, int index) {
@@ -33,6 +38,12 @@ void CloseGap(List<T>& list, int index) {
 DayRange DaysFromTo(const std::string& start, const std::string& end) {
   const DayRange range{DayOfText(start), DayOfText(end)};
   return range.first == 0 ? DayRange() : range;
+}
+
+void MakeRoomForSummaries(Student& student) {
+  MakeRoom(student.SummaryAbsent);
+  MakeRoom(student.SummaryLate);
+  MakeRoom(student.SummaryDetail);
 }
 
 AttendanceSummary& AddSummary() {

@@ -20,6 +20,9 @@ inline constexpr std::string_view kNoMoreSummaries =
 // The days whose date texts these are; none when a date is no day of the class.
 DayRange DaysFromTo(const std::string& start, const std::string& end);
 
+// A student who came from elsewhere may lack places for figures of the class's periods.
+void MakeRoomForSummaries(Student& student);
+
 // Adds a period at the end of the class, and its place to the lists of every student.
 AttendanceSummary& AddSummary();
 

@@ -88,6 +88,25 @@ TEST_F(CalendarTest, TenTakesThreeCharacters) {
   EXPECT_EQ(Count("9/1/2026", "9/10/2026"), "0    |0| 10/ 0/ 0/ 0/");
 }
 
+TEST_F(CalendarTest, AStudentWithoutPlacesForFiguresGetsThem) {
+  Current().Students[1].SummaryAbsent.clear();
+  Current().Students[1].SummaryLate.clear();
+  Current().Students[1].SummaryDetail.clear();
+  EXPECT_EQ(Count("9/2/2026", "9/4/2026"), "0    |1| 1/ 1/ 0/ 0/");
+}
+
+TEST_F(CalendarTest, PeriodsThatOverlapAreCountedEachForItself) {
+  Class& c = Current();
+  c.NumSummaries = 2;
+  ReDimPreserve(c.Summaries, 2);
+  c.Summaries[2] = {"", "", 2, 0, "9/4/2026", "9/10/2026"};
+  EXPECT_EQ(Count("9/1/2026", "9/4/2026"), "1    |1| 1/ 1/ 0/ 0/");
+  const Student& s = c.Students[1];
+  EXPECT_EQ(s.SummaryAbsent[2].view(), "1    ");
+  EXPECT_EQ(s.SummaryLate[2], "1");
+  EXPECT_EQ(s.SummaryDetail[2], " 0/ 1/ 1/ 1/");
+}
+
 TEST_F(CalendarTest, AStudentWithoutDailyMarksHasNone) {
   Current().Students[1].DailyMarks.clear();
   EXPECT_EQ(Count("9/1/2026", "9/10/2026"), "0    |0| 0/ 0/ 0/ 0/");
