@@ -2,6 +2,7 @@
 #include "attendance/calendar.h"
 
 #include <algorithm>
+#include <array>
 #include <vector>
 
 #include "attendance/daily_codes.h"
@@ -77,18 +78,30 @@ class RunningCounts {
   std::vector<CodeCounts> up_to_;
 };
 
+// A figure as it stands among the details, " 12/"; a 16-bit counter takes seven characters at most.
+// Copied as one machine word, since the many small copies are most of the work.
+struct DetailFigure {
+  explicit DetailFigure(int n) {
+    const std::string text = SignedNumberText(n) + "/";
+    size = text.copy(chars.data(), chars.size());
+  }
+  std::array<char, 8> chars{};
+  std::size_t size = 0;
+};
+
 // Each figure that can come up as text, made once: a class has many more summaries than figures.
 struct FigureTexts {
   explicit FigureTexts(int highest) {
     for (int n = 0; n <= highest; ++n) {
       plain.push_back(PlainNumberText(n));
-      slashed.push_back(SignedNumberText(n) + "/");
+      details.emplace_back(n);
     }
   }
   const std::string& Plain(i16 n) const { return plain[static_cast<std::size_t>(n)]; }
-  const std::string& Slashed(i16 n) const { return slashed[static_cast<std::size_t>(n)]; }
+  const DetailFigure& Detail(i16 n) const { return details[static_cast<std::size_t>(n)]; }
 
-  std::vector<std::string> plain, slashed;
+  std::vector<std::string> plain;
+  std::vector<DetailFigure> details;
 };
 
 // A text that stays the same is not made anew.
@@ -99,9 +112,14 @@ void Put(std::string_view text, ShortText& item) {
 void StoreCounts(const CodeCounts& counts, const FigureTexts& texts, std::size_t k, Student& s) {
   s.SummaryAbsent[k] = FixedText<5>(texts.Plain(counts.Of('A')));
   Put(texts.Plain(counts.Of('L')), s.SummaryLate[k]);
-  std::string detail;
-  for (const char code : {'C', 'E', 'S', 'N'}) detail += texts.Slashed(counts.Of(code));
-  Put(detail, s.SummaryDetail[k]);
+  std::array<char, 4 * sizeof(DetailFigure::chars)> detail;
+  std::size_t size = 0;
+  for (const char code : {'C', 'E', 'S', 'N'}) {
+    const DetailFigure& figure = texts.Detail(counts.Of(code));
+    std::copy_n(figure.chars.begin(), figure.chars.size(), detail.begin() + size);
+    size += figure.size;
+  }
+  Put({detail.data(), size}, s.SummaryDetail[k]);
 }
 
 }  // namespace
