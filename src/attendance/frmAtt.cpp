@@ -5,7 +5,6 @@
 #include <cmath>
 
 #include "attendance/attendance_range.h"
-#include "attendance/daily_codes.h"
 #include "attendance/summary_periods.h"
 #include "attendance/term_table.h"
 #include "base/date_serial.h"
@@ -31,18 +30,6 @@ double LastDay() {
 
 double FirstOf(TermMonth month) {
   return DateSerial({month.year, month.month, 1});
-}
-
-// What the class itself still holds under an index where the term table has something else.
-int MarksNotMovedYet() {
-  const Class& c = Current();
-  int count = 0;
-  for (int i = 1; i <= c.NumStudents; ++i)
-    for (int j = 1; j <= c.NumDays; ++j) {
-      const char mark = MarkOn(c.Students[static_cast<std::size_t>(i)], j);
-      count += mark != kNoMark && mark != Grid2.Mark(i, j);
-    }
-  return count;
 }
 
 }  // namespace
@@ -191,7 +178,7 @@ void frmAtt::mnudate_Click() {
 void frmAtt::TellMovedMarks(int marks_before) {
   const int moved = Grid2.MarksUnderOtherDates();
   const int lost = marks_before - Grid2.MarkCount();
-  const int waiting = portalchanged == 1 ? 0 : MarksNotMovedYet();
+  const int waiting = portalchanged == 1 ? 0 : Grid2.MarksAwaitingStore();
   Grid2.TakeDates();
   status.Caption.clear();
   const auto tell = [this](std::string_view what, int count) {

@@ -84,7 +84,7 @@ bool frmEatt::GridKey() {
 void frmEatt::list1_Change() {
   const int picked = list1.ListIndex + 1;
   if (picked < 1 || picked == shown_) return;
-  if (edited && !CheckAndStore()) {
+  if (Awaits() && !CheckAndStore()) {
     list1.ListIndex = shown_ - 1;
     return;
   }
@@ -92,7 +92,7 @@ void frmEatt::list1_Change() {
 }
 
 void frmEatt::list1_GotFocus() {
-  if (edited) CheckAndStore();
+  if (Awaits()) CheckAndStore();
 }
 
 void frmEatt::ShowSummary(int index) {
@@ -125,7 +125,7 @@ bool frmEatt::CheckAndStore() {
     RemindOfSummary(*this, Title, code, Grid1, figures);
     return false;
   }
-  if (edited) Store();
+  Store();
   return true;
 }
 

@@ -35,6 +35,8 @@ struct frmEatt : Portal {
   bool GridKey();
   void ShowSummary(int index);
   void FillList();
+  // Edits to store, or fields that were refused before.
+  bool Awaits() const { return edited || check_failed; }
   bool CheckAndStore();
   bool IsComplete();
   void Store();

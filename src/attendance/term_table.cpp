@@ -14,6 +14,10 @@ std::size_t Place(int from_one) {
   return static_cast<std::size_t>(from_one) - 1;
 }
 
+double DateOf(int day) {
+  return Current().AttendanceDays[static_cast<std::size_t>(day)].date;
+}
+
 }  // namespace
 
 TermTable Grid2;
@@ -40,7 +44,11 @@ void TermTable::SetMark(int student, int day, char mark) {
 void TermTable::CopyDay(int from, int to) {
   if (!HasDay(to)) return;
   for (int i = 1; i <= Students(); ++i) SetMark(i, to, Mark(i, from));
-  dates_[Place(to)] = HasDay(from) ? dates_[Place(from)] : 0;
+  dates_[Place(to)] = HasDay(from) ? dates_[Place(from)] : Dates();
+}
+
+int TermTable::DatedDays() const {
+  return std::min(days_, UpperBound(Current().AttendanceDays));
 }
 
 int TermTable::MarksOfDay(int day) const {
@@ -56,16 +64,33 @@ int TermTable::MarkCount() const {
 }
 
 void TermTable::TakeDates() {
-  const List<AttendanceDay>& days = Current().AttendanceDays;
-  for (int j = 1; j <= std::min(days_, UpperBound(days)); ++j)
-    dates_[Place(j)] = days[static_cast<std::size_t>(j)].date;
+  for (int j = 1; j <= DatedDays(); ++j) dates_[Place(j)].taken = DateOf(j);
 }
 
 int TermTable::MarksUnderOtherDates() const {
-  const List<AttendanceDay>& days = Current().AttendanceDays;
   int count = 0;
-  for (int j = 1; j <= std::min(days_, UpperBound(days)); ++j)
-    if (dates_[Place(j)] != days[static_cast<std::size_t>(j)].date) count += MarksOfDay(j);
+  for (int j = 1; j <= DatedDays(); ++j)
+    if (dates_[Place(j)].taken != DateOf(j)) count += MarksOfDay(j);
+  return count;
+}
+
+void TermTable::TakeStoredDates() {
+  for (int j = 1; j <= DatedDays(); ++j) dates_[Place(j)].stored = DateOf(j);
+  stored_first_ = DatedDays() > 0 ? DateOf(1) : 0;
+}
+
+// A class that was cut and made longer again lacks the marks of its end, though nothing has moved.
+int TermTable::MarksAwaitingStore() const {
+  int count = 0;
+  for (int j = 1; j <= DatedDays(); ++j) {
+    const double stored = dates_[Place(j)].stored;
+    if (stored != DateOf(j)) continue;
+    const bool moved = stored != stored_first_ + j - 1;
+    for (int i = 1; i <= Students(); ++i) {
+      const char mark = Mark(i, j), in_class = MarkOn(Current().Students[Place(i) + 1], j);
+      count += mark != kNoMark && (moved || mark != in_class);
+    }
+  }
   return count;
 }
 
@@ -78,6 +103,7 @@ void LoadTermGrid() {
     for (int j = 1; j <= c.NumDays; ++j)
       Grid2.SetMark(i, j, MarkOn(c.Students[static_cast<std::size_t>(i)], j));
   Grid2.TakeDates();
+  Grid2.TakeStoredDates();
 }
 
 void StoreDailyMarks() {
@@ -88,6 +114,7 @@ void StoreDailyMarks() {
     for (int j = 1; j <= c.NumDays; ++j)
       *marks[static_cast<std::size_t>(j)].data() = Grid2.Mark(i, j);
   }
+  Grid2.TakeStoredDates();
   if (c.NumSummaries > 0) RecalculateRangeSummaries();
   c.Changed = kTrue;
 }

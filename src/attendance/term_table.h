@@ -33,14 +33,26 @@ class TermTable {
   void TakeDates();
   // How many marks have come to stand under another date since TakeDates.
   int MarksUnderOtherDates() const;
+  // The class holds the marks at the places that they have here now.
+  void TakeStoredDates();
+  // How many marks stand under their date, but in the class at another place or not any more.
+  int MarksAwaitingStore() const;
 
  private:
+  // Of the marks of a column, which take this along when they move.
+  struct Dates {
+    double taken = 0;
+    double stored = 0;
+  };
+
   bool HasDay(int day) const { return day >= 1 && day <= days_; }
+  int DatedDays() const;  // the days that the calendar has too
   int MarksOfDay(int day) const;
 
   int days_ = 0;
   std::vector<std::string> rows_;
-  std::vector<double> dates_;  // of each column's marks, which they take along when they move
+  std::vector<Dates> dates_;
+  double stored_first_ = 0;  // the date of the first place when marks were stored
 };
 
 extern TermTable Grid2;  // of the class in work; filled by frmAtt, whose range frmatset moves

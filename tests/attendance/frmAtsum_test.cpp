@@ -77,7 +77,18 @@ TEST_F(FrmAtsumTest, TheTextsAreThoseThatTeachersKnow) {
   EXPECT_EQ(portal.Summary.Caption, "Summary--Range of Dates");
   EXPECT_EQ(portal.Hand.Caption, "Direct Entering of Att.Info");
   EXPECT_EQ(portal.labmessage.Caption, "Please Choose an option for your Summary Attendance.");
+  EXPECT_EQ(portal.labrange.Caption,
+            "1. Summary--Range. After you enter the starting and ending dates, the program will "
+            "automatically calculate the number of Abs, Cuts, Notes, Lates and Exc each student "
+            "has. You cannot edit this info.");
+  EXPECT_EQ(portal.Label5.Caption,
+            "2. Direct Entering of Individual Attendance. If you prefer, you can manually enter "
+            "each student's attendance.  After you enter a title for the attendance period and a 3 "
+            "letter code, you then enter the number of absences for every student.");
   EXPECT_EQ(portal.summ.Caption, "Attendance Summary");
+  EXPECT_EQ(portal.another.Caption, "&Another");
+  EXPECT_EQ(portal.Exits.Caption, "E&xit");
+  EXPECT_EQ(portal.cancel.Caption, "&Cancel");
 }
 
 TEST_F(FrmAtsumTest, TheDirectLayout) {
@@ -199,6 +210,32 @@ TEST_F(FrmAtsumTest, TheFirstRangeIsA1WithItsDatesForATitle) {
   EXPECT_EQ(Figures(2, 1), "0    |0|0/1/1/1/");
   EXPECT_EQ(Current().Changed, kTrue);
   EXPECT_GE(window.enablings, 1);
+}
+
+TEST_F(FrmAtsumTest, AStudentWithoutDailyMarksHasNoneInARange) {
+  SetRange({9, 2026}, {6, 2027});
+  EnrolStudent("Zoe", "Zed", "9");  // as a text import adds one
+  Open(portal);
+  driver->Tick("Summary");
+  driver->Press("ok");
+  EXPECT_EQ(Row(3), "0|0|0|0|0|0|0");
+  driver->Press("Exits");
+  EXPECT_EQ(Figures(3, 1), "0    |0|0/0/0/0/");
+}
+
+TEST_F(FrmAtsumTest, ADateChangedAfterOkIsTheDateThatAnotherKeeps) {
+  SetRange({9, 2026}, {6, 2027});
+  Mark(1, Day(2026, 9, 30), "A");
+  Open(portal);
+  driver->Tick("Summary");
+  driver->Press("ok");
+  driver->PickDate("termend", Day(2026, 9, 15));
+  driver->Press("another");
+  EXPECT_EQ(Period(1).enddate, "9/15/2026");
+  EXPECT_EQ(Figures(1, 1), "1    |0|0/0/0/0/");
+  LoadTermGrid();
+  StoreDailyMarks();
+  EXPECT_EQ(Figures(1, 1), "0    |0| 0/ 0/ 0/ 0/");
 }
 
 TEST_F(FrmAtsumTest, ARangeTakesTheNumberBehindTheLastOneThatStands) {

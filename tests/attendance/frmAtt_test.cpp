@@ -456,6 +456,95 @@ TEST_F(FrmAttTest, MovedMarksThatExitWouldNotStoreAreTold) {
   EXPECT_EQ(Picture(1), "5/1/2027 A");
 }
 
+TEST_F(FrmAttTest, TheyAreToldAgainUntilTheyAreStored) {
+  SetRange({1, 2027}, {6, 2027});
+  screen.now = Day(2027, 3, 1);
+  Mark(1, Day(2027, 3, 31), "A");
+  OpenPortal();
+  screen.ExpectPortal("frmatset", Settings(1, 0));
+  screen.ExpectBox(kStartsLater);
+  driver->Press("mnudate");
+  screen.ExpectPortal("frmatset", [](PortalDriver& work) { work.Press("CancelButton"); });
+  driver->Press("mnudate");
+  EXPECT_EQ(driver->Text("status"),
+            "Marks that keep their dates only if one is entered before Exit: 1.");
+  Type(2, 1, "L");
+  driver->Press("mnuPrint");
+  screen.ExpectPortal("frmatset", [](PortalDriver& work) { work.Press("CancelButton"); });
+  driver->Press("mnudate");
+  EXPECT_EQ(driver->Text("status"), "");
+  EXPECT_EQ(Picture(1), "3/31/2027 A");
+}
+
+TEST_F(FrmAttTest, MarksThatLookAlikeAreToldAsWell) {
+  SetRange({1, 2027}, {6, 2027});
+  screen.now = Day(2027, 3, 1);
+  for (double day = Day(2027, 1, 1); day <= Day(2027, 6, 30); ++day) Mark(1, day, "A");
+  OpenPortal();
+  screen.ExpectPortal("frmatset", Settings(1, 0));
+  screen.ExpectBox(kStartsLater);
+  driver->Press("mnudate");
+  EXPECT_EQ(driver->Text("status"),
+            "Marks that fell out of the range: 31.  "
+            "Marks that keep their dates only if one is entered before Exit: 150.");
+}
+
+TEST_F(FrmAttTest, AnEndThatTheClassLostOnTheWayThereAndBackIsTold) {
+  SetRange({1, 2027}, {6, 2027});
+  screen.now = Day(2027, 3, 1);
+  Mark(1, Day(2027, 3, 31), "A");
+  Mark(1, Day(2027, 6, 30), "L");
+  OpenPortal();
+  screen.ExpectPortal("frmatset", Settings(1, 0));
+  screen.ExpectBox(kStartsLater);
+  driver->Press("mnudate");
+  screen.ExpectPortal("frmatset", Settings(-1, 0));
+  driver->Press("mnudate");
+  EXPECT_EQ(driver->Text("status"),
+            "Marks that keep their dates only if one is entered before Exit: 1.");
+  driver->Press("mnuExit");
+  EXPECT_EQ(Picture(1), "3/31/2027 A");
+}
+
+TEST_F(FrmAttTest, AfterASecondQuestionWasCancelledNoMarkWaitsForExit) {
+  SetRange({9, 2026}, {11, 2027});
+  screen.now = Day(2026, 10, 15);
+  Mark(1, Day(2026, 9, 1), "A");
+  Mark(1, Day(2027, 1, 1), "L");
+  const std::string before = Bytes();
+  OpenPortal();
+  screen.ExpectPortal("frmatset", [](PortalDriver& work) {
+    Settings(4, -1)(work);
+    work.Press("CancelButton");
+  });
+  screen.ExpectBox(kStartsLater);
+  screen.ExpectBox(kEndsEarlier, BoxAnswer::kCancel);
+  driver->Press("mnudate");
+  EXPECT_EQ(Shown(), "October 2026");
+  EXPECT_EQ(driver->Text("status"),
+            "Marks that now stand under other dates: 1.  Marks that fell out of the range: 1.");
+  driver->Press("mnuExit");
+  EXPECT_EQ(Bytes(), before);
+}
+
+TEST_F(FrmAttTest, MarksThatACancelledQuestionMovedAreStoredWithTheNextEntry) {
+  SetRange({9, 2026}, {11, 2027});
+  screen.now = Day(2026, 10, 15);
+  Mark(1, Day(2027, 1, 1), "L");
+  OpenPortal();
+  screen.ExpectPortal("frmatset", [](PortalDriver& work) {
+    Settings(4, -1)(work);
+    work.Press("CancelButton");
+  });
+  screen.ExpectBox(kStartsLater);
+  screen.ExpectBox(kEndsEarlier, BoxAnswer::kCancel);
+  driver->Press("mnudate");
+  Type(2, 1, "E");
+  driver->Press("mnuExit");
+  EXPECT_EQ(Picture(1), "9/1/2026 L");
+  EXPECT_EQ(Picture(2), "10/1/2026 E");
+}
+
 TEST_F(FrmAttTest, CancelKeepsACalendarThatWasChanged) {
   Mark(1, Day(2026, 9, 1), "A");
   OpenPortal();

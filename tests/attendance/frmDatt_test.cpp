@@ -33,6 +33,8 @@ class FrmDattTest : public AttendanceTest {
 TEST_F(FrmDattTest, ListsTitlesAndCodes) {
   Open(portal);
   EXPECT_EQ(portal.Caption, "Delete Attendance Portal");
+  EXPECT_EQ(portal.delete_.Caption, "&Delete");
+  EXPECT_EQ(portal.exitbt.Caption, "E&xit");
   EXPECT_EQ(portal.list1.List, (std::vector<std::string>{"Fall  \tF", "Winter\tA1", "Spring\tA2"}));
 }
 

@@ -101,14 +101,48 @@ TEST_F(FrmEattTest, ExitStoresADirectPeriod) {
   EXPECT_EQ(Current().Changed, kTrue);
 }
 
-TEST_F(FrmEattTest, ExitWithoutAnEditLeavesEveryByte) {
+TEST_F(FrmEattTest, AnotherLineWithoutAnEditStoresNothing) {
   const std::string before = Bytes();
   OpenPeriod(0);
   driver->Choose("list1", 1);
-  driver->Press("exit");
-  EXPECT_TRUE(portal.Unloaded());
+  EXPECT_EQ(driver->Text("code"), "A1");
   EXPECT_EQ(Bytes(), before);
   EXPECT_EQ(Current().Changed, kFalse);
+  driver->Press("cancel");
+  EXPECT_TRUE(portal.Unloaded());
+  EXPECT_EQ(Bytes(), before);
+}
+
+TEST_F(FrmEattTest, ExitStoresThePeriodShownEvenWithoutAnEdit) {
+  OpenPeriod(0);
+  driver->Press("exit");
+  EXPECT_TRUE(portal.Unloaded());
+  EXPECT_EQ(Current().Summaries[1].title, " Fall");
+  EXPECT_EQ(Current().Summaries[1].code, "F");
+  EXPECT_EQ(Figures(1, 1), "3    |1| 0/ 0/ 0/ 0/");
+  EXPECT_EQ(Current().Changed, kTrue);
+}
+
+TEST_F(FrmEattTest, ExitThatWasRefusedKeepsTheReminderComingUntilTheFiguresAreFilled) {
+  EnrolStudent("Zoe", "Zed", "9");  // as a text import adds one, without figures
+  OpenPeriod(0);
+  screen.ExpectBox(kReminder);
+  driver->Press("exit");
+  for (int i = 0; i < 2; ++i) {
+    screen.ExpectBox(kReminder);
+    driver->Focus("list1");
+    EXPECT_EQ(driver->Focused(), "Grid1");
+  }
+  Figure(3, 2, "0");
+  Figure(3, 3, "2");
+  driver->Focus("list1");
+  EXPECT_EQ(driver->Focused(), "list1");
+  EXPECT_EQ(Figures(3, 1), "0    |2| 0/ 0/ 0/ 0/");
+}
+
+TEST_F(FrmEattTest, TheButtonsHaveTheirNames) {
+  EXPECT_EQ(portal.exit.Caption, "E&xit");
+  EXPECT_EQ(portal.cancel.Caption, "&Cancel");
 }
 
 TEST_F(FrmEattTest, ExitWithNothingChosenCloses) {
