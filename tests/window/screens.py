@@ -139,6 +139,31 @@ def reports(program):
     program.gone("Printer Portal")
 
 
+def attendance(program):
+    """A month with its totals, the range, and both forms of a summary."""
+    program.keys("ctrl+d")
+    program.window("Enter Attendance Portal")
+    program.keys("alt+t", "s")
+    take(program, "frmAtt")
+    program.keys("alt+d")
+    program.window("Attendance Settings Portal")
+    take(program, "frmatset")
+    program.keys("Escape")
+    program.window("Enter Attendance Portal")
+    program.keys("alt+x")
+    program.gone("Enter Attendance Portal")
+    program.keys("alt+r", "e", "s")
+    program.window("Summary Attendance Portal")
+    program.click(program.widget(Atspi.Role.RADIO_BUTTON, "Direct Entering of Att.Info"))
+    take(program, "frmAtsum-direct")
+    program.click(program.widget(Atspi.Role.RADIO_BUTTON, "Summary--Range of Dates"))
+    program.click(program.widget(Atspi.Role.PUSH_BUTTON, "OK"))
+    take(program, "frmAtsum-range")
+    program.keys("Escape")
+    program.box("Data has been entered. Are you sure you want to CANCEL?", "alt+y", title="CANCEL")
+    program.gone("Summary Attendance Portal")
+
+
 def portals(this):
     program = sample_window(this, "sample-light")
     portal(program, ["ctrl+Insert"], "Add Student Portal", "frmAdd")
@@ -146,6 +171,7 @@ def portals(this):
     marks(program)
     portal(program, ["alt+f", "i"], "Class Information Portal", "frmclassinfo")
     portal(program, ["alt+s", "d"], "Delete Portal", "frmdelete", ["Home", "Down"])
+    attendance(program)
     reports(program)
     text_file(this, program)
     program.keys("F1")

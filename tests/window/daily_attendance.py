@@ -1,0 +1,75 @@
+# SPDX-License-Identifier: GPL-3.0-or-later
+# A class gets its months of attendance, and a month is taken for thirty students by keys alone. The
+# totals on the screen are those that the command line counts in the saved class.
+import json
+
+from gi.repository import Atspi
+from support import story
+from support.program import build, command_line, dump, expect, wait_for
+
+STUDENTS = 30
+CODES = "ACESNL"
+DAYS = 6  # entered, one column down and the next one up
+FIRST_DAY_COLUMN, OCTOBER = 2, 31
+
+
+def code(student, day):
+    """Every seventh stays without a mark."""
+    place = (student + 2 * day) % 7
+    return CODES[place] if place < len(CODES) else ""
+
+
+def enter_month(program):
+    program.keys("Down", "Right", "Right")
+    for day in range(DAYS):
+        down = day % 2 == 0
+        students = range(STUDENTS) if down else reversed(range(STUDENTS))
+        for student in students:
+            program.keys(*code(student, day).lower(), "Down" if down else "Up")
+        program.keys("Right")
+
+
+def totals(program, student):
+    table = program.widget(Atspi.Role.TABLE, "Attendance")
+    first = FIRST_DAY_COLUMN + OCTOBER
+    return [Atspi.Table.get_accessible_at(table, student + 1, first + i).get_name() for i in range(len(CODES))]
+
+
+def tell(this):
+    path = this.path("ROLL.TYR")
+    build(path, {"termstart": "9/1/2026", "termend": "10/31/2026",
+                 "Students": [{"lastname": f"Pupil{i:02}", "firstname": "Ada", "id": f"{100 + i}"}
+                              for i in range(STUDENTS)]})
+    program = this.start(path)
+    program.frame("ROLL.TYR")
+    program.keys("ctrl+d")
+    program.window("Attendance Settings Portal")
+    program.await_labels("Original Starting Date is September 2026", "Original Ending Date is October 2026")
+    program.keys("Return")
+    program.window("Enter Attendance Portal")
+    program.await_labels("October", "2026")
+    enter_month(program)
+    program.keys("alt+t", "s")
+    expected = [[str(sum(code(student, day) == letter for day in range(DAYS))) for letter in CODES]
+                for student in range(STUDENTS)]
+    wait_for("the totals", lambda: totals(program, 0) == expected[0])
+    expect("the totals on the screen", [totals(program, student) for student in range(STUDENTS)], expected)
+
+    program.click(program.widget(Atspi.Role.PUSH_BUTTON, "Month before"))
+    program.await_labels("September", "2026")
+    program.click(program.widget(Atspi.Role.PUSH_BUTTON, "Month after"))
+    program.await_labels("October", "2026")
+    expect("the totals after a month and back", [totals(program, student) for student in range(STUDENTS)], expected)
+    program.keys("alt+x")
+    program.gone("Enter Attendance Portal")
+    program.frame("ROLL.TYR")
+    program.keys("ctrl+s", "ctrl+q")
+    program.ended()
+
+    counted = json.loads(command_line("attendance", path, "--months", "2026-10..2026-10", "--json"))
+    expect("the totals in the file", [[str(student[letter]) for letter in CODES] for student in counted], expected)
+    days = dump(path)["AttendanceDays"]
+    expect("the days of two months", len(days), 30 + 31 + 1)
+
+
+story.run(tell)
