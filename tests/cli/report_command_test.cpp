@@ -262,7 +262,7 @@ TEST_F(ReportCommandTest, AFullDiskIsRefusedAndTheOldFileStays) {
       const SmallFiles small(50);
       run = RunCli({"report", "--code", "19", "--format", format, "--out", out, file});
     }
-    ExpectRefused(run, out + ": File Error: 61");
+    ExpectRefused(run, out + ": File Error: 61 (the disk is full)");
     EXPECT_EQ(Get(out), "old");
   }
 }
@@ -272,7 +272,8 @@ TEST_F(ReportCommandTest, AReadOnlyFolderIsRefusedAndStaysAsItIs) {
   {
     const ReadOnlyFolder locked(Path(""));
     ASSERT_TRUE(locked.Refuses());
-    ExpectRefused(RunCli({"report", "--code", "19", "--out", out, file}), out + ": File Error: 70");
+    ExpectRefused(RunCli({"report", "--code", "19", "--out", out, file}),
+                  out + ": File Error: 70 (permission denied)");
   }
   EXPECT_FALSE(std::filesystem::exists(out));
 }
