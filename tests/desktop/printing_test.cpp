@@ -5,8 +5,10 @@
 
 #include <QApplication>
 #include <QComboBox>
+#include <QDir>
 #include <QFontDialog>
 #include <QLocale>
+#include <QMessageBox>
 #include <QPageSetupDialog>
 #include <QPrintDialog>
 #include <QTemporaryDir>
@@ -17,6 +19,7 @@
 #include "desktop/qt_surroundings.h"
 #include "paper/sheet.h"
 #include "tests/support/pdf_words.h"
+#include "tests/support/refusing_disk.h"
 
 namespace tallyroll {
 namespace {
@@ -70,6 +73,30 @@ TEST_F(PrintingTest, APdfIsLaidOutAsTheHiddenBoxIs) {
 
 TEST_F(PrintingTest, APdfThatCannotBeOpenedIsNone) {
   EXPECT_EQ(surroundings.OpenPdf(Path("none/a.pdf"), false, "Title"), nullptr);
+}
+
+TEST_F(PrintingTest, APdfThatDoesNotReachTheDiskIsTold) {
+  SetPlatform(&surroundings);
+  bool told = false;
+  WithNextWindow<QMessageBox>([&told](QMessageBox& box) {
+    EXPECT_EQ(box.text(), QStringLiteral("File Error"));
+    EXPECT_EQ(box.windowTitle(), QStringLiteral("Note to the Teacher"));
+    told = true;
+    box.accept();
+  });
+  {
+    const SmallFiles small(2000);
+    const auto pdf = surroundings.OpenPdf(Path("a.pdf"), false, "Title");
+    ASSERT_NE(pdf, nullptr);
+    for (int page = 0; page < 50; ++page) {
+      pdf->Print("text on a page");
+      pdf->NewPage();
+    }
+    pdf->EndDoc();
+  }
+  SetPlatform(nullptr);
+  EXPECT_TRUE(told);
+  EXPECT_TRUE(QDir(folder.path()).isEmpty());
 }
 
 TEST_F(PrintingTest, APrinterThatPrintsToNoFileIsNone) {
