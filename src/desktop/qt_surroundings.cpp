@@ -166,7 +166,12 @@ std::optional<PrintRange> QtSurroundings::PrintDialog(const PrintRange& offered)
 }
 
 std::unique_ptr<PrintTarget> QtSurroundings::OpenPrinter(bool landscape, std::string_view title) {
-  return PrinterTarget::Open(Printer(), landscape, title);
+  auto printer = PrinterTarget::Open(Printer(), landscape, title);
+  if (printer)
+    printer->failed = [](int) {
+      ShowMessage("The report could not be printed.", BoxIcon::kCritical);
+    };
+  return printer;
 }
 
 std::unique_ptr<PrintTarget> QtSurroundings::OpenPdf(const std::string& path, bool landscape,
