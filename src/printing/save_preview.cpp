@@ -25,7 +25,7 @@ std::string AskForName(std::string_view filter, std::string_view extension, std:
   request.default_extension = extension;
   request.overwrite_prompt = true;
   request.help_context = kSavingTopic;
-  const std::string path = Platform().FileDialog(request).value_or("");
+  std::string path = Platform().FileDialog(request).value_or("");
   if (!path.empty()) folder = std::filesystem::path(path).parent_path().string();
   return path;
 }
