@@ -12,11 +12,11 @@
 
 #include "desktop/message_box.h"
 #include "desktop/open_save_dialog.h"
+#include "desktop/paper/pdf_target.h"
 #include "desktop/portal_dialog.h"
 #include "desktop/print_dialogs.h"
 #include "desktop/printer_target.h"
 #include "desktop/text_conversion.h"
-#include "paper/pdf_target.h"
 #include "platform/class_window.h"
 
 namespace tallyroll {

@@ -14,25 +14,16 @@
 #include <QTemporaryDir>
 #include <QTimer>
 
+#include "desktop/paper/sheet.h"
 #include "desktop/print_dialogs.h"
 #include "desktop/printer_target.h"
 #include "desktop/qt_surroundings.h"
-#include "paper/sheet.h"
+#include "tests/desktop/next_window.h"
 #include "tests/support/pdf_words.h"
 #include "tests/support/refusing_disk.h"
 
 namespace tallyroll {
 namespace {
-
-// Does something with the dialog that comes up in front.
-template <typename W>
-void WithNextWindow(std::function<void(W&)> act) {
-  QTimer::singleShot(0, qApp, [act] {
-    auto* window = qobject_cast<W*>(QApplication::activeModalWidget());
-    ASSERT_NE(window, nullptr);
-    act(*window);
-  });
-}
 
 class PrintingTest : public testing::Test {
  protected:

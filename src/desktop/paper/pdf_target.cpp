@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "paper/pdf_target.h"
+#include "desktop/paper/pdf_target.h"
 
 #include <QFile>
 #include <QPageLayout>
