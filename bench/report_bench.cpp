@@ -15,7 +15,7 @@
 #include "averages/rounding.h"
 #include "bench/big_class.h"
 #include "bench/open_class.h"
-#include "paper/pdf_target.h"
+#include "desktop/paper/pdf_target.h"
 #include "printing/print_run.h"
 #include "printing/reports.h"
 #include "store/class_defaults.h"

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "cli/pdf.h"
 
-#include "paper/offscreen_application.h"
-#include "paper/pdf_target.h"
+#include "desktop/paper/offscreen_application.h"
+#include "desktop/paper/pdf_target.h"
 #include "printing/print_run.h"
 
 namespace tallyroll {

@@ -5,7 +5,7 @@
 #include <QPrinter>
 #include <memory>
 
-#include "paper/paged_target.h"
+#include "desktop/paper/paged_target.h"
 
 namespace tallyroll {
 

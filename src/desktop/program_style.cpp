@@ -25,8 +25,7 @@ void ProgramStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* o
                                  QPainter* painter, const QWidget* widget) const {
   const auto* button = qstyleoption_cast<const QStyleOptionButton*>(option);
   const bool indicator = element == PE_IndicatorCheckBox || element == PE_IndicatorRadioButton;
-  if (!indicator || !button)
-    return QProxyStyle::drawPrimitive(element, option, painter, widget);
+  if (!indicator || !button) return QProxyStyle::drawPrimitive(element, option, painter, widget);
   QStyleOptionButton outlined(*button);
   outlined.palette.setColor(QPalette::Window, OutlineOn(button->palette).lighter(kOutlineDarker));
   QProxyStyle::drawPrimitive(element, &outlined, painter, widget);

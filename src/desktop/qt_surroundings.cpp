@@ -12,11 +12,11 @@
 
 #include "desktop/message_box.h"
 #include "desktop/open_save_dialog.h"
+#include "desktop/paper/pdf_target.h"
 #include "desktop/portal_dialog.h"
 #include "desktop/print_dialogs.h"
 #include "desktop/printer_target.h"
 #include "desktop/text_conversion.h"
-#include "paper/pdf_target.h"
 #include "platform/class_window.h"
 
 namespace tallyroll {
@@ -170,7 +170,12 @@ std::optional<PrintRange> QtSurroundings::PrintDialog(const PrintRange& offered)
 }
 
 std::unique_ptr<PrintTarget> QtSurroundings::OpenPrinter(bool landscape, std::string_view title) {
-  return PrinterTarget::Open(Printer(), landscape, title);
+  auto printer = PrinterTarget::Open(Printer(), landscape, title);
+  if (printer)
+    printer->failed = [](int) {
+      ShowMessage("The report could not be printed.", BoxIcon::kCritical);
+    };
+  return printer;
 }
 
 std::unique_ptr<PrintTarget> QtSurroundings::OpenPdf(const std::string& path, bool landscape,

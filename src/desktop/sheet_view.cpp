@@ -3,7 +3,7 @@
 
 #include <QPainter>
 
-#include "paper/qt_print_target.h"
+#include "desktop/paper/qt_print_target.h"
 
 namespace tallyroll {
 namespace {

@@ -58,7 +58,7 @@ struct frmMarks : GradeForm {
   void GoToMarks();
 
   bool grade_waits_ = false;  // the clipboard held a grade when the Portal began
-  GradeFile imported_;  // of a text file; empty when the Portal was opened to type
+  GradeFile imported_;        // of a text file; empty when the Portal was opened to type
   std::vector<GradeColumn>::const_iterator next_import_ = imported_.columns.begin();
 };
 

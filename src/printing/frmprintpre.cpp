@@ -9,6 +9,7 @@
 #include "platform/surroundings.h"
 #include "printing/print_command.h"
 #include "printing/reports.h"
+#include "printing/running.h"
 #include "store/program_state.h"
 
 namespace tallyroll {
@@ -92,6 +93,7 @@ void frmprintpre::DeclareToolbar(ControlTable& table) {
 void frmprintpre::Load() {
   folder_ = DataFolder;
   ShowFrame1(false);
+  picture1.Draw = [this](PrintTarget& target) { DrawPage(target); };
   startup();
 }
 
@@ -116,8 +118,8 @@ void frmprintpre::makepage() {
     pagenum.List.push_back("Page " + PlainNumberText(page));
 }
 
-// The page is drawn by whoever shows the box, on the sheet for which it was laid out. A page that
-// is drawn meanwhile would lead a print astray.
+// The page is drawn by whoever shows the box. One that is drawn while a print or a save goes on
+// would lead that astray.
 void frmprintpre::showscreen() {
   if (running_) return;
   const auto sheet = Platform().MakePrintBox(PrintsLandscape());
@@ -125,15 +127,19 @@ void frmprintpre::showscreen() {
   picture1.Zoom = ZoomOf(size.ListIndex);
   picture1.SheetWidth = sheet->Width;
   picture1.SheetHeight = sheet->Height;
-  picture1.Draw = [page = pagenum.ListIndex + 1, width = sheet->ScaleWidth,
-                   height = sheet->ScaleHeight](PrintTarget& target) {
-    target.ScaleWidth = width;
-    target.ScaleHeight = height;
-    Job.PrintFlag = kPrintRuns;
-    PrepareTarget(target);
-    RenderPage(target, page);
-  };
+  printable_width_ = sheet->ScaleWidth;
+  printable_height_ = sheet->ScaleHeight;
   ++picture1.Revision;
+}
+
+// As it was laid out: within what the printer can reach.
+void frmprintpre::DrawPage(PrintTarget& target) {
+  const Running drawing(drawing_);
+  target.ScaleWidth = printable_width_;
+  target.ScaleHeight = printable_height_;
+  Job.PrintFlag = kPrintRuns;
+  PrepareTarget(target);
+  RenderPage(target, pagenum.ListIndex + 1);
 }
 
 void frmprintpre::StepZoom(int by) {
@@ -153,18 +159,16 @@ void frmprintpre::ShowPage(int index) {
 }
 
 void frmprintpre::ShowPrint() {
-  if (running_) return;
-  PrintRange offered = AllPages();
-  std::optional<PrintRange> range = Platform().PrintDialog(offered);
+  if (Busy()) return;
+  std::optional<PrintRange> range = Platform().PrintDialog(AllPages());
   if (!range) return;
   range->from_page = std::clamp<int>(range->from_page, 1, Job.PageCount);
   range->to_page = std::clamp<int>(range->to_page, range->from_page, Job.PageCount);
-  running_ = true;
   {
+    const Running running(running_);
     PrintMessage message;
     PrintOnPrinter(*range, message);
   }
-  running_ = false;
   startup();
 }
 
@@ -183,7 +187,7 @@ void frmprintpre::eight_Click() {
 
 // A final grade stands in the report that no grade of the class keeps yet.
 void frmprintpre::QueryUnload() {
-  if (running_) return;
+  if (Busy()) return;
   if (Job.ReportCode == kFullClass && Current().Method != kNoMethod &&
       Ask("Save Rounded Averaged Grades? (Recommended)", BoxButtons::kYesNo, BoxIcon::kQuestion,
           "Save File") == BoxAnswer::kYes)

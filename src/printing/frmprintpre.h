@@ -43,6 +43,10 @@ struct frmprintpre : Portal {
   void makepage();
   void StepZoom(int by);
   void ShowPage(int index);
+  void DrawPage(PrintTarget& target);
+  // Drawing, printing and saving let events through, but walk the class in the same way: one at a
+  // time.
+  bool Busy() const { return running_ || drawing_; }
   bool Refuses(std::string_view function) const;
   void eight_Click();
   void AskAndSave(Save form);
@@ -54,7 +58,9 @@ struct frmprintpre : Portal {
 
   Save pending_ = Save::kText;  // waits for the answer of Frame1
   std::string folder_;          // where the next save dialog starts
-  bool running_ = false;
+  double printable_width_ = 0, printable_height_ = 0;
+  bool running_ = false;  // a print or a save goes on; the page on screen stays as it is
+  bool drawing_ = false;  // the page on screen is being drawn
 };
 
 }  // namespace tallyroll

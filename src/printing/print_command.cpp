@@ -6,10 +6,9 @@
 namespace tallyroll {
 namespace {
 
-void Print(PrintTarget& target, const PrintRange& range, PrintMessage& message) {
-  Job.PrintFlag = kPrintRuns;
+bool Print(PrintTarget& target, const PrintRange& range, PrintMessage& message) {
   PrepareTarget(target);
-  PrintPages(target, range, [&](int page) { message.ShowPage(page, Job.PageCount); });
+  return PrintPages(target, range, [&](int page) { message.ShowPage(page, Job.PageCount); });
 }
 
 }  // namespace
@@ -26,10 +25,16 @@ std::unique_ptr<PrintTarget> OpenPrinterOrTell() {
 }
 
 void PrintOnPrinter(const PrintRange& range, PrintMessage& message) {
-  if (const auto printer = OpenPrinterOrTell()) Print(*printer, range, message);
+  Job.PrintFlag = kPrintRuns;
+  bool done = true;
+  for (int copy = 0; done && copy < range.copies; ++copy) {
+    const auto printer = OpenPrinterOrTell();
+    done = printer && Print(*printer, range, message);
+  }
 }
 
 void PrintToPdf(const std::string& path, PrintMessage& message) {
+  Job.PrintFlag = kPrintRuns;
   const auto file = Platform().OpenPdf(path, PrintsLandscape(), Job.PrintTitle);
   if (!file)
     ShowMessage("File Error");

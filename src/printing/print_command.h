@@ -15,6 +15,7 @@ PrintRange AllPages();
 // A job on the printer in use. Null when the printer refuses, which was told.
 std::unique_ptr<PrintTarget> OpenPrinterOrTell();
 
+// Each copy is a job of its own: printed on both sides, the next one begins on a new sheet.
 void PrintOnPrinter(const PrintRange& range, PrintMessage& message);
 
 // Prints every page into a PDF file. One that cannot be written is told.

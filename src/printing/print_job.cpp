@@ -56,7 +56,7 @@ void SetupPage(PrintTarget& target) {
 
 std::string StudentLabel() {
   const Student& student = Current().Students[static_cast<std::size_t>(CurrentStudent)];
-  const std::string name =
+  std::string name =
       std::string(TrimRight(student.lastname)) + ", " + std::string(TrimRight(student.firstname));
   if (NameMode == 57) return name;
   if (NameMode == 73) return student.id;

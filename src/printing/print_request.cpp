@@ -9,6 +9,7 @@
 #include "printing/print_command.h"
 #include "printing/report_choice.h"
 #include "printing/reports.h"
+#include "printing/running.h"
 #include "store/program_state.h"
 #include "store/sort_students.h"
 #include "store/student_names.h"
@@ -18,18 +19,6 @@ namespace {
 
 constexpr int kRollBook = 3, kRollBookTitles = 4, kMonths = 8, kOneSummary = 9, kOneGrade = 10;
 constexpr int kFullClass = 11, kAveragesOfOne = 12, kGradesOfOne = 13;
-
-// Holds off a second run while events are let through.
-class Running {
- public:
-  explicit Running(bool& flag) : flag_(flag) { flag_ = true; }
-  ~Running() { flag_ = false; }
-  Running(const Running&) = delete;
-  Running& operator=(const Running&) = delete;
-
- private:
-  bool& flag_;
-};
 
 bool IsOneOf(int code, std::initializer_list<int> codes) {
   return std::find(codes.begin(), codes.end(), code) != codes.end();

@@ -13,7 +13,7 @@ namespace {
 
 constexpr i16 kMonths = 8;
 
-bool PrintCopy(PrintTarget& printer, const PrintRange& range,
+bool DrawPages(PrintTarget& printer, const PrintRange& range,
                const std::function<void(int page)>& progress) {
   for (int page = range.from_page; page <= range.to_page; ++page) {
     if (page > range.from_page) printer.NewPage();
@@ -50,11 +50,7 @@ bool LayOutReport() {
 
 bool PrintPages(PrintTarget& printer, const PrintRange& range,
                 const std::function<void(int page)>& progress) {
-  bool done = true;
-  for (int copy = 0; done && copy < range.copies; ++copy) {
-    if (copy > 0) printer.NewPage();
-    done = PrintCopy(printer, range, progress);
-  }
+  const bool done = DrawPages(printer, range, progress);
   if (!done) printer.KillDoc();
   printer.EndDoc();
   return done;

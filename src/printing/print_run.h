@@ -19,9 +19,8 @@ void PrepareTarget(PrintTarget& target);
 // student, and fills the page table. False when the teacher cancelled or was told why it cannot be.
 bool LayOutReport();
 
-// Draws pages of the page table on a prepared printer or PDF, copy after copy, and ends the job.
-// `progress` is told of each page before it is drawn. False when it was cancelled: the job is
-// dropped.
+// Draws pages of the page table once on a prepared printer or PDF, and ends the job. `progress` is
+// told of each page before it is drawn. False when it was cancelled: the job is dropped.
 bool PrintPages(PrintTarget& printer, const PrintRange& range,
                 const std::function<void(int page)>& progress);
 

@@ -64,6 +64,7 @@ std::vector<TableLine> HeadOf(const std::vector<int>& grades) {
   heads.cells = {{0, std::string(StudentColumnHead())}, {BehindStudentColumn(), "GRADES"}};
   AddCells(codes, grades, [](int grade) { return std::string_view(GradeInReport(grade).code); });
   std::vector<std::string> texts;
+  texts.reserve(grades.size());
   for (const int grade : grades) texts.push_back(DateWithoutYear(grade));
   std::size_t next = 0;
   AddCells(dates, grades, [&](int) { return std::string_view(texts[next++]); });
@@ -158,6 +159,7 @@ void PrintFullTitles(ReportPass& pass) {
   PrintTarget& target = pass.target;
   const std::vector<std::vector<int>> blocks = GradesByBlock();
   std::vector<Section> sections;
+  sections.reserve(blocks.size());
   for (const std::vector<int>& grades : blocks)
     sections.push_back({.rows = Current().NumStudents,
                         .print = [&target, &grades](int row) { PrintStudent(target, row, grades); },

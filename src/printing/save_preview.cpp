@@ -9,6 +9,7 @@
 #include "printing/print_command.h"
 #include "printing/report_choice.h"
 #include "printing/reports.h"
+#include "printing/running.h"
 
 namespace tallyroll {
 namespace {
@@ -24,7 +25,7 @@ std::string AskForName(std::string_view filter, std::string_view extension, std:
   request.default_extension = extension;
   request.overwrite_prompt = true;
   request.help_context = kSavingTopic;
-  const std::string path = Platform().FileDialog(request).value_or("");
+  std::string path = Platform().FileDialog(request).value_or("");
   if (!path.empty()) folder = std::filesystem::path(path).parent_path().string();
   return path;
 }
@@ -32,7 +33,7 @@ std::string AskForName(std::string_view filter, std::string_view extension, std:
 }  // namespace
 
 void frmprintpre::AskAndSave(Save form) {
-  if (running_ || Refuses(form == Save::kText ? "Save to Text File" : "Save to HTML")) return;
+  if (Busy() || Refuses(form == Save::kText ? "Save to Text File" : "Save to HTML")) return;
   pending_ = form;
   if (Choice.students.size() > 1)
     ShowFrame1(true);
@@ -49,6 +50,7 @@ void frmprintpre::ShowFrame1(bool on) {
 }
 
 void frmprintpre::Command5_Click() {
+  if (Busy()) return;
   const bool current_only = current.Value;
   ShowFrame1(false);
   SaveFor(current_only);
@@ -67,6 +69,7 @@ void frmprintpre::SaveFor(bool current_only) {
 }
 
 void frmprintpre::SaveReport(Save form) {
+  const Running running(running_);
   Job.PrintFlag = kPrintRuns;
   if (form == Save::kText) {
     const std::string path = AskForName("Text Files (*.txt)|*.TXT", "TXT", folder_);
@@ -78,15 +81,14 @@ void frmprintpre::SaveReport(Save form) {
 }
 
 void frmprintpre::pdf_Click() {
-  if (running_) return;
+  if (Busy()) return;
   const std::string path = AskForName("PDF Files (*.pdf)|*.PDF", "PDF", folder_);
   if (path.empty()) return;
-  running_ = true;
   {
+    const Running running(running_);
     PrintMessage message;
     PrintToPdf(path, message);
   }
-  running_ = false;
   Job.PrintFlag = kPrintRuns;
   showscreen();
 }

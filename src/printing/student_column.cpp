@@ -30,7 +30,7 @@ int BehindStudentColumn() {
 }
 
 std::string StudentColumnText(const Student& student) {
-  const std::string id(Trim(student.id));
+  std::string id(Trim(student.id));
   switch (Choice.shown) {
     case Shown::kId:
       return id;

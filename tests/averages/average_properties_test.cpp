@@ -14,9 +14,12 @@ std::size_t allocations = 0;
 }
 
 // Counts every block from the heap.
-void* operator new(std::size_t size) {
+void* operator new(std::size_t size, const std::nothrow_t&) noexcept {
   ++allocations;
-  if (void* block = std::malloc(size != 0 ? size : 1)) return block;
+  return std::malloc(size != 0 ? size : 1);
+}
+void* operator new(std::size_t size) {
+  if (void* block = operator new(size, std::nothrow)) return block;
   throw std::bad_alloc();
 }
 void operator delete(void* block) noexcept {

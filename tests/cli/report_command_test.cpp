@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "tests/cli/run_cli.h"
+#include "tests/support/refusing_disk.h"
 
 namespace tallyroll {
 namespace {
@@ -251,6 +252,30 @@ TEST_F(ReportCommandTest, AFileThatCannotBeWrittenIsRefused) {
   const std::string out = Path("none/a.txt");
   ExpectRefused(RunCli({"report", "--code", "1", "--out", out, Build(kClass)}),
                 out + ": File Error: 76 (there is no such folder)");
+}
+
+TEST_F(ReportCommandTest, AFullDiskIsRefusedAndTheOldFileStays) {
+  const std::string file = Build(kClass), out = Put("a.txt", "old");
+  for (const char* format : {"text", "html"}) {
+    CliRun run;
+    {
+      const SmallFiles small(50);
+      run = RunCli({"report", "--code", "19", "--format", format, "--out", out, file});
+    }
+    ExpectRefused(run, out + ": File Error: 61 (the disk is full)");
+    EXPECT_EQ(Get(out), "old");
+  }
+}
+
+TEST_F(ReportCommandTest, AReadOnlyFolderIsRefusedAndStaysAsItIs) {
+  const std::string file = Build(kClass), out = Path("a.txt");
+  {
+    const ReadOnlyFolder locked(Path(""));
+    ASSERT_TRUE(locked.Refuses());
+    ExpectRefused(RunCli({"report", "--code", "19", "--out", out, file}),
+                  out + ": File Error: 70 (permission denied)");
+  }
+  EXPECT_FALSE(std::filesystem::exists(out));
 }
 
 TEST_F(ReportCommandTest, AFileThatIsMissingIsRefused) {

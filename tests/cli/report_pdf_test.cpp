@@ -6,6 +6,7 @@
 
 #include "tests/cli/run_cli.h"
 #include "tests/support/pdf_words.h"
+#include "tests/support/refusing_disk.h"
 
 namespace tallyroll {
 namespace {
@@ -112,6 +113,19 @@ TEST_F(ReportPdfTest, AMissingFolderIsRefused) {
   const CliRun run = RunCli({"report", "--code", "19", "--out", out, ClassOf(1)});
   EXPECT_EQ(run.status, 1);
   EXPECT_TRUE(run.err.starts_with(out + ": File Error: ")) << run.err;
+}
+
+TEST_F(ReportPdfTest, AFullDiskIsRefusedAndTheOldFileStays) {
+  Put("report.pdf", "old");
+  const std::string file = ClassOf(20);
+  CliRun run;
+  {
+    const SmallFiles small(2000);
+    run = Report("20", file);
+  }
+  EXPECT_EQ(run.status, 1);
+  EXPECT_TRUE(run.err.starts_with(pdf + ": File Error: ")) << run.err;
+  EXPECT_EQ(Get(pdf), "old");
 }
 
 TEST_F(ReportPdfTest, ARefusedReportLeavesTheOldFileAsItIs) {

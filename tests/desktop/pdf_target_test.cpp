@@ -1,16 +1,15 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "paper/pdf_target.h"
+#include "desktop/paper/pdf_target.h"
 
 #include <gtest/gtest.h>
-#include <sys/resource.h>
 
 #include <QDir>
 #include <QFile>
 #include <QTemporaryDir>
-#include <csignal>
 
 #include "base/run_time_error.h"
 #include "tests/support/pdf_words.h"
+#include "tests/support/refusing_disk.h"
 
 namespace tallyroll {
 namespace {
@@ -99,25 +98,17 @@ TEST_F(PdfTargetTest, AFolderThatIsNotThereIsRefused) {
   EXPECT_NE(error, 0);
 }
 
-// The largest file that this process may write, for as long as it lives.
-class SmallFiles {
- public:
-  explicit SmallFiles(rlim_t bytes) : handler_(std::signal(SIGXFSZ, SIG_IGN)) {
-    getrlimit(RLIMIT_FSIZE, &before_);
-    const rlimit small{bytes, before_.rlim_max};
-    setrlimit(RLIMIT_FSIZE, &small);
+TEST_F(PdfTargetTest, AReadOnlyFolderIsRefusedAndStaysAsItIs) {
+  Put("old");
+  {
+    const ReadOnlyFolder locked(folder.path().toStdString());
+    ASSERT_TRUE(locked.Refuses());
+    EXPECT_EQ(Open(), nullptr);
+    EXPECT_NE(error, 0);
   }
-  ~SmallFiles() {
-    setrlimit(RLIMIT_FSIZE, &before_);
-    std::signal(SIGXFSZ, handler_);
-  }
-  SmallFiles(const SmallFiles&) = delete;
-  SmallFiles& operator=(const SmallFiles&) = delete;
-
- private:
-  rlimit before_{};
-  void (*handler_)(int);
-};
+  EXPECT_EQ(Get(), "old");
+  EXPECT_EQ(Files(), QStringList(QStringLiteral("report.pdf")));
+}
 
 TEST_F(PdfTargetTest, ADiskThatFillsUpIsToldAndLeavesTheOldFile) {
   Put("old");

@@ -5,31 +5,25 @@
 
 #include <QApplication>
 #include <QComboBox>
+#include <QDir>
 #include <QFontDialog>
 #include <QLocale>
+#include <QMessageBox>
 #include <QPageSetupDialog>
 #include <QPrintDialog>
 #include <QTemporaryDir>
 #include <QTimer>
 
+#include "desktop/paper/sheet.h"
 #include "desktop/print_dialogs.h"
 #include "desktop/printer_target.h"
 #include "desktop/qt_surroundings.h"
-#include "paper/sheet.h"
+#include "tests/desktop/next_window.h"
 #include "tests/support/pdf_words.h"
+#include "tests/support/refusing_disk.h"
 
 namespace tallyroll {
 namespace {
-
-// Does something with the dialog that comes up in front.
-template <typename W>
-void WithNextWindow(std::function<void(W&)> act) {
-  QTimer::singleShot(0, qApp, [act] {
-    auto* window = qobject_cast<W*>(QApplication::activeModalWidget());
-    ASSERT_NE(window, nullptr);
-    act(*window);
-  });
-}
 
 class PrintingTest : public testing::Test {
  protected:
@@ -70,6 +64,30 @@ TEST_F(PrintingTest, APdfIsLaidOutAsTheHiddenBoxIs) {
 
 TEST_F(PrintingTest, APdfThatCannotBeOpenedIsNone) {
   EXPECT_EQ(surroundings.OpenPdf(Path("none/a.pdf"), false, "Title"), nullptr);
+}
+
+TEST_F(PrintingTest, APdfThatDoesNotReachTheDiskIsTold) {
+  SetPlatform(&surroundings);
+  bool told = false;
+  WithNextWindow<QMessageBox>([&told](QMessageBox& box) {
+    EXPECT_EQ(box.text(), QStringLiteral("File Error"));
+    EXPECT_EQ(box.windowTitle(), QStringLiteral("Note to the Teacher"));
+    told = true;
+    box.accept();
+  });
+  {
+    const SmallFiles small(2000);
+    const auto pdf = surroundings.OpenPdf(Path("a.pdf"), false, "Title");
+    ASSERT_NE(pdf, nullptr);
+    for (int page = 0; page < 50; ++page) {
+      pdf->Print("text on a page");
+      pdf->NewPage();
+    }
+    pdf->EndDoc();
+  }
+  SetPlatform(nullptr);
+  EXPECT_TRUE(told);
+  EXPECT_TRUE(QDir(folder.path()).isEmpty());
 }
 
 TEST_F(PrintingTest, APrinterThatPrintsToNoFileIsNone) {

@@ -18,19 +18,10 @@
 #include "desktop/portal_dialog.h"
 #include "desktop/text_conversion.h"
 #include "shell/program.h"
+#include "tests/desktop/next_window.h"
 
 namespace tallyroll {
 namespace {
-
-// Does something with the window that comes up in front.
-template <typename W>
-void WithNextWindow(std::function<void(W&)> act) {
-  QTimer::singleShot(0, qApp, [act] {
-    auto* window = qobject_cast<W*>(QApplication::activeModalWidget());
-    ASSERT_NE(window, nullptr);
-    act(*window);
-  });
-}
 
 class QtSurroundingsTest : public testing::Test {
  protected:

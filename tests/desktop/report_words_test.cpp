@@ -5,7 +5,7 @@
 #include <algorithm>
 
 #include "base/code_page.h"
-#include "paper/pdf_target.h"
+#include "desktop/paper/pdf_target.h"
 #include "tests/printing/report_test.h"
 #include "tests/support/pdf_words.h"
 

@@ -68,7 +68,10 @@ std::vector<SourceFile> SourceFiles() {
   return files;
 }
 
+// What the command line shares with the desktop is a room of its own.
 std::string_view FolderOf(std::string_view path) {
+  constexpr std::string_view kPaper = "desktop/paper";
+  if (path.starts_with(kPaper) && path.substr(kPaper.size()).starts_with('/')) return kPaper;
   const std::size_t slash = path.find('/');
   return slash == std::string_view::npos ? std::string_view() : path.substr(0, slash);
 }

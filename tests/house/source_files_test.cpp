@@ -26,6 +26,11 @@ TEST(FolderOf, IsTheFirstPartOfThePath) {
   EXPECT_EQ(FolderOf("main.cpp"), "");
 }
 
+TEST(FolderOf, PaperIsARoomOfItsOwn) {
+  EXPECT_EQ(FolderOf("desktop/paper/sheet.h"), "desktop/paper");
+  EXPECT_EQ(FolderOf("desktop/paper_tray.h"), "desktop");
+}
+
 TEST(WithoutComments, BlanksBothKinds) {
   EXPECT_EQ(Code("a // b\nc"), "a     \nc");
   EXPECT_EQ(Code("a /* b\nc */ d"), "a     \n     d");

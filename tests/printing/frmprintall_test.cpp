@@ -68,9 +68,68 @@ TEST_F(FrmPrintAllTest, SaysWhatItIs) {
   EXPECT_EQ(portal.Caption, "Printer Portal");
   EXPECT_EQ(portal.TabStrip1.Tabs, (Rows{"&Full Class", "Individual &Student(s)",
                                          "Class &Roster/Supp. Info.", "&Computed Average"}));
-  EXPECT_EQ(driver->Text("rollbookTitle"), "Roll Book-Full Titles");
-  EXPECT_EQ(driver->Text("Option2"), "Full Class Supplementary Info.");
-  EXPECT_EQ(driver->Text("attendance"), "Att. Summary  (Total Abs/Late)");
+}
+
+TEST_F(FrmPrintAllTest, EveryChoiceHasItsCaption) {
+  OpenAt(1);
+  const std::map<std::string, std::string> captions = {
+      {"allgrades", "All Grades"},
+      {"missing", "Missing Grades"},
+      {"onegrade", "One Grade"},
+      {"rollbook", "Roll Book"},
+      {"rollbookTitle", "Roll Book-Full Titles"},
+      {"allatt", "Daily Attendance by month"},
+      {"attfullone", "One Summary Attendance"},
+      {"allattsumm", "All Summary Attendance"},
+      {"allgrades1", "All Grades"},
+      {"missing1", "Missing Grades"},
+      {"gradesummary", "Summary of Grades"},
+      {"oneatt", "Daily Attendance"},
+      {"sumatt", "Summary Attendance"},
+      {"Option1", "Student Roster"},
+      {"Option5", "Student Roster Grid Form"},
+      {"Option2", "Full Class Supplementary Info."},
+      {"Option3", "One Student Supplementary Info."},
+      {"Option4", "Class Information"},
+      {"fullclass", "Full Class"},
+      {"onestudent", "All Grades"},
+      {"sumgrades", "Summary of Grades"},
+      {"attendance1", "Att. Summary"},
+      {"comment1", "Comments"},
+      {"parentsig", "Parent Sig."},
+      {"school", "School"},
+      {"teacher", "Teacher"},
+      {"attendance", "Att. Summary  (Total Abs/Late)"},
+      {"comments", "Comments"},
+      {"printcode", "Print Code Details"},
+      {"onesort", "Sort Options"},
+      {"sort1", "None"},
+      {"sort2", "By Type - All"},
+      {"sort3", "By Type - Some"},
+      {"none", "None"},
+      {"highlow", "Rank - High to Low"},
+      {"lowhigh", "Rank - Low to High"},
+      {"roll", "Show on Printout"},
+      {"rollid", "ID"},
+      {"rollname", "Name"},
+      {"rollboth", "Name and ID"},
+      {"sort", "Roll Book Print Options"},
+      {"sort_None", "None"},
+      {"all_type", "By Type - All"},
+      {"some_type", "By Type - Select"},
+      {"all_date", "By Date - ALL"},
+      {"some_date", "By Date - Select"},
+      {"date_range", "Date Range"},
+      {"FrameAtt", "Monthly Attendance"},
+      {"firstmonth", "What is the first month you want to print attendance for?"},
+      {"lastmonth", "What is the last month you want to print attendance for?"},
+      {"titleframe", "Titles"},
+      {"choose", "Choose All"},
+      {"clear", "Clear List"},
+      {"prints", "&Print"},
+      {"preview", "P&review"},
+      {"cancel", "E&xit"}};
+  for (const auto& [name, caption] : captions) EXPECT_EQ(driver->Text(name), caption) << name;
 }
 
 TEST_F(FrmPrintAllTest, EachTabBeginsWithItsFirstReport) {

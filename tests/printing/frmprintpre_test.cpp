@@ -143,14 +143,14 @@ TEST_F(FrmPrintPreTest, PrintsThePagesAndCopiesChosen) {
   EXPECT_EQ(screen.print_dialogs[0].from_page, 1);
   EXPECT_EQ(screen.print_dialogs[0].to_page, 3);
   EXPECT_EQ(screen.print_dialogs[0].copies, 1);
-  ASSERT_EQ(screen.print_jobs.size(), 1u);
-  const PrintedJob& job = *screen.print_jobs[0];
-  ASSERT_EQ(job.pages.size(), 4u);
-  EXPECT_EQ(FixedPrintTarget::RowsOf(job.pages[0]), PageRows(2));
-  EXPECT_EQ(FixedPrintTarget::RowsOf(job.pages[1]), PageRows(3));
-  EXPECT_EQ(FixedPrintTarget::RowsOf(job.pages[2]), PageRows(2));
-  EXPECT_TRUE(job.ended);
-  EXPECT_FALSE(job.killed);
+  ASSERT_EQ(screen.print_jobs.size(), 2u);  // a job a copy
+  for (const auto& job : screen.print_jobs) {
+    ASSERT_EQ(job->pages.size(), 2u);
+    EXPECT_EQ(FixedPrintTarget::RowsOf(job->pages[0]), PageRows(2));
+    EXPECT_EQ(FixedPrintTarget::RowsOf(job->pages[1]), PageRows(3));
+    EXPECT_TRUE(job->ended);
+    EXPECT_FALSE(job->killed);
+  }
   EXPECT_EQ(screen.PortalBeside("printmsg"), nullptr);
   // The Portal begins again.
   EXPECT_EQ(driver->Text("Pagen"), " 1");
@@ -199,6 +199,89 @@ TEST_F(FrmPrintPreTest, CancelInTheMiddleOfAPrintDropsItAndThePreviewGoesOn) {
   EXPECT_FALSE(PageRows(1).empty());
 }
 
+TEST_F(FrmPrintPreTest, CancelInOneCopyLeavesOutTheOthers) {
+  OpenReport(19, 120);
+  screen.print_answer = PrintRange{.from_page = 1, .to_page = 2, .copies = 3};
+  screen.on_pump = [this] {
+    Portal* message = screen.PortalBeside("printmsg");
+    if (message && screen.print_jobs.size() == 2) PortalDriver(*message).Press("cancel");
+  };
+  driver->Press("seven");
+  screen.on_pump = nullptr;
+  ASSERT_EQ(screen.print_jobs.size(), 2u);
+  EXPECT_FALSE(screen.print_jobs[0]->killed);
+  EXPECT_TRUE(screen.print_jobs[1]->killed);
+}
+
+TEST_F(FrmPrintPreTest, AKeyInTheMiddleOfADrawingOnlyTurnsPages) {
+  OpenReport(13, 2, {1, 2});
+  const Rows whole = Screen();
+  driver->Press("nine");  // both students wait to be saved
+  bool pumped = false;
+  screen.on_pump = [&] {
+    if (pumped) return;
+    pumped = true;
+    for (const char* button : {"seven", "nine", "ten", "pdf", "Command5", "twelve"})
+      driver->Press(button);
+    driver->Press("five");
+  };
+  EXPECT_EQ(Screen(), whole);
+  screen.on_pump = nullptr;
+  EXPECT_TRUE(pumped);
+  EXPECT_TRUE(screen.print_dialogs.empty());
+  EXPECT_TRUE(screen.file_dialogs.empty());
+  EXPECT_FALSE(portal.Unloaded());
+  EXPECT_EQ(driver->Text("Pagen"), " 2");
+  EXPECT_EQ(Screen(), PageRows(2));
+}
+
+TEST_F(FrmPrintPreTest, ASaveHoldsOffAnother) {
+  OpenReport(1, 3);
+  const std::string whole = ReportText();
+  bool pumped = false;
+  screen.on_pump = [&] {
+    pumped = true;
+    for (const char* button : {"seven", "nine", "ten", "pdf", "twelve"}) driver->Press(button);
+  };
+  screen.ExpectFileDialog(Path("grades.txt"));
+  driver->Press("nine");
+  screen.on_pump = nullptr;
+  EXPECT_TRUE(pumped);
+  EXPECT_EQ(screen.file_dialogs.size(), 1u);
+  EXPECT_TRUE(screen.print_dialogs.empty());
+  EXPECT_FALSE(portal.Unloaded());
+  EXPECT_EQ(FileBytes(Path("grades.txt")), whole);
+}
+
+// A printer that leaves 240 twips at each edge of the sheet.
+class EdgedScreen : public HeadlessSurroundings {
+ public:
+  std::unique_ptr<PrintTarget> MakePrintBox(bool landscape) override {
+    auto box = HeadlessSurroundings::MakePrintBox(landscape);
+    box->ScaleWidth -= 480;
+    box->ScaleHeight -= 480;
+    return box;
+  }
+};
+
+TEST_F(FrmPrintPreTest, ThePageIsDrawnForWhatThePrinterReaches) {
+  EdgedScreen edged;
+  edged.now = screen.now;
+  SetPlatform(&edged);
+  OpenReport(19, 3);
+  FixedPrintTarget whole_sheet;
+  portal.picture1.Draw(whole_sheet);
+  SetPlatform(&screen);
+  EXPECT_EQ(portal.picture1.SheetWidth, 12240);
+  EXPECT_EQ(whole_sheet.ScaleWidth, 11760);
+  EXPECT_EQ(whole_sheet.ScaleHeight, 15360);
+  EXPECT_EQ(Job.PageTextWidth, 10760);
+  EXPECT_EQ(Job.PageBottom, 15360 - 1000 - 960);
+  const PrintedText& date = whole_sheet.job->pages.back().texts.front();
+  EXPECT_EQ(date.text, "9/1/2026");
+  EXPECT_EQ(date.x, 10760 - 960);
+}
+
 TEST_F(FrmPrintPreTest, APrintHoldsOffAnotherAndTheExit) {
   OpenReport(19, 3);
   bool pumped = false;
@@ -208,6 +291,7 @@ TEST_F(FrmPrintPreTest, APrintHoldsOffAnotherAndTheExit) {
     const unsigned drawn = portal.picture1.Revision;
     portal.ShowPrint();
     portal.showscreen();
+    portal.Command5_Click();
     portal.QueryUnload();
     EXPECT_EQ(portal.picture1.Revision, drawn);
   };
@@ -320,6 +404,23 @@ TEST_F(FrmPrintPreTest, SavesAllPagesAsPdf) {
   EXPECT_TRUE(screen.print_jobs[0]->ended);
 }
 
+TEST_F(FrmPrintPreTest, CancelInTheMiddleOfAPdfDropsItAndThePreviewGoesOn) {
+  OpenReport(19, 120);
+  driver->Press("five");
+  screen.on_pump = [this] {
+    auto* message = dynamic_cast<printmsg*>(screen.PortalBeside("printmsg"));
+    if (message && message->progress.Value == 3) PortalDriver(*message).Press("cancel");
+  };
+  screen.ExpectFileDialog(Path("roster.pdf"));
+  driver->Press("pdf");
+  screen.on_pump = nullptr;
+  ASSERT_EQ(screen.print_jobs.size(), 1u);
+  EXPECT_TRUE(screen.print_jobs[0]->killed);
+  EXPECT_EQ(screen.print_jobs[0]->pages.size(), 3u);
+  EXPECT_EQ(driver->Text("Pagen"), " 2");
+  EXPECT_EQ(Screen(), PageRows(2));
+}
+
 TEST_F(FrmPrintPreTest, OneStudentIsSavedAtOnce) {
   OpenReport(13, 3, {2});
   screen.ExpectFileDialog(Path("one.txt"));
@@ -336,6 +437,8 @@ TEST_F(FrmPrintPreTest, SeveralStudentsAreAskedAbout) {
   EXPECT_FALSE(driver->Visible("pagenum"));
   EXPECT_EQ(driver->Text("all"), "All selected students");
   EXPECT_EQ(driver->Text("current"), "Current student only");
+  EXPECT_EQ(driver->Text("Command5"), "Con&tinue");
+  EXPECT_EQ(driver->Text("Command7"), "&Cancel");
   EXPECT_TRUE(portal.all.Value);
   driver->Press("Command7");
   EXPECT_FALSE(driver->Visible("Frame1"));

@@ -233,6 +233,19 @@ TEST_F(PageFrameTest, ACommentIsWrappedAtWords) {
   EXPECT_EQ(Printed(), (Rows{"COMMENTS: Reads ", "well and writes ", "often."}));
 }
 
+TEST_F(PageFrameTest, TheEndOfACommentNeedsLessThanTheLine) {
+  EnrolMany(1);
+  CurrentStudent = 1;
+  Current().Students[1].comments = "well done!";  // 20 characters with what stands ahead
+  Job.PageTextWidth = 2000;
+  WrapComments(target);
+  EXPECT_EQ(Printed(), (Rows{"COMMENTS: well ", "done!"}));
+  target.Cls();
+  Job.PageTextWidth = 2001;
+  WrapComments(target);
+  EXPECT_EQ(Printed(), Rows{"COMMENTS: well done!"});
+}
+
 TEST_F(PageFrameTest, AWordWiderThanALineStandsAlone) {
   EnrolMany(1);
   CurrentStudent = 1;

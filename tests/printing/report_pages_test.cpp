@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Where the pages of long reports break, by hand: a page begins at 1392 with its head or at 240
 // without, a line is 240 high, and no line that is tested may pass 13880.
+#include <algorithm>
+
 #include "store/settings.h"
 #include "tests/printing/small_class.h"
 
@@ -193,6 +195,59 @@ TEST_F(ReportPagesTest, WhatClosesAStudentStaysTogether) {
   LayOut(17);
   EXPECT_EQ(PageTable(), (Pages{{1, 1}, {2, 3}}));
 }
+
+TEST_F(ReportPagesTest, ALongCommentWeighsAQuarterAndTheNextStudentBeginsAPage) {
+  EnrolMany(3);
+  AddGrades(3);
+  Choice.comment1 = true;
+  for (int i = 0; i < 2000; ++i) Current().Students[2].comments += "word ";
+  LayOut(1);
+  // 9999 characters and 9 at 112 a line are 89 lines, 5340 twips in quarters: the second student,
+  // from 2832, is fitted. His comment ends far below the page, so the third begins another.
+  EXPECT_EQ(PageTable(), (Pages{{1, 2}, {3, 3}}));
+}
+
+// The full grades with a comment on the middle one of three students.
+class LongCommentTest : public ReportPagesTest, public testing::WithParamInterface<int> {
+ protected:
+  static constexpr int kWords = 2000;
+
+  LongCommentTest() {
+    EnrolMany(3);
+    AddGrades(3);
+    Current().Weights.assign(4, Currency::FromWhole(30));
+    Current().Method = 0;
+    Choice.comment1 = true;
+    for (int i = 1; i <= kWords; ++i)
+      Current().Students[2].comments += "w" + PlainNumberText(i) + " ";
+  }
+  static std::vector<std::string> AllWords() {
+    std::vector<std::string> words;
+    for (int page = 1; page <= Job.PageCount; ++page) {
+      for (std::string row : PageRows(page)) {
+        row += ' ';
+        for (std::string word = NextWord(row); !word.empty(); word = NextWord(row))
+          if (word != " ") words.push_back(word.substr(0, word.size() - 1));
+      }
+    }
+    return words;
+  }
+};
+
+TEST_P(LongCommentTest, EveryWordOfACommentLongerThanAPageIsPrintedOnce) {
+  LayOut(static_cast<i16>(GetParam()));
+  const std::vector<std::string> words = AllWords();
+  const auto times = [&](const std::string& word) {
+    return std::count(words.begin(), words.end(), word);
+  };
+  for (int i = 1; i <= kWords; ++i) EXPECT_EQ(times("w" + PlainNumberText(i)), 1) << i;
+  for (const char* name : {"Last101,", "Last102,", "Last103,"}) EXPECT_EQ(times(name), 1) << name;
+  EXPECT_EQ(times("COMMENTS:"), 3);
+  EXPECT_EQ(times("Page"), Job.PageCount);
+}
+
+INSTANTIATE_TEST_SUITE_P(FullGrades, LongCommentTest, testing::Values(1, 11),
+                         [](const auto& code) { return "Code" + PlainNumberText(code.param); });
 
 }  // namespace
 }  // namespace tallyroll

@@ -222,8 +222,7 @@ TEST_F(CommandsTest, PasswordThatWasCancelledSavesNothing) {
 
 TEST_F(CommandsTest, MissingPortalSaysSoAndDoesNothingElse) {
   MakePortal = [](std::string_view) -> std::unique_ptr<Portal> { return nullptr; };
-  for (const char* entry :
-       {"mnuMarks", "mnuSeating", "mnuStatistic", "mnumargins"}) {
+  for (const char* entry : {"mnuMarks", "mnuSeating", "mnuStatistic", "mnumargins"}) {
     window->StatusText.clear();
     window->ClickMenu(entry);
     EXPECT_EQ(window->StatusText, "This portal is not available yet.") << entry;

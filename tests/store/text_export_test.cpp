@@ -195,7 +195,8 @@ TEST(TextRoundTripLoses, TheLineEndInsideAValueEverywhere) {
 TEST(TextRoundTripLoses, ControlCharactersEverywhere) {
   for (const i16 mode : kLayouts) {
     int changed = 0;
-    EXPECT_EQ(BackFrom(mode, &Student::city, std::string("Os\0lo\x01.\f!", 9), &changed), "Os lo . !")
+    EXPECT_EQ(BackFrom(mode, &Student::city, std::string("Os\0lo\x01.\f!", 9), &changed),
+              "Os lo . !")
         << mode;
     EXPECT_EQ(changed, 1) << mode;
   }

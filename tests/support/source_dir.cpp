@@ -3,6 +3,8 @@
 
 namespace tallyroll {
 
-std::string SourceDir() { return TALLYROLL_SOURCE_DIR; }
+std::string SourceDir() {
+  return TALLYROLL_SOURCE_DIR;
+}
 
 }  // namespace tallyroll

@@ -7,7 +7,7 @@
 #include <memory>
 #include <string>
 
-#include "paper/paged_target.h"
+#include "desktop/paper/paged_target.h"
 
 namespace tallyroll {
 

@@ -6,7 +6,7 @@
 #include <QFont>
 #include <QFontMetricsF>
 
-#include "paper/sheet.h"
+#include "desktop/paper/sheet.h"
 #include "platform/print_target.h"
 
 class QPaintDevice;

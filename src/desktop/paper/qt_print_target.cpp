@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "paper/qt_print_target.h"
+#include "desktop/paper/qt_print_target.h"
 
 #include <QPaintDevice>
 #include <QPainter>

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "paper/offscreen_application.h"
+#include "desktop/paper/offscreen_application.h"
 
 #include <QHashSeed>
 

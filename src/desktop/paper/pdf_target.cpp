@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "paper/pdf_target.h"
+#include "desktop/paper/pdf_target.h"
 
 #include <QFile>
 #include <QPageLayout>
@@ -41,10 +41,13 @@ std::unique_ptr<PdfTarget> PdfTarget::Open(const std::string& path, const Sheet&
   return nullptr;
 }
 
+// What is left in the buffer is written before: its failure goes unnoticed by the commit.
 int PdfTarget::Finish(bool keep) {
-  if (!keep) file_.cancelWriting();
   errno = 0;
-  return file_.commit() || !keep ? 0 : ErrorOf(file_);
+  int error = keep && !file_.flush() ? ErrorOf(file_) : 0;
+  if (!keep || error != 0) file_.cancelWriting();
+  if (!file_.commit() && keep && error == 0) error = ErrorOf(file_);
+  return error;
 }
 
 }  // namespace tallyroll

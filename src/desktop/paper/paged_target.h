@@ -6,7 +6,7 @@
 #include <QPainter>
 #include <functional>
 
-#include "paper/qt_print_target.h"
+#include "desktop/paper/qt_print_target.h"
 
 namespace tallyroll {
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "paper/paged_target.h"
+#include "desktop/paper/paged_target.h"
 
 #include "base/run_time_error.h"
 

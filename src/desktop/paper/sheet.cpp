@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "paper/sheet.h"
+#include "desktop/paper/sheet.h"
 
 #include <QLocale>
 #include <QSizeF>
