@@ -17,20 +17,8 @@ namespace {
 constexpr int kStudents = 1000;
 constexpr int kDays = 400;
 
-// From 1 September 2026 on, with a mark on every seventh day.
-Class AttendedClass(int students, int days) {
-  Class c = BigClass(students, 1, days);
-  for (int j = 1; j <= days; ++j)
-    c.AttendanceDays[static_cast<std::size_t>(j)].date = DateSerial({2026, 9, j});
-  for (int i = 1; i <= students; ++i)
-    for (int j = 1; j <= days; ++j)
-      c.Students[static_cast<std::size_t>(i)].DailyMarks[static_cast<std::size_t>(j)] =
-          (i + j) % 7 == 0 ? kDailyCodes.substr(static_cast<std::size_t>(i + j) % 6, 1) : " ";
-  return c;
-}
-
 struct OpenMonth : OpenClass {
-  explicit OpenMonth(int students) : OpenClass(AttendedClass(students, kDays)) {
+  explicit OpenMonth(int students) : OpenClass(BigAttendedClass(students, kDays)) {
     screen.now = DateSerial({2026, 10, 5});
     OpenState = 15;
     portal.Load();
@@ -78,7 +66,7 @@ BENCHMARK(NextMonth)->Unit(benchmark::kMicrosecond);
 constexpr int kSummaries = 20;
 
 struct SummedClass : OpenClass {
-  SummedClass() : OpenClass(AttendedClass(200, 300)) {
+  SummedClass() : OpenClass(BigAttendedClass(200, 300)) {
     Class& c = Current();
     c.NumSummaries = kSummaries;
     ReDim(c.Summaries, kSummaries);

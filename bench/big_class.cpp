@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <random>
 
+#include "attendance/daily_codes.h"
 #include "base/date_serial.h"
 #include "base/number_text.h"
 #include "store/class_defaults.h"
@@ -74,6 +75,16 @@ Class BigClass(int students, int grades, int days) {
   ReDim(c.Students, students);
   for (int i = 1; i <= students; ++i)
     c.Students[static_cast<std::size_t>(i)] = MakeStudent(random, i, grades, days);
+  return c;
+}
+
+Class BigAttendedClass(int students, int days) {
+  Class c = BigClass(students, 1, days);
+  for (int i = 1; i <= students; ++i)
+    for (int j = 1; j <= days; ++j)
+      if ((i + j) % 7 == 0)
+        c.Students[static_cast<std::size_t>(i)].DailyMarks[static_cast<std::size_t>(j)] =
+            kDailyCodes.substr(static_cast<std::size_t>(i + j) % kDailyCodes.size(), 1);
   return c;
 }
 

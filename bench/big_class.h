@@ -8,7 +8,10 @@ namespace tallyroll {
 // A class of that size with names, contact data and marks as a real one has them.
 Class BigClass(int students, int grades, int days);
 
-// The same without days, with five types of grades, settled for a method with weights that sum to
+// A class with one grade and a code of daily attendance on every seventh day.
+Class BigAttendedClass(int students, int days);
+
+// BigClass without days, with five types of grades, settled for a method with weights that sum to
 // 100: under the methods 0 and 1 the lowest grade of each type is dropped.
 Class BigAveragedClass(int students, int grades, int method);
 

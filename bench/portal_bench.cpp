@@ -1,8 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The Portals in which a teacher waits: a mark typed for 1,000 students, the Portals of such a
-// class opened, and the average after one changed mark, beside a bare dialog with a QTableView.
+// The Portals in which a teacher waits: a mark or a day's code typed for 1,000 students, another
+// month, the Portals of such a class opened, and the average after one changed mark, beside a bare
+// dialog with a QTableView.
 #include <benchmark/benchmark.h>
 
+#include <QAction>
 #include <QApplication>
 #include <QDialog>
 #include <QKeyEvent>
@@ -10,8 +12,11 @@
 #include <QStandardItemModel>
 #include <QTableView>
 #include <QVBoxLayout>
+#include <optional>
 
+#include "attendance/frmAtt.h"
 #include "averages/frmscrnavg.h"
+#include "base/date_serial.h"
 #include "base/number_text.h"
 #include "bench/big_class.h"
 #include "bench/open_class.h"
@@ -101,6 +106,51 @@ void KeyInMarkCell(benchmark::State& state) {
   }
 }
 BENCHMARK(KeyInMarkCell)->Unit(benchmark::kMicrosecond)->UseRealTime();
+
+// October of 400 days with the totals of students and days, in the middle of its students.
+struct ShownMonth : OpenClass {
+  ShownMonth() : OpenClass(BigAttendedClass(kStudents, 400)) {
+    screen.now = DateSerial({2026, 10, 5});
+    OpenState = 15;
+    portal.Load();
+    dialog.emplace(portal);
+    grid = &Named<GridWidget>(*dialog, "Grid1");
+    for (const char* totals : {"mnuStudent", "mnuDaily"}) Named<QAction>(*dialog, totals).trigger();
+    portal.Grid1.Row = kStudents / 2;
+    portal.Grid1.Col = 10;
+    portal.Grid1.TopRow = kStudents / 2;
+    ShowAndPaint(*dialog, *grid);
+  }
+
+  frmAtt portal;
+  std::optional<PortalDialog> dialog;
+  GridWidget* grid = nullptr;
+};
+
+void KeyInMonth(benchmark::State& state) {
+  ShownMonth shown;
+  bool absent = false;
+  for (auto _ : state) {
+    absent = !absent;
+    Key(*shown.grid, absent ? Qt::Key_A : Qt::Key_L,
+        absent ? QStringLiteral("a") : QStringLiteral("l"));
+    shown.grid->viewport()->repaint();
+  }
+}
+BENCHMARK(KeyInMonth)->Unit(benchmark::kMicrosecond)->UseRealTime();
+
+void NextMonthShown(benchmark::State& state) {
+  ShownMonth shown;
+  auto& forward = Named<QPushButton>(*shown.dialog, "Command2");
+  auto& back = Named<QPushButton>(*shown.dialog, "Command1");
+  bool at_start = true;
+  for (auto _ : state) {
+    (at_start ? forward : back).click();
+    at_start = !at_start;
+    shown.grid->viewport()->repaint();
+  }
+}
+BENCHMARK(NextMonthShown)->Unit(benchmark::kMicrosecond)->UseRealTime();
 
 void OpenBareDialog(benchmark::State& state) {
   AveragedClass open;

@@ -181,6 +181,17 @@ TEST_F(frmAttDialog, TheMenuShowsTotals) {
   EXPECT_EQ(month.Grid1.TextMatrix(1, 32), "1");
 }
 
+TEST_F(frmAttDialog, KeysGoToTheMonthAfterAndBack) {
+  OpenState = 15;
+  Open(month);
+  QTest::keyClick(&grid(), Qt::Key_PageDown, Qt::ControlModifier);
+  EXPECT_EQ(month.monthlabel.Caption, "October");
+  QTest::keyClick(&grid(), Qt::Key_PageUp, Qt::ControlModifier);
+  EXPECT_EQ(month.monthlabel.Caption, "September");
+  QTest::keyClick(&grid(), Qt::Key_PageUp, Qt::ControlModifier);
+  EXPECT_EQ(month.monthlabel.Caption, "September") << "the first month has none before";
+}
+
 TEST_F(frmAttDialog, TheViewHidesWhatChangesAnything) {
   OpenState = 112;
   Open(month);
