@@ -100,7 +100,9 @@ void GridWidget::keyPressEvent(QKeyEvent* event) {
 std::optional<GridWidget::Cell> GridWidget::TargetOf(const QKeyEvent& event) const {
   if (rows_.Fixed() >= rows_.Count() || columns_.Fixed() >= columns_.Count()) return std::nullopt;
   const bool control = event.modifiers() & Qt::ControlModifier;
-  if (event.modifiers() & Qt::AltModifier) return std::nullopt;
+  const bool pages = event.key() == Qt::Key_PageUp || event.key() == Qt::Key_PageDown;
+  // A Portal may page by months with Ctrl.
+  if ((event.modifiers() & Qt::AltModifier) || (control && pages)) return std::nullopt;
   const int row = std::clamp(grid_->Row, rows_.Fixed(), rows_.Count() - 1);
   const int col = std::clamp(grid_->Col, columns_.Fixed(), columns_.Count() - 1);
   const auto step = [control, this](const GridAxis& axis, int from, int direction) {
