@@ -76,16 +76,19 @@ bool DirectGrid::KeyPress(unsigned char key) {
 
 bool DirectGrid::KeyDown(Key key) {
   if (key == Key::kUp || key == Key::kDown) typing_.first_key = true;
-  return key == Key::kTab && NextCell();
+  return (key == Key::kTab && StepCell(1)) || (key == Key::kBackTab && StepCell(-1));
 }
 
-// From absences to lates, and on to the next student; behind the last one Tab leaves the grid.
-bool DirectGrid::NextCell() {
+// From absences to lates, and on to the next student, or the way back; at either end Tab leaves
+// the grid.
+bool DirectGrid::StepCell(int by) {
   if (grid_.Cols() > kLateColumn + 1) return false;
-  const bool to_next_row = grid_.Col >= kLateColumn;
-  if (to_next_row && grid_.Row + 1 >= grid_.Rows()) return false;
-  grid_.Row += to_next_row ? 1 : 0;
-  grid_.Col = to_next_row ? kAbsentColumn : kLateColumn;
+  const bool at_late = grid_.Col >= kLateColumn;
+  const bool changes_row = by > 0 ? at_late : !at_late;
+  const int row = grid_.Row + (changes_row ? by : 0);
+  if (row < 1 || row >= grid_.Rows()) return false;
+  grid_.Row = row;
+  grid_.Col = at_late ? kAbsentColumn : kLateColumn;
   EnterCell();
   return true;
 }

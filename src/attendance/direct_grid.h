@@ -33,7 +33,7 @@ class DirectGrid {
  private:
   bool KeyPress(unsigned char key);
   bool KeyDown(Key key);
-  bool NextCell();
+  bool StepCell(int by);
   void EnterCell();
 
   Grid& grid_;

@@ -11,6 +11,9 @@
 namespace tallyroll {
 namespace {
 
+constexpr int kCellMargin = 4;
+constexpr int kCenteredMargin = 1;
+
 // The painter takes QString; this one stands on the stack for any usual cell.
 class StackText {
  public:
@@ -36,10 +39,10 @@ void DrawText(QPainter& painter, const CellFont& font, std::string_view text, Co
   // Blanks in front are part of a heading's look; behind they would push a number off its edge.
   const std::string_view shown = TrimRight(text);
   if (shown.empty()) return;
-  const int room = cell.width() - 2 * kCellMargin;
+  const int room = RoomForText(cell.width(), align);
   const int width = font.WidthOf(shown);
   const int y = cell.top() + (cell.height() - font.Height()) / 2 + font.Ascent();
-  int x = cell.left() + kCellMargin;
+  int x = cell.left() + (cell.width() - room) / 2;
   if (width > room) {
     painter.drawText(QPointF(x, y), font.Elided(shown, room));
     return;
@@ -174,6 +177,10 @@ class Painting {
 };
 
 }  // namespace
+
+int RoomForText(int cell_width, ColumnAlign align) {
+  return cell_width - 2 * (align == ColumnAlign::kCenter ? kCenteredMargin : kCellMargin);
+}
 
 CellFont::CellFont(const QFont& font) : font_(font) {
   const QFontMetricsF metrics(font);

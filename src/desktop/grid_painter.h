@@ -41,7 +41,9 @@ struct GridFonts {
   CellFont bold;
 };
 
-inline constexpr int kCellMargin = 4;
+// Pixels for text in a cell. A centred one is cut only where it meets the lines: a day's number
+// fits its narrow column.
+int RoomForText(int cell_width, ColumnAlign align);
 
 // What is painted: the grid, where its cells stand, and how they look.
 struct GridPicture {

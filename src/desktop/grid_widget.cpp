@@ -169,7 +169,7 @@ bool GridWidget::IsCut(int row, int col) const {
   const bool bold = colors_.Look(grid_->Style(row, col)).bold;
   const CellFont& cell_font = bold ? fonts_.bold : fonts_.plain;
   return cell_font.WidthOf(grid_->TextMatrix(row, col)) >
-         CellRect(row, col).width() - 2 * kCellMargin;
+         RoomForText(CellRect(row, col).width(), grid_->ColAlignment(col));
 }
 
 void GridWidget::paintEvent(QPaintEvent* event) {

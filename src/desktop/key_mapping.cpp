@@ -19,7 +19,7 @@ constexpr std::array<std::pair<int, Key>, 14> kNamedKeys{{{Qt::Key_Up, Key::kUp}
                                                           {Qt::Key_Home, Key::kHome},
                                                           {Qt::Key_End, Key::kEnd},
                                                           {Qt::Key_Tab, Key::kTab},
-                                                          {Qt::Key_Backtab, Key::kTab},
+                                                          {Qt::Key_Backtab, Key::kBackTab},
                                                           {Qt::Key_Return, Key::kEnter},
                                                           {Qt::Key_Enter, Key::kEnter},
                                                           {Qt::Key_Delete, Key::kDelete},

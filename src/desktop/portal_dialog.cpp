@@ -249,6 +249,8 @@ void PortalDialog::reject() {
 
 void PortalDialog::showEvent(QShowEvent* event) {
   QDialog::showEvent(event);
+  // Who comes by keys sees where the focus is from the first moment on.
+  setAttribute(Qt::WA_KeyboardFocusChange);
   GiveFocusAsked();
   focused_ = BindingOf(focusWidget());
   silent_ = 0;

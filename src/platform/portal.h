@@ -29,6 +29,7 @@ enum class Key {
   kHome,
   kEnd,
   kTab,
+  kBackTab,
   kEnter,
   kDelete,
   kInsert,

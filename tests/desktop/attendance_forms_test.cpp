@@ -16,6 +16,7 @@
 #include "attendance/frmAtt.h"
 #include "base/date_serial.h"
 #include "desktop/form_loader.h"
+#include "desktop/grid_painter.h"
 #include "desktop/grid_widget.h"
 #include "desktop/portal_dialog.h"
 #include "platform/headless.h"
@@ -179,6 +180,24 @@ TEST_F(frmAttDialog, TheMenuShowsTotals) {
   Find<QAction>("mnuStudent").trigger();
   EXPECT_TRUE(Find<QAction>("mnuStudent").isChecked());
   EXPECT_EQ(month.Grid1.TextMatrix(1, 32), "1");
+}
+
+TEST_F(frmAttDialog, EveryDaysNumberFitsItsColumn) {
+  OpenState = 15;
+  Open(month);
+  const GridFonts fonts(grid().font());
+  for (int day = 1; day <= 30; ++day) {
+    EXPECT_EQ(month.Grid1.ColAlignment(day + 1), ColumnAlign::kCenter);
+    EXPECT_LE(fonts.plain.WidthOf(month.Grid1.TextMatrix(0, day + 1)),
+              RoomForText(grid().CellRect(0, day + 1).width(), ColumnAlign::kCenter))
+        << day;
+  }
+}
+
+TEST_F(frmAttDialog, TheFocusIsSeenAsSoonAsThePortalStands) {
+  OpenState = 15;
+  Open(month);
+  EXPECT_TRUE(dialog->testAttribute(Qt::WA_KeyboardFocusChange));
 }
 
 TEST_F(frmAttDialog, KeysGoToTheMonthAfterAndBack) {

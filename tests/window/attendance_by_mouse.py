@@ -80,6 +80,48 @@ def sum_up(program):
     program.window(ENTER)
 
 
+def move_range(program):
+    """The first month goes after a question, refused at first, with the marks in it."""
+    menu(program, "Date Setting")
+    program.window(SETTINGS)
+    lost = "You are starting at a later month; the information for the earlier month(s) will be lost."
+    for answer in ("Escape", "Return"):
+        press(program, "First month on")
+        press(program, "OK")
+        program.box(lost, answer, title="Note to the teacher")
+        if answer == "Escape":
+            program.await_labels("Original Starting Date is September 2026", "September")
+    program.window(ENTER)
+    program.await_label("Marks that fell out of the range: 3.")
+    menu(program, "Cancel")
+    program.box("Data has been entered. Are you sure you want to CANCEL?", "alt+n", title="CANCEL")
+    menu(program, "Exit")
+    program.gone(ENTER)
+    program.frame("ROLL.TYR")
+
+
+def edit_and_delete(program):
+    menu(program, "Records", "Edit Records", "Edit Summary Attendance ")
+    program.window(EDIT)
+    titles = program.widget(Atspi.Role.LIST, "Choose From List of Titles of Attendances")
+    program.click(titles.get_child_at_index(1))
+    program.await_text("Title", "First Quarter")
+    program.click(program.field("Title"), times=3)
+    program.type("Quarter One")
+    press(program, "Exit")
+    program.gone(EDIT)
+    program.frame("ROLL.TYR")
+    menu(program, "Records", "Edit Records", "Delete Summary Attendance")
+    program.window(DELETE)
+    titles = program.widget(Atspi.Role.LIST, "Choose From List of Attendance Summary Titles")
+    program.click(titles.get_child_at_index(0))
+    press(program, "Delete")
+    program.box("Delete 09/01/2026- 11/30/2026?", "alt+o", title="Delete Portal")
+    press(program, "Exit")
+    program.gone(DELETE)
+    program.frame("ROLL.TYR")
+
+
 def tell(this):
     path = this.path("ROLL.TYR")
     build(path, {"termstart": "9/1/2026", "termend": "10/31/2026",
@@ -89,6 +131,14 @@ def tell(this):
     set_up(program)
     take_attendance(program)
     sum_up(program)
+    move_range(program)
+    edit_and_delete(program)
+    program.keys("ctrl+s", "ctrl+q")
+    program.ended()
+    kept = dump(path)
+    expect("days from October to November", kept["NumDays"], 61)
+    expect("the summaries", [(s["title"], s["code"]) for s in kept["Summaries"]], [("Quarter One", "Q1")])
+    expect("the absences", [s["SummaryAbsent"] for s in kept["Students"]], [["3    "], ["4    "]])
 
 
 story.run(tell)
