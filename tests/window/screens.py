@@ -160,7 +160,6 @@ def attendance(program):
     program.click(program.widget(Atspi.Role.PUSH_BUTTON, "OK"))
     take(program, "frmAtsum-range")
     program.keys("Escape")
-    program.box("Data has been entered. Are you sure you want to CANCEL?", "alt+y", title="CANCEL")
     program.gone("Summary Attendance Portal")
 
 
