@@ -23,8 +23,9 @@ std::optional<double> FirstOfMonth(std::string_view text) {
 }  // namespace
 
 std::string TakeMonthsOption(const std::string& text, MonthRange& months) {
+  if (text.empty()) return "--months is needed, as YYYY-MM..YYYY-MM";
   const std::size_t dots = text.find("..");
-  if (dots == std::string::npos) return "--months is needed, as YYYY-MM..YYYY-MM";
+  if (dots == std::string::npos) return "--months takes YYYY-MM..YYYY-MM";
   const auto first = FirstOfMonth(std::string_view(text).substr(0, dots));
   const auto last = FirstOfMonth(std::string_view(text).substr(dots + 2));
   if (!first || !last) return "--months is no range of months";

@@ -112,7 +112,7 @@ TEST_F(AttendanceCommandTest, AClassWithoutStudentsGivesAnEmptyList) {
 TEST_F(AttendanceCommandTest, MonthsThatAreNoneAreRefused) {
   const std::string file = Build(kSixDays);
   ExpectRefused(RunCli({"attendance", "--months", "2026-09", file}),
-                file + ": --months is needed, as YYYY-MM..YYYY-MM");
+                file + ": --months takes YYYY-MM..YYYY-MM");
   ExpectRefused(RunCli({"attendance", "--months", "2026-13..2027-01", file}),
                 file + ": --months is no range of months");
   ExpectRefused(RunCli({"attendance", "--months", "2026-10..2026-09", file}),

@@ -199,7 +199,7 @@ TEST_F(ReportCommandTest, MonthsAreARange) {
   EXPECT_TRUE(Has(text, "Attendance Summary - August, 2026"));
   EXPECT_TRUE(Has(text, "Attendance Summary - September, 2026"));
   ExpectRefusal({"--code", "8"}, "--months is needed, as YYYY-MM..YYYY-MM");
-  ExpectRefusal({"--code", "8", "--months", "2026-09"}, "--months is needed, as YYYY-MM..YYYY-MM");
+  ExpectRefusal({"--code", "8", "--months", "2026-09"}, "--months takes YYYY-MM..YYYY-MM");
   for (const char* months : {"2026-13..2026-14", "2026-9..2026-10", "..", "2026-09..",
                              "2026-00..2026-01", "2026/09..2026/10"})
     ExpectRefusal({"--code", "8", "--months", months}, "--months is no range of months");
