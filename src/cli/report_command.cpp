@@ -43,7 +43,7 @@ struct ReportOptions {
 // Each of these answers why the choice is refused.
 std::string TakeMonths(const ReportOptions& options) {
   MonthRange months;
-  const std::string reason = TakeMonthsOption(options.months, months);
+  std::string reason = TakeMonthsOption(options.months, months);
   Choice.month_first = months.first;
   Choice.month_last = months.last;
   return reason;
