@@ -73,7 +73,17 @@ auto Settings(int start, int end) {
   };
 }
 
-TEST_F(FrmAttTest, DateSettingMovesWhatWasEnteredAlong) {
+// From the Portal: the first month goes, after the question.
+class DateSettingTest : public FrmAttTest {
+ protected:
+  void GiveUpTheFirstMonth() {
+    screen.ExpectPortal("frmatset", Settings(1, 0));
+    screen.ExpectBox(kStartsLater);
+    driver->Press("mnudate");
+  }
+};
+
+TEST_F(DateSettingTest, DateSettingMovesWhatWasEnteredAlong) {
   OpenPortal();
   Type(1, 1, "A");
   screen.ExpectPortal("frmatset", Settings(-1, 0));
@@ -86,20 +96,18 @@ TEST_F(FrmAttTest, DateSettingMovesWhatWasEnteredAlong) {
   EXPECT_EQ(Current().NumDays, 334);
 }
 
-TEST_F(FrmAttTest, ADateSettingWithinAYearStaysInItsMonth) {
+TEST_F(DateSettingTest, ADateSettingWithinAYearStaysInItsMonth) {
   SetRange({1, 2027}, {6, 2027});
   screen.now = Day(2027, 3, 1);
   Mark(1, Day(2027, 3, 31), "A");
   OpenPortal();
-  screen.ExpectPortal("frmatset", Settings(1, 0));
-  screen.ExpectBox(kStartsLater);
-  driver->Press("mnudate");
+  GiveUpTheFirstMonth();
   EXPECT_EQ(Shown(), "March 2027");
   EXPECT_EQ(Cell(1, 32), "A");
   EXPECT_EQ(portal->portalchanged, 0);
 }
 
-TEST_F(FrmAttTest, AMonthThatLeftTheRangeGivesWayToTheLastOneWhichIsAChange) {
+TEST_F(DateSettingTest, AMonthThatLeftTheRangeGivesWayToTheLastOneWhichIsAChange) {
   SetRange({1, 2027}, {6, 2027});
   screen.now = Day(2027, 6, 1);
   OpenPortal();
@@ -110,7 +118,7 @@ TEST_F(FrmAttTest, AMonthThatLeftTheRangeGivesWayToTheLastOneWhichIsAChange) {
   EXPECT_EQ(portal->portalchanged, 1);
 }
 
-TEST_F(FrmAttTest, AYearThatLeftTheRangeGivesWayToTheLastMonthToo) {
+TEST_F(DateSettingTest, AYearThatLeftTheRangeGivesWayToTheLastMonthToo) {
   SetRange({1, 2027}, {6, 2027});
   screen.now = Day(2027, 3, 1);
   OpenPortal();
@@ -119,7 +127,7 @@ TEST_F(FrmAttTest, AYearThatLeftTheRangeGivesWayToTheLastMonthToo) {
   EXPECT_EQ(Shown(), "June 2028");
 }
 
-TEST_F(FrmAttTest, MarksThatComeUnderOtherDatesAreTold) {
+TEST_F(DateSettingTest, MarksThatComeUnderOtherDatesAreTold) {
   Mark(1, Day(2026, 9, 1), "A");
   Mark(2, Day(2026, 10, 1), "L");
   OpenPortal();
@@ -131,7 +139,7 @@ TEST_F(FrmAttTest, MarksThatComeUnderOtherDatesAreTold) {
   EXPECT_EQ(driver->Text("status"), "");
 }
 
-TEST_F(FrmAttTest, MarksThatFellOutOfTheRangeAreTold) {
+TEST_F(DateSettingTest, MarksThatFellOutOfTheRangeAreTold) {
   SetRange({9, 2026}, {6, 2028});
   Mark(1, Day(2028, 6, 1), "A");
   OpenPortal();
@@ -140,14 +148,12 @@ TEST_F(FrmAttTest, MarksThatFellOutOfTheRangeAreTold) {
   EXPECT_EQ(driver->Text("status"), "Marks that fell out of the range: 1.");
 }
 
-TEST_F(FrmAttTest, MovedMarksThatExitWouldNotStoreAreTold) {
+TEST_F(DateSettingTest, MovedMarksThatExitWouldNotStoreAreTold) {
   SetRange({1, 2027}, {6, 2027});
   screen.now = Day(2027, 3, 1);
   Mark(1, Day(2027, 3, 31), "A");
   OpenPortal();
-  screen.ExpectPortal("frmatset", Settings(1, 0));
-  screen.ExpectBox(kStartsLater);
-  driver->Press("mnudate");
+  GiveUpTheFirstMonth();
   EXPECT_EQ(driver->Text("status"),
             "Marks that keep their dates only if one is entered before Exit: 1.");
   driver->Press("mnuExit");
@@ -155,14 +161,12 @@ TEST_F(FrmAttTest, MovedMarksThatExitWouldNotStoreAreTold) {
   EXPECT_EQ(Picture(1), "5/1/2027 A");
 }
 
-TEST_F(FrmAttTest, TheyAreToldAgainUntilTheyAreStored) {
+TEST_F(DateSettingTest, TheyAreToldAgainUntilTheyAreStored) {
   SetRange({1, 2027}, {6, 2027});
   screen.now = Day(2027, 3, 1);
   Mark(1, Day(2027, 3, 31), "A");
   OpenPortal();
-  screen.ExpectPortal("frmatset", Settings(1, 0));
-  screen.ExpectBox(kStartsLater);
-  driver->Press("mnudate");
+  GiveUpTheFirstMonth();
   screen.ExpectPortal("frmatset", [](PortalDriver& work) { work.Press("CancelButton"); });
   driver->Press("mnudate");
   EXPECT_EQ(driver->Text("status"),
@@ -175,28 +179,24 @@ TEST_F(FrmAttTest, TheyAreToldAgainUntilTheyAreStored) {
   EXPECT_EQ(Picture(1), "3/31/2027 A");
 }
 
-TEST_F(FrmAttTest, MarksThatLookAlikeAreToldAsWell) {
+TEST_F(DateSettingTest, MarksThatLookAlikeAreToldAsWell) {
   SetRange({1, 2027}, {6, 2027});
   screen.now = Day(2027, 3, 1);
   for (double day = Day(2027, 1, 1); day <= Day(2027, 6, 30); ++day) Mark(1, day, "A");
   OpenPortal();
-  screen.ExpectPortal("frmatset", Settings(1, 0));
-  screen.ExpectBox(kStartsLater);
-  driver->Press("mnudate");
+  GiveUpTheFirstMonth();
   EXPECT_EQ(driver->Text("status"),
             "Marks that fell out of the range: 31.  "
             "Marks that keep their dates only if one is entered before Exit: 150.");
 }
 
-TEST_F(FrmAttTest, AnEndThatTheClassLostOnTheWayThereAndBackIsTold) {
+TEST_F(DateSettingTest, AnEndThatTheClassLostOnTheWayThereAndBackIsTold) {
   SetRange({1, 2027}, {6, 2027});
   screen.now = Day(2027, 3, 1);
   Mark(1, Day(2027, 3, 31), "A");
   Mark(1, Day(2027, 6, 30), "L");
   OpenPortal();
-  screen.ExpectPortal("frmatset", Settings(1, 0));
-  screen.ExpectBox(kStartsLater);
-  driver->Press("mnudate");
+  GiveUpTheFirstMonth();
   screen.ExpectPortal("frmatset", Settings(-1, 0));
   driver->Press("mnudate");
   EXPECT_EQ(driver->Text("status"),
@@ -205,7 +205,7 @@ TEST_F(FrmAttTest, AnEndThatTheClassLostOnTheWayThereAndBackIsTold) {
   EXPECT_EQ(Picture(1), "3/31/2027 A");
 }
 
-TEST_F(FrmAttTest, AfterASecondQuestionWasCancelledNoMarkWaitsForExit) {
+TEST_F(DateSettingTest, AfterASecondQuestionWasCancelledNoMarkWaitsForExit) {
   SetRange({9, 2026}, {11, 2027});
   screen.now = Day(2026, 10, 15);
   Mark(1, Day(2026, 9, 1), "A");
@@ -226,7 +226,7 @@ TEST_F(FrmAttTest, AfterASecondQuestionWasCancelledNoMarkWaitsForExit) {
   EXPECT_EQ(Bytes(), before);
 }
 
-TEST_F(FrmAttTest, MarksThatACancelledQuestionMovedAreStoredWithTheNextEntry) {
+TEST_F(DateSettingTest, MarksThatACancelledQuestionMovedAreStoredWithTheNextEntry) {
   SetRange({9, 2026}, {11, 2027});
   screen.now = Day(2026, 10, 15);
   Mark(1, Day(2027, 1, 1), "L");
@@ -244,7 +244,7 @@ TEST_F(FrmAttTest, MarksThatACancelledQuestionMovedAreStoredWithTheNextEntry) {
   EXPECT_EQ(Picture(2), "10/1/2026 E");
 }
 
-TEST_F(FrmAttTest, CancelKeepsACalendarThatWasChanged) {
+TEST_F(DateSettingTest, CancelKeepsACalendarThatWasChanged) {
   Mark(1, Day(2026, 9, 1), "A");
   OpenPortal();
   screen.ExpectPortal("frmatset", Settings(0, 1));

@@ -9,38 +9,21 @@
 #include <QMenu>
 #include <QScrollBar>
 #include <QTest>
-#include <map>
 
 #include "attendance/attendance_range.h"
 #include "attendance/frmAtsum.h"
 #include "attendance/frmAtt.h"
 #include "base/date_serial.h"
-#include "desktop/form_loader.h"
 #include "desktop/grid_painter.h"
 #include "desktop/grid_widget.h"
 #include "desktop/portal_dialog.h"
 #include "platform/headless.h"
 #include "shell/program.h"
+#include "tests/desktop/form_texts.h"
 #include "tests/support/enrol_student.h"
 
 namespace tallyroll {
 namespace {
-
-// By the name of the widget; "" is the title of the window.
-using Texts = std::map<std::string, std::string>;
-
-Texts TextsOf(const std::string& portal) {
-  QDialog dialog;
-  const LoadedForm form = Forms().Load(FormFile(portal), dialog);
-  EXPECT_TRUE(form.complaints.isEmpty()) << portal;
-  Texts texts{{"", dialog.windowTitle().toStdString()}};
-  for (const QObject* object : form.objects)
-    for (const char* property : {"text", "title"})
-      if (const std::string text = object->property(property).toString().toStdString();
-          !text.empty())
-        texts[object->objectName().toStdString()] = text;
-  return texts;
-}
 
 TEST(AttendanceForms, frmAttReadsAsTeachersKnowIt) {
   const Texts texts = TextsOf("frmAtt");

@@ -2,29 +2,10 @@
 // The texts of the forms of the averages, word for word: teachers know them by heart.
 #include <gtest/gtest.h>
 
-#include <QVariant>
-#include <map>
-
-#include "desktop/form_loader.h"
+#include "tests/desktop/form_texts.h"
 
 namespace tallyroll {
 namespace {
-
-// By the name of the widget; "" is the title of the window.
-using Texts = std::map<std::string, std::string>;
-
-Texts TextsOf(const std::string& portal) {
-  QDialog dialog;
-  const LoadedForm form = Forms().Load(FormFile(portal), dialog);
-  EXPECT_TRUE(form.complaints.isEmpty()) << portal;
-  Texts texts{{"", dialog.windowTitle().toStdString()}};
-  for (const QObject* object : form.objects)
-    for (const char* property : {"text", "title"})
-      if (const std::string text = object->property(property).toString().toStdString();
-          !text.empty())
-        texts[object->objectName().toStdString()] = text;
-  return texts;
-}
 
 // Both Portals that set weights.
 Texts WeightsTexts(const char* title) {
