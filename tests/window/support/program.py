@@ -111,8 +111,9 @@ class Program:
         return None
 
     def windows(self):
+        """Those in front first: what is looked for mostly stands there."""
         root = self.root()
-        return [w for w in children(root) if is_shown(w)] if root else []
+        return [w for w in children(root) if is_shown(w)][::-1] if root else []
 
     def titles(self):
         return [w.get_name() for w in self.windows()]
