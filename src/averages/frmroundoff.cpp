@@ -20,7 +20,7 @@ constexpr int kRows = 13;
 constexpr int kMinimum = 2;
 constexpr i16 kTemporaryScale = 4;
 constexpr i16 kLetterForm = 3;
-constexpr std::string_view kFormat = "12z";
+constexpr std::string_view kScaleFormat = "12z";
 
 constexpr std::string_view kExplanation =
     "Tallyroll provides an 'AVERAGE ROUNDING OPTION' for schools using standardized number grades "
@@ -132,7 +132,7 @@ void frmroundoff::ShowMode() {
   const bool skipping = Current().RoundMode != 0;
   skip.Enabled = !skipping;
   noskip.Enabled = skipping;
-  readclip.Enabled = !skipping && ClipboardHas(kFormat);
+  readclip.Enabled = !skipping && ClipboardHas(kScaleFormat);
   FillGrid();
   ShowScaleButtons();
 }
@@ -294,7 +294,7 @@ void frmroundoff::finalform_Click(i16 form) {
 void frmroundoff::writeclip_Click() {
   std::vector<std::string> minimums = ColumnOf(grdgrade, kMinimum);
   for (std::string& each : minimums) each = std::string(Trim(each));
-  CopyLines(kFormat, minimums);
+  CopyLines(kScaleFormat, minimums);
   readclip.Enabled = true;
 }
 
@@ -306,7 +306,7 @@ void frmroundoff::readclip_Click() {
   }
   if (!MayLoseChange()) return;
   std::vector<std::string> lines;
-  if (!PasteLines(kFormat, lines)) return;
+  if (!PasteLines(kScaleFormat, lines)) return;
   const int last = std::min(kRows, static_cast<int>(lines.size()));
   for (int row = 1; row <= last; ++row)
     grdgrade.SetTextMatrix(row, kMinimum, lines[static_cast<std::size_t>(row) - 1]);

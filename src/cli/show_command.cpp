@@ -21,7 +21,7 @@ struct ShowOptions {
 std::vector<std::string> HeadingRow(const Class& c) {
   std::vector<std::string> row = NameHeading();
   for (int j = 1; j <= c.NumInstruments; ++j) {
-    row.push_back(Shown(c.Instruments[static_cast<std::size_t>(j)].code));
+    row.push_back(CellText(c.Instruments[static_cast<std::size_t>(j)].code));
   }
   return row;
 }
@@ -30,7 +30,7 @@ std::vector<std::string> StudentRow(const Class& c, int i) {
   std::vector<std::string> row = NameCells(c, i);
   const Student& student = c.Students[static_cast<std::size_t>(i)];
   for (int j = 1; j <= c.NumInstruments; ++j) {
-    row.push_back(Shown(student.Marks[static_cast<std::size_t>(j)]));
+    row.push_back(CellText(student.Marks[static_cast<std::size_t>(j)]));
   }
   return row;
 }

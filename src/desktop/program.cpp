@@ -25,7 +25,7 @@ int RunProgram(QApplication& application, bool dark, const std::string& file) {
   ResetProgram();
   QtSurroundings surroundings;
   SetPlatform(&surroundings);
-  Frame = std::make_unique<MDIForm1>();
+  FrameForm = std::make_unique<MDIForm1>();
   int result = 0;
   {
     FrameWindow window;
@@ -33,7 +33,7 @@ int RunProgram(QApplication& application, bool dark, const std::string& file) {
     surroundings.help_hook = [&window](int context) { ShowHelpTopic(&window, context); };
     // Within the event loop, so that the greeting can be shown and the program be left from it.
     QTimer::singleShot(0, &window, [&window, file] {
-      Frame->Load(file);
+      FrameForm->Load(file);
       window.Sync();
     });
     result = QApplication::exec();

@@ -15,7 +15,7 @@ namespace tallyroll {
 namespace {
 
 constexpr int kLongestDescription = 15;
-constexpr int kLongestCode = 2;
+constexpr int kLongestTypeCode = 2;
 constexpr std::string_view kNoteWithPoint = "Note to the Teacher.";
 constexpr std::string_view kSmallNote = "Note to the teacher";
 
@@ -66,7 +66,7 @@ frmcategories::frmcategories() : Portal("frmcategories") {
   HelpContext = 340;
   olddesc.Enabled = oldcode.Enabled = false;
   catdesc.MaxLength = kLongestDescription;
-  catcode.MaxLength = kLongestCode;
+  catcode.MaxLength = kLongestTypeCode;
   defaults.Caption = "&Defaults";
   another.Caption = "&Another";
   exit.Caption = "E&xit";

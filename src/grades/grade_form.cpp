@@ -15,8 +15,8 @@
 namespace tallyroll {
 namespace {
 
-constexpr int kLongestCode = 3;
-constexpr double kUsualPass = 65;  // of 100
+constexpr int kLongestGradeCode = 3;
+constexpr double kUsualPassOf100 = 65;  // of 100
 
 bool Blank(std::string_view text) {
   return Trim(text).empty();
@@ -27,7 +27,7 @@ bool Blank(std::string_view text) {
 GradeForm::GradeForm(std::string_view name)
     : Portal(name), marks(*this, Grid1, kMarkColumn, [this] { MarksChanged(); }) {
   title.MaxLength = mvalue.MaxLength = lowpass.MaxLength = kLongestText;
-  code.MaxLength = kLongestCode;
+  code.MaxLength = kLongestGradeCode;
 }
 
 void GradeForm::DeclareHeader(ControlTable& table, std::string_view title_name) {
@@ -62,7 +62,7 @@ bool GradeForm::mvalue_KeyPress(unsigned char key) {
 }
 
 void GradeForm::mvalue_Change() {
-  lowpass.Text = PlainNumberText(LeadingNumber(mvalue.Text) * kUsualPass / 100);
+  lowpass.Text = PlainNumberText(LeadingNumber(mvalue.Text) * kUsualPassOf100 / 100);
   HeaderChanged();
 }
 

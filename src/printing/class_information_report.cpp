@@ -10,7 +10,7 @@
 namespace tallyroll {
 namespace {
 
-constexpr std::string_view kTitle = " Class Information Printout";
+constexpr std::string_view kInformationTitle = " Class Information Printout";
 constexpr int kValueColumn = 30;
 
 struct InformationLine {
@@ -42,13 +42,13 @@ void PutLines(Sheet&& sheet) {
 }  // namespace
 
 void PrintClassInformation(ReportPass& pass) {
-  PageHeader(pass, kTitle);
+  PageHeader(pass, kInformationTitle);
   PutLines(PaperSheet{pass.target});
   PageFooter(pass, 2);  // one row in all
 }
 
 void WriteClassInformation(TextReport& text) {
-  text.Line(kTitle);
+  text.Line(kInformationTitle);
   text.End();
   PutLines(text);
 }

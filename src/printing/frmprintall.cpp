@@ -6,15 +6,15 @@
 
 #include "base/text.h"
 #include "grades/marks.h"
+#include "grades/method_reset.h"
 #include "platform/surroundings.h"
+#include "printing/report_codes.h"
 #include "printing/report_parts.h"
 #include "store/program_state.h"
 #include "store/student_names.h"
 
 namespace tallyroll {
 namespace {
-
-constexpr int kNoMethod = 5;
 
 // What a report is about. A class that has none of it is not offered the report.
 enum class Needs { kNothing, kGrades, kDays, kSummaries, kAverages };
@@ -37,10 +37,6 @@ bool Has(Needs needs) {
 }
 
 using F = frmprintall;
-
-bool IsOneOf(int code, std::initializer_list<int> codes) {
-  return std::find(codes.begin(), codes.end(), code) != codes.end();
-}
 
 }  // namespace
 

@@ -5,9 +5,11 @@
 #include <optional>
 
 #include "base/number_text.h"
+#include "grades/method_reset.h"
 #include "platform/class_window.h"
 #include "platform/surroundings.h"
 #include "printing/print_command.h"
+#include "printing/report_codes.h"
 #include "printing/reports.h"
 #include "printing/running.h"
 #include "store/program_state.h"
@@ -15,8 +17,6 @@
 namespace tallyroll {
 namespace {
 
-constexpr int kRollBookTitles = 4, kFullClass = 11, kAveragesOfOne = 12;
-constexpr int kNoMethod = 5;
 constexpr std::array kZoomSteps = {50, 75, 100, 125, 150};
 constexpr int kFullSize = 2;
 constexpr int kPreviewTopic = 440, kAveragesTopic = 540;

@@ -11,13 +11,13 @@
 namespace tallyroll {
 namespace {
 
-constexpr std::string_view kPlainTitle = " Full Grades Printout";
-constexpr std::string_view kAverageTitle = " Full Grades and Computed Average Printout";
-constexpr int kTitleColumn = 20;
-constexpr int kTextRule = 77;
+constexpr std::string_view kFullGradesTitle = " Full Grades Printout";
+constexpr std::string_view kFullAverageTitle = " Full Grades and Computed Average Printout";
+constexpr int kFullTitleColumn = 20;
+constexpr int kFullGradesRule = 77;
 
-std::string_view Title() {
-  return ReportWithAverages() ? kAverageTitle : kPlainTitle;
+std::string_view FullGradesTitle() {
+  return ReportWithAverages() ? kFullAverageTitle : kFullGradesTitle;
 }
 
 bool EndsWithDetails() {
@@ -44,7 +44,7 @@ void WriteStudent(TextReport& text) {
     WriteAverages(text);
   else
     text.End();
-  text.Row(kTextRule, '_');
+  text.Row(kFullGradesRule, '_');
   text.End();
 }
 
@@ -52,7 +52,7 @@ void WriteStudent(TextReport& text) {
 
 void PrintFullGrades(ReportPass& pass) {
   PrintTarget& target = pass.target;
-  PageHeader(pass, Title());
+  PageHeader(pass, FullGradesTitle());
   Job.BlockLines = 2;
   std::vector<Section> sections = {{.rows = Current().NumStudents,
                                     .print =
@@ -73,8 +73,8 @@ void PrintFullGrades(ReportPass& pass) {
 }
 
 void WriteFullGrades(TextReport& text) {
-  text.Tab(kTitleColumn);
-  text.Line(Title());
+  text.Tab(kFullTitleColumn);
+  text.Line(FullGradesTitle());
   text.End();
   for (CurrentStudent = 1; CurrentStudent <= Current().NumStudents; ++CurrentStudent) {
     if (Cancelled()) return;

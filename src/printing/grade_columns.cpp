@@ -4,11 +4,11 @@
 namespace tallyroll {
 namespace {
 
-constexpr int kTextRule = 80;
+constexpr int kGradeHeadRule = 80;
 
 // One walk for paper and text: `place` goes to a column and puts a text there.
 template <typename Place>
-void PutHead(const GradeColumns& table, bool first_line, Place&& place) {
+void PutGradeHead(const GradeColumns& table, bool first_line, Place&& place) {
   for (const GradeColumn& column : table.columns) {
     const std::string_view head = first_line ? column.first : column.second;
     if (!head.empty()) place(column.head, column.text, head);
@@ -17,7 +17,7 @@ void PutHead(const GradeColumns& table, bool first_line, Place&& place) {
 }
 
 template <typename Place>
-void PutRow(const GradeColumns& table, int grade, Place&& place) {
+void PutGradeRow(const GradeColumns& table, int grade, Place&& place) {
   for (const GradeColumn& column : table.columns)
     place(column.row, column.text, column.value(grade));
   if (ShowsWeightOrUse()) place(table.use_row, table.use_text, WeightOrUse(grade));
@@ -41,26 +41,26 @@ auto InText(TextReport& report) {
 
 void PrintGradeHead(PrintTarget& target, const GradeColumns& table, double unit) {
   for (const bool first_line : {true, false}) {
-    PutHead(table, first_line, OnPaper(target, unit));
+    PutGradeHead(table, first_line, OnPaper(target, unit));
     target.Print();
   }
 }
 
 void PrintGradeRow(PrintTarget& target, const GradeColumns& table, double unit, int grade) {
-  PutRow(table, grade, OnPaper(target, unit));
+  PutGradeRow(table, grade, OnPaper(target, unit));
   target.Print();
 }
 
 void WriteGradeHead(TextReport& text, const GradeColumns& table) {
   for (const bool first_line : {true, false}) {
-    PutHead(table, first_line, InText(text));
+    PutGradeHead(table, first_line, InText(text));
     text.End();
   }
-  text.Row(kTextRule, '_');
+  text.Row(kGradeHeadRule, '_');
 }
 
 void WriteGradeRow(TextReport& text, const GradeColumns& table, int grade) {
-  PutRow(table, grade, InText(text));
+  PutGradeRow(table, grade, InText(text));
   text.End();
 }
 

@@ -7,15 +7,13 @@
 #include "base/line_reader.h"
 #include "platform/surroundings.h"
 #include "printing/html_parts.h"
+#include "printing/report_codes.h"
 #include "printing/reports.h"
 #include "store/program_state.h"
 #include "store/safe_file.h"
 
 namespace tallyroll {
 namespace {
-
-constexpr i16 kRollBook = 3;
-constexpr i16 kMonths = 8;
 
 // A blank at its width; the entity goes without its semicolon. One that the teacher typed behind a
 // blank would be taken for it.

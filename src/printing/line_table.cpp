@@ -77,8 +77,8 @@ Section SectionOf(const Paper& paper, const LineBlock& block) {
 
 }  // namespace
 
-void PrintTable(ReportPass& pass, const LineTable& table, bool restart,
-                std::vector<Section> behind) {
+void PrintLineTable(ReportPass& pass, const LineTable& table, bool restart,
+                    std::vector<Section> behind) {
   const Paper paper(pass.target, table.width);
   std::vector<Section> sections;
   sections.reserve(table.blocks.size() + behind.size());

@@ -39,8 +39,8 @@ struct LineTable {
 
 // Prints the rows of the pass, blocks one behind the other, and what stands behind the table.
 // `restart` is that of PageFooter.
-void PrintTable(ReportPass& pass, const LineTable& table, bool restart = false,
-                std::vector<Section> behind = {});
+void PrintLineTable(ReportPass& pass, const LineTable& table, bool restart = false,
+                    std::vector<Section> behind = {});
 void WriteTable(TextReport& text, const LineTable& table);
 
 }  // namespace tallyroll

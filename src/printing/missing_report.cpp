@@ -15,29 +15,32 @@ namespace tallyroll {
 namespace {
 
 constexpr std::string_view kClassTitle = " Missing Grades for Class Printout";
-constexpr std::string_view kStudentTitle = "Missing Grades For ";
+constexpr std::string_view kMissingTitle = "Missing Grades For ";
 constexpr std::string_view kNoneOnPaper = " is not missing any Grades";
 constexpr std::string_view kNoneInText = "  is not missing any Grades";
 constexpr int kLinesBesideList = 2;  // the name and the heads
 constexpr int kClassRule = 77, kStudentRule = 80;
 
-struct Column {
+struct MissingColumn {
   double units;  // CharUnits on paper
   int text;      // characters in a text file
   std::string_view head;
   std::string (*value)(int grade);
 };
 
-std::string Text(std::string_view text) {
+std::string MissingText(std::string_view text) {
   return std::string(Trim(text));
 }
 
-constexpr std::array kColumns = {
-    Column{4, 5, "TITLE", [](int i) { return Text(GradeInReport(i).title); }},
-    Column{35, 36, "CODE", [](int i) { return Text(GradeInReport(i).code); }},
-    Column{35 + 2 * 4, 43, "TYPE", [](int i) { return Text(GradeInReport(i).typecode); }},
-    Column{35 + 3 * 4, 50, " DATE", [](int i) { return Text(GradeInReport(i).testdate); }},
-    Column{35 + 5 * 4, 64, "GRADE", [](int i) { return Text(MarkOf(StudentInReport(), i)); }},
+constexpr std::array kMissingColumns = {
+    MissingColumn{4, 5, "TITLE", [](int i) { return MissingText(GradeInReport(i).title); }},
+    MissingColumn{35, 36, "CODE", [](int i) { return MissingText(GradeInReport(i).code); }},
+    MissingColumn{35 + 2 * 4, 43, "TYPE",
+                  [](int i) { return MissingText(GradeInReport(i).typecode); }},
+    MissingColumn{35 + 3 * 4, 50, " DATE",
+                  [](int i) { return MissingText(GradeInReport(i).testdate); }},
+    MissingColumn{35 + 5 * 4, 64, "GRADE",
+                  [](int i) { return MissingText(MarkOf(StudentInReport(), i)); }},
 };
 
 std::vector<int> MissingGrades(const Student& student) {
@@ -48,30 +51,30 @@ std::vector<int> MissingGrades(const Student& student) {
 }
 
 template <typename Move, typename Put>
-void PutHead(Move&& move, Put&& put) {
-  for (const Column& column : kColumns) {
+void PutMissingHead(Move&& move, Put&& put) {
+  for (const MissingColumn& column : kMissingColumns) {
     move(column.units, column.text);
     put(column.head);
   }
 }
 
 template <typename Move, typename Put>
-void PutRow(int grade, Move&& move, Put&& put) {
-  for (const Column& column : kColumns) {
+void PutMissingRow(int grade, Move&& move, Put&& put) {
+  for (const MissingColumn& column : kMissingColumns) {
     move(column.units, column.text);
     put(column.value(grade));
   }
 }
 
 void PrintHead(PrintTarget& target) {
-  PutHead([&](double units, int) { target.CurrentX = units * Job.CharUnit; },
-          [&](std::string_view text) { target.PrintOpen(text); });
+  PutMissingHead([&](double units, int) { target.CurrentX = units * Job.CharUnit; },
+                 [&](std::string_view text) { target.PrintOpen(text); });
   target.Print();
   Rule(target);
 }
 
-void PrintRow(PrintTarget& target, int grade) {
-  PutRow(
+void PrintMissingRow(PrintTarget& target, int grade) {
+  PutMissingRow(
       grade, [&](double units, int) { target.CurrentX = units * Job.CharUnit; },
       [&](std::string_view text) { target.PrintOpen(text); });
   target.Print();
@@ -109,18 +112,18 @@ void PrintClassRow(PrintTarget& target, const ClassRow& row) {
     target.Print(StudentLabel());
     PrintHead(target);
   }
-  PrintRow(target, row.grade);
+  PrintMissingRow(target, row.grade);
   if (row.last) target.Print();
 }
 
 void WriteList(TextReport& text, const std::vector<int>& missing, int rule) {
   const auto move = [&text](double, int column) { text.Tab(column); };
   const auto put = [&text](std::string_view part) { text.Put(part); };
-  PutHead(move, put);
+  PutMissingHead(move, put);
   text.End();
   text.Row(rule, '_');
   for (const int grade : missing) {
-    PutRow(grade, move, put);
+    PutMissingRow(grade, move, put);
     text.End();
   }
 }
@@ -149,7 +152,7 @@ void WriteMissingForClass(TextReport& text) {
 }
 
 void PrintMissingForStudent(ReportPass& pass) {
-  StudentHeader(pass, std::string(kStudentTitle) + StudentLabel(), pass.first == 1);
+  StudentHeader(pass, std::string(kMissingTitle) + StudentLabel(), pass.first == 1);
   const std::vector<int> missing = MissingGrades(StudentInReport());
   PrintTarget& target = pass.target;
   if (missing.empty()) {
@@ -163,7 +166,8 @@ void PrintMissingForStudent(ReportPass& pass) {
   PrintSections(
       pass,
       {{.rows = static_cast<int>(missing.size()),
-        .print = [&](int row) { PrintRow(target, missing[static_cast<std::size_t>(row) - 1]); },
+        .print =
+            [&](int row) { PrintMissingRow(target, missing[static_cast<std::size_t>(row) - 1]); },
         .head = [&] { PrintHead(target); },
         .head_lines = 1}},
       true);
@@ -171,7 +175,7 @@ void PrintMissingForStudent(ReportPass& pass) {
 
 void WriteMissingForStudent(TextReport& text) {
   text.Row(kStudentRule, '=');
-  text.Line(std::string(kStudentTitle) + StudentLabel());
+  text.Line(std::string(kMissingTitle) + StudentLabel());
   text.End();
   const std::vector<int> missing = MissingGrades(StudentInReport());
   if (missing.empty())

@@ -16,7 +16,7 @@
 namespace tallyroll {
 namespace {
 
-constexpr int kTextRule = 80;
+constexpr int kOneGradeRule = 80;
 
 struct OneGradeRow {
   std::string label;  // name or ID
@@ -26,7 +26,7 @@ struct OneGradeRow {
   bool counts = true;  // marks that are left out stand behind all others, whatever the order
 };
 
-OneGradeRow RowOf(const Student& student) {
+OneGradeRow OneGradeRowOf(const Student& student) {
   const std::string_view mark = Trim(MarkOf(student, Choice.grade));
   const std::string id(Trim(student.id));
   return {Choice.shown == Shown::kId ? id : PlainName(student),
@@ -37,7 +37,7 @@ OneGradeRow RowOf(const Student& student) {
 std::vector<OneGradeRow> RowsInOrder() {
   std::vector<OneGradeRow> rows;
   for (int i = 1; i <= Current().NumStudents; ++i)
-    rows.push_back(RowOf(Current().Students[static_cast<std::size_t>(i)]));
+    rows.push_back(OneGradeRowOf(Current().Students[static_cast<std::size_t>(i)]));
   if (Choice.rank == Rank::kNone) return rows;
   const bool falling = Choice.rank == Rank::kHighToLow;
   std::stable_sort(rows.begin(), rows.end(), [falling](const OneGradeRow& a, const OneGradeRow& b) {
@@ -47,13 +47,13 @@ std::vector<OneGradeRow> RowsInOrder() {
   return rows;
 }
 
-std::string Title() {
+std::string OneGradeTitle() {
   return " " + std::string(Trim(GradeInReport(Choice.grade).title));
 }
 
 template <typename Move, typename Put>
-void PutRow(std::string_view label, std::string_view id, std::string_view mark, Move&& move,
-            Put&& put) {
+void PutOneGradeRow(std::string_view label, std::string_view id, std::string_view mark, Move&& move,
+                    Put&& put) {
   const bool both = Choice.shown == Shown::kNameAndId;
   move(4.0, 5);
   put(label);
@@ -73,7 +73,7 @@ std::string_view LabelHead() {
 
 void PrintOneGrade(ReportPass& pass) {
   PrintTarget& target = pass.target;
-  PageHeader(pass, Title());
+  PageHeader(pass, OneGradeTitle());
   const std::vector<OneGradeRow> rows = RowsInOrder();
   const auto move = [&](double units, int) { target.CurrentX = units * Job.CharUnit; };
   const auto put = [&](std::string_view text) { target.PrintOpen(text); };
@@ -81,13 +81,13 @@ void PrintOneGrade(ReportPass& pass) {
                         .print =
                             [&](int row) {
                               const OneGradeRow& r = rows[static_cast<std::size_t>(row) - 1];
-                              PutRow(r.label, r.id, r.mark, move, put);
+                              PutOneGradeRow(r.label, r.id, r.mark, move, put);
                               target.Print();
                               Rule(target);
                             },
                         .head =
                             [&] {
-                              PutRow(LabelHead(), "ID", "GRADE", move, put);
+                              PutOneGradeRow(LabelHead(), "ID", "GRADE", move, put);
                               target.Print();
                               Rule(target);
                             },
@@ -97,15 +97,15 @@ void PrintOneGrade(ReportPass& pass) {
 void WriteOneGrade(TextReport& text) {
   const auto move = [&](double, int column) { text.Tab(column); };
   const auto put = [&](std::string_view part) { text.Put(part); };
-  text.Line(Title());
+  text.Line(OneGradeTitle());
   text.End();
-  PutRow(LabelHead(), "ID", "GRADE", move, put);
+  PutOneGradeRow(LabelHead(), "ID", "GRADE", move, put);
   text.End();
-  text.Row(kTextRule, '_');
+  text.Row(kOneGradeRule, '_');
   for (const OneGradeRow& row : RowsInOrder()) {
-    PutRow(row.label, row.id, row.mark, move, put);
+    PutOneGradeRow(row.label, row.id, row.mark, move, put);
     text.End();
-    text.Row(kTextRule, '_');
+    text.Row(kOneGradeRule, '_');
   }
 }
 

@@ -8,6 +8,7 @@
 #include "printing/frmprintall.h"
 #include "printing/print_command.h"
 #include "printing/report_choice.h"
+#include "printing/report_codes.h"
 #include "printing/reports.h"
 #include "printing/running.h"
 #include "store/program_state.h"
@@ -16,13 +17,6 @@
 
 namespace tallyroll {
 namespace {
-
-constexpr int kRollBook = 3, kRollBookTitles = 4, kMonths = 8, kOneSummary = 9, kOneGrade = 10;
-constexpr int kFullClass = 11, kAveragesOfOne = 12, kGradesOfOne = 13;
-
-bool IsOneOf(int code, std::initializer_list<int> codes) {
-  return std::find(codes.begin(), codes.end(), code) != codes.end();
-}
 
 bool IsOnStudents(int code) {
   const Report* report = FindReport(code);

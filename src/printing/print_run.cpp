@@ -4,14 +4,13 @@
 #include <algorithm>
 
 #include "printing/report_choice.h"
+#include "printing/report_codes.h"
 #include "printing/reports.h"
 #include "store/program_state.h"
 #include "store/settings.h"
 
 namespace tallyroll {
 namespace {
-
-constexpr i16 kMonths = 8;
 
 bool DrawPages(PrintTarget& printer, const PrintRange& range,
                const std::function<void(int page)>& progress) {

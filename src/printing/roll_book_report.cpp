@@ -19,15 +19,15 @@ namespace tallyroll {
 namespace {
 
 constexpr i16 kFullTitles = 4;
-constexpr std::string_view kTitle = "ROLL BOOK";
-constexpr int kTitleColumn = 40;
-constexpr int kStep = 5;
-constexpr int kLastStart = 90;  // no column begins here or beyond
-constexpr int kWidth = kLastStart + kStep;
-constexpr int kTextRule = 89;
+constexpr std::string_view kRollBookTitle = "ROLL BOOK";
+constexpr int kRollTitleColumn = 40;
+constexpr int kRollStep = 5;
+constexpr int kLastRollStart = 90;  // no column begins here or beyond
+constexpr int kRollWidth = kLastRollStart + kRollStep;
+constexpr int kRollRule = 89;
 
 int GradesInBlock() {
-  return (kLastStart - BehindStudentColumn() + kStep - 1) / kStep;
+  return (kLastRollStart - BehindStudentColumn() + kRollStep - 1) / kRollStep;
 }
 
 // The grades that stand side by side in each block. A class without grades has one empty block.
@@ -48,18 +48,18 @@ void AddCells(TableLine& line, const std::vector<int>& grades, TextOfGrade text)
   int column = BehindStudentColumn();
   for (const int grade : grades) {
     line.cells.push_back({column, std::string(Trim(text(grade)))});
-    column += kStep;
+    column += kRollStep;
   }
 }
 
-TableLine RowOf(const Student& student, const std::vector<int>& grades) {
+TableLine RollRowOf(const Student& student, const std::vector<int>& grades) {
   TableLine line;
   line.cells.push_back({0, StudentColumnText(student)});
   AddCells(line, grades, [&](int grade) { return MarkOf(student, grade); });
   return line;
 }
 
-std::vector<TableLine> HeadOf(const std::vector<int>& grades) {
+std::vector<TableLine> RollHeadOf(const std::vector<int>& grades) {
   TableLine heads, codes, dates;
   heads.cells = {{0, std::string(StudentColumnHead())}, {BehindStudentColumn(), "GRADES"}};
   AddCells(codes, grades, [](int grade) { return std::string_view(GradeInReport(grade).code); });
@@ -72,17 +72,18 @@ std::vector<TableLine> HeadOf(const std::vector<int>& grades) {
 }
 
 LineBlock BlockOf(const std::vector<int>& grades) {
-  LineBlock block{HeadOf(grades), {}, {{{}, '='}}};
+  LineBlock block{RollHeadOf(grades), {}, {{{}, '='}}};
   for (int i = 1; i <= Current().NumStudents; ++i) {
-    std::vector<TableLine> row = {RowOf(Current().Students[static_cast<std::size_t>(i)], grades)};
+    std::vector<TableLine> row = {
+        RollRowOf(Current().Students[static_cast<std::size_t>(i)], grades)};
     if (i > 1) row.push_back({{}, '_'});
     block.rows.push_back(std::move(row));
   }
   return block;
 }
 
-LineTable Table() {
-  LineTable table{kWidth, {}, kTextRule};
+LineTable RollTable() {
+  LineTable table{kRollWidth, {}, kRollRule};
   for (const std::vector<int>& grades : GradesByBlock()) table.blocks.push_back(BlockOf(grades));
   return table;
 }
@@ -122,7 +123,7 @@ double LongestTitle(PrintTarget& target, const std::vector<int>& grades) {
 }
 
 double Unit() {
-  return std::min(Job.CharUnit, static_cast<double>(Job.PageTextWidth) / kWidth);
+  return std::min(Job.CharUnit, static_cast<double>(Job.PageTextWidth) / kRollWidth);
 }
 
 int TitleLines(PrintTarget& target, const std::vector<int>& grades) {
@@ -137,7 +138,7 @@ void PrintTitles(PrintTarget& target, const std::vector<int>& grades) {
     double x = BehindStudentColumn() * Unit();
     for (const int grade : grades) {
       target.PrintUpwards(FullTitle(grade), x, target.CurrentY);
-      x += kStep * Unit();
+      x += kRollStep * Unit();
     }
   }
   target.Print(StudentColumnHead());
@@ -147,7 +148,7 @@ void PrintTitles(PrintTarget& target, const std::vector<int>& grades) {
 // The first student has no rule below, as in the book without titles, unless he is the last.
 void PrintStudent(PrintTarget& target, int row, const std::vector<int>& grades) {
   const Student& student = Current().Students[static_cast<std::size_t>(row)];
-  for (const LineCell& cell : RowOf(student, grades).cells) {
+  for (const LineCell& cell : RollRowOf(student, grades).cells) {
     target.CurrentX = cell.column * Unit();
     target.PrintOpen(cell.text);
   }
@@ -171,18 +172,18 @@ void PrintFullTitles(ReportPass& pass) {
 }  // namespace
 
 void PrintRollBook(ReportPass& pass) {
-  PageHeader(pass, kTitle);
+  PageHeader(pass, kRollBookTitle);
   if (Job.ReportCode == kFullTitles)
     PrintFullTitles(pass);
   else
-    PrintTable(pass, Table());
+    PrintLineTable(pass, RollTable());
 }
 
 void WriteRollBook(TextReport& text) {
-  text.Tab(kTitleColumn);
-  text.Line(kTitle);
+  text.Tab(kRollTitleColumn);
+  text.Line(kRollBookTitle);
   text.End();
-  WriteTable(text, Table());
+  WriteTable(text, RollTable());
 }
 
 }  // namespace tallyroll

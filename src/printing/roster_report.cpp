@@ -14,7 +14,7 @@ constexpr i16 kGridForm = 23;
 constexpr std::string_view kGridTitle = " Class Roster Printout Grid Form";
 constexpr std::string_view kListTitle = "Class Roster";
 constexpr std::string_view kBox = "        |";
-constexpr int kTextWidth = 80;
+constexpr int kRosterWidth = 80;
 
 bool NamesAlone() {
   return NameMode == 57;
@@ -30,7 +30,7 @@ int NotesColumn() {
 
 // One walk for paper and text: `Sheet` has Put, Tab and End.
 template <typename Sheet>
-void PutHead(Sheet&& sheet) {
+void PutRosterHead(Sheet&& sheet) {
   sheet.Tab(6);
   sheet.Put(IdsAlone() ? "ID" : "NAME");
   if (!NamesAlone() && !IdsAlone()) {
@@ -66,7 +66,7 @@ void PrintBoxes(PrintTarget& target) {
   while (target.CurrentX + target.TextWidth(kBox) <= Job.PageTextWidth) target.PrintOpen(kBox);
 }
 
-void PrintRow(PrintTarget& target, int row) {
+void PrintRosterRow(PrintTarget& target, int row) {
   PutStudent(PaperSheet{target}, row);
   if (Job.ReportCode == kGridForm) PrintBoxes(target);
   target.Print();
@@ -76,11 +76,11 @@ void PrintRow(PrintTarget& target, int row) {
 void WriteRow(TextReport& text, int row) {
   PutStudent(text, row);
   if (Job.ReportCode == kGridForm) {
-    while (text.Column() + static_cast<int>(kBox.size()) <= kTextWidth) text.Put(kBox);
+    while (text.Column() + static_cast<int>(kBox.size()) <= kRosterWidth) text.Put(kBox);
     return text.End();
   }
   text.End();
-  text.Row(kTextWidth, '_');
+  text.Row(kRosterWidth, '_');
 }
 
 }  // namespace
@@ -89,15 +89,15 @@ void WriteRow(TextReport& text, int row) {
 void PrintRoster(ReportPass& pass) {
   PageHeader(pass, kGridTitle);
   PrintSections(pass, {{.rows = Current().NumStudents,
-                        .print = [&](int row) { PrintRow(pass.target, row); },
-                        .head = [&] { PutHead(PaperSheet{pass.target}); },
+                        .print = [&](int row) { PrintRosterRow(pass.target, row); },
+                        .head = [&] { PutRosterHead(PaperSheet{pass.target}); },
                         .head_lines = 2}});
 }
 
 void WriteRoster(TextReport& text) {
   text.Line(Job.ReportCode == kGridForm ? kGridTitle : kListTitle);
   text.End();
-  PutHead(text);
+  PutRosterHead(text);
   for (int row = 1; row <= Current().NumStudents; ++row) WriteRow(text, row);
 }
 

@@ -16,8 +16,8 @@ namespace tallyroll {
 namespace {
 
 constexpr int kRowLines = 4;  // a type never stands lower than four lines above the bottom
-constexpr int kHeadLines = 2;
-constexpr int kTextRule = 80;
+constexpr int kTypeHeadLines = 2;
+constexpr int kTypeTotalsRule = 80;
 
 bool ReportOnStudent() {
   return Job.ReportCode == 12 || Job.ReportCode == 13 || Job.ReportCode == 17 ||
@@ -64,7 +64,7 @@ std::string Percent(Currency sum, Currency maximum) {
 
 // ---- Columns: twips of a base on paper, characters in a text file ----
 
-struct Column {
+struct TypeColumn {
   double base;  // in bases
   int text;     // in characters
   std::string_view first, second;
@@ -76,13 +76,13 @@ bool Always() {
   return true;
 }
 
-constexpr std::array kColumns = {
-    Column{0, 1, "CATEGORY", "", &TypeTotalRow::name, Always},
-    Column{1, 25, "TYPE", "", &TypeTotalRow::code, Always},
-    Column{1.7, 45, "TOTAL", "SCORES", &TypeTotalRow::total, ReportOnStudent},
-    Column{2, 54, "MAX. SCORE", "POSSIBLE", &TypeTotalRow::maximum, Always},
-    Column{2.4, 66, "TYPE", "AVG.", &TypeTotalRow::average, ReportWithAverages},
-    Column{2.65, 73, "WEIGHT", "", &TypeTotalRow::weight, WeighsTypes},
+constexpr std::array kTypeColumns = {
+    TypeColumn{0, 1, "CATEGORY", "", &TypeTotalRow::name, Always},
+    TypeColumn{1, 25, "TYPE", "", &TypeTotalRow::code, Always},
+    TypeColumn{1.7, 45, "TOTAL", "SCORES", &TypeTotalRow::total, ReportOnStudent},
+    TypeColumn{2, 54, "MAX. SCORE", "POSSIBLE", &TypeTotalRow::maximum, Always},
+    TypeColumn{2.4, 66, "TYPE", "AVG.", &TypeTotalRow::average, ReportWithAverages},
+    TypeColumn{2.65, 73, "WEIGHT", "", &TypeTotalRow::weight, WeighsTypes},
 };
 constexpr double kNumberBase = 1.33;
 constexpr int kNumberText = 33;
@@ -94,8 +94,8 @@ double Base(const PrintTarget& target) {
 
 // `move` takes the pen to a column, `put` prints there.
 template <typename Move, typename Put>
-void PutRow(const TypeTotalRow& row, Move&& move, Put&& put) {
-  for (const Column& column : kColumns) {
+void PutTypeRow(const TypeTotalRow& row, Move&& move, Put&& put) {
+  for (const TypeColumn& column : kTypeColumns) {
     if (!column.shown()) continue;
     move(column.base, column.text);
     put(row.*column.value);
@@ -106,8 +106,8 @@ void PutRow(const TypeTotalRow& row, Move&& move, Put&& put) {
 }
 
 template <typename Move, typename Put>
-void PutHead(bool first_line, Move&& move, Put&& put) {
-  for (const Column& column : kColumns) {
+void PutTypeHead(bool first_line, Move&& move, Put&& put) {
+  for (const TypeColumn& column : kTypeColumns) {
     if (!column.shown()) continue;
     move(column.base, column.text);
     put(first_line ? column.first : column.second);
@@ -157,18 +157,18 @@ Section TypeTotalsSection(PrintTarget& target, std::vector<TypeTotalRow> rows) {
   return {.rows = count,
           .print =
               [&target, kept, move, put](int row) {
-                PutRow((*kept)[static_cast<std::size_t>(row) - 1], move, put);
+                PutTypeRow((*kept)[static_cast<std::size_t>(row) - 1], move, put);
                 target.Print();
               },
           .head =
               [&target, move, put] {
                 for (const bool first_line : {true, false}) {
-                  PutHead(first_line, move, put);
+                  PutTypeHead(first_line, move, put);
                   target.Print();
                 }
                 Rule(target);
               },
-          .head_lines = kHeadLines,
+          .head_lines = kTypeHeadLines,
           .lines = [](int) { return kRowLines; }};
 }
 
@@ -176,12 +176,12 @@ void WriteTypeTotals(TextReport& text) {
   const auto move = [&text](double, int column) { text.Tab(column); };
   const auto put = [&text](std::string_view part) { text.Put(part); };
   for (const bool first_line : {true, false}) {
-    PutHead(first_line, move, put);
+    PutTypeHead(first_line, move, put);
     text.End();
   }
-  text.Row(kTextRule, '_');
+  text.Row(kTypeTotalsRule, '_');
   for (const TypeTotalRow& row : TypeTotalRows()) {
-    PutRow(row, move, put);
+    PutTypeRow(row, move, put);
     text.End();
   }
 }

@@ -12,8 +12,8 @@ namespace tallyroll {
 namespace {
 
 // In widths of the average character.
-constexpr int kGap = 3;                   // behind the names and the heads
-constexpr int kFirstStep = 5, kStep = 7;  // the least that the later columns lie apart
+constexpr int kGap = 3;                        // behind the names and the heads
+constexpr int kFirstStep = 5, kLaterStep = 7;  // the least that the later columns lie apart
 
 // The left edges of the columns. The second stands behind the longest name, the others so that no
 // head runs into the next one.
@@ -24,7 +24,7 @@ std::vector<double> ColumnsOf(const PrintedTable& table, PrintTarget& target) {
   target.FontBold = true;
   std::vector<double> columns = {(table.first_column - 1) * character};
   for (std::size_t i = 1; i < table.head.size(); ++i) {
-    const double step = (i == 1 ? 0 : i == 2 ? kFirstStep : kStep) * character;
+    const double step = (i == 1 ? 0 : i == 2 ? kFirstStep : kLaterStep) * character;
     const double head = target.TextWidth(table.head[i - 1]) + kGap * character;
     const double texts = i == 1 ? names + kGap * character : 0;
     columns.push_back(columns.back() + std::max({step, head, texts}));

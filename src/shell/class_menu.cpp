@@ -30,7 +30,7 @@ void EditByTitle(Form1& window) {
 
 template <int kIndex>
 void OpenRecentEntry(Form1&) {
-  Frame->mnuFileList_Click(kIndex);
+  FrameForm->mnuFileList_Click(kIndex);
 }
 
 // Captions are what teachers know by heart, their blanks included.
@@ -39,15 +39,15 @@ constexpr ClassMenuRow kRows[] = {
     {.level = 0, .name = "mnuFile", .caption = "&File"},
     {.level = 1, .name = "mnuNew", .caption = "&New Class"},
     {.level = 2, .name = "mnuown", .caption = "Use the &Program", .status = "Start a class by entering its students",
-     .shortcut = "Ctrl+N", .action = [](Form1&) { Frame->NewClass(10); }},
+     .shortcut = "Ctrl+N", .action = [](Form1&) { FrameForm->NewClass(10); }},
     {.level = 2, .name = "mnuwizard", .caption = "Use the &Wizard", .status = "Start a class step by step",
-     .shortcut = "Ctrl+Shift+N", .action = [](Form1&) { Frame->NewClass(15); }},
+     .shortcut = "Ctrl+Shift+N", .action = [](Form1&) { FrameForm->NewClass(15); }},
     {.level = 1, .name = "mnuOpen", .caption = "&Open...", .status = "Open a class file",
-     .shortcut = "Ctrl+O", .action = [](Form1&) { Frame->mnuOpen_Click(); }},
+     .shortcut = "Ctrl+O", .action = [](Form1&) { FrameForm->mnuOpen_Click(); }},
     {.level = 1, .name = "mnuclose", .caption = "&Close ", .status = "Close this class",
-     .shortcut = "Ctrl+W", .action = [](Form1& window) { Frame->CloseWindow(window); }},
+     .shortcut = "Ctrl+W", .action = [](Form1& window) { FrameForm->CloseWindow(window); }},
     {.level = 1, .name = "mnucloseall", .caption = "Clos&e All ", .status = "Close every open class",
-     .action = [](Form1&) { Frame->mnucloseall_Click(); }},
+     .action = [](Form1&) { FrameForm->mnucloseall_Click(); }},
     {.level = 1},
     {.level = 1, .name = "mnusave", .caption = "&Save", .status = "Save this class",
      .shortcut = "Ctrl+S", .action = [](Form1& window) { window.mnusave_Click(); }},
@@ -97,7 +97,7 @@ constexpr ClassMenuRow kRows[] = {
     {.level = 1, .name = "mnuFileList4", .status = "Open this class again", .action = OpenRecentEntry<4>},
     {.level = 1},
     {.level = 1, .name = "mnuExit", .caption = "E&xit", .status = "Leave Tallyroll",
-     .shortcut = "Ctrl+Q", .action = [](Form1& window) { if (Frame->CloseWindow(window)) Frame->mnuExit_Click(); }},
+     .shortcut = "Ctrl+Q", .action = [](Form1& window) { if (FrameForm->CloseWindow(window)) FrameForm->mnuExit_Click(); }},
 
     {.level = 0, .name = "mnuStudents", .caption = "&Students"},
     {.level = 1, .name = "mnuAdd", .caption = "&Add Student", .status = "Enter new students",

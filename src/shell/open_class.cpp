@@ -104,7 +104,7 @@ void Form1::OpenRecentPick() {
     ShowMessage("Tallyroll cannot open the file " + PathForDisplay(RecentPick));
     GiveSlotBack();
     RemoveRecentFile(RecentPick);
-    Frame->RebuildRecentMenu();
+    FrameForm->RebuildRecentMenu();
   } else if (readyopen(RecentPick)) {
     GiveSlotBack();
     ShowMessage(" The file is already open ");
@@ -131,7 +131,7 @@ void Form1::ShowOpenedClass() {
   Caption = UpperCase(FileNameOf(PathForDisplay(path)));
   Tag = PlainNumberText(SlotIndex);
   AddRecentFile(path);
-  Frame->RebuildRecentMenu();
+  FrameForm->RebuildRecentMenu();
   LastFolder = FolderOf(path);
   showform3();
   if (Current().NumStudents > 0) CheckNameMode();
@@ -162,7 +162,7 @@ void Form1::OpenNewClass(int pending_action) {
   saveas();
   if (Current().FileName.empty()) Caption = "NewClass " + PlainNumberText(SlotIndex);
   Tag = PlainNumberText(SlotIndex);
-  Frame->RebuildRecentMenu();
+  FrameForm->RebuildRecentMenu();
   EnableClassMenus(true);
   showform3();
   CheckNameMode();

@@ -12,7 +12,7 @@ namespace {
 
 constexpr int kClosingRefused = -20;
 constexpr int kSaveHelp = 120;
-constexpr std::string_view kNewClass = "NewClass ";
+constexpr std::string_view kNewClassCaption = "NewClass ";
 
 bool HasClassExtension(std::string_view path) {
   return path.size() >= 4 && UpperCase(path.substr(path.size() - 4)) == ".TYR";
@@ -72,8 +72,8 @@ void Form1::saveas() {
     FileErrorCode = 0;
     if (!Current().FileName.empty())
       Caption = UpperCase(FileNameOf(PathForDisplay(Current().FileName)));
-    else if (!Caption.starts_with(kNewClass))
-      Caption = std::string(kNewClass) + Caption;
+    else if (!Caption.starts_with(kNewClassCaption))
+      Caption = std::string(kNewClassCaption) + Caption;
     return;
   }
   Current().FileName = path;
@@ -81,7 +81,7 @@ void Form1::saveas() {
   LastFolder = FolderOf(path);
   if (!Save()) return;
   AddRecentFile(path);
-  Frame->RebuildRecentMenu();
+  FrameForm->RebuildRecentMenu();
 }
 
 // A class on its first save may replace a file of the same name; as "ty7" it makes the writer keep

@@ -82,7 +82,7 @@ void Form1::ImportText() {
   else if (Tag.empty())
     StartFromText();
   else
-    Frame->NewClass(kStartFromText);
+    FrameForm->NewClass(kStartFromText);
 }
 
 void Form1::AppendStudents() {
@@ -138,7 +138,7 @@ void Form1::SetNewClassDefaults() {
 void Form1::ShowNewClass() {
   Caption = "NewClass " + PlainNumberText(SlotIndex);
   Tag = PlainNumberText(SlotIndex);
-  Frame->RebuildRecentMenu();
+  FrameForm->RebuildRecentMenu();
   EnableClassMenus(true);
   showform3();
   CheckNameMode();
@@ -148,7 +148,7 @@ void Form1::mnuTransfer_Click() {
   if (Ask("This option TRANSFERS Name, Id, Comments and Supplementary Information to a new file. "
           "Continue?",
           BoxButtons::kYesNo) == BoxAnswer::kYes)
-    Frame->NewClass(kTransferRoster);
+    FrameForm->NewClass(kTransferRoster);
 }
 
 void Form1::ImportGrades(int by) {

@@ -14,7 +14,7 @@ namespace tallyroll {
 namespace {
 
 constexpr std::string_view kLineEnd = "\r\n";
-constexpr std::string_view kUtf8Mark = "\xEF\xBB\xBF";
+constexpr std::string_view kUtf8Head = "\xEF\xBB\xBF";
 constexpr char kRightQuote = '\x92';  // the apostrophe that is no field mark
 
 // What is written for a field mark inside a value.
@@ -172,7 +172,7 @@ std::vector<std::string> CsvValues(const Student& student, int what, std::size_t
 
 TextOfClass ExportCsv(const Class& c, int what) {
   TextOfClass out;
-  out.bytes = kUtf8Mark;
+  out.bytes = kUtf8Head;
   if (what != kExportGradesPlain) AddCsvRecord(CsvTitles(c, what), out);
   const auto grades = static_cast<std::size_t>(UpperBound(c.Instruments));
   for (std::size_t i = 1; i < c.Students.size(); ++i)

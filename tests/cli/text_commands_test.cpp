@@ -8,7 +8,7 @@ namespace {
 
 using Json = nlohmann::ordered_json;
 
-constexpr const char* kClass = R"({"Instruments": [{"title": "Rivers", "code": "RIV"}],
+constexpr const char* kExportedClass = R"({"Instruments": [{"title": "Rivers", "code": "RIV"}],
   "Students": [
     {"lastname": "Ng", "firstname": "Zoé", "id": "7", "city": "Köln", "Marks": ["", "A-"]},
     {"lastname": "Abel", "firstname": "Bo", "id": "512", "Marks": ["", "91"]}]})";
@@ -24,8 +24,8 @@ class TextCommandTest : public CliTest {
     return Json::parse(dump.out);
   }
   std::string Exported(const std::string& what, const std::string& layout) {
-    const CliRun run = RunCli(
-        {"export", Build(kClass), "--what", what, "--layout", layout, "--out", Path("out.txt")});
+    const CliRun run = RunCli({"export", Build(kExportedClass), "--what", what, "--layout", layout,
+                               "--out", Path("out.txt")});
     EXPECT_EQ(run.status, 0) << run.err;
     EXPECT_EQ(run.out, "");
     return Get(Path("out.txt"));
@@ -95,7 +95,7 @@ TEST_F(TextCommandTest, TheLayoutIsNeededAndKnown) {
   const std::string text = Put("in.txt", "7,Ng Ada\n");
   EXPECT_EQ(RunCli({"import", text, Path("out.TYR")}).status, 2);
   EXPECT_EQ(RunCli({"import", text, Path("out.TYR"), "--layout", "pipes"}).status, 2);
-  EXPECT_EQ(RunCli({"export", Build(kClass), "--what", "all", "--layout", "tabs", "--out",
+  EXPECT_EQ(RunCli({"export", Build(kExportedClass), "--what", "all", "--layout", "tabs", "--out",
                     Path("out.txt")})
                 .status,
             2);
@@ -138,7 +138,7 @@ TEST_F(TextCommandTest, ExportTellsWhatTheLayoutCouldNotCarry) {
 }
 
 TEST_F(TextCommandTest, ExportLeavesTheClassFileAlone) {
-  const std::string file = Build(kClass);
+  const std::string file = Build(kExportedClass);
   const std::string before = Get(file);
   ExpectRefused(RunCli({"export", file, "--what", "names", "--layout", "tabs", "--out", file}),
                 file + ": is the class file itself, which is left as it is");

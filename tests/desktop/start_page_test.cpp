@@ -30,7 +30,7 @@ TEST_F(StartPageTest, IsThereWhileNoClassIsOpen) {
   EXPECT_TRUE(page()->isVisible());
   Form1& form = OpenClass("MATH.TYR");
   EXPECT_FALSE(page()->isVisible());
-  EXPECT_TRUE(Frame->CloseWindow(form));
+  EXPECT_TRUE(FrameForm->CloseWindow(form));
   Settle();
   EXPECT_TRUE(page()->isVisible());
 }
@@ -64,7 +64,7 @@ TEST_F(StartPageTest, EachWayToBeginPressesItsMenuEntry) {
 
 TEST_F(StartPageTest, ListsRecentClassesByNameAndFolder) {
   RecentFiles[0] = Path("MATH & MORE.TYR");
-  Frame->RebuildRecentMenu();
+  FrameForm->RebuildRecentMenu();
   window->Sync();
   EXPECT_TRUE(Button("mnuFileList0")->isVisible());
   EXPECT_EQ(Button("mnuFileList0")->text(), QStringLiteral("MATH && MORE.TYR"));
@@ -75,7 +75,7 @@ TEST_F(StartPageTest, ListsRecentClassesByNameAndFolder) {
 
 TEST_F(StartPageTest, OpensARecentClass) {
   RecentFiles[0] = WriteClass("MATH.TYR");
-  Frame->RebuildRecentMenu();
+  FrameForm->RebuildRecentMenu();
   window->Sync();
   Button("mnuFileList0")->click();
   Settle();

@@ -26,9 +26,9 @@ TEST_F(SaveClassTest, SaveWritesTheClassAndClearsChanged) {
   Current().Changed = kTrue;
   window.ClickMenu("mnusave");
   EXPECT_EQ(Current().Changed, kFalse);
-  EXPECT_TRUE(Frame->CloseWindow(window));
+  EXPECT_TRUE(FrameForm->CloseWindow(window));
   EXPECT_EQ(Open("B.TYR").Tag, "1");
-  Frame->OpenRecent(Path("A.TYR"));
+  FrameForm->OpenRecent(Path("A.TYR"));
   EXPECT_EQ(Classes[2].room, "12");
 }
 
@@ -112,7 +112,7 @@ TEST_F(SaveClassTest, FirstSaveAsKeepsTheFileThatItReplaces) {
 
 TEST_F(SaveClassTest, UnchangedClassClosesWithoutAQuestion) {
   Form1& window = Open("A.TYR");
-  EXPECT_TRUE(Frame->CloseWindow(window));
+  EXPECT_TRUE(FrameForm->CloseWindow(window));
   EXPECT_EQ(WindowCount(), 0);
   EXPECT_EQ(Classes[1].SlotState, 0);
   EXPECT_EQ(Classes[1].NumStudents, 0);
@@ -130,7 +130,7 @@ TEST_F(SaveClassTest, YesSavesAndCloses) {
   EXPECT_EQ(screen.boxes[0].buttons, BoxButtons::kYesNoCancel);
   EXPECT_EQ(screen.boxes[0].icon, BoxIcon::kQuestion);
   EXPECT_EQ(screen.boxes[0].title, "Note to the Teacher");
-  Frame->OpenRecent(Path("A.TYR"));
+  FrameForm->OpenRecent(Path("A.TYR"));
   EXPECT_EQ(Current().room, "9");
 }
 
@@ -139,7 +139,7 @@ TEST_F(SaveClassTest, WindowComesToTheFrontBeforeItAsks) {
   Classes[1].Changed = kTrue;
   Open("B.TYR");
   screen.ExpectBox(kQuestion, BoxAnswer::kNo);
-  EXPECT_TRUE(Frame->CloseWindow(*Window(1)));
+  EXPECT_TRUE(FrameForm->CloseWindow(*Window(1)));
   EXPECT_EQ(frame_screen.calls.end()[-2], "front A.TYR");
 }
 
@@ -150,7 +150,7 @@ TEST_F(SaveClassTest, NoClosesWithoutSaving) {
   screen.ExpectBox(kQuestion, BoxAnswer::kNo);
   window.ClickMenu("mnuclose");
   EXPECT_EQ(WindowCount(), 0);
-  Frame->OpenRecent(Path("A.TYR"));
+  FrameForm->OpenRecent(Path("A.TYR"));
   EXPECT_EQ(Current().room, "");
 }
 
@@ -194,9 +194,9 @@ TEST_F(SaveClassTest, FailedSaveKeepsTheClassOpenAndTheNextCloseTriesAgain) {
 TEST_F(SaveClassTest, ErrorOfAnEarlierSaveRefusesToCloseOnce) {
   Form1& window = Open("A.TYR");
   FileErrorCode = 61;
-  EXPECT_FALSE(Frame->CloseWindow(window));
+  EXPECT_FALSE(FrameForm->CloseWindow(window));
   EXPECT_EQ(FileErrorCode, 0);
-  EXPECT_TRUE(Frame->CloseWindow(window));
+  EXPECT_TRUE(FrameForm->CloseWindow(window));
 }
 
 TEST_F(SaveClassTest, CloseAllAsksEachWindowAlsoBehindOneThatStays) {
@@ -256,7 +256,7 @@ TEST_F(SaveClassTest, ARefusedFrameCloseLeavesTheKeptClassInWork) {
   Open("B.TYR");
   Classes[1].Changed = kTrue;
   screen.ExpectBox(kQuestion, BoxAnswer::kCancel);
-  EXPECT_FALSE(Frame->QueryUnload());
+  EXPECT_FALSE(FrameForm->QueryUnload());
   EXPECT_EQ(CurrentClass, 1);
   EXPECT_EQ(frame_screen.calls.back(), "front A.TYR");
 }
@@ -264,12 +264,12 @@ TEST_F(SaveClassTest, ARefusedFrameCloseLeavesTheKeptClassInWork) {
 TEST_F(SaveClassTest, ClosingAWindowBehindLeavesTheFrontOneInWork) {
   Open("A.TYR");
   Form1& second = Open("B.TYR");
-  EXPECT_TRUE(Frame->CloseWindow(*Window(1)));
+  EXPECT_TRUE(FrameForm->CloseWindow(*Window(1)));
   EXPECT_EQ(CurrentClass, 2);
   Current().room = "7";
   second.ClickMenu("mnusave");
-  EXPECT_TRUE(Frame->CloseWindow(second));
-  Frame->OpenRecent(Path("B.TYR"));
+  EXPECT_TRUE(FrameForm->CloseWindow(second));
+  FrameForm->OpenRecent(Path("B.TYR"));
   EXPECT_EQ(Current().room, "7");
 }
 
@@ -279,8 +279,8 @@ TEST_F(SaveClassTest, ACommandMeansTheClassOfItsWindow) {
   Classes[1].room = "5";
   first.ClickMenu("mnusave");
   EXPECT_EQ(CurrentClass, 1);
-  EXPECT_TRUE(Frame->CloseWindow(first));
-  Frame->OpenRecent(Path("A.TYR"));
+  EXPECT_TRUE(FrameForm->CloseWindow(first));
+  FrameForm->OpenRecent(Path("A.TYR"));
   EXPECT_EQ(Current().room, "5");
 }
 

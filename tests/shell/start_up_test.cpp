@@ -24,7 +24,7 @@ class StartUpTest : public ShellTest {
 TEST_F(StartUpTest, FirstRunMakesTheDataFolderWithTheSample) {
   WriteFile(Path("Sample8.TYR"), "sample");
   ExpectGreeting();
-  Frame->Load("");
+  FrameForm->Load("");
   EXPECT_EQ(DataFolder, Path("Tallyroll"));
   EXPECT_EQ(screen.settings.at("TALLYRLG8/startup/DIRFILE"), Path("Tallyroll"));
   EXPECT_TRUE(std::filesystem::exists(Path("Tallyroll/Sample8.TYR")));
@@ -40,7 +40,7 @@ TEST_F(StartUpTest, SampleThatTheTeacherWorkedOnIsKept) {
   std::filesystem::create_directory(Path("Tallyroll"));
   WriteFile(Path("Tallyroll/Sample8.TYR"), "mine");
   ExpectGreeting();
-  Frame->Load("");
+  FrameForm->Load("");
   EXPECT_EQ(std::filesystem::file_size(Path("Tallyroll/Sample8.TYR")), 4u);
 }
 
@@ -48,7 +48,7 @@ TEST_F(StartUpTest, WhereNoFolderCanBeMadeTheProgramsOwnServes) {
   WriteFile(Path("file"), "");
   screen.profile_folder = Path("file");
   ExpectGreeting();
-  Frame->Load("");
+  FrameForm->Load("");
   EXPECT_EQ(DataFolder, folder);
   EXPECT_EQ(screen.settings.at("TALLYRLG8/startup/DIRFILE"), folder);
 }
@@ -57,7 +57,7 @@ TEST_F(StartUpTest, KnownFolderIsUsedAsItIs) {
   std::filesystem::create_directory(Path("classes"));
   screen.settings["TALLYRLG8/startup/DIRFILE"] = Path("classes");
   ExpectGreeting();
-  Frame->Load("");
+  FrameForm->Load("");
   EXPECT_EQ(DataFolder, Path("classes"));
   EXPECT_FALSE(std::filesystem::exists(Path("Tallyroll")));
 }
@@ -66,7 +66,7 @@ TEST_F(StartUpTest, KnownFolderThatIsGoneIsReported) {
   screen.settings["TALLYRLG8/startup/DIRFILE"] = Path("gone");
   screen.ExpectBox("File Error: 76");
   ExpectGreeting();
-  Frame->Load("");
+  FrameForm->Load("");
   EXPECT_EQ(DataFolder, folder);
   EXPECT_EQ(std::filesystem::current_path(), folder);
 }
@@ -75,16 +75,16 @@ TEST_F(StartUpTest, RecentFilesStandInTheMenu) {
   screen.settings["TALLYRLG8/fileused/File0"] = "/a/A.TYR";
   screen.settings["TALLYRLG8/startup/NAMEID"] = "73";
   ExpectGreeting();
-  Frame->Load("");
-  EXPECT_EQ(Frame->menu.Find("mnuFileList0")->caption, "&1. /a/A.TYR");
-  EXPECT_FALSE(Frame->menu.Find("mnuFileList1")->visible);
+  FrameForm->Load("");
+  EXPECT_EQ(FrameForm->menu.Find("mnuFileList0")->caption, "&1. /a/A.TYR");
+  EXPECT_FALSE(FrameForm->menu.Find("mnuFileList1")->visible);
   EXPECT_EQ(NameMode, 73);
 }
 
 TEST_F(StartUpTest, FileOfTheCommandLineOpensWithoutAGreeting) {
   const std::string path = MakeFile("maths.tyr");
-  Frame->Load(path);
-  EXPECT_EQ(Frame->CommandFile, path);
+  FrameForm->Load(path);
+  EXPECT_EQ(FrameForm->CommandFile, path);
   EXPECT_EQ(frame_screen.calls, (std::vector<std::string>{"frame shown", "shown MATHS.TYR"}));
   EXPECT_EQ(Classes[1].FileName, path);
 }
@@ -92,13 +92,13 @@ TEST_F(StartUpTest, FileOfTheCommandLineOpensWithoutAGreeting) {
 TEST_F(StartUpTest, FileOfTheCommandLineIsFoundFromWhereTheProgramStarted) {
   MakeFile("maths.tyr");
   std::filesystem::current_path(folder);
-  Frame->Load("./maths.tyr");
+  FrameForm->Load("./maths.tyr");
   EXPECT_EQ(Classes[1].FileName, Path("maths.tyr"));
 }
 
 TEST_F(StartUpTest, FileOfTheCommandLineThatIsGoneLeavesTheFrame) {
   screen.ExpectBox("Tallyroll cannot open the file " + Path("gone.tyr"));
-  Frame->Load(Path("gone.tyr"));
+  FrameForm->Load(Path("gone.tyr"));
   EXPECT_EQ(WindowCount(), 0);
   EXPECT_EQ(frame_screen.calls, std::vector<std::string>{"frame shown"});
 }
