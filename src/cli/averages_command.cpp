@@ -1,5 +1,4 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include <CLI/CLI.hpp>
 #include <memory>
 #include <vector>
 
@@ -151,16 +150,15 @@ CommandResult Averages(const AveragesOptions& options) {
 
 }  // namespace
 
-void AddAveragesCommand(CLI::App& app, ChosenCommand& chosen) {
-  CLI::App* command =
-      app.add_subcommand("averages", "Shows every student's average and final grade");
+void AddAveragesCommand(Command& app, ChosenCommand& chosen) {
+  Command command = app.AddCommand("averages", "Shows every student's average and final grade");
   const auto options = std::make_shared<AveragesOptions>();
-  command->add_option("FILE", options->file, "the class file")->required();
-  CLI::Option* csv = command->add_flag("--csv", options->csv, "as comma-separated values");
-  command->add_flag("--json", options->json, "as JSON, with the totals by type")->excludes(csv);
-  AddNameMode(*command, options->name_mode);
-  AddOpenOptions(*command, options->opening);
-  command->callback(
+  command.AddOption("FILE", options->file, "the class file").Required();
+  CommandOption csv = command.AddFlag("--csv", options->csv, "as comma-separated values");
+  command.AddFlag("--json", options->json, "as JSON, with the totals by type").Excludes(csv);
+  AddNameMode(command, options->name_mode);
+  AddOpenOptions(command, options->opening);
+  command.WhenChosen(
       [&chosen, options] { chosen = [options](std::istream&) { return Averages(*options); }; });
 }
 

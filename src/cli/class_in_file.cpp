@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "cli/class_in_file.h"
 
-#include <CLI/CLI.hpp>
 #include <filesystem>
 
 #include "attendance/calendar.h"
@@ -67,19 +66,19 @@ std::string ParseClassFile(const std::string& path, Class& c) {
   return outcome.error == 0 ? "" : FileErrorText(outcome.error);
 }
 
-void AddOpenOptions(CLI::App& command, OpenOptions& options) {
-  command.add_option("--password", options.password, "the password of the file");
+void AddOpenOptions(Command& command, OpenOptions& options) {
+  command.AddOption("--password", options.password, "the password of the file");
   command
-      .add_option("--date-order", options.date_order,
-                  "how the dates in the file are read (otherwise as the system's locale has them)")
-      ->check(CLI::IsMember({"mdy", "dmy", "ymd"}));
+      .AddOption("--date-order", options.date_order,
+                 "how the dates in the file are read (otherwise as the system's locale has them)")
+      .OneOf({"mdy", "dmy", "ymd"});
 }
 
-void AddNameMode(CLI::App& command, i16& name_mode) {
+void AddNameMode(Command& command, i16& name_mode) {
   command
-      .add_option("--name-mode", name_mode,
-                  "by name: 68 with the ID, 57 without; by ID: 82 with the name, 73 without")
-      ->check(CLI::IsMember({68, 57, 82, 73}));
+      .AddOption("--name-mode", name_mode,
+                 "by name: 68 with the ID, 57 without; by ID: 82 with the name, 73 without")
+      .OneOf({68, 57, 82, 73});
 }
 
 std::string OpenClassFile(const std::string& path, const OpenOptions& options) {

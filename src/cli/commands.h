@@ -6,11 +6,8 @@
 #include <iosfwd>
 #include <string>
 
+#include "cli/command_options.h"
 #include "store/records.h"
-
-namespace CLI {
-class App;
-}
 
 namespace tallyroll {
 
@@ -31,20 +28,20 @@ using ChosenCommand = std::function<CommandResult(std::istream& in)>;
 
 // Adds --password and --date-order to a command that opens a class.
 struct OpenOptions;
-void AddOpenOptions(CLI::App& command, OpenOptions& options);
+void AddOpenOptions(Command& command, OpenOptions& options);
 // How names and IDs are shown and sorted.
-void AddNameMode(CLI::App& command, i16& name_mode);
+void AddNameMode(Command& command, i16& name_mode);
 
 // Each adds its command and its options, and fills `chosen` when it is the one.
-void AddDumpCommand(CLI::App& app, ChosenCommand& chosen);
-void AddBuildCommand(CLI::App& app, ChosenCommand& chosen);
-void AddCheckCommand(CLI::App& app, ChosenCommand& chosen);
-void AddConvertCommand(CLI::App& app, ChosenCommand& chosen);
-void AddShowCommand(CLI::App& app, ChosenCommand& chosen);
-void AddAveragesCommand(CLI::App& app, ChosenCommand& chosen);
-void AddAttendanceCommand(CLI::App& app, ChosenCommand& chosen);
-void AddReportCommand(CLI::App& app, ChosenCommand& chosen);
-void AddImportCommand(CLI::App& app, ChosenCommand& chosen);
-void AddExportCommand(CLI::App& app, ChosenCommand& chosen);
+void AddDumpCommand(Command& app, ChosenCommand& chosen);
+void AddBuildCommand(Command& app, ChosenCommand& chosen);
+void AddCheckCommand(Command& app, ChosenCommand& chosen);
+void AddConvertCommand(Command& app, ChosenCommand& chosen);
+void AddShowCommand(Command& app, ChosenCommand& chosen);
+void AddAveragesCommand(Command& app, ChosenCommand& chosen);
+void AddAttendanceCommand(Command& app, ChosenCommand& chosen);
+void AddReportCommand(Command& app, ChosenCommand& chosen);
+void AddImportCommand(Command& app, ChosenCommand& chosen);
+void AddExportCommand(Command& app, ChosenCommand& chosen);
 
 }  // namespace tallyroll

@@ -1,5 +1,4 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include <CLI/CLI.hpp>
 #include <memory>
 #include <vector>
 
@@ -47,13 +46,13 @@ CommandResult Show(const ShowOptions& options) {
 
 }  // namespace
 
-void AddShowCommand(CLI::App& app, ChosenCommand& chosen) {
-  CLI::App* command = app.add_subcommand("show", "Shows the students and their marks as a table");
+void AddShowCommand(Command& app, ChosenCommand& chosen) {
+  Command command = app.AddCommand("show", "Shows the students and their marks as a table");
   const auto options = std::make_shared<ShowOptions>();
-  command->add_option("FILE", options->file, "the class file")->required();
-  AddNameMode(*command, options->name_mode);
-  AddOpenOptions(*command, options->opening);
-  command->callback(
+  command.AddOption("FILE", options->file, "the class file").Required();
+  AddNameMode(command, options->name_mode);
+  AddOpenOptions(command, options->opening);
+  command.WhenChosen(
       [&chosen, options] { chosen = [options](std::istream&) { return Show(*options); }; });
 }
 
