@@ -261,7 +261,7 @@ TEST_F(CommandsTest, DoubleClickOpensWhatStandsUnderThePointer) {
       {0, 0, "frmAdd", 0, -1},    {0, 1, "frmAdd", 0, -1},   {0, 2, "frmMarks", 0, -1},
       {0, 10, "frmMarks", 0, -1}, {2, 0, "frmEdit", 25, 1},  {4, 1, "frmEdit", 25, 3},
       {5, 0, "frmEdit", 25, 0},   {27, 0, "frmEdit", 25, 0}, {1, 2, "frmEmarks", 0, 1},
-      {3, 3, "frmEmarks", 0, 2},  {3, 4, "frmEmarks", 0, 0}, {20, 3, "frmEmarks", 0, 2}};
+      {3, 3, "frmEmarks", 2, 2},  {3, 4, "frmEmarks", 2, 0}, {20, 3, "frmEmarks", 0, 2}};
   for (const auto& [row, col, portal, open_state, student] : clicks) {
     openings.clear();
     window->Grid1.MouseRow = row;
