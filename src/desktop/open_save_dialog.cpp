@@ -4,12 +4,41 @@
 #include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
+#include <QLineEdit>
 #include <QShortcut>
 
 #include "desktop/text_conversion.h"
 
 namespace tallyroll {
 namespace {
+
+// A file whose name differs in nothing but case: for a class it is the same file, so it is the one
+// that is opened, and the one that must not be replaced without a question. Empty when there is
+// none.
+QString FileOfOtherCase(const QString& path) {
+  const QFileInfo wanted(path);
+  if (path.isEmpty() || wanted.exists()) return {};
+  for (const QString& name : wanted.dir().entryList(QDir::Files | QDir::Hidden | QDir::System))
+    if (name.compare(wanted.fileName(), Qt::CaseInsensitive) == 0)
+      return wanted.dir().filePath(name);
+  return {};
+}
+
+class CaseBlindDialog : public QFileDialog {
+ public:
+  using QFileDialog::QFileDialog;
+
+ protected:
+  void accept() override {
+    const QStringList files = selectedFiles();
+    auto* typed = findChild<QLineEdit*>(QStringLiteral("fileNameEdit"));
+    const QString there = files.isEmpty() ? QString() : FileOfOtherCase(files.front());
+    if (!there.isEmpty() && typed != nullptr)
+      typed->setText(typed->text().contains(QLatin1Char('/')) ? there
+                                                              : QFileInfo(there).fileName());
+    QFileDialog::accept();
+  }
+};
 
 void SetUp(QFileDialog& dialog, const FileDialogRequest& request) {
   dialog.setOption(QFileDialog::DontUseNativeDialog);
@@ -41,7 +70,7 @@ QStringList FiltersOf(const QString& filter) {
 }
 
 std::optional<std::string> ShowFileDialog(const FileDialogRequest& request, QWidget* parent) {
-  QFileDialog dialog(parent);
+  CaseBlindDialog dialog(parent);
   SetUp(dialog, request);
   QObject::connect(new QShortcut(Qt::Key_F1, &dialog), &QShortcut::activated, &dialog,
                    [&request] { Platform().ShowHelp(request.help_context); });
