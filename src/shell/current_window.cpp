@@ -28,7 +28,7 @@ class Forwarder : public ClassWindowCalls {
     if (Form1* window = Window())
       window->ShowStatus(text);
     else if (Frame)
-      Frame->StatusText = text;
+      Frame->ShowStatus(text);
   }
 };
 
