@@ -40,17 +40,30 @@ class CaseBlindDialog : public QFileDialog {
   }
 };
 
+// The folder of the last dialog may be away since; the working directory is that of the classes.
+void SetFolder(QFileDialog& dialog, const QString& folder) {
+  if (folder.isEmpty()) return;
+  dialog.setDirectory(QFileInfo(folder).isDir() ? folder : QDir::currentPath());
+}
+
+// A file whose folder is away is offered by its name, for the folder that the dialog stands in.
+void SetName(QFileDialog& dialog, const QString& path) {
+  if (path.isEmpty()) return;
+  const QFileInfo file(path);
+  dialog.selectFile(file.dir().exists() ? path : file.fileName());
+}
+
 void SetUp(QFileDialog& dialog, const FileDialogRequest& request) {
   dialog.setOption(QFileDialog::DontUseNativeDialog);
   dialog.setAcceptMode(request.save ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
   dialog.setFileMode(request.file_must_exist ? QFileDialog::ExistingFile : QFileDialog::AnyFile);
   if (!request.overwrite_prompt) dialog.setOption(QFileDialog::DontConfirmOverwrite);
   if (!request.title.empty()) dialog.setWindowTitle(FromText(request.title));
-  if (!request.folder.empty()) dialog.setDirectory(FromPath(request.folder));
+  SetFolder(dialog, FromPath(request.folder));
   const QStringList filters = FiltersOf(FromText(request.filter));
   if (!filters.isEmpty()) dialog.setNameFilters(filters);
   dialog.setDefaultSuffix(FromText(request.default_extension));
-  if (!request.filename.empty()) dialog.selectFile(FromPath(request.filename));
+  SetName(dialog, FromPath(request.filename));
 }
 
 }  // namespace

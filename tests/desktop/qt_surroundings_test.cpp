@@ -5,6 +5,7 @@
 
 #include <QApplication>
 #include <QClipboard>
+#include <QDir>
 #include <QFile>
 #include <QFileDialog>
 #include <QLineEdit>
@@ -185,6 +186,21 @@ TEST_F(NameOfOtherCase, IsNotReplacedWithoutAQuestion) {
   });
   EXPECT_EQ(surroundings.FileDialog(request), ToPath(folder.path()) + "/b.tyr");
   EXPECT_EQ(questions, 2);
+}
+
+TEST_F(QtSurroundingsTest, AFolderThatIsAwayGivesWayToTheWorkingDirectory) {
+  const QTemporaryDir away;
+  FileDialogRequest request;
+  request.save = true;
+  request.folder = ToPath(away.filePath(QStringLiteral("stick")));
+  request.filename = request.folder + "/math.TYR";
+  WithNextWindow<QFileDialog>([](QFileDialog& dialog) {
+    EXPECT_EQ(dialog.directory().path(), QDir::currentPath());
+    EXPECT_EQ(dialog.findChild<QLineEdit*>(QStringLiteral("fileNameEdit"))->text(),
+              QStringLiteral("math.TYR"));
+    dialog.reject();
+  });
+  EXPECT_EQ(surroundings.FileDialog(request), std::nullopt);
 }
 
 TEST_F(NameOfOtherCase, IsTheFileThatOpens) {
