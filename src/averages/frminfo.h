@@ -11,7 +11,7 @@ struct frminfo : StudentScreen {
   void Declare(ControlTable& table) override;
 
   ListBox list1;
-  CommandButton mnuprevious, mnuext, mnugraph;
+  CommandButton mnuprevious, mnuext, mnugraph;  // entries of its menu
 
   void mnugraph_Click();
 };

@@ -17,6 +17,7 @@
 #include "desktop/about_box.h"
 #include "desktop/class_window_view.h"
 #include "desktop/menu_view.h"
+#include "desktop/message_moment.h"
 #include "desktop/start_page.h"
 #include "desktop/text_conversion.h"
 #include "desktop/tile_windows.h"
@@ -45,6 +46,13 @@ FrameWindow::FrameWindow() {
   start_rows_ = new QVBoxLayout(first);
   start_rows_->setContentsMargins(0, 0, 0, 0);
   start_rows_->addWidget(status_);
+
+  moment_ = new MessageMoment([this] { return front_ == nullptr; },
+                              [this] {
+                                FrameForm->EndStatus();
+                                Sync();
+                              },
+                              this);
 
   area_ = new QMdiArea;
   area_->setActivationOrder(QMdiArea::ActivationHistoryOrder);
@@ -169,6 +177,7 @@ void FrameWindow::Sync() {
   for (QMdiSubWindow* window : area_->subWindowList())
     static_cast<ClassWindowView*>(window)->Sync();
   pages_->setCurrentIndex(front_ != nullptr ? 1 : 0);
+  moment_->Follow(FrameForm->MessagesTold);
   const QString status = hint_.isEmpty() ? FromText(FrameForm->StatusText) : hint_;
   if (status != status_->text()) status_->setText(status);
   if (shown_menu_ == &CurrentMenu()) return;
@@ -239,6 +248,10 @@ void FrameWindow::Arrange(Arrangement how) {
   } else {
     TileWindows(*area_, how == Arrangement::kTileHorizontal ? Qt::Vertical : Qt::Horizontal);
   }
+  // A window that left the whole frame for its part of it has lost the focus.
+  if (front_ == nullptr) return;
+  area_->setActiveSubWindow(front_);
+  front_->widget()->setFocus();
 }
 
 void FrameWindow::ShowAbout() {

@@ -189,9 +189,13 @@ void GridWidget::paintEvent(QPaintEvent* event) {
   }
 }
 
-void GridWidget::resizeEvent(QResizeEvent*) {
+// A current cell that was in sight stays in sight when the room gets smaller.
+void GridWidget::resizeEvent(QResizeEvent* event) {
   if (!grid_) return;
+  const QRect room({}, event->oldSize());
+  const bool seen = room.contains(CellRect(grid_->Row, grid_->Col));
   MeasureIfChanged();
+  if (seen) ShowCell(grid_->Row, grid_->Col);
   SetScrollBars();
   shown_.top_row = grid_->TopRow;
   shown_.left_col = grid_->LeftCol;

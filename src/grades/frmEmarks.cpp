@@ -57,7 +57,15 @@ void frmEmarks::Load() {
   if (!chosen) return SetFocus(list1);
   list1.ListIndex = CurrentStudent - 1;
   makefields();
+  GoToStudent(OpenState);
   SetFocus(Grid1);
+}
+
+// In view with his neighbour above, so that a slip of one row is seen.
+void frmEmarks::GoToStudent(int student) {
+  if (student < 1 || student > Current().NumStudents) return;
+  marks.StartAt(student);
+  Grid1.TopRow = std::max(Grid1.FixedRows, student - 1);
 }
 
 void frmEmarks::EnableFields(bool on) {

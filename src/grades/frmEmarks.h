@@ -6,7 +6,8 @@
 
 namespace tallyroll {
 
-// CurrentStudent holds the Instrument shown; 0 leaves the choice to the teacher.
+// CurrentStudent holds the Instrument shown; 0 leaves the choice to the teacher. OpenState holds
+// the student whose mark is in work first; 0 is the first of the class.
 struct frmEmarks : GradeForm {
   frmEmarks();
   void Declare(ControlTable& table) override;
@@ -35,6 +36,7 @@ struct frmEmarks : GradeForm {
   bool Check();
   void Store();
   void EnableFields(bool on);
+  void GoToStudent(int student);
 
   int shown_ = 0;          // the Instrument in the fields; 0 is none
   i16 maximum_score_ = 0;  // as the last check found it

@@ -44,6 +44,7 @@ struct PrintedJob {
   std::vector<PrintedPage> pages = std::vector<PrintedPage>(1);
   bool ended = false;
   bool killed = false;
+  bool fails = false;  // it will come to nothing
 };
 
 // A character is as wide as ten times its points, and a line as high as twenty-four times: at 10
@@ -60,7 +61,10 @@ class FixedPrintTarget : public PrintTarget {
   void Line(double x1, double y1, double x2, double y2) override;
   void PrintUpwards(std::string_view text, double x, double y) override;
   void NewPage() override;
-  void EndDoc() override { job->ended = true; }
+  bool EndDoc() override {
+    job->ended = true;
+    return !job->killed && !job->fails;
+  }
   void KillDoc() override { job->killed = true; }
   void Cls() override;
 

@@ -49,7 +49,8 @@ class PrintTarget {
   virtual void PrintUpwards(std::string_view text, double x, double y) = 0;
 
   virtual void NewPage() {}  // printers: the sheet is done, another one begins
-  virtual void EndDoc() {}   // printers: the last sheet is done, the job goes out
+  // Printers: the last sheet is done, the job goes out. False when it came to nothing.
+  virtual bool EndDoc() { return true; }
   virtual void KillDoc() {}  // printers: what was not sent yet is dropped
   virtual void Cls() {}      // other surfaces: clean, with the pen at the origin
 

@@ -5,10 +5,12 @@
 
 #include "base/code_page.h"
 #include "base/line_reader.h"
+#include "platform/class_window.h"
 #include "platform/surroundings.h"
 #include "printing/html_parts.h"
 #include "printing/report_codes.h"
 #include "printing/reports.h"
+#include "store/class_file.h"
 #include "store/program_state.h"
 #include "store/safe_file.h"
 
@@ -85,7 +87,10 @@ int SaveReportHtml(const std::string& path) {
   const std::string html = ReportHtml();
   if (html.empty()) return 0;  // the teacher knows why
   const int error = ReplaceFile(path, html, OldTail::kDrop);
-  if (error != 0) ShowMessage("File Error");
+  if (error != 0)
+    ShowMessage("File Error");
+  else
+    ClassWindow().ShowStatus(SavedText(path));
   return error;
 }
 

@@ -51,8 +51,7 @@ bool PrintPages(PrintTarget& printer, const PrintRange& range,
                 const std::function<void(int page)>& progress) {
   const bool done = DrawPages(printer, range, progress);
   if (!done) printer.KillDoc();
-  printer.EndDoc();
-  return done;
+  return printer.EndDoc() && done;
 }
 
 }  // namespace tallyroll

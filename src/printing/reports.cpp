@@ -6,10 +6,12 @@
 #include <functional>
 
 #include "base/run_time_error.h"
+#include "platform/class_window.h"
 #include "platform/surroundings.h"
 #include "printing/page_frame.h"
 #include "printing/report_choice.h"
 #include "printing/report_writers.h"
+#include "store/class_file.h"
 #include "store/program_state.h"
 #include "store/safe_file.h"
 
@@ -95,7 +97,10 @@ int SaveReportText(const std::string& path) {
   const std::string text = ReportText();
   if (Job.PrintFlag == kPrintCancelled) return 0;
   const int error = ReplaceFile(path, text, OldTail::kDrop);
-  if (error != 0) ShowMessage("File Error");
+  if (error != 0)
+    ShowMessage("File Error");
+  else
+    ClassWindow().ShowStatus(SavedText(path));
   return error;
 }
 

@@ -28,7 +28,7 @@ class Forwarder : public ClassWindowCalls {
     if (Form1* window = Window())
       window->ShowStatus(text);
     else if (FrameForm)
-      FrameForm->StatusText = text;
+      FrameForm->ShowStatus(text);
   }
 };
 

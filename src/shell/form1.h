@@ -48,6 +48,7 @@ class Form1 {
   Menu menu;  // the program's full menu
   std::vector<ToolButton> Toolbar2;
   std::string StatusText;  // StatusBar1
+  int MessagesTold = 0;    // by which a screen sees a new message of the same words
 
   // The window's own working fields.
   int SlotIndex = -1;
@@ -85,7 +86,9 @@ class Form1 {
   void ImportGrades(int by);      // kGradesById or kGradesByName
   void ExportStudents(int what);  // kExportNames and the like
   void mnuTransfer_Click();       // a new class with these students
-  void ShowStatus(std::string_view text);  // a message, which stands until the next command
+  // A message, which stands until the next command or until a screen has shown it long enough.
+  void ShowStatus(std::string_view text);
+  void EndStatus();
 
  private:
   int Slot() const;  // from Tag
@@ -110,6 +113,7 @@ class Form1 {
   // Saving.
   bool Save();  // WriteClassFile; false when it failed
   void AskToSave();
+  void SavePassword();
 
   bool message_stands_ = false;  // StatusText is a message, which no hint replaces
   std::string save_title_;       // title of the save dialog; empty is the dialog's own

@@ -80,9 +80,7 @@ void Form1::OpenByDialog() {
     again = false;
     OpenState = kOpening;
     PendingAction = 0;
-    const int error = EnterDataFolder();
-    const auto path = error == 0 ? Platform().FileDialog(OpenRequest()) : std::nullopt;
-    if (error != 0) ReportReadError(error);
+    const auto path = EnterDataFolder() ? Platform().FileDialog(OpenRequest()) : std::nullopt;
     if (!path || path->empty()) {
       GiveSlotBack();
     } else if (readyopen(*path)) {

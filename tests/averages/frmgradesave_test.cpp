@@ -47,6 +47,12 @@ TEST_F(FrmGradeSaveTest, BothFieldsAreAsked) {
   EXPECT_EQ(portal.title.MaxLength, 65535);
 }
 
+TEST_F(FrmGradeSaveTest, TheSavedAveragesAreConfirmedWithTheNameOfTheFile) {
+  Current().FileName = "/classes/math.tyr";
+  Save();
+  EXPECT_EQ(window.status, "The averages stand as Term 1. math.tyr saved.");
+}
+
 TEST_F(FrmGradeSaveTest, AddsAGradeOfFinalGrades) {
   Save();
   const Class& c = Current();

@@ -16,6 +16,7 @@
 #include <QTimer>
 
 #include "desktop/class_window_view.h"
+#include "desktop/grid_widget.h"
 #include "store/settings.h"
 #include "tests/desktop/frame_fixture.h"
 
@@ -151,6 +152,30 @@ TEST_F(FrameWindowTest, CascadeShowsEveryTitle) {
   const auto windows = area().subWindowList();
   EXPECT_FALSE(windows[0]->isMaximized());
   EXPECT_NE(windows[0]->pos(), windows[1]->pos());
+}
+
+TEST_F(FrameWindowTest, ArrangingTheWindowsLeavesTheFocusOnTheGrid) {
+  OpenClass("MATH.TYR");
+  Form1& art = OpenClass("ART.TYR");
+  window->activateWindow();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(window.get()));
+  for (const char* entry : {"mnucascade", "mnhorizontal", "mnuvertical", "mnucascade"}) {
+    PressMenu(entry);
+    ASSERT_EQ(window->Current()->form(), &art) << entry;
+    EXPECT_EQ(window->focusWidget(), window->Current()->findChild<GridWidget*>()) << entry;
+    EXPECT_EQ(CurrentClass, 2);
+  }
+}
+
+TEST_F(FrameWindowTest, WhatTheFrameTellsGoesWhenItsMomentIsOver) {
+  Change(OpenClass("MATH.TYR"));
+  screen.ExpectBox("MATH.TYR" + save_question, BoxAnswer::kYes);
+  PressMenu("mnuclose");
+  const auto* status = window->findChild<QLabel*>(QStringLiteral("FrameStatus"));
+  EXPECT_EQ(status->text(), QStringLiteral("MATH.TYR saved."));
+  window->findChild<QTimer*>(QStringLiteral("MessageMoment"), Qt::FindDirectChildrenOnly)
+      ->setInterval(1);
+  EXPECT_TRUE(QTest::qWaitFor([status] { return status->text().isEmpty(); }));
 }
 
 TEST_F(FrameWindowTest, TheLastOfTwoFillsTheFrameAgain) {

@@ -340,6 +340,7 @@ TEST_F(FrmPrintPreTest, SavesTheReportAsText) {
   EXPECT_EQ(request.default_extension, "TXT");
   EXPECT_EQ(request.folder, folder);
   EXPECT_EQ(request.help_context, 120);
+  EXPECT_EQ(window.status, "roster.txt saved.");
   EXPECT_EQ(FileBytes(Path("roster.txt")), ReportText());
   EXPECT_NE(ReportText().find("Class Roster"), std::string::npos);
 }
@@ -353,6 +354,7 @@ TEST_F(FrmPrintPreTest, SavesTheReportAsHtml) {
   EXPECT_EQ(request.default_extension, "HTM");
   EXPECT_TRUE(request.overwrite_prompt);
   EXPECT_EQ(request.help_context, 120);
+  EXPECT_EQ(window.status, "roster.htm saved.");
   EXPECT_EQ(FileBytes(Path("roster.htm")), ReportHtml());
   EXPECT_FALSE(std::filesystem::exists(Path("tempfile")));
 }
@@ -402,6 +404,18 @@ TEST_F(FrmPrintPreTest, SavesAllPagesAsPdf) {
   EXPECT_EQ(screen.print_jobs[0]->title, "MATH");
   EXPECT_EQ(screen.print_jobs[0]->pages.size(), 3u);
   EXPECT_TRUE(screen.print_jobs[0]->ended);
+  EXPECT_EQ(window.status, "roster.pdf saved.");
+}
+
+TEST_F(FrmPrintPreTest, APdfThatCameToNothingIsNotConfirmed) {
+  OpenReport(19, 3);
+  screen.on_pump = [this] {
+    if (!screen.print_jobs.empty()) screen.print_jobs[0]->fails = true;
+  };
+  screen.ExpectFileDialog(Path("roster.pdf"));
+  driver->Press("pdf");
+  EXPECT_TRUE(screen.print_jobs.at(0)->fails);
+  EXPECT_EQ(window.status, "");
 }
 
 TEST_F(FrmPrintPreTest, CancelInTheMiddleOfAPdfDropsItAndThePreviewGoesOn) {

@@ -160,7 +160,8 @@ TEST_F(OpenClassTest, CancelledPasswordLeavesNoWindow) {
 
 TEST_F(OpenClassTest, MissingDataFolderIsReportedAndTheNextTryWorks) {
   DataFolder = Path("gone");
-  screen.ExpectBox("File Error: 76");
+  screen.ExpectBox("File Error: 76. The folder of the class files cannot be reached: " +
+                   Path("gone"));
   FrameForm->mnuOpen_Click();
   EXPECT_EQ(DataFolder, folder);
   EXPECT_EQ(WindowCount(), 0);

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "shell/recent_list.h"
 #include "store/settings.h"
 #include "tests/shell/shell_test.h"
 
@@ -17,6 +18,14 @@ class SaveClassTest : public ShellTest {
     window.Caption = "NewClass 1";
     return window;
   }
+  // Its folder is away.
+  void FailToSave(Form1& window) {
+    Current().FileName = Path("gone/A.TYR");
+    Current().Changed = kTrue;
+    screen.ExpectBox("File Error: 76");
+    window.ClickMenu("mnusave");
+    EXPECT_EQ(window.StatusText, "");
+  }
   bool Exists(std::string_view name) const { return std::filesystem::exists(Path(name)); }
 };
 
@@ -30,6 +39,52 @@ TEST_F(SaveClassTest, SaveWritesTheClassAndClearsChanged) {
   EXPECT_EQ(Open("B.TYR").Tag, "1");
   FrameForm->OpenRecent(Path("A.TYR"));
   EXPECT_EQ(Classes[2].room, "12");
+}
+
+TEST_F(SaveClassTest, ASaveMovesTheClassUpInTheRecentList) {
+  Form1& first = Open("A.TYR");
+  Form1& second = Open("B.TYR");
+  ASSERT_EQ(RecentFiles[0], Path("B.TYR"));
+  first.ClickMenu("mnusave");
+  EXPECT_EQ(RecentFiles[0], Path("A.TYR"));
+  EXPECT_EQ(RecentFiles[1], Path("B.TYR"));
+  EXPECT_EQ(first.menu.Find("mnuFileList0")->caption, RecentMenuText(0));
+  Classes[2].Changed = kTrue;
+  screen.ExpectBox("B.TYR Data has been changed. Save File?  ", BoxAnswer::kYes);
+  EXPECT_TRUE(FrameForm->CloseWindow(second));
+  EXPECT_EQ(RecentFiles[0], Path("B.TYR"));
+}
+
+TEST_F(SaveClassTest, ASaveIsConfirmedWithTheNameOfTheFile) {
+  Form1& window = Open("a.tyr");
+  window.ClickMenu("mnusave");
+  EXPECT_EQ(window.StatusText, "a.tyr saved.");
+  screen.ExpectFileDialog(Path("copy.TYR"));
+  window.ClickMenu("mnusaveas");
+  EXPECT_EQ(window.StatusText, "copy.TYR saved.");
+  window.ClickMenu("mnunamefirst");
+  EXPECT_EQ(window.StatusText, "");
+}
+
+TEST_F(SaveClassTest, TheSaveOfAClosedClassIsConfirmedBehindIt) {
+  Form1& first = Open("A.TYR");
+  Classes[1].Changed = kTrue;
+  Form1& second = Open("B.TYR");
+  screen.ExpectBox(kQuestion, BoxAnswer::kYes);
+  EXPECT_TRUE(FrameForm->CloseWindow(first));
+  EXPECT_EQ(second.StatusText, "A.TYR saved.");
+  Current().Changed = kTrue;
+  screen.ExpectBox("B.TYR Data has been changed. Save File?  ", BoxAnswer::kYes);
+  EXPECT_TRUE(FrameForm->CloseWindow(second));
+  EXPECT_EQ(FrameForm->StatusText, "B.TYR saved.");
+}
+
+TEST_F(SaveClassTest, AClassThatClosesWithoutASaveConfirmsNone) {
+  Form1& first = Open("A.TYR");
+  first.ClickMenu("mnusave");
+  Form1& second = Open("B.TYR");
+  EXPECT_TRUE(FrameForm->CloseWindow(first));
+  EXPECT_EQ(second.StatusText, "");
 }
 
 TEST_F(SaveClassTest, SaveOfAClassWithoutANameAsksForOne) {
@@ -191,12 +246,44 @@ TEST_F(SaveClassTest, FailedSaveKeepsTheClassOpenAndTheNextCloseTriesAgain) {
   EXPECT_TRUE(Exists("gone/A.TYR"));
 }
 
-TEST_F(SaveClassTest, ErrorOfAnEarlierSaveRefusesToCloseOnce) {
+TEST_F(SaveClassTest, AFailedSaveOfOneClassKeepsNoOtherOpen) {
+  FailToSave(Open("A.TYR"));
+  Form1& second = Open("B.TYR");
+  EXPECT_TRUE(FrameForm->CloseWindow(second));
+  EXPECT_EQ(WindowCount(), 1);
+}
+
+TEST_F(SaveClassTest, AfterAFailedSaveNoClosesWithoutSaving) {
   Form1& window = Open("A.TYR");
-  FileErrorCode = 61;
-  EXPECT_FALSE(FrameForm->CloseWindow(window));
-  EXPECT_EQ(FileErrorCode, 0);
-  EXPECT_TRUE(FrameForm->CloseWindow(window));
+  FailToSave(window);
+  screen.ExpectBox(kQuestion, BoxAnswer::kNo);
+  window.ClickMenu("mnuclose");
+  EXPECT_EQ(WindowCount(), 0);
+}
+
+TEST_F(SaveClassTest, AfterAFailedSaveOneExitIsEnough) {
+  FailToSave(Open("A.TYR"));
+  Open("B.TYR");
+  screen.ExpectBox(kQuestion, BoxAnswer::kNo);
+  Window(2)->ClickMenu("mnuExit");
+  EXPECT_EQ(frame_screen.calls.back(), "frame closed");
+}
+
+TEST_F(SaveClassTest, CloseAllWithTwoFailedSavesClosesTheThird) {
+  for (const char* name : {"A.TYR", "B.TYR"}) {
+    Open(name);
+    Current().FileName = Path("gone/") + name;
+    Current().Changed = kTrue;
+  }
+  Form1& third = Open("C.TYR");
+  for (const char* name : {"A.TYR", "B.TYR"}) {
+    screen.ExpectBox(std::string(name) + " Data has been changed. Save File?  ", BoxAnswer::kYes);
+    screen.ExpectBox("File Error: 76");
+  }
+  third.ClickMenu("mnucloseall");
+  EXPECT_EQ(WindowCount(), 2);
+  for (int slot : {1, 2})
+    EXPECT_EQ(Window(slot)->StatusText, "The class stays open, because it was not saved.");
 }
 
 TEST_F(SaveClassTest, CloseAllAsksEachWindowAlsoBehindOneThatStays) {
@@ -236,7 +323,7 @@ TEST_F(SaveClassTest, AFailedNameKeepsTheClassOpenAndTellsWhy) {
   window.ClickMenu("mnuclose");
   EXPECT_EQ(Window(1), &window);
   EXPECT_EQ(Current().Changed, kTrue);
-  EXPECT_EQ(window.StatusText, "The class stays open, because it could not be saved.");
+  EXPECT_EQ(window.StatusText, "The class stays open, because it was not saved.");
 }
 
 TEST_F(SaveClassTest, AClassKeptByCloseAllIsTheOneThatTheNextCommandMeans) {

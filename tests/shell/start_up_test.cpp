@@ -13,6 +13,13 @@ class StartUpTest : public ShellTest {
     DataFolder.clear();
     ProgramFolder.clear();
   }
+  void StartWithout(const std::string& away, int error) {
+    screen.settings["TALLYRLG8/startup/DIRFILE"] = Path(away);
+    screen.ExpectBox("File Error: " + PlainNumberText(error) +
+                     ". The folder of the class files cannot be reached: " + Path(away));
+    ExpectGreeting();
+    FrameForm->Load("");
+  }
   void ExpectGreeting() {
     screen.ExpectPortal("frmstartup", [this](PortalDriver& portal) {
       EXPECT_TRUE(frame_screen.calls.empty()) << "the greeting comes before the frame";
@@ -62,13 +69,43 @@ TEST_F(StartUpTest, KnownFolderIsUsedAsItIs) {
   EXPECT_FALSE(std::filesystem::exists(Path("Tallyroll")));
 }
 
-TEST_F(StartUpTest, KnownFolderThatIsGoneIsReported) {
-  screen.settings["TALLYRLG8/startup/DIRFILE"] = Path("gone");
-  screen.ExpectBox("File Error: 76");
-  ExpectGreeting();
-  FrameForm->Load("");
+TEST_F(StartUpTest, KnownFolderThatIsAwayIsReportedByItsName) {
+  StartWithout("gone", 76);
   EXPECT_EQ(DataFolder, folder);
   EXPECT_EQ(std::filesystem::current_path(), folder);
+}
+
+TEST_F(StartUpTest, WhatCannotBeEnteredIsAwayToo) {
+  WriteFile(Path("gone"), "");
+  StartWithout("gone", 76);
+  EXPECT_EQ(DataFolder, folder);
+}
+
+TEST_F(StartUpTest, AFolderThatIsAwayStaysRemembered) {
+  StartWithout("gone", 76);
+  FrameForm->Unload();
+  EXPECT_EQ(screen.settings.at("TALLYRLG8/startup/DIRFILE"), Path("gone"));
+}
+
+TEST_F(StartUpTest, AFolderThatIsBackIsUsedAgain) {
+  StartWithout("gone", 76);
+  std::filesystem::create_directory(Path("gone"));
+  screen.ExpectFileDialog(std::nullopt);
+  FrameForm->mnuOpen_Click();
+  EXPECT_EQ(DataFolder, Path("gone"));
+  EXPECT_EQ(std::filesystem::current_path(), Path("gone"));
+}
+
+TEST_F(StartUpTest, AClassWhoseFolderIsAwayLeavesTheDataFolderRemembered) {
+  std::filesystem::create_directory(Path("classes"));
+  screen.settings["TALLYRLG8/startup/DIRFILE"] = Path("classes");
+  ExpectGreeting();
+  FrameForm->Load("");
+  screen.ExpectFileDialog(Path("gone/A.TYR"));
+  screen.ExpectBox("File Error: 76");
+  FrameForm->mnuOpen_Click();
+  FrameForm->Unload();
+  EXPECT_EQ(screen.settings.at("TALLYRLG8/startup/DIRFILE"), Path("classes"));
 }
 
 TEST_F(StartUpTest, RecentFilesStandInTheMenu) {

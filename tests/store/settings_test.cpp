@@ -29,7 +29,7 @@ TEST_F(SettingsTest, WithoutSettingsTheDefaultsStand) {
 }
 
 TEST_F(SettingsTest, WhatIsSavedIsLoadedAgain) {
-  DataFolder = "/classes";
+  RememberedFolder = "/classes";
   PrinterFontName = "Courier";
   PrinterFontSize = 9.5f;
   SenderAddress = "a@b.c";
