@@ -39,6 +39,7 @@ std::string ChartName(int chart) {
 frmseating::frmseating() : Portal("frmseating") {
   Caption = "Seating Chart Portal";
   HelpContext = 580;
+  unmetlabel.Caption = "Wishes not met";
   newchart.Caption = "&New";
   show.Caption = "Se&lect";
   delete_.Caption = "&Delete";
@@ -74,6 +75,7 @@ void frmseating::Declare(ControlTable& table) {
   table.Add("students", students)
       .KeyPress([this](unsigned char key) { return students_KeyPress(key); })
       .DragDrop([this](std::string_view source) { students_DragDrop(source); });
+  table.Add("unmetlabel", unmetlabel);
   table.Add("unmet", unmet);
   table.Add("details", details).Click([this] { details_Click(); });
   table.Add("said", said);
@@ -136,7 +138,7 @@ void frmseating::Begin(SeatPlan plan, int chart, bool is_new) {
   done_.clear();
   undone_.clear();
   unmet.List.clear();
-  unmet.Visible = false;
+  unmet.Visible = unmetlabel.Visible = false;
   said.Caption.clear();
   Label3.Caption = chart == 0 ? "" : ChartName(chart);
   step.Current = kChart;
@@ -234,7 +236,7 @@ void frmseating::wishok_Click() {
   }
   Begin(std::move(plan), Current().NumCharts + 1, true);
   for (const Wish& wish : seating.unmet) unmet.List.push_back("Not met: " + WishText(wish));
-  unmet.Visible = !unmet.List.empty();
+  unmet.Visible = unmetlabel.Visible = !unmet.List.empty();
   said.Caption = "Seated by wishes, number " + PlainNumberText(std::int64_t{*number}) + ": " +
                  (unmet.List.empty() ? "all wishes are met."
                                      : PlainNumberText(static_cast<int>(unmet.List.size())) +

@@ -26,7 +26,8 @@ struct frmseating : Portal {
   Grid Grid1;         // the seats; row 0 is at the board
   ListBox students;   // who has no seat
   Label said;         // what the last move did
-  ListBox unmet;      // after a filling by wishes: what could not be met
+  Label unmetlabel;
+  ListBox unmet;  // after a filling by wishes: what could not be met
   CheckBox details;   // absences and the last mark on the cards
   CommandButton newchart, show, delete_, undo, redo, save, prints, exit;
 
