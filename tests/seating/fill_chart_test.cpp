@@ -2,6 +2,7 @@
 #include "seating/fill_chart.h"
 
 #include <cmath>
+#include <map>
 #include <random>
 #include <set>
 

@@ -36,7 +36,7 @@ class SeatingTest : public PortalTest {
     for (int row = 0; row < plan.rows; ++row) cards.push_back(plan.At({row, column}));
     return cards;
   }
-  static void ExpectSound() { EXPECT_EQ(CheckClass(Current()), std::vector<std::string>{}); }
+  static void ExpectSound() { EXPECT_EQ(BrokenInvariants(Current()), std::vector<std::string>{}); }
 };
 
 using Cards = std::vector<std::string>;
