@@ -400,12 +400,12 @@ TEST_F(FrmSeatingTest, AClassWithoutAFileIsSavedAtOnce) {
   Open();
   New(1, 1);
   Save();
-  EXPECT_EQ(window.saves, 1);
+  EXPECT_EQ(window.saved, 1);
   Current().FileName = Path("MATH.TYR");
   driver->PickCell("Grid1", 0, 0);
   driver->Drag("Grid1", "students");
   Save();
-  EXPECT_EQ(window.saves, 1);
+  EXPECT_EQ(window.saved, 1);
   SetClassWindow(nullptr);
 }
 
