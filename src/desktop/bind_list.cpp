@@ -3,6 +3,7 @@
 #include <QListWidget>
 #include <QMouseEvent>
 
+#include "desktop/card_drag.h"
 #include "desktop/control_binding.h"
 #include "desktop/list_columns.h"
 #include "desktop/text_conversion.h"
@@ -17,6 +18,7 @@ class ListBinding : public Binding<ListBox, QListWidget> {
     list.setItemDelegate(columns_);
     list.installEventFilter(this);
     list.viewport()->installEventFilter(this);
+    if (row.drag_drop) LetCardsMove();
     QObject::connect(&list, &QListWidget::currentRowChanged, this, [this] {
       press_is_told_ = true;
       UserDid({&ControlRow::change, &ControlRow::click});
@@ -61,6 +63,16 @@ class ListBinding : public Binding<ListBox, QListWidget> {
   }
 
  private:
+  // A line can be dragged to another control, and what is dragged from there dropped here.
+  void LetCardsMove() {
+    auto* cards = new CardDrag(widget_, QString::fromStdString(row().name));
+    cards->picture = [this](const QPoint& place) {
+      const QListWidgetItem* item = widget_.itemAt(place);
+      return item ? CardPicture(widget_, item->text()) : QPixmap();
+    };
+    cards->dropped = [this](const std::string& source, const QPoint&) { UserDropped(source); };
+  }
+
   // With the focus the list makes its first line the current one, which nobody chose.
   bool TakeFocus(QEvent* event) {
     const QSignalBlocker silence(widget_);

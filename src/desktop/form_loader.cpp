@@ -13,6 +13,7 @@
 #include "desktop/code_page_text_edit.h"
 #include "desktop/date_field.h"
 #include "desktop/grid_widget.h"
+#include "desktop/seats_widget.h"
 #include "desktop/text_conversion.h"
 
 namespace tallyroll {
@@ -23,6 +24,7 @@ QWidget* MakeOwnWidget(const QString& class_name, QWidget* parent) {
   if (class_name == QLatin1String("tallyroll::GridWidget") ||
       class_name == QLatin1String("GridWidget"))
     return new GridWidget(parent);
+  if (class_name == QLatin1String("tallyroll::SeatsWidget")) return new SeatsWidget(parent);
   if (class_name == QLatin1String("QPlainTextEdit")) return new CodePageTextEdit(parent);
   if (class_name == QLatin1String("QDateEdit")) return new DateField(parent);
   return nullptr;

@@ -51,6 +51,7 @@ constexpr std::array kContexts = {
     550,  // summary of settings: frmoptions
     560,  // averages: frmscrnavg
     570,  // all information: frminfo
+    580,  // seating charts: frmseating
 };
 
 }  // namespace

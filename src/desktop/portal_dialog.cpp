@@ -150,6 +150,11 @@ void PortalDialog::UserPressed(ControlBinding& binding, std::initializer_list<Ev
   UserDid(binding, events);
 }
 
+void PortalDialog::UserDropped(ControlBinding& binding, std::string_view source) {
+  const auto& drop = binding.row().drag_drop;
+  if (drop) Raise(std::function<void()>([&] { drop(source); }));
+}
+
 bool PortalDialog::LeaveField() {
   if (!focused_ || !focused_->row().lost_focus) return true;
   QWidget* before = focusWidget();

@@ -51,6 +51,7 @@ class PortalDialog : public QDialog, private BindingOwner {
  private:
   void UserDid(ControlBinding& binding, std::initializer_list<Event> events) override;
   void UserPressed(ControlBinding& binding, std::initializer_list<Event> events) override;
+  void UserDropped(ControlBinding& binding, std::string_view source) override;
 
   void BindControls(const LoadedForm& form);
   void BindRow(ControlRow& row, const LoadedForm& form);

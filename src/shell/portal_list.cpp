@@ -31,6 +31,7 @@
 #include "roster/frmEdit.h"
 #include "roster/frmdelete.h"
 #include "roster/frmstudents.h"
+#include "seating/frmseating.h"
 #include "shell/frmWizard.h"
 #include "shell/frmclassinfo.h"
 #include "shell/frmstartup.h"
@@ -90,7 +91,7 @@ constexpr std::array kPortals{
     PortalRow{"frmstatistic"},
     PortalRow{"frmgraph"},
     PortalRow{"frmwrdproc"},
-    PortalRow{"frmseating"},
+    PortalRow{"frmseating", Make<frmseating>},
     PortalRow{"frmtxt", Make<frmtxt>},
 };
 
