@@ -5,7 +5,6 @@
 
 #include "averages/average_settings.h"
 #include "averages/clipboard_column.h"
-#include "averages/engine/average_state.h"
 #include "averages/type_grid.h"
 #include "base/number_text.h"
 #include "base/run_time_error.h"
@@ -149,14 +148,13 @@ void frmpoints::Sumanry_Click() {
 }
 
 void frmpoints::exit_Click() {
-  i16 total_possible = 0;
   try {
-    total_possible = sums_.total.ToWhole16();
+    static_cast<void>(sums_.total.ToWhole16());
   } catch (const RunTimeError&) {
     ShowMessage("The total points of a class can't be more than 32767.", BoxIcon::kCritical);
     return SetFocus(grdgrade);
   }
-  Accept(total_possible);
+  Accept();
   totals_by_type_.Close();
   if (Current().Method != 2)
     UnloadAndShow("frmpercents");
@@ -166,11 +164,10 @@ void frmpoints::exit_Click() {
     UnloadAndShow("frmroundoff");
 }
 
-void frmpoints::Accept(i16 total_possible) {
+void frmpoints::Accept() {
   Class& c = Current();
   for (int row = 1; row < grdgrade.Rows(); ++row)
     c.InstrumentUse[static_cast<std::size_t>(row)] = Counts(row) ? kCounted : kLeftOut;
-  TotalPossible[static_cast<std::size_t>(CurrentClass)] = total_possible;
   if (DefaultMethod == 2 && c.Method != 2) c.AverageWork1 = 1;
   if (DefaultMethod == 3 && c.Method != 3) c.AverageWork2 = 1;
   if (DefaultMethod == 2 || DefaultMethod == 3) c.Method = DefaultMethod;

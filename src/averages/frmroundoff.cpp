@@ -35,6 +35,12 @@ constexpr std::string_view kExplanation =
     "example, if your school doesn't use a grade of '88' [B+], then enter '101' next to that "
     "grade.)";
 
+// The Portal goes when it is left, but what Skip Rounding put out of force comes back whenever
+// rounding is enabled again.
+i16& RememberedScale() {
+  return SkippedScale[static_cast<std::size_t>(CurrentClass)];
+}
+
 std::array<float, 14>& ScaleOf(i16 scale) {
   return Current().RoundTable[static_cast<std::size_t>(scale)];
 }
@@ -238,15 +244,15 @@ bool frmroundoff::SaveInEmptyScale() {
 void frmroundoff::noskip_Click() {
   Class& c = Current();
   c.RoundMode = 0;
-  c.RoundScale = remembered_scale_;
-  if (remembered_scale_ == kTemporaryScale) changed_ = true;
+  c.RoundScale = RememberedScale();
+  if (c.RoundScale == kTemporaryScale) changed_ = true;
   MarkChanged();
   ShowMode();
 }
 
 void frmroundoff::skip_Click() {
   Class& c = Current();
-  remembered_scale_ = c.RoundScale;
+  RememberedScale() = c.RoundScale;
   if (!SettleChange()) return;
   c.RoundMode = 1;
   if (c.AverageWork1 != 1 && c.Method != 1) c.AverageWork1 = 2;

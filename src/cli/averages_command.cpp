@@ -142,7 +142,6 @@ CommandResult Averages(const AveragesOptions& options) {
   NameMode = options.name_mode;
   std::string reason = OpenClassFile(options.file, options.opening);
   if (!reason.empty()) return Refused(options.file, reason);
-  MakeTotalPossible();
   std::string text;
   reason = options.json ? ArrayText(text) : options.csv ? CsvText(text) : TableText(text);
   return reason.empty() ? Done(text) : Refused(options.file, Utf8FromCodePage(reason));

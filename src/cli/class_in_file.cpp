@@ -3,14 +3,13 @@
 
 #include <filesystem>
 
-#include "attendance/calendar.h"
 #include "base/number_text.h"
 #include "base/run_time_error.h"
 #include "cli/command_line_surroundings.h"
 #include "cli/commands.h"
 #include "cli/date_order.h"
-#include "store/class_defaults.h"
-#include "store/class_file.h"
+#include "shell/opened_class.h"
+#include "store/class_format.h"
 #include "store/older_class_file.h"
 #include "store/program_state.h"
 #include "store/safe_file.h"
@@ -84,13 +83,9 @@ void AddNameMode(Command& command, i16& name_mode) {
 std::string OpenClassFile(const std::string& path, const OpenOptions& options) {
   CommandLineSurroundings surroundings(options.password, DateOrderOfOption(options.date_order));
   CurrentClass = 1;
-  ResetClassSlot();
-  Current().FileName = path;
-  ReadClassFile();
+  const bool opened = OpenClass(path);
   if (!surroundings.Refusal().empty()) return surroundings.Refusal();
-  if (Current().FileName.empty()) return "cannot be opened";
-  if (IsOlderFormat(Current())) RecalculateRangeSummaries();
-  return {};
+  return opened ? "" : "cannot be opened";
 }
 
 std::string WriteClassTo(const std::string& path, const Class& c) {

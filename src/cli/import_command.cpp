@@ -30,8 +30,7 @@ std::string LackingReason(const TextRoster& roster) {
 
 void StartClass() {
   CurrentClass = 1;
-  ResetClassSlot();
-  Current().Magic = "ty8";
+  StartNewClass();
   SetDefaultRoundScale();
   SetDefaultLetterValues();
 }

@@ -24,6 +24,8 @@
 namespace tallyroll {
 namespace {
 
+constexpr i16 kAveragesTab = 4;
+
 struct ReportOptions {
   std::string file;
   int code = 0;
@@ -94,6 +96,8 @@ std::string TakeChoice(const ReportOptions& options, const Report& report) {
   Choice.grade = options.grade;
   Choice.summary = options.summary;
   TakeTypes(options.sort);
+  if (report.tab == kAveragesTab && !HasAverages())
+    return "the class has no averages: it needs grades, and weights or points for them";
   if (report.code == 8) return TakeMonths(options);
   if (report.code == 10 && (options.grade < 1 || options.grade > GradeCount(Current())))
     return "--grade must be a grade of the class, from 1";

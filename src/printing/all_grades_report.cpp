@@ -91,10 +91,9 @@ void PrintAllGrades(ReportPass& pass) {
   StudentHeader(pass, AllGradesTitle(), pass.first == 1);
   if (pass.first == 1) target.Print();
   const std::vector<int> grades = GradesInOrder();
-  PrintSections(pass,
-                {GradesSection(target, grades), TypeTotalsSection(target, TypeTotalRows()),
-                 StudentTailSection(pass)},
-                true);
+  PrintSections(
+      pass, {GradesSection(target, grades), TypeTotalsSection(target), StudentTailSection(pass)},
+      true);
 }
 
 void WriteAllGrades(TextReport& text) {

@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <optional>
 
+#include "averages/average_settings.h"
 #include "base/number_text.h"
 #include "grades/method_reset.h"
 #include "platform/class_window.h"
@@ -185,12 +186,10 @@ void frmprintpre::eight_Click() {
   if (!Refuses("E-mail")) ClassWindow().ShowStatus(kPortalNotAvailable);
 }
 
-// A final grade stands in the report that no grade of the class keeps yet.
+// The report holds final grades, which no grade of the class may keep yet.
 void frmprintpre::QueryUnload() {
   if (Busy()) return;
-  if (Job.ReportCode == kFullClass && Current().Method != kNoMethod &&
-      Ask("Save Rounded Averaged Grades? (Recommended)", BoxButtons::kYesNo, BoxIcon::kQuestion,
-          "Save File") == BoxAnswer::kYes)
+  if (Job.ReportCode == kFullClass && WantsAveragesSaved())
     UnloadAndShow("frmgradesave");
   else
     Unload();

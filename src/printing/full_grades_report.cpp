@@ -67,7 +67,7 @@ void PrintFullGrades(ReportPass& pass) {
                                         }}};
   if (EndsWithDetails()) {
     sections.push_back(CodeDetailsSection(target));
-    sections.push_back(TypeTotalsSection(target, TypeTotalRows()));
+    sections.push_back(TypeTotalsSection(target));
   }
   PrintSections(pass, sections);
 }

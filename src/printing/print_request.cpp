@@ -134,7 +134,9 @@ void frmprintall::preview_Click() {
     PrintMessage message;
     laid_out = LayOut(true);
   }
-  if (laid_out) ShowPortal("frmprintpre");
+  if (!laid_out) return;
+  ShowPortal("frmprintpre");
+  LoadGrades();
 }
 
 }  // namespace tallyroll

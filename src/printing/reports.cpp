@@ -56,6 +56,11 @@ bool Run(const std::function<void()>& writer) {
 
 }  // namespace
 
+bool HasAverages() {
+  constexpr i16 kNoMethod = 5;
+  return Current().NumInstruments > 0 && Current().Method != kNoMethod;
+}
+
 const Report* FindReport(int code) {
   const auto found = std::find_if(kReports.begin(), kReports.end(),
                                   [code](const Report& report) { return report.code == code; });

@@ -19,6 +19,10 @@ struct Report {
   bool one_student = false;
 };
 
+// Whether the class in work can have the reports with averages: grades, and a method to average
+// them.
+bool HasAverages();
+
 // Null for a code that no report has.
 const Report* FindReport(int code);
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "printing/type_totals_table.h"
 
+#include <algorithm>
 #include <array>
 #include <memory>
 #include <string_view>
@@ -24,35 +25,69 @@ bool ReportOnStudent() {
          Job.ReportCode == 18;
 }
 
-void StudentTotals(TypeTotals& totals) {
-  if (ReportWithAverages()) {
-    if (const AverageError error = ComputeAverage(totals))
-      throw ReportEnds{AverageErrorText(error)};
-  } else if (const int error = StudentTotalsByType(totals.counts, totals.sums, totals.maxes)) {
-    throw ReportEnds{AverageErrorText({error, CurrentStudent, 0})};
-  }
-}
+// A type may count more grades of a whole class than of one student.
+struct RunningTotals {
+  std::array<int, kGradeTypes + 1> counts{};
+  TypeSums sums{}, maxes{};
+};
 
-void AddStudent(TypeSums& earned, TypeSums& maxes) {
-  TypeCounts counts{};
-  TypeSums his{}, his_maxes{};
-  if (const int error = StudentTotalsByType(counts, his, his_maxes)) throw RunTimeError{error};
+// A type of which nothing counted brings no sum, whatever mark the average's rule leaves there.
+void AddStudent(RunningTotals& running) {
+  TypeTotals totals;
+  if (const AverageError error = ComputeAverage(totals)) throw ReportEnds{AverageErrorText(error)};
   for (std::size_t t = 1; t <= kGradeTypes; ++t) {
-    earned[t] += his[t];
-    maxes[t] += his_maxes[t];
+    if (totals.counts[t] == 0) continue;
+    running.counts[t] += totals.counts[t];
+    running.sums[t] += totals.sums[t];
+    running.maxes[t] += totals.maxes[t];
   }
 }
 
-// What all students earned, and what they could have earned with the grades that count for each.
-void AddStudents(TypeSums& earned, TypeSums& maxes) {
+// The averages' own count of all students: a grade that is dropped for a student is not in it.
+RunningTotals TotalsOfAllStudents() {
+  RunningTotals running;
   const i16 in_work = CurrentStudent;
   try {
     for (CurrentStudent = 1; CurrentStudent <= Current().NumStudents; ++CurrentStudent)
-      AddStudent(earned, maxes);
+      AddStudent(running);
   } catch (const RunTimeError& fault) {
     throw ReportEnds{AverageErrorText({fault.number, CurrentStudent, 0})};
   }
   CurrentStudent = in_work;
+  return running;
+}
+
+TypeTotals TotalsOfStudent() {
+  TypeTotals totals;
+  if (const int error = StudentTotalsByType(totals.counts, totals.sums, totals.maxes))
+    throw ReportEnds{AverageErrorText({error, CurrentStudent, 0})};
+  return totals;
+}
+
+// With averages the figures are what the averages count, otherwise those of all marks.
+RunningTotals TotalsInReport(const TypeCounts& in_class, const TypeSums& class_maxes) {
+  RunningTotals totals;
+  if (ReportWithAverages() && ReportOnStudent()) {
+    AddStudent(totals);
+  } else if (ReportWithAverages()) {
+    totals = TotalsOfAllStudents();
+  } else if (ReportOnStudent()) {
+    const TypeTotals his = TotalsOfStudent();
+    totals = {{}, his.sums, his.maxes};
+    std::copy(his.counts.begin(), his.counts.end(), totals.counts.begin());
+  } else {
+    std::copy(in_class.begin(), in_class.end(), totals.counts.begin());
+    totals.maxes = class_maxes;
+  }
+  return totals;
+}
+
+int TypesInClass() {
+  TypeCounts in_class{};
+  TypeSums unused{}, maxes{};
+  ClassTotalsByType(in_class, unused, maxes);
+  return static_cast<int>(
+      std::count_if(in_class.begin() + 1, in_class.end(), [](i16 count) { return count != 0; }));
 }
 
 // Percent of the maximum with two decimals, a half going up.
@@ -123,16 +158,7 @@ std::vector<TypeTotalRow> TypeTotalRows() {
   TypeCounts in_class{};
   TypeSums unused{}, class_maxes{};
   ClassTotalsByType(in_class, unused, class_maxes);
-  TypeTotals totals;
-  TypeSums possible{};  // what the percents are of
-  const bool on_student = ReportOnStudent();
-  if (on_student) {
-    StudentTotals(totals);
-    possible = totals.maxes;
-  } else {
-    totals = {in_class, {}, class_maxes};
-    if (ReportWithAverages()) AddStudents(totals.sums, possible);
-  }
+  const RunningTotals totals = TotalsInReport(in_class, class_maxes);
   TypeCodes codes;
   TypeTexts names;
   MakeTypeCodes(codes);
@@ -140,24 +166,25 @@ std::vector<TypeTotalRow> TypeTotalRows() {
   std::vector<TypeTotalRow> rows;
   for (std::size_t t = 1; t <= kGradeTypes; ++t) {
     if (in_class[t] == 0) continue;
-    const Currency sum = totals.counts[t] > 0 ? totals.sums[t] : Currency();
     rows.push_back({std::string(Trim(names[t])), std::string(Trim(codes[t].view())),
-                    totals.counts[t], on_student ? PlainNumberText(sum) : std::string(),
-                    PlainNumberText(totals.maxes[t]), Percent(sum, possible[t]),
+                    totals.counts[t], PlainNumberText(totals.sums[t]),
+                    PlainNumberText(totals.maxes[t]), Percent(totals.sums[t], totals.maxes[t]),
                     PlainNumberText(Current().TypePercents[t])});
   }
   return rows;
 }
 
-Section TypeTotalsSection(PrintTarget& target, std::vector<TypeTotalRow> rows) {
-  const int count = static_cast<int>(rows.size());
-  auto kept = std::make_shared<std::vector<TypeTotalRow>>(std::move(rows));
+// The figures of a whole class take an average of each student, so they are made when the first row
+// is due: most pages have none.
+Section TypeTotalsSection(PrintTarget& target) {
+  auto rows = std::make_shared<std::vector<TypeTotalRow>>();
   const auto move = [&target](double base, int) { target.CurrentX = base * Base(target); };
   const auto put = [&target](std::string_view text) { target.PrintOpen(text); };
-  return {.rows = count,
+  return {.rows = TypesInClass(),
           .print =
-              [&target, kept, move, put](int row) {
-                PutTypeRow((*kept)[static_cast<std::size_t>(row) - 1], move, put);
+              [&target, rows, move, put](int row) {
+                if (rows->empty()) *rows = TypeTotalRows();
+                PutTypeRow((*rows)[static_cast<std::size_t>(row) - 1], move, put);
                 target.Print();
               },
           .head =

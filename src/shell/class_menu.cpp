@@ -15,17 +15,16 @@
 namespace tallyroll {
 namespace {
 
-constexpr auto kRefill = AfterPortal::kRefill;
 constexpr auto kSaveIfDone = AfterPortal::kSaveIfDone;
 
 void EditStudent(Form1& window, int open_state) {
   CurrentStudent = 0;
-  window.RunPortal("frmEdit", open_state, kRefill);
+  window.RunPortal("frmEdit", open_state, AfterPortal::kRefill);
 }
 
 void EditByTitle(Form1& window) {
   CurrentStudent = 0;
-  window.RunPortal("frmEmarks", 0, kRefill);
+  window.RunPortal("frmEmarks", 0, AfterPortal::kRefill);
 }
 
 template <int kIndex>
@@ -101,36 +100,36 @@ constexpr ClassMenuRow kRows[] = {
 
     {.level = 0, .name = "mnuStudents", .caption = "&Students"},
     {.level = 1, .name = "mnuAdd", .caption = "&Add Student", .status = "Enter new students",
-     .shortcut = "Ctrl+Ins", .portal = "frmAdd", .after = kRefill},
+     .shortcut = "Ctrl+Ins", .portal = "frmAdd"},
     {.level = 1, .name = "mmucomment", .caption = "Add &Comment", .status = "Write a comment on a student",
      .portal = "frmEdit", .action = [](Form1& window) { EditStudent(window, kEditAtComment); }},
     {.level = 1, .name = "mnuEdit", .caption = "&Edit ", .status = "Edit names, IDs and supplementary information",
      .shortcut = "Ctrl+E", .portal = "frmEdit", .action = [](Form1& window) { EditStudent(window, kEditStudent); }},
     {.level = 1, .name = "mnuDelete", .caption = "&Delete Student", .status = "Take a student off the roster",
-     .portal = "frmdelete", .after = kRefill},
+     .portal = "frmdelete"},
 
     {.level = 0, .name = "mnuRecords", .caption = "&Records"},
     {.level = 1, .name = "mnuEnterRecords", .caption = "&Enter Records"},
     {.level = 2, .name = "mnuMarks", .caption = "&Grades", .status = "Enter a new grade for every student",
-     .shortcut = "Ctrl+G", .portal = "frmMarks", .after = kRefill},
+     .shortcut = "Ctrl+G", .portal = "frmMarks"},
     {.level = 2, .name = "mnuAttend", .caption = "Daily &Attendance", .status = "Enter the attendance of a day",
      .shortcut = "Ctrl+D", .portal = "frmAtt", .open_state = 15},
     {.level = 2, .name = "mnuattsumm", .caption = "&Summary Attendance", .status = "Enter the attendance of a period",
      .portal = "frmAtsum", .action = [](Form1& window) { window.mnuattsumm_Click(); }},
     {.level = 2, .name = "mnuTransfergrade", .caption = "T&ransfer Grade Between Classes", .status = "Carry a grade to another class",
-     .portal = "frmdGrade", .open_state = 157, .after = kRefill},
+     .portal = "frmdGrade", .open_state = 157},
     {.level = 1, .name = "mnuEditRecords", .caption = "E&dit Records"},
     {.level = 2, .name = "mnuEMarks", .caption = "Edit &Grades"},
     {.level = 3, .name = "mnuEMarksT", .caption = "By &Title of Grade", .status = "Edit a grade of all students",
      .shortcut = "Ctrl+T", .portal = "frmEmarks", .action = EditByTitle},
     {.level = 3, .name = "mnuEMarksS", .caption = "By &Student Name", .status = "Edit all grades of a student",
-     .portal = "frmEMarksS", .after = kRefill},
+     .portal = "frmEMarksS"},
     {.level = 2, .name = "mnucat", .caption = "Edit &Modifiable Grade Type Categories", .status = "Name the grade types of this class",
      .portal = "frmcategories"},
     {.level = 2, .name = "mnuLetter", .caption = "Edit &Numerical Values for  Letter Grades", .status = "Set what each letter grade counts",
      .portal = "frmletter"},
     {.level = 2, .name = "mnureorder", .caption = "Edit &Order of Grade Title", .status = "Put the grades in another order",
-     .portal = "frmdGrade", .open_state = 269, .after = kRefill},
+     .portal = "frmdGrade", .open_state = 269},
     {.level = 2, .name = "mnuedaily", .caption = "Ed&it/Delete  Daily Attendance", .status = "Edit or delete daily attendance",
      .portal = "frmAtt", .open_state = 25},
     {.level = 2, .name = "mnuEAttend", .caption = "E&dit Summary Attendance ", .status = "Edit the attendance of a period",
@@ -138,7 +137,7 @@ constexpr ClassMenuRow kRows[] = {
     {.level = 2, .name = "mnuDAttend", .caption = "Delete Summary A&ttendance", .status = "Delete the attendance of a period",
      .portal = "frmDatt"},
     {.level = 2, .name = "mnuDMarks", .caption = "De&lete Grades", .status = "Delete a grade of all students",
-     .portal = "frmdGrade", .open_state = 121, .after = kRefill},
+     .portal = "frmdGrade", .open_state = 121},
 
     {.level = 0, .name = "mnuequalW", .caption = "&Make Up Grades"},
     {.level = 1, .name = "mnuindweights", .caption = "Assign Weights to &Individual Items ", .status = "Averages by a weight for each grade",

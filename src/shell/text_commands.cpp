@@ -104,7 +104,7 @@ void Form1::StartFromText() {
     CurrentClass = before;
     return;
   }
-  ResetClassSlot();
+  StartNewClass();
   SetNewClassDefaults();
   AddImportedStudents(roster);
   ShowNewClass();
@@ -114,7 +114,7 @@ void Form1::TransferRoster() {
   const i16 source = CurrentClass;
   if (!TakeSlot()) return;
   CurrentClass = static_cast<i16>(SlotIndex);
-  ResetClassSlot();
+  StartNewClass();
   SetNewClassDefaults();
   const Class& from = Classes[static_cast<std::size_t>(source)];
   Class& to = Current();
@@ -129,7 +129,6 @@ void Form1::TransferRoster() {
 }
 
 void Form1::SetNewClassDefaults() {
-  Current().Magic = "ty8";
   SetDefaultRoundScale();
   SetDefaultLetterValues();
   LoadLetterString();

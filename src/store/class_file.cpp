@@ -11,11 +11,11 @@
 #include "platform/surroundings.h"
 #include "store/class_backup.h"
 #include "store/class_defaults.h"
+#include "store/derived_values.h"
 #include "store/mend_class.h"
 #include "store/older_class_file.h"
 #include "store/read_records.h"
 #include "store/side_files.h"
-#include "store/sort_students.h"
 
 namespace tallyroll {
 
@@ -84,7 +84,7 @@ void SettleReadClass(std::size_t file_size, bool older, int error) {
   const int settings = ParseAverageSettings();
   const int derived = PrepareWeights();
   if (settings != 0 || derived != 0) ReportReadError(settings != 0 ? settings : derived);
-  SortStudents();
+  MakeDerivedValues(c);
   Platform().SetWaitCursor(false);
 }
 

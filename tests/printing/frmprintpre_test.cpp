@@ -496,9 +496,10 @@ TEST_F(FrmPrintPreTest, HelpFollowsTheReport) {
   }
 }
 
-TEST_F(FrmPrintPreTest, LeavingTheAveragesOffersToSaveThem) {
+TEST_F(FrmPrintPreTest, LeavingNewAveragesOffersToSaveThem) {
   OpenReport(19, 3);
   Job.ReportCode = 11;
+  Current().AverageWork1 = 2;
   screen.ExpectBox(kSaveQuestion, BoxAnswer::kYes);
   driver->Press("twelve");
   EXPECT_EQ(portal.Next(), "frmgradesave");
@@ -510,10 +511,26 @@ TEST_F(FrmPrintPreTest, LeavingTheAveragesOffersToSaveThem) {
 TEST_F(FrmPrintPreTest, OnNoItLeaves) {
   OpenReport(19, 3);
   Job.ReportCode = 11;
+  Current().Method = 3;
+  Current().AverageWork2 = 1;
   screen.ExpectBox(kSaveQuestion, BoxAnswer::kNo);
   driver->CloseWindow();
   EXPECT_TRUE(portal.Unloaded());
   EXPECT_EQ(portal.Next(), "");
+}
+
+// The weights of items are not asked for under weights of types, nor the other way round.
+TEST_F(FrmPrintPreTest, AveragesThatAreKeptAlreadyAreLeftWithoutAQuestion) {
+  for (const auto& [method, work1, work2] :
+       {std::array<i16, 3>{0, 0, 0}, {0, 0, 2}, {1, 2, 0}, {2, 0, 1}, {3, 0, 0}}) {
+    OpenReport(19, 3);
+    Job.ReportCode = 11;
+    Current().Method = method;
+    Current().AverageWork1 = work1;
+    Current().AverageWork2 = work2;
+    driver->Press("twelve");
+    EXPECT_EQ(portal.Next(), "") << method;
+  }
 }
 
 TEST_F(FrmPrintPreTest, WithoutAMethodNothingIsOffered) {

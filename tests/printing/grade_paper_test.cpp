@@ -78,7 +78,6 @@ TEST_F(GradePaperTest, PointsTellWhatCounts) {
   c.Method = 2;
   c.InstrumentUse = {Currency(), Currency::FromWhole(1), Currency::FromWhole(2),
                      Currency::FromWhole(1)};
-  MakeTotalPossible();
   const Rows rows = RowsOnPaper(12);
   EXPECT_TRUE(Has(rows, "Fractions Q1 Q 9/3/2026 18 20 Y"));
   EXPECT_EQ(Find(Page(1), "N").y, Find(Page(1), "Midterm").y);
@@ -170,8 +169,8 @@ TEST_F(GradePaperTest, WeightsByTypeHaveAColumn) {
 TEST_F(GradePaperTest, TheClassesTableHasThePercentsOfAllStudents) {
   const Rows rows = RowsOnPaper(11);
   // 53.4 of 60 and 129 of 150.
-  EXPECT_TRUE(Has(rows, "Quiz Q 2 30 89"));
-  EXPECT_TRUE(Has(rows, "Test T 1 50 86"));
+  EXPECT_TRUE(Has(rows, "Quiz Q 4 60 89"));
+  EXPECT_TRUE(Has(rows, "Test T 3 150 86"));
   EXPECT_EQ(Find(Page(1), "WT.").x, 6100);
   EXPECT_EQ(Find(Page(1), "25").x, 6100);
 }
