@@ -8,6 +8,7 @@
 #include <initializer_list>
 #include <memory>
 
+#include "platform/chart.h"
 #include "platform/portal.h"
 
 class QWidget;
@@ -85,6 +86,7 @@ BoundControl BindControl(DTPicker&, ControlRow&, QObject&, BindingOwner&);
 BoundControl BindControl(PictureBox&, ControlRow&, QObject&, BindingOwner&);
 BoundControl BindControl(ProgressBar&, ControlRow&, QObject&, BindingOwner&);
 BoundControl BindControl(Grid&, ControlRow&, QObject&, BindingOwner&);
+BoundControl BindControl(Graph&, ControlRow&, QObject&, BindingOwner&);
 
 // A binding that knows the classes of its control and its widget.
 template <typename C, typename W>
