@@ -9,6 +9,7 @@
 #include <memory>
 #include <string_view>
 
+#include "platform/chart.h"
 #include "platform/portal.h"
 
 class QWidget;
@@ -90,6 +91,7 @@ BoundControl BindControl(DTPicker&, ControlRow&, QObject&, BindingOwner&);
 BoundControl BindControl(PictureBox&, ControlRow&, QObject&, BindingOwner&);
 BoundControl BindControl(ProgressBar&, ControlRow&, QObject&, BindingOwner&);
 BoundControl BindControl(Grid&, ControlRow&, QObject&, BindingOwner&);
+BoundControl BindControl(Graph&, ControlRow&, QObject&, BindingOwner&);
 
 // A binding that knows the classes of its control and its widget.
 template <typename C, typename W>

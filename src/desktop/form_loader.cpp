@@ -10,6 +10,7 @@
 #include <QLayout>
 #include <utility>
 
+#include "desktop/chart_widget.h"
 #include "desktop/code_page_text_edit.h"
 #include "desktop/date_field.h"
 #include "desktop/grid_widget.h"
@@ -25,6 +26,7 @@ QWidget* MakeOwnWidget(const QString& class_name, QWidget* parent) {
       class_name == QLatin1String("GridWidget"))
     return new GridWidget(parent);
   if (class_name == QLatin1String("tallyroll::SeatsWidget")) return new SeatsWidget(parent);
+  if (class_name == QLatin1String("tallyroll::ChartWidget")) return new ChartWidget(parent);
   if (class_name == QLatin1String("QPlainTextEdit")) return new CodePageTextEdit(parent);
   if (class_name == QLatin1String("QDateEdit")) return new DateField(parent);
   return nullptr;

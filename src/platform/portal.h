@@ -14,9 +14,9 @@
 
 namespace tallyroll {
 
-using ControlPointer =
-    std::variant<Label*, TextBox*, CommandButton*, CheckBox*, OptionButton*, ListBox*, ComboBox*,
-                 struct Frame*, Pages*, TabStrip*, DTPicker*, PictureBox*, ProgressBar*, Grid*>;
+using ControlPointer = std::variant<Label*, TextBox*, CommandButton*, CheckBox*, OptionButton*,
+                                    ListBox*, ComboBox*, struct Frame*, Pages*, TabStrip*,
+                                    DTPicker*, PictureBox*, ProgressBar*, Grid*, struct Graph*>;
 
 // Keys that a Portal asks for by name; characters come by KeyPress.
 enum class Key {

@@ -4,6 +4,7 @@
 #include <type_traits>
 #include <utility>
 
+#include "platform/chart.h"
 #include "platform/surroundings.h"
 
 namespace tallyroll {

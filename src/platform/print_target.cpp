@@ -21,4 +21,8 @@ void PrintTarget::Tab(int column) {
   CurrentX = passed ? CurrentX + TextWidth(" ") : place;
 }
 
+void PrintTarget::FillRectangle(double x1, double y1, double x2, double y2, PrintColor color) {
+  FillPolygon({{x1, y1}, {x2, y1}, {x2, y2}, {x1, y2}}, color);
+}
+
 }  // namespace tallyroll

@@ -3,10 +3,21 @@
 // or the hidden one on which a report is laid out to find its page breaks.
 #pragma once
 
+#include <cstdint>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace tallyroll {
+
+using PrintColor = std::uint32_t;  // 0xRRGGBB
+
+struct PrintPoint {
+  double x = 0;
+  double y = 0;
+
+  friend bool operator==(const PrintPoint&, const PrintPoint&) = default;
+};
 
 // Lengths in twips, 1/1440 inch. The origin is the corner of the margins once the page is set up.
 class PrintTarget {
@@ -20,6 +31,8 @@ class PrintTarget {
   std::string FontName = "Times New Roman";
   double FontSize = 10;  // points
   bool FontBold = false;
+  PrintColor ForeColor = 0;  // of text and lines
+  double LineWidth = 10;
 
   // The sheet, what of it can be printed on, and where the upper left corner of that lies.
   double Width = 12240;
@@ -45,6 +58,9 @@ class PrintTarget {
   void Tab(int column);
 
   virtual void Line(double x1, double y1, double x2, double y2) = 0;
+  // A surface without an outline.
+  virtual void FillPolygon(const std::vector<PrintPoint>& corners, PrintColor color) = 0;
+  void FillRectangle(double x1, double y1, double x2, double y2, PrintColor color);
   // Text that runs upwards, its beginning at the bottom: x is its left edge, y its lower end.
   virtual void PrintUpwards(std::string_view text, double x, double y) = 0;
 

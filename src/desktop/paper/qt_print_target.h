@@ -27,6 +27,7 @@ class QtPrintTarget : public PrintTarget {
   double TextHeight(std::string_view text) const override;
   double AverageCharWidth() const override;
   void Line(double x1, double y1, double x2, double y2) override;
+  void FillPolygon(const std::vector<PrintPoint>& corners, PrintColor color) override;
   void PrintUpwards(std::string_view text, double x, double y) override;
   void Cls() override;
 
