@@ -76,6 +76,7 @@ TEST_F(FrmTxtTest, AnImportAsksWhereFirst) {
   Classes[1].SlotState = 10;
   Open(kImportNames);
   EXPECT_EQ(Page(), 0);
+  EXPECT_EQ(driver->Focused(), "append");
   EXPECT_EQ(OpenState, 10);
   EXPECT_TRUE(portal.append.Value);
   driver->Press("okbt");
@@ -147,6 +148,9 @@ TEST_F(FrmTxtTest, APreviewShowsTheFirstRowsAndWhatTheyAreTakenFor) {
   EXPECT_EQ(Use(1), "Last name");
   EXPECT_EQ(Use(2), "First name");
   EXPECT_EQ(Use(3), "(not used)");
+  EXPECT_TRUE(portal.preview.Redraw());
+  EXPECT_EQ(driver->Focused(), "preview");
+  EXPECT_EQ(portal.preview.TextMatrix(1, 0), "ID");
   EXPECT_EQ(portal.preview.TextMatrix(1, 3), "Shoe size");
   EXPECT_EQ(portal.preview.Style(1, 3), CellStyle::kShaded);
   EXPECT_EQ(portal.preview.TextMatrix(2, 2), "Ada");
