@@ -125,6 +125,7 @@ TEST_F(SafeFileCallsTest, NoHandleIsLeftOpenAndNoOtherIsClosed) {
   disk.link_error = EPERM;
   EXPECT_EQ(KeepUnderName(Path("f"), Path("g")), 0);
   EXPECT_EQ(OpenHandles(), before);
+  EXPECT_GE(fcntl(STDOUT_FILENO, F_GETFD), 0) << "an earlier save closed it";
 }
 
 // A program that was started without an input gets its number for the first file.
