@@ -111,6 +111,13 @@ TEST_F(AverageByPointsTest, TheTotalNeedsNoUseList) {
   EXPECT_EQ(TotalPossible(), 50);
 }
 
+TEST_F(AverageByPointsTest, AGradeBehindTheEndOfTheUseListCountsInTheTotal) {
+  Put(2, {{"Q", 50, "40"}, {"T", 40, "30"}});
+  Current().InstrumentUse[2] = Money("2");
+  Current().InstrumentUse.pop_back();
+  EXPECT_EQ(PointsAverage(), "40/90 = 44.4444");
+}
+
 TEST_F(AverageByPointsTest, ASumBeyondCurrencyIsAnErrorAtItsGrade) {
   Put(2, {{"Q", 50, "9e14"}, {"T", 50, "9e14"}});
   Points points;
@@ -206,6 +213,24 @@ TEST_F(AverageByPointsAndTypesTest, ATypeWithoutAWeightIsInNothing) {
   EXPECT_EQ(PointsAverage(), "60/60 = 100");
   EXPECT_EQ(Max(kEssay), "0");
   EXPECT_EQ(totals.counts[kEssay], 0);
+}
+
+TEST_F(AverageByPointsAndTypesTest, AWeightOfExactlyZeroIsNone) {
+  Weigh(kQuiz, "0");
+  Weigh(kTest, "100");
+  Put(3, {{"Q", 20, "5"}, {"T", 40, "30"}});
+  // 3000 of 4000, of 40.
+  EXPECT_EQ(PointsAverage(), "30/40 = 75");
+  EXPECT_EQ(totals.counts[kQuiz], 0);
+  EXPECT_EQ(Sum(kQuiz), "0");
+  EXPECT_EQ(Max(kQuiz), "0");
+  Weigh(kTest, "0.0001");
+  // The least weight is one: 30 x 0.0001 = 0.003 of 0.004, of 40.
+  EXPECT_EQ(PointsAverage(), "30/40 = 75");
+  Weigh(kTest, "0");
+  EXPECT_EQ(PointsAverage(), "0/0 = 0");
+  Weigh(kTest, "-1");
+  EXPECT_EQ(PointsAverage(), "0/0 = 0");
 }
 
 TEST_F(AverageByPointsAndTypesTest, WhatIsInNothingIsNeverComputed) {
