@@ -72,7 +72,9 @@ void GridWidget::Measure() {
   const int text_height = std::max(fonts_.plain.Height(), fonts_.bold.Height());
   const double points = QFontInfo(font()).pointSizeF();
   rows_ = RowsOf(*grid_, logicalDpiY(), points, text_height);
-  columns_ = ColumnsOf(*grid_, logicalDpiX(), points);
+  const GridAxis columns = ColumnsOf(*grid_, logicalDpiX(), points);
+  natural_width_ = columns.TotalSize();
+  columns_ = WidenedForTexts(*grid_, columns, fonts_, viewport()->width());
   measured_ = grid_->Revision();
 }
 
@@ -191,7 +193,8 @@ void GridWidget::paintEvent(QPaintEvent* event) {
 
 void GridWidget::resizeEvent(QResizeEvent*) {
   if (!grid_) return;
-  MeasureIfChanged();
+  Measure();
+  ClampView();
   SetScrollBars();
   shown_.top_row = grid_->TopRow;
   shown_.left_col = grid_->LeftCol;
@@ -201,7 +204,7 @@ QSize GridWidget::sizeHint() const {
   const int frame = 2 * frameWidth();
   const QSize scroll_bars(verticalScrollBar()->sizeHint().width(),
                           horizontalScrollBar()->sizeHint().height());
-  const QSize whole = QSize(columns_.TotalSize() + frame, rows_.TotalSize() + frame) + scroll_bars;
+  const QSize whole = QSize(natural_width_ + frame, rows_.TotalSize() + frame) + scroll_bars;
   return grid_ ? whole.boundedTo(kUsualSize) : kUsualSize;
 }
 

@@ -21,6 +21,7 @@ struct frmEmarks : GradeForm {
   i16 Mode = 1;  // of the last check: 1 clean, 2 a required field is empty, 3 mvalue was refused
 
   void list1_Change();
+  void list1_Click();
   void Exitt_Click();
   void cancel_Click();
 
@@ -36,6 +37,7 @@ struct frmEmarks : GradeForm {
   void Store();
   void EnableFields(bool on);
 
+  bool refused_ = false;   // the pick of another title
   int shown_ = 0;          // the Instrument in the fields; 0 is none
   i16 maximum_score_ = 0;  // as the last check found it
 };
