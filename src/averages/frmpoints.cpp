@@ -48,7 +48,9 @@ frmpoints::frmpoints() : Portal("frmpoints") {
 }
 
 void frmpoints::Declare(ControlTable& table) {
-  table.Add("grdgrade", grdgrade).KeyPress([this](unsigned char) { return grdgrade_KeyPress(); });
+  table.Add("grdgrade", grdgrade)
+      .KeyDown([this](Key key) { return key == Key::kEnter && GoToNextRow(grdgrade); })
+      .KeyPress([this](unsigned char) { return grdgrade_KeyPress(); });
   table.Add("totals", totals);
   table.Add("extra", extra);
   table.Add("paste", paste).Click([this] { paste_Click(); });

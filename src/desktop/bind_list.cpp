@@ -21,7 +21,11 @@ class ListBinding : public Binding<ListBox, QListWidget> {
     if (row.drag_drop) LetCardsMove();
     QObject::connect(&list, &QListWidget::currentRowChanged, this, [this] {
       press_is_told_ = true;
-      UserDid({&ControlRow::change, &ControlRow::click});
+      // Keys walk through the lines; a click means the line.
+      if (by_mouse_)
+        UserDid({&ControlRow::change, &ControlRow::click});
+      else
+        UserDid({&ControlRow::change});
     });
     QObject::connect(&list, &QListWidget::itemPressed, this, [this] { MarkCurrent(); });
     QObject::connect(&list, &QListWidget::itemClicked, this, [this] {
@@ -54,8 +58,10 @@ class ListBinding : public Binding<ListBox, QListWidget> {
 
   bool eventFilter(QObject* watched, QEvent* event) override {
     if (event->type() == QEvent::FocusIn && watched == &widget_) return TakeFocus(event);
+    if (event->type() == QEvent::KeyPress) by_mouse_ = false;
     if (event->type() == QEvent::MouseButtonPress) {
       press_is_told_ = false;
+      by_mouse_ = true;
       // A press below the last line would take away the mark but not the choice.
       if (!widget_.itemAt(static_cast<QMouseEvent*>(event)->position().toPoint())) return true;
     }
@@ -125,6 +131,7 @@ class ListBinding : public Binding<ListBox, QListWidget> {
   ListColumns* columns_;  // the list's
   std::vector<std::string> list_;
   bool press_is_told_ = false;
+  bool by_mouse_ = false;  // the last press on the list
 };
 
 }  // namespace

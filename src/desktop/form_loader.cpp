@@ -10,6 +10,7 @@
 #include <QLayout>
 #include <utility>
 
+#include "desktop/cell_list.h"
 #include "desktop/chart_widget.h"
 #include "desktop/code_page_text_edit.h"
 #include "desktop/date_field.h"
@@ -27,7 +28,9 @@ QWidget* MakeOwnWidget(const QString& class_name, QWidget* parent) {
     return new GridWidget(parent);
   if (class_name == QLatin1String("tallyroll::SeatsWidget")) return new SeatsWidget(parent);
   if (class_name == QLatin1String("tallyroll::ChartWidget")) return new ChartWidget(parent);
+  if (class_name == QLatin1String("tallyroll::CellList")) return new CellList(parent);
   if (class_name == QLatin1String("QPlainTextEdit")) return new CodePageTextEdit(parent);
+  if (class_name == QLatin1String("tallyroll::DateArrow")) return new DateArrow(parent);
   if (class_name == QLatin1String("QDateEdit")) return new DateField(parent);
   return nullptr;
 }

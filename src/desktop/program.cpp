@@ -11,6 +11,7 @@
 #include "desktop/help_window.h"
 #include "desktop/palette_icon.h"
 #include "desktop/qt_surroundings.h"
+#include "desktop/wheel_guard.h"
 #include "shell/program.h"
 #include "shell/shell_state.h"
 
@@ -18,6 +19,7 @@ namespace tallyroll {
 
 int RunProgram(QApplication& application, bool dark, const std::string& file) {
   SetAppearance(application, dark);
+  WheelGuard::Install();
   application.setWindowIcon(PaletteIcon(QStringLiteral("tallyroll"), QPalette(Qt::white)));
   // The frame ends the program; the greeting, which may be the only window, must not.
   application.setQuitOnLastWindowClosed(false);

@@ -32,6 +32,15 @@ class FrameWindowTest : public FrameTest {
   const std::string save_question = " Data has been changed. Save File?  ";
 };
 
+TEST_F(FrameWindowTest, FitsASmallScreenWithAndWithoutAClass) {
+  const QSize room(1024 - 16, 640 - 40);
+  EXPECT_LE(window->minimumSizeHint().width(), room.width());
+  EXPECT_LE(window->minimumSizeHint().height(), room.height());
+  OpenClass("MATH.TYR");
+  EXPECT_LE(window->minimumSizeHint().width(), room.width());
+  EXPECT_LE(window->minimumSizeHint().height(), room.height());
+}
+
 TEST_F(FrameWindowTest, ShowsItsOwnMenuUntilAClassIsOpen) {
   EXPECT_THAT(Headings(), ElementsAre("&File", "&Help"));
   Form1& form = OpenClass("MATH.TYR");

@@ -46,6 +46,18 @@ TEST_F(StartPageTest, EachWayToBeginHasALetterOfItsOwn) {
   EXPECT_EQ(QSet<QKeySequence>(letters.begin(), letters.end()).size(), letters.size());
 }
 
+TEST_F(StartPageTest, EnterPressesTheButtonWithTheFocus) {
+  QSignalSpy pressed(page(), &StartPage::Pressed);
+  RecordPortals();
+  DataFolder = folder;
+  for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Enter}) {
+    Button("mnuown")->setFocus(Qt::TabFocusReason);
+    QTest::keyClick(Button("mnuown"), key);
+    Settle();
+  }
+  EXPECT_EQ(portals_asked_for, (std::vector<std::string>{"frmAdd", "frmAdd"}));
+}
+
 TEST_F(StartPageTest, EachWayToBeginPressesItsMenuEntry) {
   QSignalSpy pressed(page(), &StartPage::Pressed);
   RecordPortals();
