@@ -16,6 +16,7 @@ namespace {
 struct BuildOptions {
   std::string json;
   std::string file;
+  bool force = false;
 };
 
 // The JSON text; `reason` says why there is none.
@@ -34,7 +35,7 @@ CommandResult Build(const BuildOptions& options, std::istream& in) {
   const std::string text = ReadJson(options.json, in, reason);
   if (reason.empty()) reason = ReadClassFromJson(text);
   if (!reason.empty()) return Refused(options.json, reason);
-  reason = WriteClassTo(options.file, Current());
+  reason = WriteClassTo(options.file, Current(), options.force);
   return reason.empty() ? Done() : Refused(options.file, reason);
 }
 
@@ -46,6 +47,7 @@ void AddBuildCommand(CLI::App& app, ChosenCommand& chosen) {
   const auto options = std::make_shared<BuildOptions>();
   command->add_option("JSON", options->json, "the JSON file, - for standard input")->required();
   command->add_option("FILE", options->file, "the class file to write")->required();
+  AddForce(*command, options->force);
   command->callback(
       [&chosen, options] { chosen = [options](std::istream& in) { return Build(*options, in); }; });
 }

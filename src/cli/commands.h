@@ -32,6 +32,8 @@ using ChosenCommand = std::function<CommandResult(std::istream& in)>;
 // Adds --password and --date-order to a command that opens a class.
 struct OpenOptions;
 void AddOpenOptions(CLI::App& command, OpenOptions& options);
+// Adds --force to a command that writes a class.
+void AddForce(CLI::App& command, bool& force);
 // How names and IDs are shown and sorted.
 void AddNameMode(CLI::App& command, i16& name_mode);
 

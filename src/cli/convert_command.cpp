@@ -12,6 +12,7 @@ namespace {
 struct ConvertOptions {
   std::string from;
   std::string to;
+  bool force = false;
   OpenOptions opening;
 };
 
@@ -25,7 +26,7 @@ CommandResult Convert(const ConvertOptions& options) {
     return Refused(options.from, "is already in the current format");
   }
   Current().Magic = "ty8";
-  reason = WriteClassTo(options.to, Current());
+  reason = WriteClassTo(options.to, Current(), options.force);
   return reason.empty() ? Done() : Refused(options.to, reason);
 }
 
@@ -38,6 +39,7 @@ void AddConvertCommand(CLI::App& app, ChosenCommand& chosen) {
   command->add_option("OLD", options->from, "the older class file")->required();
   command->add_option("NEW", options->to, "the class file to write")->required();
   AddOpenOptions(*command, options->opening);
+  AddForce(*command, options->force);
   command->callback(
       [&chosen, options] { chosen = [options](std::istream&) { return Convert(*options); }; });
 }

@@ -2,6 +2,8 @@
 #include "grades/grade_clipboard.h"
 
 #include <array>
+#include <unordered_map>
+#include <utility>
 
 #include "base/line_reader.h"
 #include "base/number_text.h"
@@ -40,6 +42,27 @@ std::optional<GradeHeaderText> NextHeader(LineReader& lines) {
     if ((header.*field).size() > kLongestText) return std::nullopt;
   }
   return header;
+}
+
+using StudentsById = std::unordered_map<std::string_view, int>;
+
+// The first student of each ID.
+StudentsById FirstStudents(const Class& c) {
+  StudentsById students;
+  for (int i = 1; i <= c.NumStudents; ++i)
+    students.try_emplace(Trim(c.Students[static_cast<std::size_t>(i)].id), i);
+  return students;
+}
+
+// The longest ID that a comma closes is that before the last comma.
+std::optional<MarkText> MarkOfLine(std::string_view line, const StudentsById& students) {
+  for (std::size_t comma = line.rfind(','); comma != std::string_view::npos;
+       comma = comma == 0 ? std::string_view::npos : line.rfind(',', comma - 1)) {
+    const auto found = students.find(Trim(line.substr(0, comma)));
+    if (found != students.end())
+      return MarkText{found->second, std::string(Trim(line.substr(comma + 1)))};
+  }
+  return std::nullopt;
 }
 
 }  // namespace
@@ -87,13 +110,12 @@ std::optional<GradeText> ReadGrade(std::string_view clipboard) {
   const auto count = lines.Next();
   if (!header || !count) return std::nullopt;
   GradeText grade{*header, {}};
+  const StudentsById students = FirstStudents(Current());
   for (double left = LeadingNumber(*count); left >= 1; --left) {
     const auto line = lines.Next();
     if (!line) return std::nullopt;
-    const std::size_t comma = line->find(',');
-    if (comma == std::string_view::npos) return std::nullopt;
-    grade.marks.push_back(
-        {std::string(line->substr(0, comma)), std::string(Trim(line->substr(comma + 1)))});
+    if (line->find(',') == std::string_view::npos) return std::nullopt;
+    if (auto mark = MarkOfLine(*line, students)) grade.marks.push_back(std::move(*mark));
   }
   return grade;
 }

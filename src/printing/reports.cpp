@@ -12,6 +12,8 @@
 #include "printing/report_writers.h"
 #include "store/program_state.h"
 #include "store/safe_file.h"
+#include "store/saved_text.h"
+#include "store/settings.h"
 
 namespace tallyroll {
 namespace {
@@ -94,7 +96,7 @@ std::string ReportText() {
 int SaveReportText(const std::string& path) {
   const std::string text = ReportText();
   if (Job.PrintFlag == kPrintCancelled) return 0;
-  const int error = ReplaceFile(path, text, OldTail::kDrop);
+  const int error = ReplaceFile(path, EncodedText(text, SavedTextEncoding), OldTail::kDrop);
   if (error != 0) ShowMessage("File Error");
   return error;
 }

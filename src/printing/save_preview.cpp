@@ -10,6 +10,7 @@
 #include "printing/report_choice.h"
 #include "printing/reports.h"
 #include "printing/running.h"
+#include "store/saved_text.h"
 
 namespace tallyroll {
 namespace {
@@ -25,7 +26,8 @@ std::string AskForName(std::string_view filter, std::string_view extension, std:
   request.default_extension = extension;
   request.overwrite_prompt = true;
   request.help_context = kSavingTopic;
-  std::string path = Platform().FileDialog(request).value_or("");
+  const bool text = extension == "TXT";
+  std::string path = (text ? AskForText(request) : Platform().FileDialog(request)).value_or("");
   if (!path.empty()) folder = std::filesystem::path(path).parent_path().string();
   return path;
 }
