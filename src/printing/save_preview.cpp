@@ -10,6 +10,7 @@
 #include "printing/report_choice.h"
 #include "printing/reports.h"
 #include "printing/running.h"
+#include "store/class_file.h"
 #include "store/saved_text.h"
 
 namespace tallyroll {
@@ -17,7 +18,8 @@ namespace {
 
 constexpr int kSavingTopic = 120;
 
-// The name to save under; empty when the dialog was cancelled. `folder` follows it.
+// The name to save under; empty when the dialog was cancelled, or an open class would be lost.
+// `folder` follows it.
 std::string AskForName(std::string_view filter, std::string_view extension, std::string& folder) {
   FileDialogRequest request;
   request.save = true;
@@ -28,8 +30,11 @@ std::string AskForName(std::string_view filter, std::string_view extension, std:
   request.help_context = kSavingTopic;
   const bool text = extension == "TXT";
   std::string path = (text ? AskForText(request) : Platform().FileDialog(request)).value_or("");
-  if (!path.empty()) folder = std::filesystem::path(path).parent_path().string();
-  return path;
+  if (path.empty()) return path;
+  folder = std::filesystem::path(path).parent_path().string();
+  if (!IsOpenClassFile(path)) return path;
+  ShowMessage(" The file is already open ");
+  return {};
 }
 
 }  // namespace

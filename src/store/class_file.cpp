@@ -2,6 +2,8 @@
 // The two routines that every open and every save go through.
 #include "store/class_file.h"
 
+#include <algorithm>
+
 #include "base/code_page.h"
 #include "base/number_text.h"
 #include "base/run_time_error.h"
@@ -145,6 +147,12 @@ void ReportFailedSave(int error) {
 }
 
 }  // namespace
+
+bool IsOpenClassFile(const std::string& path) {
+  return std::any_of(Classes.begin(), Classes.end(), [&](const Class& c) {
+    return !c.FileName.empty() && CanonicalPath(c.FileName) == CanonicalPath(path);
+  });
+}
 
 void ReportReadError(int error) {
   ShowMessage("File Error: " + PlainNumberText(error), BoxIcon::kExclamation);

@@ -93,8 +93,7 @@ GradeFile ReadGradeText(std::string_view bytes, i16 mode, const CsvColumns& colu
     return file;
   }
   file.found.resize(static_cast<std::size_t>(Current().NumStudents) + 1);
-  const std::size_t name_room = mode == kColumnsText ? kTextFields[1].length : std::string::npos;
-  StudentMatcher matcher(open_state == kGradesByName, name_room);
+  StudentMatcher matcher(open_state == kGradesByName, mode);
   if (mode == kCsvText)
     ReadRecords(*source, columns, open_state, matcher, file);
   else

@@ -14,14 +14,6 @@ namespace tallyroll {
 namespace {
 
 constexpr std::string_view kLineEnd = "\r\n";
-constexpr char kRightQuote = '\x92';  // the apostrophe that is no field mark
-
-// What is written for a field mark inside a value.
-char Nearest(char separator) {
-  if (separator == '\'') return kRightQuote;
-  return separator == '"' ? '\'' : ' ';
-}
-
 // No text file holds them: a reader would end the line there, or take the file for no text.
 bool IsControl(char c) {
   return c >= '\0' && c < ' ' && c != '\t';
@@ -50,11 +42,7 @@ class LineWriter {
  private:
   // The value as it can stand in a line.
   std::string Kept(std::string_view value) {
-    std::string kept(value);
-    for (char& c : kept) {
-      if (IsControl(c)) c = ' ';
-      if (separator_ != 0 && c == separator_) c = Nearest(separator_);
-    }
+    std::string kept = WrittenIn(mode_, value);
     if (kept != value) ++out_.changed;
     return kept;
   }

@@ -364,6 +364,21 @@ TEST_F(FrmPrintPreTest, TextIsSavedInTheEncodingThatTheDialogAnswers) {
   EXPECT_EQ(screen.settings["TALLYRLG8/startup/ENCODING"], "windows-1252");
 }
 
+TEST_F(FrmPrintPreTest, NoReportGoesOverAnOpenClass) {
+  OpenReport(19, 3);
+  Current().FileName = Path("class.TYR");
+  ASSERT_EQ(ReplaceFile(Path("class.TYR"), "ty8 and so on", OldTail::kDrop), 0);
+  std::filesystem::create_symlink(Path("class.TYR"), Path("link.txt"));
+  for (const char* button : {"nine", "ten", "pdf"}) {
+    for (const char* name : {"class.TYR", "link.txt"}) {
+      screen.ExpectFileDialog(Path(name));
+      screen.ExpectBox(" The file is already open ");
+      driver->Press(button);
+      EXPECT_EQ(FileBytes(Path("class.TYR")), "ty8 and so on") << button;
+    }
+  }
+}
+
 TEST_F(FrmPrintPreTest, SavesTheReportAsHtml) {
   OpenReport(19, 3);
   screen.ExpectFileDialog(Path("roster.htm"));
