@@ -145,9 +145,11 @@ std::string RunsJson(const std::vector<AbsenceRun>& runs) {
 
 // ---- The command ----
 
+// Empty when nobody was absent on so many days in a row.
 std::string Output(const AttendanceOptions& options, DayRange range) {
   if (options.consecutive > 0) {
     const std::vector<AbsenceRun> runs = AbsencesInARow(range, options.consecutive);
+    if (runs.empty()) return {};
     return options.json ? RunsJson(runs) : options.csv ? RunsCsv(runs) : RunsTable(runs);
   }
   return options.json ? CountsJson(range) : options.csv ? CountsCsv(range) : CountsTable(range);
@@ -157,6 +159,7 @@ CommandResult Attendance(const AttendanceOptions& options) {
   NameMode = options.name_mode;
   std::string reason = OpenClassFile(options.file, options.opening);
   if (!reason.empty()) return Refused(options.file, reason);
+  if (Current().NumStudents == 0) return Refused(options.file, kNoStudents);
   DayRange range{1, Current().NumDays};
   if (!options.months.empty()) {
     MonthRange months;
@@ -165,7 +168,12 @@ CommandResult Attendance(const AttendanceOptions& options) {
     const CivilDate last = DateOfSerial(months.last);
     range = DaysBetween(months.first, DateSerial({last.year, last.month + 1, 1}) - 1);
   }
-  return Done(Output(options, range));
+  std::string text = Output(options, range);
+  if (text.empty())
+    return Refused(options.file, "no student was absent on " +
+                                     PlainNumberText(options.consecutive) +
+                                     " or more marked days in a row");
+  return Done(std::move(text));
 }
 
 }  // namespace

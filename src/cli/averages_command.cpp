@@ -132,7 +132,7 @@ std::string ArrayText(std::string& text) {
         text += i == 1 ? "\n" : ",\n";
         AddJsonObject(student, outcome, text);
       });
-  text += Current().NumStudents == 0 ? "]\n" : "\n]\n";
+  text += "\n]\n";
   return reason;
 }
 
@@ -142,6 +142,7 @@ CommandResult Averages(const AveragesOptions& options) {
   NameMode = options.name_mode;
   std::string reason = OpenClassFile(options.file, options.opening);
   if (!reason.empty()) return Refused(options.file, reason);
+  if (Current().NumStudents == 0) return Refused(options.file, kNoStudents);
   std::string text;
   reason = options.json ? ArrayText(text) : options.csv ? CsvText(text) : TableText(text);
   return reason.empty() ? Done(text) : Refused(options.file, Utf8FromCodePage(reason));

@@ -15,6 +15,7 @@ namespace {
 struct BuildOptions {
   std::string json;
   std::string file;
+  bool force = false;
 };
 
 // The JSON text; `reason` says why there is none.
@@ -33,7 +34,7 @@ CommandResult Build(const BuildOptions& options, std::istream& in) {
   const std::string text = ReadJson(options.json, in, reason);
   if (reason.empty()) reason = ReadClassFromJson(text);
   if (!reason.empty()) return Refused(options.json, reason);
-  reason = WriteClassTo(options.file, Current());
+  reason = WriteClassTo(options.file, Current(), options.force);
   return reason.empty() ? Done() : Refused(options.file, reason);
 }
 
@@ -44,6 +45,7 @@ void AddBuildCommand(Command& app, ChosenCommand& chosen) {
   const auto options = std::make_shared<BuildOptions>();
   command.AddOption("JSON", options->json, "the JSON file, - for standard input").Required();
   command.AddOption("FILE", options->file, "the class file to write").Required();
+  AddForce(command, options->force);
   command.WhenChosen(
       [&chosen, options] { chosen = [options](std::istream& in) { return Build(*options, in); }; });
 }

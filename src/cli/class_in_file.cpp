@@ -9,6 +9,7 @@
 #include "cli/commands.h"
 #include "cli/date_order.h"
 #include "shell/opened_class.h"
+#include "store/class_backup.h"
 #include "store/class_format.h"
 #include "store/older_class_file.h"
 #include "store/program_state.h"
@@ -88,10 +89,34 @@ std::string OpenClassFile(const std::string& path, const OpenOptions& options) {
   return opened ? "" : "cannot be opened";
 }
 
-std::string WriteClassTo(const std::string& path, const Class& c) {
+void AddForce(Command& command, bool& force) {
+  command.AddFlag("--force", force,
+                   "replace a file that is there already; the old one is kept as a backup");
+}
+
+std::string WriteClassTo(const std::string& path, const Class& c, bool force) {
+  std::error_code ignored;  // what cannot be looked at cannot be written, and the writer says so
+  const bool there = std::filesystem::is_regular_file(path, ignored);
+  if (there && !force) return "exists already (--force replaces it and keeps a backup)";
   std::string bytes;
+  Backup backup;
   int error = SerializeClass(c, bytes);
+  if (error == 0 && there) error = BackUpReplacedFile(path, backup);
   if (error == 0) error = ReplaceFile(path, bytes, OldTail::kDrop);
+  if (error != 0) TakeBack(backup);
+  return error == 0 ? "" : FileErrorText(error);
+}
+
+std::string WhyNotOver(const std::string& path) {
+  const FileContents there = ReadWholeFile(path);
+  const bool holds_class = there.bytes.starts_with("ty8") || IsOlderMark(there.bytes.substr(0, 3));
+  return holds_class ? "is a class file, which is left as it is" : "";
+}
+
+std::string WriteFileTo(const std::string& path, std::string_view bytes) {
+  std::string reason = WhyNotOver(path);
+  if (!reason.empty()) return reason;
+  const int error = ReplaceFile(path, bytes, OldTail::kDrop);
   return error == 0 ? "" : FileErrorText(error);
 }
 

@@ -29,6 +29,8 @@ using ChosenCommand = std::function<CommandResult(std::istream& in)>;
 // Adds --password and --date-order to a command that opens a class.
 struct OpenOptions;
 void AddOpenOptions(Command& command, OpenOptions& options);
+// Adds --force to a command that writes a class.
+void AddForce(Command& command, bool& force);
 // How names and IDs are shown and sorted.
 void AddNameMode(Command& command, i16& name_mode);
 

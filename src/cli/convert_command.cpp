@@ -11,6 +11,7 @@ namespace {
 struct ConvertOptions {
   std::string from;
   std::string to;
+  bool force = false;
   OpenOptions opening;
 };
 
@@ -24,7 +25,7 @@ CommandResult Convert(const ConvertOptions& options) {
     return Refused(options.from, "is already in the current format");
   }
   Current().Magic = "ty8";
-  reason = WriteClassTo(options.to, Current());
+  reason = WriteClassTo(options.to, Current(), options.force);
   return reason.empty() ? Done() : Refused(options.to, reason);
 }
 
@@ -36,6 +37,7 @@ void AddConvertCommand(Command& app, ChosenCommand& chosen) {
   command.AddOption("OLD", options->from, "the older class file").Required();
   command.AddOption("NEW", options->to, "the class file to write").Required();
   AddOpenOptions(command, options->opening);
+  AddForce(command, options->force);
   command.WhenChosen(
       [&chosen, options] { chosen = [options](std::istream&) { return Convert(*options); }; });
 }

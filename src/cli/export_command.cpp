@@ -6,7 +6,6 @@
 #include "cli/commands.h"
 #include "cli/text_layouts.h"
 #include "store/program_state.h"
-#include "store/safe_file.h"
 #include "store/text_export.h"
 
 namespace tallyroll {
@@ -22,6 +21,7 @@ struct ExportOptions {
   std::string out;
   std::string what;
   std::string layout;
+  std::string encoding;  // empty: the layout's usual one
   i16 name_mode = 68;
   OpenOptions opening;
 };
@@ -30,12 +30,16 @@ CommandResult Export(const ExportOptions& options) {
   if (IsSameFile(options.file, options.out))
     return Refused(options.out, "is the class file itself, which is left as it is");
   NameMode = options.name_mode;
-  const std::string reason = OpenClassFile(options.file, options.opening);
+  std::string reason = OpenClassFile(options.file, options.opening);
   if (!reason.empty()) return Refused(options.file, reason);
-  const TextOfClass text =
-      ExportText(Current(), kWhats.at(options.what), kTextLayouts.at(options.layout));
-  if (const int error = ReplaceFile(options.out, text.bytes, OldTail::kDrop))
-    return Refused(options.out, FileErrorText(error));
+  if (Current().NumStudents == 0) return Refused(options.file, kNoStudents);
+  const int what = kWhats.at(options.what);
+  const i16 layout = kTextLayouts.at(options.layout);
+  const TextOfClass text = options.encoding.empty() ? ExportText(Current(), what, layout)
+                                                    : ExportText(Current(), what, layout,
+                                                                 kEncodings.at(options.encoding));
+  reason = WriteFileTo(options.out, text.bytes);
+  if (!reason.empty()) return Refused(options.out, reason);
   if (text.changed == 0) return Done();
   return Done("values changed to fit the layout: " + PlainNumberText(text.changed) + "\n");
 }
@@ -53,6 +57,10 @@ void AddExportCommand(Command& app, ChosenCommand& chosen) {
       .Required()
       .OneOf(NamesOf(kTextLayouts));
   command.AddOption("--out", options->out, "the text file to write").Required();
+  command
+      .AddOption("--encoding", options->encoding,
+                 "utf-8 with its mark, or windows-1252; otherwise utf-8 for csv alone")
+      .OneOf(NamesOf(kEncodings));
   command
       .AddOption("--name-mode", options->name_mode,
                  "the order of the students: by name 68 or 57, by ID 82 or 73")

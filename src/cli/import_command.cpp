@@ -20,6 +20,7 @@ struct ImportOptions {
   std::string file;
   std::string layout;
   bool leave_out = false;
+  bool force = false;
 };
 
 std::string LackingReason(const TextRoster& roster) {
@@ -35,6 +36,13 @@ void StartClass() {
   SetDefaultLetterValues();
 }
 
+std::string Told(const ImportOutcome& outcome) {
+  if (outcome.given.empty()) return {};
+  std::string text = GivenIdsSentence(outcome) + "\n";
+  for (const std::string& line : GivenIdLines(outcome)) text += line + "\n";
+  return Utf8FromCodePage(text);
+}
+
 CommandResult Import(const ImportOptions& options) {
   if (IsSameFile(options.text, options.file))
     return Refused(options.file, "is the text file itself, which is left as it is");
@@ -47,9 +55,10 @@ CommandResult Import(const ImportOptions& options) {
 
   const CommandLineSurroundings surroundings({}, DateOrderOfOption(""));
   StartClass();
-  if (const int error = AddStudents(roster)) return Refused(options.text, FileErrorText(error));
-  const std::string reason = WriteClassTo(options.file, Current());
-  return reason.empty() ? Done() : Refused(options.file, reason);
+  const ImportOutcome outcome = AddStudents(roster);
+  if (outcome.error != 0) return Refused(options.text, FileErrorText(outcome.error));
+  const std::string reason = WriteClassTo(options.file, Current(), options.force);
+  return reason.empty() ? Done(Told(outcome)) : Refused(options.file, reason);
 }
 
 }  // namespace
@@ -65,6 +74,7 @@ void AddImportCommand(Command& app, ChosenCommand& chosen) {
       .OneOf(NamesOf(kTextLayouts));
   command.AddFlag("--leave-out", options->leave_out,
                   "leave a value empty that a class file cannot hold, and import the rest");
+  AddForce(command, options->force);
   command.WhenChosen(
       [&chosen, options] { chosen = [options](std::istream&) { return Import(*options); }; });
 }

@@ -13,23 +13,25 @@
 #include "cli/date_order.h"
 #include "cli/months_option.h"
 #include "cli/pdf.h"
+#include "cli/text_layouts.h"
 #include "grades/marks.h"
 #include "printing/html_report.h"
 #include "printing/report_choice.h"
 #include "printing/reports.h"
 #include "store/program_state.h"
-#include "store/safe_file.h"
+#include "store/saved_text.h"
 #include "store/sort_students.h"
 
 namespace tallyroll {
 namespace {
 
 constexpr i16 kAveragesTab = 4;
+constexpr int kClassInformation = 22;
 
 struct ReportOptions {
   std::string file;
   int code = 0;
-  std::string out, format;
+  std::string out, format, encoding = "windows-1252";
   std::vector<std::string> students;
   bool attendance = false, comments = false, parent_signature = false;
   bool school = false, teacher = false, code_details = false;
@@ -82,6 +84,8 @@ void TakeTypes(const std::string& sort) {
 }
 
 std::string TakeChoice(const ReportOptions& options, const Report& report) {
+  // Only what the class says of itself stands without students.
+  if (Current().NumStudents == 0 && report.code != kClassInformation) return kNoStudents;
   Choice = ReportChoice();
   Choice.attendance1 = options.attendance;
   Choice.comment1 = options.comments;
@@ -121,6 +125,8 @@ std::string DocumentTitle(const ReportOptions& options) {
 
 CommandResult MakePdf(const ReportOptions& options, const CommandLineSurroundings& surroundings) {
   if (options.out.empty()) return Refused(options.file, "a PDF needs --out");
+  const std::string reason = WhyNotOver(options.out);
+  if (!reason.empty()) return Refused(options.out, reason);
   const PdfOutcome outcome = WritePdf(options.out, DocumentTitle(options));
   if (!outcome.refusal.empty()) return Refused(options.file, outcome.refusal);
   if (outcome.error != 0) return Refused(options.out, FileErrorText(outcome.error));
@@ -151,10 +157,12 @@ CommandResult MakeReport(const ReportOptions& options) {
   if (format == "pdf") return MakePdf(options, surroundings);
   const std::string bytes = format == "html" ? ReportHtml() : ReportText();
   if (Job.PrintFlag == kPrintCancelled) return Refused(options.file, surroundings.Refusal());
+  if (bytes.empty()) return Refused(options.file, "there is nothing to report");
   if (options.out.empty()) return Done(Utf8FromCodePage(bytes));
-  if (const int error = ReplaceFile(options.out, bytes, OldTail::kDrop))
-    return Refused(options.out, FileErrorText(error));
-  return Done();
+  const bool html = format == "html";
+  reason =
+      WriteFileTo(options.out, html ? bytes : EncodedText(bytes, kEncodings.at(options.encoding)));
+  return reason.empty() ? Done() : Refused(options.out, reason);
 }
 
 std::string CheckDate(const std::string& text) {
@@ -176,6 +184,10 @@ void AddReportCommand(Command& app, ChosenCommand& chosen) {
   command.AddOption("--out", options->out, "the file to write: .txt, .htm or .pdf");
   command.AddOption("--format", options->format, "whatever the file's name says")
       .OneOf({"text", "html", "pdf"});
+  command
+      .AddOption("--encoding", options->encoding,
+                 "of a text file: windows-1252, or utf-8 with its mark")
+      .OneOf(NamesOf(kEncodings));
   command.AddOption("--student", options->students, "a student's ID; may be given again")
       .OneValueEach();
   command.AddFlag("--attendance", options->attendance, "with attendance summaries");

@@ -39,6 +39,7 @@ CommandResult Show(const ShowOptions& options) {
   const std::string reason = OpenClassFile(options.file, options.opening);
   if (!reason.empty()) return Refused(options.file, reason);
   const Class& c = Current();
+  if (c.NumStudents == 0) return Refused(options.file, kNoStudents);
   Table table = {HeadingRow(c)};
   for (int i = 1; i <= c.NumStudents; ++i) table.push_back(StudentRow(c, i));
   return Done(Utf8FromCodePage(ClassHeading(c) + AlignedText(table)));

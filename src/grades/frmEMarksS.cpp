@@ -74,7 +74,7 @@ void frmEMarksS::Show(int student) {
   shown_ = student;
   lstName.ListIndex = student - 1;
   for (int k = 1; k < grdgrade.Rows(); ++k)
-    grdgrade.SetTextMatrix(k, kMarkColumn, TrimRight(MarkOf(Shown(), k)));
+    grdgrade.SetTextMatrix(k, kMarkColumn, ShownMark(MarkOf(Shown(), k)));
   marks.StartOver();
   marks.Enable(true);
   DataChanged = false;
@@ -114,7 +114,7 @@ void frmEMarksS::Store() {
   for (int k = 1; k < grdgrade.Rows(); ++k) {
     const std::string_view cell = grdgrade.TextMatrix(k, kMarkColumn);
     ShortText& mark = row[static_cast<std::size_t>(k)];
-    if (cell != TrimRight(mark)) mark = cell;
+    if (cell != ShownMark(mark)) mark = cell;
   }
   Current().Changed = kTrue;
   DataChanged = false;

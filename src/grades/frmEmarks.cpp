@@ -96,7 +96,7 @@ void frmEmarks::makefields() {
   tempdate.Visible = !date;
   ChooseType(TypeOfCode(grade.typecode));
   for (int i = 1; i < Grid1.Rows(); ++i)
-    SetMarkCell(i, TrimRight(MarkOf(c.Students[static_cast<std::size_t>(i)], shown_)));
+    SetMarkCell(i, MarkOf(c.Students[static_cast<std::size_t>(i)], shown_));
   marks.StartOver();
   EnableFields(true);
   DatePicked = DataChanged = false;
@@ -160,7 +160,7 @@ void frmEmarks::Store() {
     List<ShortText>& row = c.Students[static_cast<std::size_t>(i)].Marks;
     if (shown_ > UpperBound(row)) ReDimPreserve(row, c.NumInstruments, ShortText(kNewMark));
     ShortText& mark = row[static_cast<std::size_t>(shown_)];
-    if (MarkCell(i) != TrimRight(mark)) mark = MarkCell(i);
+    if (MarkCell(i) != ShownMark(mark)) mark = MarkCell(i);
   }
   Instrument& grade = Shown();
   Keep(title.Text, grade.title);

@@ -22,6 +22,10 @@ bool Blank(std::string_view text) {
   return Trim(text).empty();
 }
 
+void TellNoWholeNumber() {
+  ShowMessage("Maximum Score must be a whole number", BoxIcon::kNone, "Note to the teacher.");
+}
+
 }  // namespace
 
 GradeForm::GradeForm(std::string_view name)
@@ -67,7 +71,7 @@ void GradeForm::DeclareHeader(ControlTable& table, std::string_view title_name) 
 
 bool GradeForm::mvalue_KeyPress(unsigned char key) {
   if (key != '.') return false;
-  ShowMessage("Maximum Score must be a whole number", BoxIcon::kNone, "Note to the teacher.");
+  TellNoWholeNumber();
   return true;
 }
 
@@ -107,7 +111,7 @@ std::string_view GradeForm::MarkCell(int student) const {
 }
 
 void GradeForm::SetMarkCell(int student, std::string_view mark) {
-  Grid1.SetTextMatrix(student, kMarkColumn, mark);
+  Grid1.SetTextMatrix(student, kMarkColumn, ShownMark(mark));
 }
 
 bool GradeForm::EveryMarkEmpty() const {
@@ -140,8 +144,13 @@ std::optional<i16> GradeForm::CheckMaximumScore(std::string_view note_title) {
   const double number = LeadingNumber(mvalue.Text);
   try {
     const i16 score = RoundToInt16(number);
-    if (score != 0) return score;
-    ShowMessage("The value for Maximum Score must be greater than 0", BoxIcon::kNone, note_title);
+    // "1,000" begins with 1, and is not meant so.
+    const bool whole = WholeNumberText(mvalue.Text).has_value();
+    if (score != 0 && whole) return score;
+    if (score != 0)
+      TellNoWholeNumber();
+    else
+      ShowMessage("The value for Maximum Score must be greater than 0", BoxIcon::kNone, note_title);
   } catch (const RunTimeError&) {
     ShowMessage(number < 0 ? "The value for Maximum Score must not be less than -32768"
                            : "The value for Maximum Score must not be greater than 32767",

@@ -10,13 +10,16 @@
 #include "printing/report_choice.h"
 #include "printing/reports.h"
 #include "printing/running.h"
+#include "store/class_file.h"
+#include "store/saved_text.h"
 
 namespace tallyroll {
 namespace {
 
 constexpr int kSavingTopic = 120;
 
-// The name to save under; empty when the dialog was cancelled. `folder` follows it.
+// The name to save under; empty when the dialog was cancelled, or an open class would be lost.
+// `folder` follows it.
 std::string AskForName(std::string_view filter, std::string_view extension, std::string& folder) {
   FileDialogRequest request;
   request.save = true;
@@ -25,9 +28,13 @@ std::string AskForName(std::string_view filter, std::string_view extension, std:
   request.default_extension = extension;
   request.overwrite_prompt = true;
   request.help_context = kSavingTopic;
-  std::string path = Platform().FileDialog(request).value_or("");
-  if (!path.empty()) folder = std::filesystem::path(path).parent_path().string();
-  return path;
+  const bool text = extension == "TXT";
+  std::string path = (text ? AskForText(request) : Platform().FileDialog(request)).value_or("");
+  if (path.empty()) return path;
+  folder = std::filesystem::path(path).parent_path().string();
+  if (!IsOpenClassFile(path)) return path;
+  ShowMessage(" The file is already open ");
+  return {};
 }
 
 }  // namespace

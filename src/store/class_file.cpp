@@ -2,6 +2,8 @@
 // The two routines that every open and every save go through.
 #include "store/class_file.h"
 
+#include <algorithm>
+
 #include "base/code_page.h"
 #include "base/number_text.h"
 #include "base/run_time_error.h"
@@ -150,6 +152,12 @@ void ReportFailedSave(int error) {
 
 std::string SavedText(std::string_view path) {
   return PathForDisplay(path.substr(path.rfind('/') + 1)) + " saved.";
+}
+
+bool IsOpenClassFile(const std::string& path) {
+  return std::any_of(Classes.begin(), Classes.end(), [&](const Class& c) {
+    return !c.FileName.empty() && CanonicalPath(c.FileName) == CanonicalPath(path);
+  });
 }
 
 void ReportReadError(int error) {

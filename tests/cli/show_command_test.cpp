@@ -55,8 +55,9 @@ TEST_F(ShowCommandTest, IdsAlone) {
             "7    18.5  A-\n");
 }
 
-TEST_F(ShowCommandTest, AClassWithoutAnything) {
-  EXPECT_EQ(RunCli({"show", Build("{}")}).out, "NAME  ID\n");
+TEST_F(ShowCommandTest, AClassWithoutStudentsIsRefused) {
+  const std::string file = Build("{}");
+  ExpectRefused(RunCli({"show", file}), file + ": the class has no students");
 }
 
 TEST_F(ShowCommandTest, ANameModeThatIsNoneIsAWrongCommandLine) {

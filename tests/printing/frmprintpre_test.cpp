@@ -4,6 +4,7 @@
 #include <filesystem>
 #include <map>
 
+#include "base/code_page.h"
 #include "platform/class_window.h"
 #include "printing/html_report.h"
 #include "printing/printmsg.h"
@@ -250,7 +251,7 @@ TEST_F(FrmPrintPreTest, ASaveHoldsOffAnother) {
   EXPECT_EQ(screen.file_dialogs.size(), 1u);
   EXPECT_TRUE(screen.print_dialogs.empty());
   EXPECT_FALSE(portal.Unloaded());
-  EXPECT_EQ(FileBytes(Path("grades.txt")), whole);
+  EXPECT_EQ(FileBytes(Path("grades.txt")), "\xEF\xBB\xBF" + whole);
 }
 
 // A printer that leaves 240 twips at each edge of the sheet.
@@ -341,8 +342,42 @@ TEST_F(FrmPrintPreTest, SavesTheReportAsText) {
   EXPECT_EQ(request.folder, folder);
   EXPECT_EQ(request.help_context, 120);
   EXPECT_EQ(window.status, "roster.txt saved.");
-  EXPECT_EQ(FileBytes(Path("roster.txt")), ReportText());
+  EXPECT_EQ(FileBytes(Path("roster.txt")), "\xEF\xBB\xBF" + ReportText());
   EXPECT_NE(ReportText().find("Class Roster"), std::string::npos);
+}
+
+TEST_F(FrmPrintPreTest, TextIsSavedInTheEncodingThatTheDialogAnswers) {
+  OpenReport(19, 3);
+  Current().Students[1].lastname = "Mu\xF1oz";
+  const std::string text = ReportText();
+  ASSERT_NE(text.find("Mu\xF1oz"), std::string::npos);
+  screen.ExpectFileDialog(Path("roster.txt"));
+  driver->Press("nine");
+  EXPECT_EQ(FileBytes(Path("roster.txt")), "\xEF\xBB\xBF" + Utf8FromCodePage(text));
+  screen.encoding_answer = TextEncoding::kWindows1252;
+  screen.ExpectFileDialog(Path("roster.txt"));
+  driver->Press("nine");
+  EXPECT_EQ(FileBytes(Path("roster.txt")), text);
+  screen.encoding_answer.reset();
+  screen.ExpectFileDialog(Path("roster.txt"));
+  driver->Press("nine");
+  EXPECT_EQ(FileBytes(Path("roster.txt")), text);
+  EXPECT_EQ(screen.settings["TALLYRLG8/startup/ENCODING"], "windows-1252");
+}
+
+TEST_F(FrmPrintPreTest, NoReportGoesOverAnOpenClass) {
+  OpenReport(19, 3);
+  Current().FileName = Path("class.TYR");
+  ASSERT_EQ(ReplaceFile(Path("class.TYR"), "ty8 and so on", OldTail::kDrop), 0);
+  std::filesystem::create_symlink(Path("class.TYR"), Path("link.txt"));
+  for (const char* button : {"nine", "ten", "pdf"}) {
+    for (const char* name : {"class.TYR", "link.txt"}) {
+      screen.ExpectFileDialog(Path(name));
+      screen.ExpectBox(" The file is already open ");
+      driver->Press(button);
+      EXPECT_EQ(FileBytes(Path("class.TYR")), "ty8 and so on") << button;
+    }
+  }
 }
 
 TEST_F(FrmPrintPreTest, SavesTheReportAsHtml) {
