@@ -87,10 +87,9 @@ void PrintAllGrades(ReportPass& pass) {
   StudentHeader(pass, Title(), pass.first == 1);
   if (pass.first == 1) target.Print();
   const std::vector<int> grades = GradesInOrder();
-  PrintSections(pass,
-                {GradesSection(target, grades), TypeTotalsSection(target, TypeTotalRows()),
-                 StudentTailSection(pass)},
-                true);
+  PrintSections(
+      pass, {GradesSection(target, grades), TypeTotalsSection(target), StudentTailSection(pass)},
+      true);
 }
 
 void WriteAllGrades(TextReport& text) {

@@ -9,6 +9,7 @@
 #include "base/text.h"
 #include "grades/marks.h"
 #include "printing/grade_columns.h"
+#include "printing/paper_line.h"
 #include "store/program_state.h"
 
 namespace tallyroll {
@@ -29,18 +30,21 @@ constexpr std::array kColumns = {
                 [](int i) { return PlainNumberText(GradeInReport(i).mvalue); }},
 };
 constexpr GradeColumns kTable{kColumns, 35 + 6.5 * 4, 35 + 6.5 * 4, 72};
+constexpr double kColumnsOfTable = 66;
 
 }  // namespace
 
 Section CodeDetailsSection(PrintTarget& target) {
-  return {.rows = GradeCount(Current()),
-          .print = [&target](int row) { PrintGradeRow(target, kTable, Job.CharUnit, row); },
-          .head =
-              [&target] {
-                PrintGradeHead(target, kTable, Job.CharUnit);
-                Rule(target);
-              },
-          .head_lines = 2};
+  return {
+      .rows = GradeCount(Current()),
+      .print =
+          [&target](int row) { PrintGradeRow(target, kTable, ColumnUnit(kColumnsOfTable), row); },
+      .head =
+          [&target] {
+            PrintGradeHead(target, kTable, ColumnUnit(kColumnsOfTable));
+            Rule(target);
+          },
+      .head_lines = 2};
 }
 
 void WriteCodeDetails(TextReport& text) {

@@ -20,8 +20,7 @@ std::string Title() {
 
 void PrintGradeSummary(ReportPass& pass) {
   StudentHeader(pass, Title(), pass.first == 1);
-  PrintSections(pass, {TypeTotalsSection(pass.target, TypeTotalRows()), StudentTailSection(pass)},
-                true);
+  PrintSections(pass, {TypeTotalsSection(pass.target), StudentTailSection(pass)}, true);
 }
 
 void WriteGradeSummary(TextReport& text) {

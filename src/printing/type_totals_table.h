@@ -24,8 +24,8 @@ struct TypeTotalRow {
 // with averages the percent is what all students earned of what they could have earned.
 std::vector<TypeTotalRow> TypeTotalRows();
 
-// The table as a section of a report on paper.
-Section TypeTotalsSection(PrintTarget& target, std::vector<TypeTotalRow> rows);
+// The table as a section of a report on paper. Its figures are made for the page that shows them.
+Section TypeTotalsSection(PrintTarget& target);
 void WriteTypeTotals(TextReport& text);
 
 }  // namespace tallyroll

@@ -285,11 +285,21 @@ TEST_F(ReportCommandTest, AFileThatIsMissingIsRefused) {
 
 TEST_F(ReportCommandTest, AClassWithoutAnything) {
   const std::string file = Build("{}");
-  EXPECT_EQ(RunCli({"report", "--code", "1", file}).out,
-            "                    Full Grades Printout\r\n\r\n");
-  EXPECT_EQ(RunCli({"report", "--code", "13", file}).out, "");
-  EXPECT_TRUE(
-      RunCli({"report", "--code", "13", "--format", "html", file}).out.ends_with("</html>"));
+  for (const char* code : {"1", "3", "13", "19"})
+    for (const char* format : {"text", "html"})
+      ExpectRefused(RunCli({"report", "--code", code, "--format", format, file}),
+                    file + ": There are no students in this class.");
+  EXPECT_EQ(RunCli({"report", "--code", "22", file}).status, 0);
+}
+
+TEST_F(ReportCommandTest, AReportOfNothingSaysSo) {
+  const std::string file =
+      Build(R"({"Instruments": [{"title": "Quiz", "code": "Q", "typecode": "Q ", "mvalue": 9}],
+                "Students": [{"lastname": "Ng", "firstname": "Ada", "id": "1", "Marks": ["", "9"]}]})");
+  ExpectRefused(RunCli({"report", "--code", "2", file}),
+                file + ": No student of this class is missing any Grades.");
+  ExpectRefused(RunCli({"report", "--code", "3", "--sort", "types=T", file}),
+                file + ": None of the grades is of the types or dates you chose.");
 }
 
 }  // namespace
