@@ -32,6 +32,7 @@ int RunChosen(const ChosenCommand& chosen, std::istream& in, std::ostream& out, 
     WriteReason(std::move(result.text), err);
     return kRefused;
   }
+  if (!result.note.empty()) WriteReason(result.note, err);
   out << result.text << std::flush;
   if (out) return 0;
   WriteReason("standard output: cannot be written", err);
@@ -41,7 +42,7 @@ int RunChosen(const ChosenCommand& chosen, std::istream& in, std::ostream& out, 
 }  // namespace
 
 CommandResult Done(std::string text) {
-  return {false, std::move(text)};
+  return {.text = std::move(text)};
 }
 
 std::string ReasonLine(const std::string& file, const std::string& reason) {
@@ -52,7 +53,7 @@ std::string ReasonLine(const std::string& file, const std::string& reason) {
 }
 
 CommandResult Refused(const std::string& file, const std::string& reason) {
-  return {true, ReasonLine(file, reason)};
+  return {.refused = true, .text = ReasonLine(file, reason)};
 }
 
 int RunCommandLine(int argc, const char* const* argv, std::istream& in, std::ostream& out,

@@ -14,7 +14,8 @@ namespace tallyroll {
 // What a command gives: the whole of its output, or why it was refused.
 struct CommandResult {
   bool refused = false;
-  std::string text;  // UTF-8
+  std::string text;       // UTF-8
+  std::string note = {};  // a line on standard error all the same
 };
 
 // "FILE: reason" on one line, whatever the name or the message holds.

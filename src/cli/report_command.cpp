@@ -131,7 +131,9 @@ CommandResult MakePdf(const ReportOptions& options, const CommandLineSurrounding
   if (!outcome.refusal.empty()) return Refused(options.file, outcome.refusal);
   if (outcome.error != 0) return Refused(options.out, FileErrorText(outcome.error));
   if (Job.PrintFlag == kPrintCancelled) return Refused(options.file, surroundings.Refusal());
-  return Done();
+  CommandResult result = Done();
+  if (!Job.Notice.empty()) result.note = ReasonLine(options.out, Utf8FromCodePage(Job.Notice));
+  return result;
 }
 
 CommandResult MakeReport(const ReportOptions& options) {
@@ -153,6 +155,8 @@ CommandResult MakeReport(const ReportOptions& options) {
   const auto title = CodePageFromUtf8(options.title);
   if (!title) return Refused(options.file, "the title has characters that a class cannot hold");
   Job.PrintTitle = *title;
+  if (const std::string nothing = NothingToReport(); !nothing.empty())
+    return Refused(options.file, nothing);
   const std::string format = FormatOf(options);
   if (format == "pdf") return MakePdf(options, surroundings);
   const std::string bytes = format == "html" ? ReportHtml() : ReportText();

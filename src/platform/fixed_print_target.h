@@ -88,7 +88,7 @@ class FixedPrintTarget : public PrintTarget {
   static std::vector<std::string> RowsOf(const PrintedPage& page);
 
  protected:
-  void DrawTextAt(double x, double y, std::string_view text) override;
+  void DrawTextAt(double x, double y, std::string_view text, double size) override;
 
  private:
   Kind kind_;

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Code 8: the class's daily attendance, a block a month with a column a day.
+#include <algorithm>
 #include <array>
 #include <string>
 #include <vector>
@@ -20,6 +21,7 @@ namespace {
 constexpr std::string_view kMonthsTitle = "Attendance Summary - ";
 constexpr int kMonthsTitleColumn = 30;
 constexpr int kMonthIdColumn = 24;  // of a table with names and IDs
+constexpr int kFirstIdColumn = 12;  // where long IDs need the room
 constexpr int kFirstDay = 35;
 constexpr int kDayStep = 3;  // "|Mo"
 constexpr int kMonthHeadLines = 3;
@@ -52,6 +54,31 @@ std::string Bar(std::string_view text) {
   return "|" + std::string(text);
 }
 
+// A table for paper, which makes texts fit its columns, or for a text file.
+enum class Sheet { kPaper, kText };
+
+// IDs that were cut could not be told apart: the names leave them the room.
+int IdColumn() {
+  int longest = 0;
+  for (int i = 1; i <= Current().NumStudents; ++i) {
+    const std::string& id = Current().Students[static_cast<std::size_t>(i)].id;
+    longest = std::max(longest, static_cast<int>(Trim(id).size()));
+  }
+  return std::clamp(kFirstDay - 1 - longest, kFirstIdColumn, kMonthIdColumn);
+}
+
+// An ID that is longer than all room keeps its end, which tells more students apart than its
+// beginning.
+std::string IdWithin(const std::string& id, int room, Sheet sheet) {
+  const auto most = static_cast<std::size_t>(room);
+  if (sheet == Sheet::kPaper || id.size() <= most) return id;
+  return "\x85" + id.substr(id.size() - most + 1);
+}
+
+std::string NameWithin(const std::string& name, int room, Sheet sheet) {
+  return sheet == Sheet::kPaper ? name : std::string(Left(name, static_cast<std::size_t>(room)));
+}
+
 // ---- Heads ----
 
 void AddDayHeads(std::array<TableLine, kMonthHeadLines>& lines, const Month& month) {
@@ -68,17 +95,17 @@ void AddDayHeads(std::array<TableLine, kMonthHeadLines>& lines, const Month& mon
           {TotalColumn(month, k), Bar({&kTotalHeads[static_cast<std::size_t>(k)][line], 1})});
 }
 
-void AddStudentHeads(std::array<TableLine, kMonthHeadLines>& lines) {
+void AddStudentHeads(std::array<TableLine, kMonthHeadLines>& lines, int id_column) {
   lines[1].cells.push_back({0, "Student"});
   lines[2].cells.push_back({0, Choice.shown == Shown::kId ? " ID" : "Name"});
   if (Choice.shown != Shown::kNameAndId) return;
-  lines[1].cells.push_back({kMonthIdColumn, "|Student"});
-  lines[2].cells.push_back({kMonthIdColumn, "|ID"});
+  lines[1].cells.push_back({id_column, "|Student"});
+  lines[2].cells.push_back({id_column, "|ID"});
 }
 
-std::vector<TableLine> MonthHeadOf(const Month& month) {
+std::vector<TableLine> MonthHeadOf(const Month& month, int id_column) {
   std::array<TableLine, kMonthHeadLines> lines;
-  AddStudentHeads(lines);
+  AddStudentHeads(lines, id_column);
   AddDayHeads(lines, month);
   TableLine title{{{kMonthsTitleColumn, std::string(kMonthsTitle) + MonthText(month)}}};
   return {title, lines[0], lines[1], lines[2], {{}, '_'}};
@@ -86,26 +113,24 @@ std::vector<TableLine> MonthHeadOf(const Month& month) {
 
 // ---- Rows ----
 
-void AddStudent(TableLine& line, const Student& student) {
+void AddStudent(TableLine& line, const Student& student, int id_column, Sheet sheet) {
   const std::string id(Trim(student.id));
   switch (Choice.shown) {
     case Shown::kId:
-      line.cells.push_back({0, std::string(Left(id, kFirstDay - 1))});
+      line.cells.push_back({0, IdWithin(id, kFirstDay - 1, sheet)});
       break;
     case Shown::kName:
-      line.cells.push_back({0, std::string(Left(PlainName(student), kFirstDay - 1))});
+      line.cells.push_back({0, NameWithin(PlainName(student), kFirstDay - 1, sheet)});
       break;
     default:
-      line.cells.push_back({0, std::string(Left(PlainName(student), kMonthIdColumn - 1))});
-      line.cells.push_back(
-          {kMonthIdColumn,
-           Bar(Left(id, static_cast<std::size_t>(kFirstDay - kMonthIdColumn - 1)))});
+      line.cells.push_back({0, NameWithin(PlainName(student), id_column - 1, sheet)});
+      line.cells.push_back({id_column, Bar(IdWithin(id, kFirstDay - id_column - 1, sheet))});
   }
 }
 
-TableLine MonthLineOf(const Student& student, const Month& month) {
+TableLine MonthLineOf(const Student& student, const Month& month, int id_column, Sheet sheet) {
   TableLine line;
-  AddStudent(line, student);
+  AddStudent(line, student, id_column, sheet);
   const MonthMarks marks = MarksOfMonth(student, month);
   for (int day = 1; day <= DaysIn(month); ++day) {
     const char mark = marks[static_cast<std::size_t>(day)];
@@ -118,13 +143,15 @@ TableLine MonthLineOf(const Student& student, const Month& month) {
   return line;
 }
 
-LineTable MonthsTable() {
+LineTable MonthsTable(Sheet sheet) {
   LineTable table{Width(), {}};
+  const int id_column = IdColumn();
   for (const Month& month : MonthsOf(Choice.month_first, Choice.month_last)) {
-    LineBlock block{MonthHeadOf(month), {}, {{}}};
-    for (int i = 1; i <= Current().NumStudents; ++i)
-      block.rows.push_back({MonthLineOf(Current().Students[static_cast<std::size_t>(i)], month)});
-    table.blocks.push_back(std::move(block));
+    const auto row_at = [month, id_column, sheet](int i) {
+      const Student& student = Current().Students[static_cast<std::size_t>(i)];
+      return std::vector<TableLine>{MonthLineOf(student, month, id_column, sheet)};
+    };
+    table.blocks.push_back({MonthHeadOf(month, id_column), Current().NumStudents, row_at});
   }
   return table;
 }
@@ -142,11 +169,12 @@ std::string MonthsTitle() {
 
 void PrintAttendanceMonths(ReportPass& pass) {
   PageHeader(pass, MonthsTitle());
-  PrintLineTable(pass, MonthsTable());
+  PrintLineTable(pass, MonthsTable(Sheet::kPaper));
 }
 
 void WriteAttendanceMonths(TextReport& text) {
-  WriteTable(text, MonthsTable());
+  WriteTable(text, MonthsTable(Sheet::kText));
+  text.End();
 }
 
 }  // namespace tallyroll

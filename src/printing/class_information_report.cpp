@@ -4,6 +4,7 @@
 #include <string>
 
 #include "printing/page_frame.h"
+#include "printing/paper_line.h"
 #include "printing/report_writers.h"
 #include "store/program_state.h"
 

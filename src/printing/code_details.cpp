@@ -9,6 +9,7 @@
 #include "base/text.h"
 #include "grades/marks.h"
 #include "printing/grade_columns.h"
+#include "printing/paper_line.h"
 #include "store/program_state.h"
 
 namespace tallyroll {
@@ -29,15 +30,19 @@ constexpr std::array kDetailColumns = {
                 [](int i) { return PlainNumberText(GradeInReport(i).mvalue); }},
 };
 constexpr GradeColumns kDetailTable{kDetailColumns, 35 + 6.5 * 4, 35 + 6.5 * 4, 72};
+constexpr double kColumnsOfTable = 66;
 
 }  // namespace
 
 Section CodeDetailsSection(PrintTarget& target) {
   return {.rows = GradeCount(Current()),
-          .print = [&target](int row) { PrintGradeRow(target, kDetailTable, Job.CharUnit, row); },
+          .print =
+              [&target](int row) {
+                PrintGradeRow(target, kDetailTable, ColumnUnit(kColumnsOfTable), row);
+              },
           .head =
               [&target] {
-                PrintGradeHead(target, kDetailTable, Job.CharUnit);
+                PrintGradeHead(target, kDetailTable, ColumnUnit(kColumnsOfTable));
                 Rule(target);
               },
           .head_lines = 2};

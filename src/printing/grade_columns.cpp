@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "printing/grade_columns.h"
 
+#include "printing/paper_line.h"
+
 namespace tallyroll {
 namespace {
 
@@ -23,11 +25,8 @@ void PutGradeRow(const GradeColumns& table, int grade, Place&& place) {
   if (ShowsWeightOrUse()) place(table.use_row, table.use_text, WeightOrUse(grade));
 }
 
-auto OnPaper(PrintTarget& target, double unit) {
-  return [&target, unit](double units, int, std::string_view text) {
-    target.CurrentX = units * unit;
-    target.PrintOpen(text);
-  };
+auto OnPaper(PaperLine& line, double unit) {
+  return [&line, unit](double units, int, std::string_view text) { line.Put(units * unit, text); };
 }
 
 auto InText(TextReport& report) {
@@ -40,15 +39,17 @@ auto InText(TextReport& report) {
 }  // namespace
 
 void PrintGradeHead(PrintTarget& target, const GradeColumns& table, double unit) {
+  PaperLine line(target);
   for (const bool first_line : {true, false}) {
-    PutGradeHead(table, first_line, OnPaper(target, unit));
-    target.Print();
+    PutGradeHead(table, first_line, OnPaper(line, unit));
+    line.End();
   }
 }
 
 void PrintGradeRow(PrintTarget& target, const GradeColumns& table, double unit, int grade) {
-  PutGradeRow(table, grade, OnPaper(target, unit));
-  target.Print();
+  PaperLine line(target);
+  PutGradeRow(table, grade, OnPaper(line, unit));
+  line.End();
 }
 
 void WriteGradeHead(TextReport& text, const GradeColumns& table) {

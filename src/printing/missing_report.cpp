@@ -1,11 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Codes 2 and 14: which grades are missing, for the class or for one student.
+#include <algorithm>
 #include <array>
 #include <string>
 #include <vector>
 
 #include "base/text.h"
 #include "grades/marks.h"
+#include "printing/paper_line.h"
 #include "printing/report_parts.h"
 #include "printing/report_writers.h"
 #include "printing/sections.h"
@@ -20,6 +22,7 @@ constexpr std::string_view kNoneOnPaper = " is not missing any Grades";
 constexpr std::string_view kNoneInText = "  is not missing any Grades";
 constexpr int kLinesBesideList = 2;  // the name and the heads
 constexpr int kClassRule = 77, kStudentRule = 80;
+constexpr double kColumnsOfTable = 61;
 
 struct MissingColumn {
   double units;  // CharUnits on paper
@@ -50,34 +53,20 @@ std::vector<int> MissingGrades(const Student& student) {
   return missing;
 }
 
-template <typename Move, typename Put>
-void PutMissingHead(Move&& move, Put&& put) {
-  for (const MissingColumn& column : kMissingColumns) {
-    move(column.units, column.text);
-    put(column.head);
-  }
-}
-
-template <typename Move, typename Put>
-void PutMissingRow(int grade, Move&& move, Put&& put) {
-  for (const MissingColumn& column : kMissingColumns) {
-    move(column.units, column.text);
-    put(column.value(grade));
-  }
-}
-
 void PrintHead(PrintTarget& target) {
-  PutMissingHead([&](double units, int) { target.CurrentX = units * Job.CharUnit; },
-                 [&](std::string_view text) { target.PrintOpen(text); });
-  target.Print();
+  const double unit = ColumnUnit(kColumnsOfTable);
+  PaperLine line(target);
+  for (const MissingColumn& column : kMissingColumns) line.Put(column.units * unit, column.head);
+  line.End();
   Rule(target);
 }
 
 void PrintMissingRow(PrintTarget& target, int grade) {
-  PutMissingRow(
-      grade, [&](double units, int) { target.CurrentX = units * Job.CharUnit; },
-      [&](std::string_view text) { target.PrintOpen(text); });
-  target.Print();
+  const double unit = ColumnUnit(kColumnsOfTable);
+  PaperLine line(target);
+  for (const MissingColumn& column : kMissingColumns)
+    line.Put(column.units * unit, column.value(grade));
+  line.End();
 }
 
 // ---- For the class ----
@@ -92,24 +81,46 @@ struct ClassRow {
   int lines = 1;       // what must fit for the row to stay on its page
 };
 
-std::vector<ClassRow> RowsOfClass() {
-  std::vector<ClassRow> rows;
-  for (int s = 1; s <= Current().NumStudents; ++s) {
+// The rows that a pass needs, whole students at a time.
+class ClassRows {
+ public:
+  // In the layout pass all of them; the last row of each student is kept for the pages.
+  explicit ClassRows(const ReportPass& pass) {
+    if (pass.recording) Job.WrapLast = {0};
+    int student = 1;
+    if (!pass.recording) {
+      const auto begin = std::lower_bound(Job.WrapLast.begin(), Job.WrapLast.end(), pass.first);
+      student = std::max(static_cast<int>(begin - Job.WrapLast.begin()), 1);
+    }
+    before_ = Job.WrapLast[static_cast<std::size_t>(student) - 1];
+    for (; student <= Current().NumStudents; ++student) {
+      if (!pass.recording && before_ + static_cast<int>(rows_.size()) >= pass.last) return;
+      AddStudent(student);
+      if (pass.recording) Job.WrapLast.push_back(static_cast<int>(rows_.size()));
+    }
+  }
+  const ClassRow& At(int row) const { return rows_[static_cast<std::size_t>(row - before_) - 1]; }
+  static int Count() { return Job.WrapLast.back(); }
+
+ private:
+  void AddStudent(int s) {
     const std::vector<int> missing = MissingGrades(Current().Students[static_cast<std::size_t>(s)]);
     const int whole = kLinesBesideList + static_cast<int>(missing.size());
     for (const int grade : missing) {
       const bool first = grade == missing.front();
-      rows.push_back(
+      rows_.push_back(
           {static_cast<i16>(s), grade, first, grade == missing.back(), first ? whole : 1});
     }
   }
-  return rows;
-}
+
+  std::vector<ClassRow> rows_;
+  int before_ = 0;  // rows of the students ahead of them
+};
 
 void PrintClassRow(PrintTarget& target, const ClassRow& row) {
   CurrentStudent = row.student;
   if (row.first) {
-    target.Print(StudentLabel());
+    PrintLine(target, StudentLabel());
     PrintHead(target);
   }
   PrintMissingRow(target, row.grade);
@@ -117,13 +128,17 @@ void PrintClassRow(PrintTarget& target, const ClassRow& row) {
 }
 
 void WriteList(TextReport& text, const std::vector<int>& missing, int rule) {
-  const auto move = [&text](double, int column) { text.Tab(column); };
-  const auto put = [&text](std::string_view part) { text.Put(part); };
-  PutMissingHead(move, put);
+  for (const MissingColumn& column : kMissingColumns) {
+    text.Tab(column.text);
+    text.Put(column.head);
+  }
   text.End();
   text.Row(rule, '_');
   for (const int grade : missing) {
-    PutMissingRow(grade, move, put);
+    for (const MissingColumn& column : kMissingColumns) {
+      text.Tab(column.text);
+      text.Put(column.value(grade));
+    }
     text.End();
   }
 }
@@ -132,11 +147,10 @@ void WriteList(TextReport& text, const std::vector<int>& missing, int rule) {
 
 void PrintMissingForClass(ReportPass& pass) {
   PageHeader(pass, kClassTitle);
-  const std::vector<ClassRow> rows = RowsOfClass();
-  const auto row_at = [&rows](int row) { return rows[static_cast<std::size_t>(row) - 1]; };
-  PrintSections(pass, {{.rows = static_cast<int>(rows.size()),
-                        .print = [&](int row) { PrintClassRow(pass.target, row_at(row)); },
-                        .lines = [&](int row) { return row_at(row).lines; }}});
+  const ClassRows rows(pass);
+  PrintSections(pass, {{.rows = ClassRows::Count(),
+                        .print = [&](int row) { PrintClassRow(pass.target, rows.At(row)); },
+                        .lines = [&](int row) { return rows.At(row).lines; }}});
 }
 
 void WriteMissingForClass(TextReport& text) {
@@ -159,7 +173,7 @@ void PrintMissingForStudent(ReportPass& pass) {
     PrintSections(
         pass,
         {{.rows = 1,
-          .print = [&](int) { target.Print(StudentLabel() + std::string(kNoneOnPaper)); }}},
+          .print = [&](int) { PrintLine(target, StudentLabel() + std::string(kNoneOnPaper)); }}},
         true);
     return;
   }

@@ -6,6 +6,7 @@
 
 #include "base/text.h"
 #include "grades/marks.h"
+#include "printing/paper_line.h"
 #include "printing/report_choice.h"
 #include "printing/report_parts.h"
 #include "printing/report_writers.h"
@@ -17,6 +18,7 @@ namespace tallyroll {
 namespace {
 
 constexpr int kOneGradeRule = 80;
+constexpr double kColumnsOfTable = 51;
 
 struct OneGradeRow {
   std::string label;  // name or ID
@@ -51,18 +53,14 @@ std::string OneGradeTitle() {
   return " " + std::string(Trim(GradeInReport(Choice.grade).title));
 }
 
-template <typename Move, typename Put>
-void PutOneGradeRow(std::string_view label, std::string_view id, std::string_view mark, Move&& move,
-                    Put&& put) {
+// One walk for paper and text: `place` puts a text at a column.
+template <typename Place>
+void PutOneGradeRow(std::string_view label, std::string_view id, std::string_view mark,
+                    Place&& place) {
   const bool both = Choice.shown == Shown::kNameAndId;
-  move(4.0, 5);
-  put(label);
-  if (both) {
-    move(30.0, 40);
-    put(id);
-  }
-  move(both ? 45.0 : 35.0, both ? 60 : 45);
-  put(mark);
+  place(4.0, 5, label);
+  if (both) place(30.0, 40, id);
+  place(both ? 45.0 : 35.0, both ? 60 : 45, mark);
 }
 
 std::string_view LabelHead() {
@@ -75,35 +73,39 @@ void PrintOneGrade(ReportPass& pass) {
   PrintTarget& target = pass.target;
   PageHeader(pass, OneGradeTitle());
   const std::vector<OneGradeRow> rows = RowsInOrder();
-  const auto move = [&](double units, int) { target.CurrentX = units * Job.CharUnit; };
-  const auto put = [&](std::string_view text) { target.PrintOpen(text); };
+  PaperLine line(target);
+  const auto place = [&line](double units, int, std::string_view text) {
+    line.Put(units * ColumnUnit(kColumnsOfTable), text);
+  };
   PrintSections(pass, {{.rows = static_cast<int>(rows.size()),
                         .print =
                             [&](int row) {
                               const OneGradeRow& r = rows[static_cast<std::size_t>(row) - 1];
-                              PutOneGradeRow(r.label, r.id, r.mark, move, put);
-                              target.Print();
+                              PutOneGradeRow(r.label, r.id, r.mark, place);
+                              line.End();
                               Rule(target);
                             },
                         .head =
                             [&] {
-                              PutOneGradeRow(LabelHead(), "ID", "GRADE", move, put);
-                              target.Print();
+                              PutOneGradeRow(LabelHead(), "ID", "GRADE", place);
+                              line.End();
                               Rule(target);
                             },
                         .head_lines = 1}});
 }
 
 void WriteOneGrade(TextReport& text) {
-  const auto move = [&](double, int column) { text.Tab(column); };
-  const auto put = [&](std::string_view part) { text.Put(part); };
+  const auto place = [&text](double, int column, std::string_view part) {
+    text.Tab(column);
+    text.Put(part);
+  };
   text.Line(OneGradeTitle());
   text.End();
-  PutOneGradeRow(LabelHead(), "ID", "GRADE", move, put);
+  PutOneGradeRow(LabelHead(), "ID", "GRADE", place);
   text.End();
   text.Row(kOneGradeRule, '_');
   for (const OneGradeRow& row : RowsInOrder()) {
-    PutOneGradeRow(row.label, row.id, row.mark, move, put);
+    PutOneGradeRow(row.label, row.id, row.mark, place);
     text.End();
     text.Row(kOneGradeRule, '_');
   }

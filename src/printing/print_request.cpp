@@ -115,8 +115,12 @@ bool frmprintall::LayOut(bool for_preview) {
   if (for_preview && (Job.PrintTab == 2 || Job.PrintTab == 4)) RefreshNames();
   FillChoice();
   // The averages of the whole class are looked at before they go to paper: the preview prints them.
-  if (Job.ReportCode == kFullClass && !for_preview) return false;
-  return CheckChoice() && LayOutReport() && Job.PageCount > 0;
+  if (Job.ReportCode == kFullClass && !for_preview)
+    return Refuse(
+        "The averages of the full class are printed from the preview. Choose Preview, then Print.");
+  if (!CheckChoice()) return false;
+  if (const std::string nothing = NothingToReport(); !nothing.empty()) ShowMessage(nothing);
+  return LayOutReport() && Job.PageCount > 0;
 }
 
 void frmprintall::prints_Click() {

@@ -34,7 +34,9 @@ void PrepareTarget(PrintTarget& target) {
   SetupPage(target);
 }
 
-bool LayOutReport() {
+namespace {
+
+bool LayOutAll() {
   const Report* report = FindReport(Job.ReportCode);
   const auto box = Platform().MakePrintBox(PrintsLandscape());
   if (!report || !box) return false;
@@ -45,6 +47,14 @@ bool LayOutReport() {
     CurrentStudent = student;
     return LayOutRows(*box);
   });
+}
+
+}  // namespace
+
+bool LayOutReport() {
+  const bool done = LayOutAll();
+  if (done && !Job.Notice.empty()) ShowMessage(Job.Notice);
+  return done;
 }
 
 bool PrintPages(PrintTarget& printer, const PrintRange& range,

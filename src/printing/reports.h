@@ -30,6 +30,9 @@ const Report* FindReport(int code);
 // in the page table. False when it could not be done: the teacher was told, or cancelled.
 bool LayOutRows(PrintTarget& target);
 
+// Why the report of Job.ReportCode has nothing but its head; empty where it has something.
+std::string NothingToReport();
+
 // Draws a page of the table. False as above.
 bool RenderPage(PrintTarget& target, int page);
 

@@ -59,7 +59,7 @@ std::string RollBookHtml(std::string_view title) {
                      "<TH><TH COLSPAN = 49><TH COLSPAN = 5> GRADES </TH></TR>\r\n";
   html += HtmlRollRowOf(kHeadRow, "", grades,
                         [](int i) { return std::string_view(GradeInReport(i).code); });
-  html += HtmlRollRowOf(kHeadRow, "", grades, [](int i) { return DateWithoutYear(i); });
+  html += HtmlRollRowOf(kHeadRow, "", grades, [](int i) { return WholeDateWithoutYear(i); });
   for (int s = 1; s <= Current().NumStudents; ++s) {
     const Student& student = Current().Students[static_cast<std::size_t>(s)];
     html += HtmlRollRowOf("<TR>", StudentColumnText(student), grades,

@@ -8,6 +8,7 @@
 #include "base/text.h"
 #include "grades/marks.h"
 #include "printing/line_table.h"
+#include "printing/paper_line.h"
 #include "printing/report_parts.h"
 #include "printing/report_writers.h"
 #include "printing/roll_book.h"
@@ -72,14 +73,13 @@ std::vector<TableLine> RollHeadOf(const std::vector<int>& grades) {
 }
 
 LineBlock BlockOf(const std::vector<int>& grades) {
-  LineBlock block{RollHeadOf(grades), {}, {{{}, '='}}};
-  for (int i = 1; i <= Current().NumStudents; ++i) {
+  const auto row_at = [grades](int i) {
     std::vector<TableLine> row = {
         RollRowOf(Current().Students[static_cast<std::size_t>(i)], grades)};
     if (i > 1) row.push_back({{}, '_'});
-    block.rows.push_back(std::move(row));
-  }
-  return block;
+    return row;
+  };
+  return {RollHeadOf(grades), Current().NumStudents, row_at, {{{}, '='}}};
 }
 
 LineTable RollTable() {
@@ -115,15 +115,16 @@ std::string FullTitle(int grade) {
   return std::string(Trim(GradeInReport(grade).title));
 }
 
+// Half of the page is the students'.
 double LongestTitle(PrintTarget& target, const std::vector<int>& grades) {
   const TitleFont font(target);
   double longest = 0;
   for (const int grade : grades) longest = std::max(longest, target.TextWidth(FullTitle(grade)));
-  return longest;
+  return std::min(longest, Job.PageBottom / 2.0);
 }
 
 double Unit() {
-  return std::min(Job.CharUnit, static_cast<double>(Job.PageTextWidth) / kRollWidth);
+  return ColumnUnit(kRollWidth);
 }
 
 int TitleLines(PrintTarget& target, const std::vector<int>& grades) {
@@ -132,12 +133,13 @@ int TitleLines(PrintTarget& target, const std::vector<int>& grades) {
 
 // The titles stand on the line that heads the students.
 void PrintTitles(PrintTarget& target, const std::vector<int>& grades) {
-  target.CurrentY += TitleLines(target, grades) * target.TextHeight("A");
+  const double room = TitleLines(target, grades) * target.TextHeight("A");
+  target.CurrentY += room;
   {
     const TitleFont font(target);
     double x = BehindStudentColumn() * Unit();
     for (const int grade : grades) {
-      target.PrintUpwards(FullTitle(grade), x, target.CurrentY);
+      target.PrintUpwards(target.Shortened(FullTitle(grade), room), x, target.CurrentY);
       x += kRollStep * Unit();
     }
   }
@@ -148,11 +150,10 @@ void PrintTitles(PrintTarget& target, const std::vector<int>& grades) {
 // The first student has no rule below, as in the book without titles, unless he is the last.
 void PrintStudent(PrintTarget& target, int row, const std::vector<int>& grades) {
   const Student& student = Current().Students[static_cast<std::size_t>(row)];
-  for (const LineCell& cell : RollRowOf(student, grades).cells) {
-    target.CurrentX = cell.column * Unit();
-    target.PrintOpen(cell.text);
-  }
-  target.Print();
+  PaperLine line(target);
+  for (const LineCell& cell : RollRowOf(student, grades).cells)
+    line.Put(cell.column * Unit(), cell.text);
+  line.End();
   if (row > 1 || row == Current().NumStudents) Rule(target);
 }
 

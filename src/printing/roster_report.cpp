@@ -2,6 +2,7 @@
 // Codes 19 and 23: the students with room for notes, or with a grid of empty boxes.
 #include "base/number_text.h"
 #include "base/text.h"
+#include "printing/paper_line.h"
 #include "printing/report_writers.h"
 #include "printing/sections.h"
 #include "store/program_state.h"
@@ -62,15 +63,24 @@ void PutStudent(Sheet&& sheet, int row) {
   sheet.Tab(NotesColumn());
 }
 
-void PrintBoxes(PrintTarget& target) {
-  while (target.CurrentX + target.TextWidth(kBox) <= Job.PageTextWidth) target.PrintOpen(kBox);
+// As many as the page has room for.
+std::string Boxes(const PrintTarget& target) {
+  const double room = Job.PageTextWidth - TabStop(target, NotesColumn());
+  std::string boxes;
+  while (target.TextWidth(boxes) + target.TextWidth(kBox) <= room) boxes += kBox;
+  return boxes;
+}
+
+PaperSheet RosterSheet(PrintTarget& target) {
+  return PaperSheet(target, PaperSheet::Columns::kStay);
 }
 
 void PrintRosterRow(PrintTarget& target, int row) {
-  PutStudent(PaperSheet{target}, row);
-  if (Job.ReportCode == kGridForm) PrintBoxes(target);
-  target.Print();
-  if (Job.ReportCode != kGridForm) Rule(target);
+  PaperSheet sheet = RosterSheet(target);
+  PutStudent(sheet, row);
+  const bool grid = Job.ReportCode == kGridForm;
+  sheet.End(grid ? Boxes(target) : std::string());
+  if (!grid) Rule(target);
 }
 
 void WriteRow(TextReport& text, int row) {
@@ -90,7 +100,7 @@ void PrintRoster(ReportPass& pass) {
   PageHeader(pass, kGridTitle);
   PrintSections(pass, {{.rows = Current().NumStudents,
                         .print = [&](int row) { PrintRosterRow(pass.target, row); },
-                        .head = [&] { PutRosterHead(PaperSheet{pass.target}); },
+                        .head = [&] { PutRosterHead(RosterSheet(pass.target)); },
                         .head_lines = 2}});
 }
 

@@ -81,9 +81,13 @@ void AddCode(Rows& rows, const AttendanceCode& code) {
 }
 
 LineTable DatesTable() {
-  LineBlock block;
-  for (const AttendanceCode& code : kCodes) AddCode(block.rows, code);
-  return {80, {block}};
+  Rows rows;
+  for (const AttendanceCode& code : kCodes) AddCode(rows, code);
+  const int count = static_cast<int>(rows.size());
+  const auto row_at = [rows = std::move(rows)](int row) {
+    return rows[static_cast<std::size_t>(row) - 1];
+  };
+  return {80, {{{}, count, row_at}}};
 }
 
 std::string StudentAttendanceTitle() {

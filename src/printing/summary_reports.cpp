@@ -73,10 +73,8 @@ LineTable OnePeriodTable() {
   if (Choice.shown == Shown::kNameAndId) head.cells.push_back({kPeriodIdColumn, "ID"});
   head.cells.push_back({kAbsenceColumn, "TOTAL ABSENCE"});
   head.cells.push_back({kLateColumn, "LATE"});
-  LineBlock block{{head, {{}, '_'}}, {}, {}};
-  for (int i = 1; i <= Current().NumStudents; ++i)
-    block.rows.push_back({OnePeriodLine(StudentAt(i))});
-  return {80, {block}};
+  const auto row_at = [](int i) { return std::vector<TableLine>{OnePeriodLine(StudentAt(i))}; };
+  return {80, {{{head, {{}, '_'}}, Current().NumStudents, row_at}}};
 }
 
 // ---- 16: all periods ----
@@ -142,10 +140,10 @@ TableLine AllPeriodsLine(const Student& student, const std::vector<int>& periods
 LineTable AllPeriodsTable(const Heads& heads) {
   LineTable table{kAllWidth, {}};
   for (const std::vector<int>& periods : PeriodsByBlock()) {
-    LineBlock block{AllPeriodsHead(periods, heads), {}, {}};
-    for (int i = 1; i <= Current().NumStudents; ++i)
-      block.rows.push_back({AllPeriodsLine(StudentAt(i), periods), {{}, '_'}});
-    table.blocks.push_back(std::move(block));
+    const auto row_at = [periods](int i) {
+      return std::vector<TableLine>{AllPeriodsLine(StudentAt(i), periods), {{}, '_'}};
+    };
+    table.blocks.push_back({AllPeriodsHead(periods, heads), Current().NumStudents, row_at});
   }
   table.blocks.back().foot = {{{}, '='}};
   return table;
@@ -179,9 +177,8 @@ LineTable StudentTable() {
   heads.cells = {{0, "TITLE"}, {kCodeColumn, "CODE"}};
   for (std::size_t k = 0; k < kStudentHeads.size(); ++k)
     heads.cells.push_back({kHeadColumns[k], kStudentHeads[k]});
-  LineBlock block{{total, heads, {{}, '_'}}, {}, {}};
-  for (int i = 1; i <= Current().NumSummaries; ++i) block.rows.push_back({StudentPeriodLine(i)});
-  return {80, {block}};
+  const auto row_at = [](int i) { return std::vector<TableLine>{StudentPeriodLine(i)}; };
+  return {80, {{{total, heads, {{}, '_'}}, Current().NumSummaries, row_at}}};
 }
 
 std::string StudentTitle() {

@@ -12,10 +12,14 @@ constexpr std::size_t kLineWidth = 80;
 
 void TextReport::Tab(int column) {
   const int before = column - 1;
-  if (Column() > before && Column() > 0)
+  if (Column() >= before && Column() > 0)
     text_ += ' ';
   else
     text_.append(static_cast<std::size_t>(before - Column()), ' ');
+}
+
+void TextReport::Bar(int column) {
+  if (Column() != column - 1) Tab(column);
 }
 
 void TextReport::End(std::string_view text) {

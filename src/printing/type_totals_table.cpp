@@ -11,6 +11,7 @@
 #include "base/run_time_error.h"
 #include "base/text.h"
 #include "grades/type_totals.h"
+#include "printing/paper_line.h"
 #include "store/program_state.h"
 
 namespace tallyroll {
@@ -123,33 +124,36 @@ constexpr double kNumberBase = 1.33;
 constexpr int kNumberText = 33;
 
 double Base(const PrintTarget& target) {
-  if (target.FontSize < 9.7) return 27 * Job.CharUnit;
-  return (target.FontSize > 10 ? 22.2 : 25) * Job.CharUnit;
+  constexpr double kLastColumn = 2.65, kLastWidth = 6;
+  const double base = target.FontSize < 9.7 ? 27 : target.FontSize > 10 ? 22.2 : 25;
+  return base * ColumnUnit(kLastColumn * base + kLastWidth);
 }
 
-// `move` takes the pen to a column, `put` prints there.
-template <typename Move, typename Put>
-void PutTypeRow(const TypeTotalRow& row, Move&& move, Put&& put) {
+// `place` puts a text at a column.
+template <typename Place>
+void PutTypeRow(const TypeTotalRow& row, Place&& place) {
   for (const TypeColumn& column : kTypeColumns) {
     if (!column.shown()) continue;
-    move(column.base, column.text);
-    put(row.*column.value);
-    if (column.base != 1) continue;
-    move(kNumberBase, kNumberText);
-    put(PlainNumberText(row.number));
+    place(column.base, column.text, row.*column.value);
+    if (column.base == 1) place(kNumberBase, kNumberText, PlainNumberText(row.number));
   }
 }
 
-template <typename Move, typename Put>
-void PutTypeHead(bool first_line, Move&& move, Put&& put) {
+template <typename Place>
+void PutTypeHead(bool first_line, Place&& place) {
   for (const TypeColumn& column : kTypeColumns) {
     if (!column.shown()) continue;
-    move(column.base, column.text);
-    put(first_line ? column.first : column.second);
-    if (column.base != 1) continue;
-    move(kNumberBase, kNumberText);
-    put(first_line ? "NUMBER" : "OF GRADES");
+    place(column.base, column.text, first_line ? column.first : column.second);
+    if (column.base == 1) place(kNumberBase, kNumberText, first_line ? "NUMBER" : "OF GRADES");
   }
+}
+
+int TypesInClass() {
+  TypeCounts counts{};
+  TypeSums sums{}, maxes{};
+  ClassTotalsByType(counts, sums, maxes);
+  return static_cast<int>(
+      std::count_if(counts.begin() + 1, counts.end(), [](const auto& count) { return count > 0; }));
 }
 
 }  // namespace
@@ -177,21 +181,25 @@ std::vector<TypeTotalRow> TypeTotalRows() {
 // The figures of a whole class take an average of each student, so they are made when the first row
 // is due: most pages have none.
 Section TypeTotalsSection(PrintTarget& target) {
-  auto rows = std::make_shared<std::vector<TypeTotalRow>>();
-  const auto move = [&target](double base, int) { target.CurrentX = base * Base(target); };
-  const auto put = [&target](std::string_view text) { target.PrintOpen(text); };
+  auto kept = std::make_shared<std::vector<TypeTotalRow>>();
+  const auto on = [](PaperLine& line, double base) {
+    return
+        [&line, base](double bases, int, std::string_view text) { line.Put(bases * base, text); };
+  };
   return {.rows = TypesInClass(),
           .print =
-              [&target, rows, move, put](int row) {
-                if (rows->empty()) *rows = TypeTotalRows();
-                PutTypeRow((*rows)[static_cast<std::size_t>(row) - 1], move, put);
-                target.Print();
+              [&target, kept, on](int row) {
+                if (kept->empty()) *kept = TypeTotalRows();
+                PaperLine line(target);
+                PutTypeRow((*kept)[static_cast<std::size_t>(row) - 1], on(line, Base(target)));
+                line.End();
               },
           .head =
-              [&target, move, put] {
+              [&target, on] {
+                PaperLine line(target);
                 for (const bool first_line : {true, false}) {
-                  PutTypeHead(first_line, move, put);
-                  target.Print();
+                  PutTypeHead(first_line, on(line, Base(target)));
+                  line.End();
                 }
                 Rule(target);
               },
@@ -200,15 +208,17 @@ Section TypeTotalsSection(PrintTarget& target) {
 }
 
 void WriteTypeTotals(TextReport& text) {
-  const auto move = [&text](double, int column) { text.Tab(column); };
-  const auto put = [&text](std::string_view part) { text.Put(part); };
+  const auto place = [&text](double, int column, std::string_view part) {
+    text.Tab(column);
+    text.Put(part);
+  };
   for (const bool first_line : {true, false}) {
-    PutTypeHead(first_line, move, put);
+    PutTypeHead(first_line, place);
     text.End();
   }
   text.Row(kTypeTotalsRule, '_');
   for (const TypeTotalRow& row : TypeTotalRows()) {
-    PutTypeRow(row, move, put);
+    PutTypeRow(row, place);
     text.End();
   }
 }

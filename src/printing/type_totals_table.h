@@ -24,7 +24,7 @@ struct TypeTotalRow {
 // averages' counts of all students together, otherwise the grades that the class has.
 std::vector<TypeTotalRow> TypeTotalRows();
 
-// The table as a section of a report on paper.
+// The table as a section of a report on paper. Its figures are made for the page that shows them.
 Section TypeTotalsSection(PrintTarget& target);
 void WriteTypeTotals(TextReport& text);
 

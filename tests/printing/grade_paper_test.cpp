@@ -202,8 +202,8 @@ TEST_F(GradePaperTest, AGradeStandsInARowWhileAWholeColumnIsLeft) {
   for (int i = 4; i <= 29; ++i) AddGrade("Grade", "g" + PlainNumberText(i), "Q ", 10, "");
   const PrintedPage page = OnPaper(1);
   // 11240 hold 28 columns of 400; the 29th goes to the next row.
-  EXPECT_EQ(Job.WrapFirst, (std::vector<i16>{0, 1, 29}));
-  EXPECT_EQ(Job.WrapLast, (std::vector<i16>{0, 28, 29}));
+  EXPECT_EQ(Job.WrapFirst, (std::vector<int>{0, 1, 29}));
+  EXPECT_EQ(Job.WrapLast, (std::vector<int>{0, 28, 29}));
   EXPECT_EQ(Find(page, "g28"), (PrintedText{27 * 400, 1632, "g28", 10}));
   EXPECT_EQ(Find(page, "g29"), (PrintedText{0, 2112, "g29", 10}));
 }
