@@ -29,7 +29,8 @@ class FrmSeatingTest : public SeatingTest {
     driver->Choose("column", columns - 1);
     driver->Choose("seatsrow", seats - 1);
     driver->Press("okinfo");
-    driver->Tick(method);
+    for (const char* other : {"alpha", "randord", "indiv", "bywishes"})
+      driver->Tick(other, other == std::string_view(method));
     driver->Press("chartok");
   }
   void Save() {
