@@ -1,5 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include <algorithm>
 #include <memory>
+#include <utility>
 #include <vector>
 
 #include "averages/rounding.h"
@@ -80,48 +82,78 @@ std::string CsvText(std::string& text) {
 
 // ---- As JSON ----
 
-// A class may have thousands of students with 78 figures each, so the text is put together without
-// a tree of values; the texts that need escapes go through the JSON library.
-std::string Quoted(std::string_view text) {
-  return Json(Utf8FromCodePage(text)).dump();
-}
-std::string Quoted(Currency value) {
-  return '"' + PlainNumberText(value) + '"';
+// A class may have thousands of students with 78 figures each, so the text is put together in
+// place, without a tree of values and without a text of each figure; texts that need escapes go
+// through the JSON library.
+bool NeedsEscape(char c) {
+  return c < ' ' || c > '~' || c == '"' || c == '\\';
 }
 
-std::string Items(const TypeCounts& counts) {
-  std::string text;
+void AddQuoted(std::string& text, std::string_view value) {
+  if (std::any_of(value.begin(), value.end(), NeedsEscape))
+    text += Json(Utf8FromCodePage(value)).dump();
+  else
+    text.append(1, '"').append(value).append(1, '"');
+}
+
+// Most of a student's types hold no grade.
+void AddQuoted(std::string& text, Currency value) {
+  if (value == Currency())
+    text += "\"0\"";
+  else
+    text.append(1, '"').append(PlainNumberText(value)).append(1, '"');
+}
+
+void AddCount(std::string& text, int count) {
+  if (count >= 0 && count < 10)
+    text += static_cast<char>('0' + count);
+  else
+    text += PlainNumberText(count);
+}
+
+// The items of types 1 to 26.
+template <typename Items, typename Add>
+void AddArray(std::string& text, const Items& items, Add&& add) {
   for (std::size_t t = 1; t <= kGradeTypes; ++t) {
-    text += (t == 1 ? "" : ", ") + PlainNumberText(int{counts[t]});
+    text += t == 1 ? "[" : ", ";
+    add(items[t]);
   }
-  return "[" + text + "]";
-}
-
-std::string Items(const TypeSums& sums) {
-  std::string text;
-  for (std::size_t t = 1; t <= kGradeTypes; ++t) text += (t == 1 ? "" : ", ") + Quoted(sums[t]);
-  return "[" + text + "]";
+  text += ']';
 }
 
 void AddJsonObject(const Student& student, const StudentAverage& outcome, std::string& text) {
-  const bool points = HasPoints();
-  const char* separator = "  {\n    \"";
-  const auto add = [&](const char* name, const std::string& value) {
-    text.append(separator).append(name).append("\": ").append(value);
-    separator = ",\n    \"";
+  const auto name = [&](const char* first, const char* field) {
+    text.append(first).append(field).append("\": ");
   };
-  add("id", Quoted(student.id));
-  add("lastname", Quoted(student.lastname));
-  add("firstname", Quoted(student.firstname));
-  add("ComputedAverage", Quoted(outcome.computed));
-  add("ExactAverage", Quoted(outcome.exact));
-  add("FinalGrade", Quoted(outcome.grade.Text()));
-  add("Marks0", Quoted(outcome.grade.mark.view()));
-  add("counts", Items(outcome.totals.counts));
-  add("sums", Items(outcome.totals.sums));
-  add("maxes", Items(outcome.totals.maxes));
-  add("earned", points ? Quoted(outcome.points.earned) : "null");
-  add("possible", points ? Quoted(outcome.points.possible) : "null");
+  const auto quoted = [&](const char* field, auto value) {
+    name(",\n    \"", field);
+    AddQuoted(text, value);
+  };
+  const auto sums = [&](const char* field, const TypeSums& items) {
+    name(",\n    \"", field);
+    AddArray(text, items, [&](Currency value) { AddQuoted(text, value); });
+  };
+  const auto points = [&](const char* field, Currency value) {
+    name(",\n    \"", field);
+    if (HasPoints())
+      AddQuoted(text, value);
+    else
+      text += "null";
+  };
+  name("  {\n    \"", "id");
+  AddQuoted(text, student.id);
+  quoted("lastname", std::string_view(student.lastname));
+  quoted("firstname", std::string_view(student.firstname));
+  quoted("ComputedAverage", outcome.computed);
+  quoted("ExactAverage", outcome.exact);
+  quoted("FinalGrade", outcome.grade.Text());
+  quoted("Marks0", outcome.grade.mark.view());
+  name(",\n    \"", "counts");
+  AddArray(text, outcome.totals.counts, [&](int count) { AddCount(text, count); });
+  sums("sums", outcome.totals.sums);
+  sums("maxes", outcome.totals.maxes);
+  points("earned", outcome.points.earned);
+  points("possible", outcome.points.possible);
   text += "\n  }";
 }
 
@@ -145,7 +177,7 @@ CommandResult Averages(const AveragesOptions& options) {
   if (Current().NumStudents == 0) return Refused(options.file, kNoStudents);
   std::string text;
   reason = options.json ? ArrayText(text) : options.csv ? CsvText(text) : TableText(text);
-  return reason.empty() ? Done(text) : Refused(options.file, Utf8FromCodePage(reason));
+  return reason.empty() ? Done(std::move(text)) : Refused(options.file, Utf8FromCodePage(reason));
 }
 
 }  // namespace

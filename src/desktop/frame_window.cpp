@@ -173,7 +173,7 @@ void FrameWindow::SyncStartPage() {
 
 void FrameWindow::Sync() {
   menu_->Sync();
-  if (front_ == nullptr) SyncStartPage();
+  if (front_ == nullptr && (start_ != nullptr || isVisible())) SyncStartPage();
   for (QMdiSubWindow* window : area_->subWindowList())
     static_cast<ClassWindowView*>(window)->Sync();
   pages_->setCurrentIndex(front_ != nullptr ? 1 : 0);
@@ -186,6 +186,8 @@ void FrameWindow::Sync() {
 }
 
 void FrameWindow::ShowFrame() {
+  // Where no class follows, the page is there from the first picture on.
+  if (FrameForm->CommandFile.empty()) SyncStartPage();
   show();
   raise();
   QTimer::singleShot(0, this, &FrameWindow::Sync);

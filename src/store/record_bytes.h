@@ -87,7 +87,12 @@ class FieldReader {
   }
   template <std::size_t N>
   void Read(std::array<ShortText, N>& fields) {
-    if (ReadTexts(fields) != N) throw RunTimeError{kErrorPastEnd};
+    if (TakeEmptyTexts<N>()) {
+      for (ShortText& field : fields)
+        if (!field.empty()) field = ShortText();
+    } else if (ReadTexts(fields) != N) {
+      throw RunTimeError{kErrorPastEnd};
+    }
   }
   template <std::size_t N>
   void Read(List<FixedText<N>>& list) {
@@ -123,6 +128,17 @@ class FieldReader {
     }
     at_ = static_cast<std::size_t>(at - bytes_.data());
     return whole;
+  }
+
+  // Steps over texts of which none holds anything, as in most arrays of a file: one comparison
+  // tells.
+  template <std::size_t N>
+  bool TakeEmptyTexts() {
+    static constexpr std::array<char, N * sizeof(std::uint16_t)> kNoLengths{};
+    if (remaining() < kNoLengths.size()) return false;
+    if (std::memcmp(bytes_.data() + at_, kNoLengths.data(), kNoLengths.size()) != 0) return false;
+    at_ += kNoLengths.size();
+    return true;
   }
 
   template <typename T>

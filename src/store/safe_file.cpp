@@ -11,7 +11,9 @@
 #include <cerrno>
 #include <climits>
 #include <cstdio>
+#include <cstdlib>
 #include <filesystem>
+#include <memory>
 #include <system_error>
 #include <utility>
 
@@ -212,6 +214,10 @@ int CopyUnderName(const std::string& path, const std::string& name) {
 }  // namespace
 
 std::string CanonicalPath(const std::string& path) {
+  // What is there the system resolves in one go.
+  if (const std::unique_ptr<char, void (*)(void*)> there(::realpath(path.c_str(), nullptr), ::free);
+      there)
+    return there.get();
   std::error_code error;
   const std::filesystem::path canonical = std::filesystem::weakly_canonical(path, error);
   return error ? path : canonical.string();

@@ -35,6 +35,25 @@ TEST_F(StartPageTest, IsThereWhileNoClassIsOpen) {
   EXPECT_TRUE(page()->isVisible());
 }
 
+// Laying it out takes as long as opening a class.
+TEST_F(StartPageTest, IsNotMadeForAProgramThatStartsWithAClass) {
+  const std::string file = WriteClass("MATH.TYR");
+  window.reset();
+  FrameForm = std::make_unique<MDIForm1>();
+  window = std::make_unique<FrameWindow>();
+  Screen = window.get();
+  window->Sync();  // the event loop begins before anything is shown
+  FrameForm->Load(file);
+  window->Sync();
+  Settle();
+  EXPECT_EQ(page(), nullptr);
+  ASSERT_NE(ClassWindows[1], nullptr);
+  EXPECT_TRUE(FrameForm->CloseWindow(*ClassWindows[1]));
+  Settle();
+  ASSERT_NE(page(), nullptr);
+  EXPECT_TRUE(page()->isVisible());
+}
+
 TEST_F(StartPageTest, EachWayToBeginHasALetterOfItsOwn) {
   QList<QKeySequence> letters;
   for (const char* entry : {"mnuwizard", "mnuown", "mnuOpen"})
