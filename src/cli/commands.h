@@ -44,6 +44,8 @@ void AddShowCommand(CLI::App& app, ChosenCommand& chosen);
 void AddAveragesCommand(CLI::App& app, ChosenCommand& chosen);
 void AddAttendanceCommand(CLI::App& app, ChosenCommand& chosen);
 void AddReportCommand(CLI::App& app, ChosenCommand& chosen);
+void AddStatisticsCommand(CLI::App& app, ChosenCommand& chosen);
+void AddCompareCommand(CLI::App& app, ChosenCommand& chosen);
 void AddImportCommand(CLI::App& app, ChosenCommand& chosen);
 void AddExportCommand(CLI::App& app, ChosenCommand& chosen);
 

@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The laid out report as a PDF file. A build without Qt has another implementation, which refuses.
+// Reports as PDF files, pictures as PDF and PNG. A build without Qt has another implementation,
+// which refuses.
 #pragma once
 
+#include <functional>
 #include <memory>
 #include <string>
 
@@ -17,6 +19,13 @@ struct PdfOutcome {
 // Lays the report of Job.ReportCode out and writes its pages. Where the report itself ended the
 // run, Job.PrintFlag tells.
 PdfOutcome WritePdf(const std::string& path, const std::string& title);
+
+// A picture on a sheet of its own, an inch from its corner.
+PdfOutcome WritePdfPage(const std::string& path, const std::string& title,
+                        const std::function<void(PrintTarget&)>& draw);
+// A picture as the bytes of a PNG file, its size in twips; empty without Qt.
+std::string PngOf(double width, double height, int dots_per_inch,
+                  const std::function<void(PrintTarget&)>& draw);
 
 // The surface on which the command line lays reports out.
 std::unique_ptr<PrintTarget> MakePaperBox(bool landscape);
