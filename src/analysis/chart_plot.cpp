@@ -50,8 +50,8 @@ class PlotPainter {
   explicit PlotPainter(ChartPainter& painter) : p_(painter), chart_(painter.chart()) {}
 
   void Draw() {
-    if (Count() == 0) return;
     p_.DrawTitle();
+    if (Count() == 0) return;
     p_.DrawLegendBelow(Entries());
     LayOut();
     DrawGrid();

@@ -42,6 +42,7 @@ frmcompare::frmcompare() : Portal("frmcompare") {
 }
 
 void frmcompare::Declare(ControlTable& rows) {
+  rows.Add("frames", frames);
   rows.Add("framefiles", framefiles);
   rows.Add("Listfiles", Listfiles);
   rows.Add("continue1", continue1).Click([this] { continue1_Click(); });
@@ -83,9 +84,13 @@ void frmcompare::Load() {
   SetFocus(Listfiles);
 }
 
-void frmcompare::ShowFrame(const Frame& shown) {
-  for (Frame* frame : {&framefiles, &framegrades, &framestat, &framegraph})
+void frmcompare::ShowFrame(Frame& shown) {
+  int page = 0;
+  for (Frame* frame : {&framefiles, &framegrades, &framestat, &framegraph}) {
     frame->Visible = frame == &shown;
+    if (frame->Visible) frames.Current = page;
+    ++page;
+  }
   exit.Visible = &shown != &framegraph;
   Continue.Visible = !exit.Visible;
 }
