@@ -15,11 +15,11 @@ frminfo::frminfo() : StudentScreen("frminfo", list1, "Codes") {
 }
 
 void frminfo::Declare(ControlTable& table) {
-  DeclareList(table, "list1");
-  DeclareRecord(table);
   table.Add("mnuprevious", mnuprevious).Click([this] { ShowPrevious(); });
   table.Add("mnuext", mnuext).Click([this] { ShowNext(); });
   table.Add("mnugraph", mnugraph).Click([this] { mnugraph_Click(); });
+  DeclareList(table, "list1");
+  DeclareRecord(table);
   table.Add("exit", exit).Click([this] { exit_Click(); });
 }
 

@@ -1,5 +1,4 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include <CLI/CLI.hpp>
 #include <memory>
 #include <utility>
 #include <vector>
@@ -152,17 +151,16 @@ CommandResult RunCompare(const CompareOptions& options) {
 
 }  // namespace
 
-void AddCompareCommand(CLI::App& app, ChosenCommand& chosen) {
-  CLI::App* command = app.add_subcommand("compare", "Sets a grade of several classes side by side");
+void AddCompareCommand(Command& app, ChosenCommand& chosen) {
+  Command command = app.AddCommand("compare", "Sets a grade of several classes side by side");
   const auto options = std::make_shared<CompareOptions>();
-  command->add_option("FILE", options->files, "two to five class files")
-      ->required()
-      ->expected(2, kMostFiles);
-  command->add_option("--grade", options->grade, "the title that the grade has in each")
-      ->required();
-  command->add_flag("--json", options->json, "as JSON, the ranges from the lowest up");
-  AddOpenOptions(*command, options->opening);
-  command->callback(
+  command.AddOption("FILE", options->files, "two to five class files")
+      .Required()
+      .Values(2, kMostFiles);
+  command.AddOption("--grade", options->grade, "the title that the grade has in each").Required();
+  command.AddFlag("--json", options->json, "as JSON, the ranges from the lowest up");
+  AddOpenOptions(command, options->opening);
+  command.WhenChosen(
       [&chosen, options] { chosen = [options](std::istream&) { return RunCompare(*options); }; });
 }
 

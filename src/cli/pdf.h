@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Reports as PDF files, pictures as PDF and PNG. A build without Qt has another implementation,
-// which refuses.
+// Reports as PDF files, pictures as PDF and PNG. Each program has one of three implementations:
+// pdf.cpp draws it, pdf_elsewhere.cpp has another program draw it, no_pdf.cpp of a build without Qt
+// refuses.
 #pragma once
 
 #include <functional>

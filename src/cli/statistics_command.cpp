@@ -1,5 +1,4 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include <CLI/CLI.hpp>
 #include <memory>
 #include <optional>
 #include <vector>
@@ -187,23 +186,23 @@ CommandResult Statistics(const StatisticsOptions& options) {
 
 }  // namespace
 
-void AddStatisticsCommand(CLI::App& app, ChosenCommand& chosen) {
-  CLI::App* command =
-      app.add_subcommand("statistics", "Shows the figures and the distribution of grades");
+void AddStatisticsCommand(Command& app, ChosenCommand& chosen) {
+  Command command =
+      app.AddCommand("statistics", "Shows the figures and the distribution of grades");
   const auto options = std::make_shared<StatisticsOptions>();
-  command->add_option("FILE", options->file, "the class file")->required();
-  command->add_option("--grade", options->grade, "one grade by its number or code");
-  CLI::Option* csv = command->add_flag("--csv", options->csv, "as comma-separated values");
-  command->add_flag("--json", options->json, "as JSON")->excludes(csv);
-  CLI::Option* chart =
-      command->add_option("--chart", options->chart, "draw the distribution: bar, line or pie")
-          ->check(CLI::IsMember({"bar", "line", "pie"}));
-  CLI::Option* out =
-      command->add_option("--out", options->out, "the chart's file: .svg, .png or .pdf");
-  chart->needs(out);
-  out->needs(chart);
-  AddOpenOptions(*command, options->opening);
-  command->callback(
+  command.AddOption("FILE", options->file, "the class file").Required();
+  command.AddOption("--grade", options->grade, "one grade by its number or code");
+  CommandOption csv = command.AddFlag("--csv", options->csv, "as comma-separated values");
+  command.AddFlag("--json", options->json, "as JSON").Excludes(csv);
+  CommandOption chart =
+      command.AddOption("--chart", options->chart, "draw the distribution: bar, line or pie")
+          .OneOf(std::vector<std::string>{"bar", "line", "pie"});
+  CommandOption out =
+      command.AddOption("--out", options->out, "the chart's file: .svg, .png or .pdf");
+  chart.Needs(out);
+  out.Needs(chart);
+  AddOpenOptions(command, options->opening);
+  command.WhenChosen(
       [&chosen, options] { chosen = [options](std::istream&) { return Statistics(*options); }; });
 }
 

@@ -45,9 +45,8 @@ void FixedPrintTarget::Cls() {
   CurrentX = CurrentY = 0;
 }
 
-void FixedPrintTarget::DrawTextAt(double x, double y, std::string_view text) {
-  job->pages.back().texts.push_back(
-      {x, y, std::string(text), FontSize, FontBold, false, ForeColor});
+void FixedPrintTarget::DrawTextAt(double x, double y, std::string_view text, double size) {
+  job->pages.back().texts.push_back({x, y, std::string(text), size, FontBold, false, ForeColor});
 }
 
 std::vector<std::string> FixedPrintTarget::RowsOf(const PrintedPage& page) {

@@ -55,6 +55,7 @@ struct PrintedJob {
   std::vector<PrintedPage> pages = std::vector<PrintedPage>(1);
   bool ended = false;
   bool killed = false;
+  bool fails = false;  // it will come to nothing
 };
 
 // A character is as wide as ten times its points, and a line as high as twenty-four times: at 10
@@ -72,7 +73,10 @@ class FixedPrintTarget : public PrintTarget {
   void FillPolygon(const std::vector<PrintPoint>& corners, PrintColor color) override;
   void PrintUpwards(std::string_view text, double x, double y) override;
   void NewPage() override;
-  void EndDoc() override { job->ended = true; }
+  bool EndDoc() override {
+    job->ended = true;
+    return !job->killed && !job->fails;
+  }
   void KillDoc() override { job->killed = true; }
   void Cls() override;
 
@@ -84,7 +88,7 @@ class FixedPrintTarget : public PrintTarget {
   static std::vector<std::string> RowsOf(const PrintedPage& page);
 
  protected:
-  void DrawTextAt(double x, double y, std::string_view text) override;
+  void DrawTextAt(double x, double y, std::string_view text, double size) override;
 
  private:
   Kind kind_;

@@ -37,6 +37,7 @@
 #include "roster/frmEdit.h"
 #include "roster/frmdelete.h"
 #include "roster/frmstudents.h"
+#include "seating/frmseating.h"
 #include "shell/frmWizard.h"
 #include "shell/frmclassinfo.h"
 #include "shell/frmstartup.h"
@@ -98,7 +99,7 @@ constexpr std::array kPortals{
     PortalRow{"frmgrone", Make<frmgrone>},
     PortalRow{"frmcompare", Make<frmcompare>},
     PortalRow{"frmwrdproc"},
-    PortalRow{"frmseating"},
+    PortalRow{"frmseating", Make<frmseating>},
     PortalRow{"frmtxt", Make<frmtxt>},
 };
 

@@ -109,7 +109,6 @@ TEST_F(FrmScrnAvgTest, UnderTypesTheTypesRule) {
 TEST_F(FrmScrnAvgTest, UnderPointsThePointsStandBesideTheAverage) {
   Current().Method = 2;
   Current().InstrumentUse = {Currency(), Money("1"), Money("1")};
-  TotalPossible[1] = 200;
   Open(portal);
   EXPECT_EQ(driver->Text("avg_label"), "Exact Average");
   driver->Choose("lstName", 0);
@@ -277,11 +276,15 @@ TEST_F(FrmInfoTest, AGraphNeedsAStudent) {
   EXPECT_EQ(window.status, "");
 }
 
-TEST_F(FrmInfoTest, TheGraphIsNotAvailableYet) {
+TEST_F(FrmInfoTest, TheGraphIsOfTheStudentShown) {
   Open(portal);
   driver->Press("mnuext");
+  screen.ExpectPortal("frmgrone", [](PortalDriver& work) {
+    EXPECT_EQ(CurrentStudent, 1);
+    work.Press("continue");
+  });
   driver->Press("mnugraph");
-  EXPECT_EQ(window.status, kPortalNotAvailable);
+  EXPECT_EQ(window.status, "");
 }
 
 TEST_F(FrmInfoTest, AnEmptyClassShowsNobody) {

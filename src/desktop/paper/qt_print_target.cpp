@@ -85,10 +85,10 @@ void QtPrintTarget::Cls() {
   CurrentX = CurrentY = 0;
 }
 
-void QtPrintTarget::DrawTextAt(double x, double y, std::string_view text) {
+void QtPrintTarget::DrawTextAt(double x, double y, std::string_view text, double size) {
   if (!Draws()) return;
   const double ascent = Metrics().ascent();
-  painter_->setFont(font_);
+  painter_->setFont(size == FontSize ? font_ : PaperFont(FontName, size, FontBold));
   painter_->setPen(QColor(ForeColor));
   painter_->drawText(PlaceOnSheet(x, y + ascent), PaperText(text));
 }

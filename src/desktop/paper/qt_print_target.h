@@ -32,7 +32,7 @@ class QtPrintTarget : public PrintTarget {
   void Cls() override;
 
  protected:
-  void DrawTextAt(double x, double y, std::string_view text) override;
+  void DrawTextAt(double x, double y, std::string_view text, double size) override;
 
  private:
   bool Draws() const;
