@@ -213,7 +213,7 @@ class PlotPainter {
       const double width = p_.Width(label, labels_.size);
       if (labels_.upwards) {
         const double x = Middle(i) - p_.LineHeight(labels_.size) / 2;
-        p_.TextUpwards(label, std::max(x, plot_.left), label_top_ + width, labels_.size);
+        p_.TextUpwards(label, x, label_top_ + width, labels_.size);
       } else {
         p_.Text(label, Middle(i) - width / 2, label_top_, labels_.size);
       }
