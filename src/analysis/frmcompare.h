@@ -20,6 +20,7 @@ struct frmcompare : Portal {
   void Load() override;
 
   Pages frames;  // of which one is shown
+  Pages steps;   // its buttons
   Frame framefiles, framegrades, framestat, framegraph;
   ListBox Listfiles;
   std::array<Label, kMostCompared> labelclass;

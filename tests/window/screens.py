@@ -6,7 +6,7 @@ import sys
 
 from gi.repository import Atspi
 from support import story
-from support.program import xdotool
+from support.program import wait_for, xdotool
 from support.steps import open_file, pass_greeting
 
 PICTURES = pathlib.Path(__file__).resolve().parents[2] / "docs" / "pictures"
@@ -105,7 +105,9 @@ def analysis(this):
     program.frame("SAMPLE8.TYR")
     program.keys("ctrl+i")
     program.window("Show Information Portal")
-    program.keys("alt+n", "alt+g", "alt+v")
+    program.keys("alt+n", "alt+g")
+    wait_for("the progress of a student", lambda: program.front().startswith("Student Progress"))
+    program.keys("alt+v")
     take(program, "frmgrone")
     program.keys("alt+c")
     program.window("Show Information Portal")
