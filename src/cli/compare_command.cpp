@@ -81,8 +81,8 @@ std::string Text(const std::vector<ComparedGrade>& compared) {
   const Comparison comparison = Compare(compared);
   Table panels = {{""}}, ranges = {{"Range"}};
   for (const ComparedGrade& each : compared) {
-    panels.front().push_back(Shown(each.name));
-    ranges.front().push_back(Shown(each.name));
+    panels.front().push_back(CellText(each.name));
+    ranges.front().push_back(CellText(each.name));
   }
   panels.front().emplace_back(Trim(kTotalsPanel));
   ranges.front().emplace_back("Total");

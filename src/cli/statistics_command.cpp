@@ -98,7 +98,7 @@ std::string Text(const std::vector<int>& grades) {
   for (const int grade : grades) {
     Table table = {{"", ""}};
     for (const NamedFigure& figure : FiguresByName(grade))
-      table.push_back({figure.label, Shown(figure.text.value_or("-"))});
+      table.push_back({figure.label, CellText(figure.text.value_or("-"))});
     const GradeQuartiles quartiles = QuartilesOfGrade(grade);
     const bool any = quartiles.n > 0;
     table.push_back({"Median", any ? PlainNumberText(quartiles.median) : "-"});

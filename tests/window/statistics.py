@@ -24,7 +24,7 @@ def figures(program):
     program.window("Statistics Portal")
     program.await_focus(Atspi.Role.LIST, "TITLES")
     program.keys("Home")
-    program.await_labels("2", "1", "85", "5", "100 %", "Median 85, middle half 82.5 to 87.5")
+    program.await_labels(" 2", " 1", " 85", " 5", " 100 %", "Median 85, middle half 82.5 to 87.5")
     program.keys("alt+o")
     program.gone("Statistics Portal")
 
