@@ -13,6 +13,7 @@ namespace {
 constexpr double kSmallestLabel = 6;
 constexpr double kBarsShare = 0.8;  // of a slot
 constexpr double kGridWidth = 5, kThinWidth = 15, kLineWidth = 30;
+constexpr double kMarkRadius = 45;
 constexpr double kDotsShare = 0.15;  // of the height
 
 // How the labels stand below the points. They get smaller before they turn, and turn before some
@@ -50,8 +51,8 @@ class PlotPainter {
   explicit PlotPainter(ChartPainter& painter) : p_(painter), chart_(painter.chart()) {}
 
   void Draw() {
-    if (Count() == 0) return;
     p_.DrawTitle();
+    if (Count() == 0) return;
     p_.DrawLegendBelow(Entries());
     LayOut();
     DrawGrid();
@@ -135,8 +136,9 @@ class PlotPainter {
       plot_.top += dots_.height + p_.gap();
       plot_.height -= dots_.height + p_.gap();
     }
-    const double above = values_fit_ ? line : line / 2;
-    const double below = (values_fit_ && axis_.bottom < 0 ? line : 0) + p_.gap();
+    const double value_room = line + (chart_.kind == ChartKind::kLine ? kMarkRadius : 0);
+    const double above = values_fit_ ? value_room : line / 2;
+    const double below = (values_fit_ && axis_.bottom < 0 ? value_room : 0) + p_.gap();
     label_top_ = plot_.top + plot_.height - labels_.height - (labels_.every > 1 ? line : 0);
     plot_.height = std::max(label_top_ - below - plot_.top - above, 1.0);
     plot_.top += above;
@@ -161,8 +163,8 @@ class PlotPainter {
       if (std::isnan(value)) continue;
       const double x = Middle(i), y = Height(value);
       // Its points can be seen where bars hide the line between them.
-      const double tick = slot_ / 2;
-      p_.Line({x - tick, y}, {x + tick, y}, kThinWidth, p_.colors().thin);
+      const double tick = chart_.kind == ChartKind::kBar ? slot_ / 2 : 0;
+      if (tick > 0) p_.Line({x - tick, y}, {x + tick, y}, kThinWidth, p_.colors().thin);
       const bool goes_on = i + 1 < chart_.thin_line.size() && i + 1 < Count();
       if (goes_on && !std::isnan(chart_.thin_line[i + 1]))
         p_.Line({x, y}, {Middle(i + 1), Height(chart_.thin_line[i + 1])}, kThinWidth,
@@ -183,7 +185,7 @@ class PlotPainter {
 
   // Each set has marks of its own shape: colour alone says nothing.
   std::vector<PrintPoint> MarkAt(std::size_t set, double x, double y) const {
-    const double r = std::min(45.0, slot_ / 2);
+    const double r = std::min(kMarkRadius, slot_ / 2);
     switch (set % kChartSets) {
       case 0:
         return Rectangle(x - r * 0.8, y - r * 0.8, x + r * 0.8, y + r * 0.8);
@@ -213,7 +215,7 @@ class PlotPainter {
       const double width = p_.Width(label, labels_.size);
       if (labels_.upwards) {
         const double x = Middle(i) - p_.LineHeight(labels_.size) / 2;
-        p_.TextUpwards(label, std::max(x, plot_.left), label_top_ + width, labels_.size);
+        p_.TextUpwards(label, x, label_top_ + width, labels_.size);
       } else {
         p_.Text(label, Middle(i) - width / 2, label_top_, labels_.size);
       }
@@ -236,7 +238,8 @@ class PlotPainter {
         const double middle = bars ? SlotLeft(i) + slot_ * (1 - kBarsShare) / 2 +
                                          BarWidth() * (static_cast<double>(set) + 0.5)
                                    : Middle(i);
-        const double y = Height(Value(set, i));
+        const double apart = bars ? 0 : kMarkRadius;  // from the mark of a line
+        const double y = Height(Value(set, i)) + (Value(set, i) < 0 ? apart : -apart);
         p_.Text(text, middle - p_.Width(text, p_.size()) / 2, Value(set, i) < 0 ? y : y - line,
                 p_.size());
       }

@@ -42,19 +42,21 @@ frmcompare::frmcompare() : Portal("frmcompare") {
 }
 
 void frmcompare::Declare(ControlTable& rows) {
+  rows.Add("frames", frames);
   rows.Add("framefiles", framefiles);
   rows.Add("Listfiles", Listfiles);
-  rows.Add("continue1", continue1).Click([this] { continue1_Click(); });
   rows.Add("framegrades", framegrades);
   DeclareGrades(rows);
-  rows.Add("continue2", continue2).Click([this] { continue2_Click(); });
   rows.Add("framestat", framestat);
   rows.Add("panel", panel);
-  rows.Add("continue3", continue3).Click([this] { continue3_Click(); });
   rows.Add("framegraph", framegraph);
   rows.Add("Graph1", Graph1);
   rows.Add("tabletitle", tabletitle);
   rows.Add("table", table);
+  rows.Add("steps", steps);
+  rows.Add("continue1", continue1).Click([this] { continue1_Click(); });
+  rows.Add("continue2", continue2).Click([this] { continue2_Click(); });
+  rows.Add("continue3", continue3).Click([this] { continue3_Click(); });
   rows.Add("linegr", linegr).Click([this] { linegr_Click(); });
   rows.Add("bar", bar).Click([this] { bar_Click(); });
   rows.Add("printgr", printgr).Click([this] { printgr_Click(); });
@@ -83,9 +85,13 @@ void frmcompare::Load() {
   SetFocus(Listfiles);
 }
 
-void frmcompare::ShowFrame(const Frame& shown) {
-  for (Frame* frame : {&framefiles, &framegrades, &framestat, &framegraph})
+void frmcompare::ShowFrame(Frame& shown) {
+  int page = 0;
+  for (Frame* frame : {&framefiles, &framegrades, &framestat, &framegraph}) {
     frame->Visible = frame == &shown;
+    if (frame->Visible) frames.Current = steps.Current = page;
+    ++page;
+  }
   exit.Visible = &shown != &framegraph;
   Continue.Visible = !exit.Visible;
 }

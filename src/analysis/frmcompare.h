@@ -19,6 +19,8 @@ struct frmcompare : Portal {
   void Declare(ControlTable& table) override;
   void Load() override;
 
+  Pages frames;  // of which one is shown
+  Pages steps;   // its buttons
   Frame framefiles, framegrades, framestat, framegraph;
   ListBox Listfiles;
   std::array<Label, kMostCompared> labelclass;
@@ -41,7 +43,7 @@ struct frmcompare : Portal {
 
  private:
   void DeclareGrades(ControlTable& rows);
-  void ShowFrame(const Frame& shown);
+  void ShowFrame(Frame& shown);
   // A class may have been closed or changed since it was chosen: then it is said, and false.
   bool AllThere();
   void ShowPanels();

@@ -91,7 +91,7 @@ std::string OpenClassFile(const std::string& path, const OpenOptions& options) {
 
 void AddForce(Command& command, bool& force) {
   command.AddFlag("--force", force,
-                   "replace a file that is there already; the old one is kept as a backup");
+                  "replace a file that is there already; the old one is kept as a backup");
 }
 
 std::string WriteClassTo(const std::string& path, const Class& c, bool force) {

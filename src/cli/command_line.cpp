@@ -69,6 +69,8 @@ int RunCommandLine(int argc, const char* const* argv, std::istream& in, std::ost
   AddAveragesCommand(app, chosen);
   AddAttendanceCommand(app, chosen);
   AddReportCommand(app, chosen);
+  AddStatisticsCommand(app, chosen);
+  AddCompareCommand(app, chosen);
   AddImportCommand(app, chosen);
   AddExportCommand(app, chosen);
   std::string reason;

@@ -36,6 +36,11 @@ CommandOption CommandOption::OneValueEach() {
   return *this;
 }
 
+CommandOption CommandOption::Values(int least, int most) {
+  option_->expected(least, most);
+  return *this;
+}
+
 CommandOption CommandOption::Excludes(CommandOption other) {
   option_->excludes(other.option_);
   return *this;

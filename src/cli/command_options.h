@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// How a command names its options. The parser behind it stands in command_options.cpp alone: each file
-// that sees the parser's header takes five seconds longer to read and seventeen to compile.
+// How a command names its options. The parser behind it stands in command_options.cpp alone: each
+// file that sees the parser's header takes five seconds longer to read and seventeen to compile.
 #pragma once
 
 #include <functional>
@@ -32,6 +32,8 @@ class CommandOption {
   CommandOption Check(std::function<std::string(const std::string& text)> reason);
   // Each time it is given it takes one value.
   CommandOption OneValueEach();
+  // An argument that takes so many values.
+  CommandOption Values(int least, int most);
   CommandOption Excludes(CommandOption other);
   CommandOption Needs(CommandOption other);
 

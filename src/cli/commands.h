@@ -44,6 +44,8 @@ void AddShowCommand(Command& app, ChosenCommand& chosen);
 void AddAveragesCommand(Command& app, ChosenCommand& chosen);
 void AddAttendanceCommand(Command& app, ChosenCommand& chosen);
 void AddReportCommand(Command& app, ChosenCommand& chosen);
+void AddStatisticsCommand(Command& app, ChosenCommand& chosen);
+void AddCompareCommand(Command& app, ChosenCommand& chosen);
 void AddImportCommand(Command& app, ChosenCommand& chosen);
 void AddExportCommand(Command& app, ChosenCommand& chosen);
 

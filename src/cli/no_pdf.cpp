@@ -7,6 +7,16 @@ PdfOutcome WritePdf(const std::string& /*path*/, const std::string& /*title*/) {
   return {"PDF is not available here"};
 }
 
+PdfOutcome WritePdfPage(const std::string& /*path*/, const std::string& /*title*/,
+                        const std::function<void(PrintTarget&)>& /*draw*/) {
+  return {"PDF is not available here"};
+}
+
+std::string PngOf(double /*width*/, double /*height*/, int /*dots_per_inch*/,
+                  const std::function<void(PrintTarget&)>& /*draw*/) {
+  return {};
+}
+
 std::unique_ptr<PrintTarget> MakePaperBox(bool /*landscape*/) {
   return nullptr;
 }

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "cli/pdf.h"
 
+#include "desktop/paper/chart_picture.h"
 #include "desktop/paper/offscreen_application.h"
 #include "desktop/paper/pdf_target.h"
 #include "printing/print_run.h"
@@ -21,6 +22,26 @@ PdfOutcome WritePdf(const std::string& path, const std::string& title) {
   PrintPages(*pdf, pages, [](int) {});
   outcome.error = pdf->Error();
   return outcome;
+}
+
+PdfOutcome WritePdfPage(const std::string& path, const std::string& title,
+                        const std::function<void(PrintTarget&)>& draw) {
+  constexpr double kInch = 1440;
+  const OffscreenApplication application;
+  PdfOutcome outcome;
+  const auto pdf = PdfTarget::Open(path, WholeSheet(UsualPageSize()), false, title, outcome.error);
+  if (!pdf) return outcome;
+  pdf->ScaleLeft = pdf->ScaleTop = -kInch;
+  draw(*pdf);
+  pdf->EndDoc();
+  outcome.error = pdf->Error();
+  return outcome;
+}
+
+std::string PngOf(double width, double height, int dots_per_inch,
+                  const std::function<void(PrintTarget&)>& draw) {
+  const OffscreenApplication application;
+  return PngPicture(width, height, dots_per_inch, draw);
 }
 
 std::unique_ptr<PrintTarget> MakePaperBox(bool landscape) {

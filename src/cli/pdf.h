@@ -1,8 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The laid out report as a PDF file. Each program has one of three implementations: pdf.cpp draws it,
-// pdf_elsewhere.cpp has another program draw it, no_pdf.cpp of a build without Qt refuses.
+// Reports as PDF files, pictures as PDF and PNG. Each program has one of three implementations:
+// pdf.cpp draws it, pdf_elsewhere.cpp has another program draw it, no_pdf.cpp of a build without Qt
+// refuses.
 #pragma once
 
+#include <functional>
 #include <memory>
 #include <string>
 
@@ -18,6 +20,13 @@ struct PdfOutcome {
 // Lays the report of Job.ReportCode out and writes its pages. Where the report itself ended the
 // run, Job.PrintFlag tells.
 PdfOutcome WritePdf(const std::string& path, const std::string& title);
+
+// A picture on a sheet of its own, an inch from its corner.
+PdfOutcome WritePdfPage(const std::string& path, const std::string& title,
+                        const std::function<void(PrintTarget&)>& draw);
+// A picture as the bytes of a PNG file, its size in twips; empty without Qt.
+std::string PngOf(double width, double height, int dots_per_inch,
+                  const std::function<void(PrintTarget&)>& draw);
 
 // The surface on which the command line lays reports out.
 std::unique_ptr<PrintTarget> MakePaperBox(bool landscape);

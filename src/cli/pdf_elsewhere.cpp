@@ -30,15 +30,31 @@ void RunAgainWith(const std::filesystem::path& program) {
   if (line.error == 0) execv(program.c_str(), ArgumentsIn(line.bytes).data());
 }
 
-}  // namespace
-
-PdfOutcome WritePdf(const std::string& /*path*/, const std::string& /*title*/) {
+// Comes back only when there is none.
+void RunWithQt() {
   std::error_code error;
   const std::filesystem::path folder =
       std::filesystem::read_symlink("/proc/self/exe", error).parent_path();
   RunAgainWith(folder / kWithQt);
   RunAgainWith(folder / TALLYROLL_LIBEXEC / kWithQt);
+}
+
+}  // namespace
+
+PdfOutcome WritePdf(const std::string& /*path*/, const std::string& /*title*/) {
+  RunWithQt();
   return {"PDF is not available here"};
+}
+
+PdfOutcome WritePdfPage(const std::string& path, const std::string& title,
+                        const std::function<void(PrintTarget&)>& /*draw*/) {
+  return WritePdf(path, title);
+}
+
+std::string PngOf(double /*width*/, double /*height*/, int /*dots_per_inch*/,
+                  const std::function<void(PrintTarget&)>& /*draw*/) {
+  RunWithQt();
+  return {};
 }
 
 std::unique_ptr<PrintTarget> MakePaperBox(bool /*landscape*/) {

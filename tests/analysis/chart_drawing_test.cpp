@@ -124,7 +124,7 @@ TEST(ChartAxis, ReachesBelowZeroOnlyWhereAValueDoes) {
 
 TEST(ChartAxis, OfNothingIsFromZeroToOne) {
   EXPECT_EQ(AxisFor(0, 0, 5).top, 1);
-  EXPECT_EQ(AxisFor(-10, 10, 0).step, 10);
+  EXPECT_EQ(AxisFor(-10, 10, 0).step, 20);  // one step is wanted, the two ends take one each
 }
 
 TEST(ChartDrawing, BarsAreAsHighAsTheirValues) {

@@ -276,11 +276,15 @@ TEST_F(FrmInfoTest, AGraphNeedsAStudent) {
   EXPECT_EQ(window.status, "");
 }
 
-TEST_F(FrmInfoTest, TheGraphIsNotAvailableYet) {
+TEST_F(FrmInfoTest, TheGraphIsOfTheStudentShown) {
   Open(portal);
   driver->Press("mnuext");
+  screen.ExpectPortal("frmgrone", [](PortalDriver& work) {
+    EXPECT_EQ(CurrentStudent, 1);
+    work.Press("continue");
+  });
   driver->Press("mnugraph");
-  EXPECT_EQ(window.status, kPortalNotAvailable);
+  EXPECT_EQ(window.status, "");
 }
 
 TEST_F(FrmInfoTest, AnEmptyClassShowsNobody) {

@@ -6,8 +6,8 @@ import sys
 
 from gi.repository import Atspi
 from support import story
-from support.program import xdotool
-from support.steps import pass_greeting
+from support.program import wait_for, xdotool
+from support.steps import open_file, pass_greeting
 
 PICTURES = pathlib.Path(__file__).resolve().parents[2] / "docs" / "pictures"
 
@@ -85,6 +85,47 @@ def averages(this):
     program.window("Grades Portal")
     program.keys("alt+n")
     take(program, "frmscrnavg")
+    program.stop()
+
+
+def analysis(this):
+    """A grade in figures and pictures."""
+    program = this.start(this.sample("SAMPLE8.TYR"))
+    program.frame("SAMPLE8.TYR")
+    program.keys("alt+v", "s")
+    program.window("Statistics Portal")
+    program.keys("Home")
+    take(program, "frmstatistic")
+    program.keys("alt+o")
+    program.gone("Statistics Portal")
+    for key, name in (("alt+b", "frmgraph"), ("alt+l", "frmgraph-line"), ("alt+p", "frmgraph-pie")):
+        program.keys(key)
+        take(program, name)
+    program.keys("alt+x")
+    program.frame("SAMPLE8.TYR")
+    program.keys("ctrl+i")
+    program.window("Show Information Portal")
+    program.keys("alt+n", "alt+g")
+    wait_for("the progress of a student", lambda: program.front().startswith("Student Progress"))
+    program.keys("alt+v")
+    take(program, "frmgrone")
+    program.keys("alt+c")
+    program.window("Show Information Portal")
+    program.keys("Escape")
+    program.gone("Show Information Portal")
+    portal(program, ["alt+v", "r"], "View  Roll Book Portal", "FRMROLLBOOK")
+    portal(program, ["alt+v", "o"], "Display Single Grade Portal", "frmsingles", ["alt+n", "alt+g", "h"])
+    other = this.sample("OTHER.TYR")
+    open_file(program, other, "OTHER.TYR")
+    program.keys("alt+v", "s")
+    program.window("Statistics Portal")
+    program.keys("alt+p")
+    program.window("Compare Statistics Portal")
+    program.keys("Home", "space", "Down", "space", "alt+o", "Down", "Tab", "Down", "Down", "alt+o")
+    take(program, "frmcompare-figures")
+    program.keys("alt+o")
+    program.window("Comparisons for SAMPLE8.TYR, OTHER.TYR")
+    take(program, "frmcompare")
     program.stop()
 
 
@@ -189,6 +230,7 @@ def tell(this):
     greeting(this)
     portals(this)
     averages(this)
+    analysis(this)
     sample_window(this, "sample-dark", "--dark").stop()
     sample_window(this, "sample-150", environment={"QT_SCALE_FACTOR": "1.5"}).stop()
 
