@@ -1,5 +1,4 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include <CLI/CLI.hpp>
 #include <memory>
 #include <vector>
 
@@ -179,21 +178,21 @@ CommandResult Attendance(const AttendanceOptions& options) {
 
 }  // namespace
 
-void AddAttendanceCommand(CLI::App& app, ChosenCommand& chosen) {
-  CLI::App* command =
-      app.add_subcommand("attendance", "Counts every student's absences, cuts, lates and so on");
+void AddAttendanceCommand(Command& app, ChosenCommand& chosen) {
+  Command command =
+      app.AddCommand("attendance", "Counts every student's absences, cuts, lates and so on");
   const auto options = std::make_shared<AttendanceOptions>();
-  command->add_option("FILE", options->file, "the class file")->required();
-  command->add_option("--months", options->months, "these months alone, YYYY-MM..YYYY-MM");
+  command.AddOption("FILE", options->file, "the class file").Required();
+  command.AddOption("--months", options->months, "these months alone, YYYY-MM..YYYY-MM");
   command
-      ->add_option("--consecutive", options->consecutive,
-                   "who was absent on so many marked days in a row, with the dates")
-      ->check(CLI::Range(1, 32767));
-  CLI::Option* csv = command->add_flag("--csv", options->csv, "as comma-separated values");
-  command->add_flag("--json", options->json, "as JSON")->excludes(csv);
-  AddNameMode(*command, options->name_mode);
-  AddOpenOptions(*command, options->opening);
-  command->callback(
+      .AddOption("--consecutive", options->consecutive,
+                 "who was absent on so many marked days in a row, with the dates")
+      .Between(1, 32767);
+  CommandOption csv = command.AddFlag("--csv", options->csv, "as comma-separated values");
+  command.AddFlag("--json", options->json, "as JSON").Excludes(csv);
+  AddNameMode(command, options->name_mode);
+  AddOpenOptions(command, options->opening);
+  command.WhenChosen(
       [&chosen, options] { chosen = [options](std::istream&) { return Attendance(*options); }; });
 }
 

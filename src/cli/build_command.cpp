@@ -1,5 +1,4 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include <CLI/CLI.hpp>
 #include <istream>
 #include <iterator>
 #include <memory>
@@ -41,14 +40,13 @@ CommandResult Build(const BuildOptions& options, std::istream& in) {
 
 }  // namespace
 
-void AddBuildCommand(CLI::App& app, ChosenCommand& chosen) {
-  CLI::App* command =
-      app.add_subcommand("build", "Writes the class file that a JSON text describes");
+void AddBuildCommand(Command& app, ChosenCommand& chosen) {
+  Command command = app.AddCommand("build", "Writes the class file that a JSON text describes");
   const auto options = std::make_shared<BuildOptions>();
-  command->add_option("JSON", options->json, "the JSON file, - for standard input")->required();
-  command->add_option("FILE", options->file, "the class file to write")->required();
-  AddForce(*command, options->force);
-  command->callback(
+  command.AddOption("JSON", options->json, "the JSON file, - for standard input").Required();
+  command.AddOption("FILE", options->file, "the class file to write").Required();
+  AddForce(command, options->force);
+  command.WhenChosen(
       [&chosen, options] { chosen = [options](std::istream& in) { return Build(*options, in); }; });
 }
 

@@ -1,18 +1,16 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "cli/class_in_file.h"
 
-#include <CLI/CLI.hpp>
 #include <filesystem>
 
-#include "attendance/calendar.h"
 #include "base/number_text.h"
 #include "base/run_time_error.h"
 #include "cli/command_line_surroundings.h"
 #include "cli/commands.h"
 #include "cli/date_order.h"
+#include "shell/opened_class.h"
 #include "store/class_backup.h"
-#include "store/class_defaults.h"
-#include "store/class_file.h"
+#include "store/class_format.h"
 #include "store/older_class_file.h"
 #include "store/program_state.h"
 #include "store/safe_file.h"
@@ -68,35 +66,31 @@ std::string ParseClassFile(const std::string& path, Class& c) {
   return outcome.error == 0 ? "" : FileErrorText(outcome.error);
 }
 
-void AddOpenOptions(CLI::App& command, OpenOptions& options) {
-  command.add_option("--password", options.password, "the password of the file");
+void AddOpenOptions(Command& command, OpenOptions& options) {
+  command.AddOption("--password", options.password, "the password of the file");
   command
-      .add_option("--date-order", options.date_order,
-                  "how the dates in the file are read (otherwise as the system's locale has them)")
-      ->check(CLI::IsMember({"mdy", "dmy", "ymd"}));
+      .AddOption("--date-order", options.date_order,
+                 "how the dates in the file are read (otherwise as the system's locale has them)")
+      .OneOf({"mdy", "dmy", "ymd"});
 }
 
-void AddNameMode(CLI::App& command, i16& name_mode) {
+void AddNameMode(Command& command, i16& name_mode) {
   command
-      .add_option("--name-mode", name_mode,
-                  "by name: 68 with the ID, 57 without; by ID: 82 with the name, 73 without")
-      ->check(CLI::IsMember({68, 57, 82, 73}));
+      .AddOption("--name-mode", name_mode,
+                 "by name: 68 with the ID, 57 without; by ID: 82 with the name, 73 without")
+      .OneOf({68, 57, 82, 73});
 }
 
 std::string OpenClassFile(const std::string& path, const OpenOptions& options) {
   CommandLineSurroundings surroundings(options.password, DateOrderOfOption(options.date_order));
   CurrentClass = 1;
-  ResetClassSlot();
-  Current().FileName = path;
-  ReadClassFile();
+  const bool opened = OpenClass(path);
   if (!surroundings.Refusal().empty()) return surroundings.Refusal();
-  if (Current().FileName.empty()) return "cannot be opened";
-  if (IsOlderFormat(Current())) RecalculateRangeSummaries();
-  return {};
+  return opened ? "" : "cannot be opened";
 }
 
-void AddForce(CLI::App& command, bool& force) {
-  command.add_flag("--force", force,
+void AddForce(Command& command, bool& force) {
+  command.AddFlag("--force", force,
                    "replace a file that is there already; the old one is kept as a backup");
 }
 

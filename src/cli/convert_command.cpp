@@ -1,5 +1,4 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include <CLI/CLI.hpp>
 #include <memory>
 
 #include "cli/class_in_file.h"
@@ -32,15 +31,14 @@ CommandResult Convert(const ConvertOptions& options) {
 
 }  // namespace
 
-void AddConvertCommand(CLI::App& app, ChosenCommand& chosen) {
-  CLI::App* command =
-      app.add_subcommand("convert", "Writes an older class file in the current format");
+void AddConvertCommand(Command& app, ChosenCommand& chosen) {
+  Command command = app.AddCommand("convert", "Writes an older class file in the current format");
   const auto options = std::make_shared<ConvertOptions>();
-  command->add_option("OLD", options->from, "the older class file")->required();
-  command->add_option("NEW", options->to, "the class file to write")->required();
-  AddOpenOptions(*command, options->opening);
-  AddForce(*command, options->force);
-  command->callback(
+  command.AddOption("OLD", options->from, "the older class file").Required();
+  command.AddOption("NEW", options->to, "the class file to write").Required();
+  AddOpenOptions(command, options->opening);
+  AddForce(command, options->force);
+  command.WhenChosen(
       [&chosen, options] { chosen = [options](std::istream&) { return Convert(*options); }; });
 }
 

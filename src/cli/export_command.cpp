@@ -1,5 +1,4 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include <CLI/CLI.hpp>
 #include <memory>
 
 #include "base/number_text.h"
@@ -47,27 +46,27 @@ CommandResult Export(const ExportOptions& options) {
 
 }  // namespace
 
-void AddExportCommand(CLI::App& app, ChosenCommand& chosen) {
-  CLI::App* command = app.add_subcommand("export", "Writes the students of a class to a text file");
+void AddExportCommand(Command& app, ChosenCommand& chosen) {
+  Command command = app.AddCommand("export", "Writes the students of a class to a text file");
   const auto options = std::make_shared<ExportOptions>();
-  command->add_option("FILE", options->file, "the class file")->required();
-  command->add_option("--what", options->what, "what is written of each student")
-      ->required()
-      ->check(CLI::IsMember(NamesOf(kWhats)));
-  command->add_option("--layout", options->layout, "how the fields of a line are parted")
-      ->required()
-      ->check(CLI::IsMember(NamesOf(kTextLayouts)));
-  command->add_option("--out", options->out, "the text file to write")->required();
+  command.AddOption("FILE", options->file, "the class file").Required();
+  command.AddOption("--what", options->what, "what is written of each student")
+      .Required()
+      .OneOf(NamesOf(kWhats));
+  command.AddOption("--layout", options->layout, "how the fields of a line are parted")
+      .Required()
+      .OneOf(NamesOf(kTextLayouts));
+  command.AddOption("--out", options->out, "the text file to write").Required();
   command
-      ->add_option("--encoding", options->encoding,
-                   "utf-8 with its mark, or windows-1252; otherwise utf-8 for csv alone")
-      ->check(CLI::IsMember(NamesOf(kEncodings)));
+      .AddOption("--encoding", options->encoding,
+                 "utf-8 with its mark, or windows-1252; otherwise utf-8 for csv alone")
+      .OneOf(NamesOf(kEncodings));
   command
-      ->add_option("--name-mode", options->name_mode,
-                   "the order of the students: by name 68 or 57, by ID 82 or 73")
-      ->check(CLI::IsMember({68, 57, 82, 73}));
-  AddOpenOptions(*command, options->opening);
-  command->callback(
+      .AddOption("--name-mode", options->name_mode,
+                 "the order of the students: by name 68 or 57, by ID 82 or 73")
+      .OneOf({68, 57, 82, 73});
+  AddOpenOptions(command, options->opening);
+  command.WhenChosen(
       [&chosen, options] { chosen = [options](std::istream&) { return Export(*options); }; });
 }
 

@@ -13,7 +13,7 @@ namespace {
 
 constexpr int kTitleWidth = 3360;
 constexpr int kCodeWidth = 900;
-constexpr int kMarkWidth = 1100;
+constexpr int kMarkOfGradeWidth = 1100;
 
 void FillTitles(Grid& grid) {
   const Class& c = Current();
@@ -22,7 +22,7 @@ void FillTitles(Grid& grid) {
   grid.FixedCols = kMarkColumn;
   grid.SetColWidth(0, kTitleWidth);
   grid.SetColWidth(1, kCodeWidth);
-  grid.SetColWidth(kMarkColumn, kMarkWidth);
+  grid.SetColWidth(kMarkColumn, kMarkOfGradeWidth);
   grid.SetColAlignment(kMarkColumn, ColumnAlign::kRight);
   grid.Row = grid.TopRow = 1;
   grid.Col = grid.LeftCol = kMarkColumn;

@@ -66,14 +66,16 @@ void frmMarks::Declare(ControlTable& table) {
   table.Add("exit", exit).Click([this] { exit_Click(); });
   table.Add("cancel", cancel).Click([this] { cancel_Click(); });
   const auto option = [&](std::string_view name, OptionButton& button, bool takes_text) {
-    table.Add(name, button).Click([this, takes_text] { Text1.Enabled = takes_text; });
+    table.Add(name, button)
+        .Click([this, takes_text] { Text1.Enabled = takes_text; })
+        .KeyDown([this](Key key) { return FillByEnter(key); });
   };
   option("Option1", Option1, false);
   option("Option2", Option2, false);
   option("Option3", Option3, false);
   option("Option4", Option4, false);
   option("Option5", Option5, true);
-  table.Add("Text1", Text1);
+  table.Add("Text1", Text1).KeyDown([this](Key key) { return FillByEnter(key); });
   table.Add("Command5", Command5).Click([this] { Command5_Click(); });
   table.Add("Command6", Command6).Click([this] { Command6_Click(); });
 }
@@ -187,6 +189,13 @@ void frmMarks::Command5_Click() {
   for (int i = 1; i < Grid1.Rows(); ++i)
     if (MarkCell(i).empty() || MarkCell(i) == " ") SetMarkCell(i, FillMark());
   Command6_Click();
+}
+
+// The default button stands behind the fill and cannot be pressed.
+bool frmMarks::FillByEnter(Key key) {
+  if (key != Key::kEnter) return false;
+  Command5_Click();
+  return true;
 }
 
 void frmMarks::Command6_Click() {

@@ -51,6 +51,7 @@ struct frmMarks : GradeForm {
   void FillFromFile();
   void OpenFill(bool open);
   std::string FillMark() const;
+  bool FillByEnter(Key key);
   bool NothingEntered() const;
   bool AddGrade(i16 maximum_score);  // false: the class holds no more
   bool MayReplaceTitle();

@@ -15,8 +15,8 @@
 namespace tallyroll {
 namespace {
 
-constexpr int kLongestCode = 3;
-constexpr double kUsualPass = 65;  // of 100
+constexpr int kLongestGradeCode = 3;
+constexpr double kUsualPassOf100 = 65;  // of 100
 
 bool Blank(std::string_view text) {
   return Trim(text).empty();
@@ -31,15 +31,20 @@ void TellNoWholeNumber() {
 GradeForm::GradeForm(std::string_view name)
     : Portal(name), marks(*this, Grid1, kMarkColumn, [this] { MarksChanged(); }) {
   title.MaxLength = mvalue.MaxLength = lowpass.MaxLength = kLongestText;
-  code.MaxLength = kLongestCode;
+  code.MaxLength = kLongestGradeCode;
 }
 
 void GradeForm::DeclareHeader(ControlTable& table, std::string_view title_name) {
-  table.Add(title_name, title).Change([this] { HeaderChanged(); });
-  table.Add("code", code).Change([this] { HeaderChanged(); });
+  // Return goes through the header down to the marks.
+  const auto on_return_to = [this](auto& next) {
+    return [this, &next](Key key) { return key == Key::kEnter && GoOnTo(next); };
+  };
+  table.Add(title_name, title).Change([this] { HeaderChanged(); }).KeyDown(on_return_to(code));
+  table.Add("code", code).Change([this] { HeaderChanged(); }).KeyDown(on_return_to(mvalue));
   table.Add("mvalue", mvalue)
       .Change([this] { mvalue_Change(); })
       .GotFocus([this] { SelectAll(mvalue); })
+      .KeyDown(on_return_to(dropyn))
       .KeyPress([this](unsigned char key) { return mvalue_KeyPress(key); });
   table.Add("dropyn", dropyn)
       .Change([this] {
@@ -47,16 +52,21 @@ void GradeForm::DeclareHeader(ControlTable& table, std::string_view title_name) 
         if (dropyn.Text != "Y") dropyn.Text = "N";
         HeaderChanged();
       })
-      .KeyDown([this](Key key) { return key == Key::kDelete && dropyn_Key(); })
+      .KeyDown([this](Key key) { return dropyn_KeyDown(key); })
       .KeyPress([this](unsigned char) { return dropyn_Key(); });
-  table.Add("testdate", testdate).Change([this] {
-    DatePicked = true;
-    HeaderChanged();
-  });
-  table.Add("lowpass", lowpass).Change([this] { HeaderChanged(); }).GotFocus([this] {
-    SelectAll(lowpass);
-  });
-  table.Add("ttypelist", ttypelist).Change([this] { HeaderChanged(); });
+  table.Add("testdate", testdate)
+      .Change([this] {
+        DatePicked = true;
+        HeaderChanged();
+      })
+      .KeyDown(on_return_to(lowpass));
+  table.Add("lowpass", lowpass)
+      .Change([this] { HeaderChanged(); })
+      .GotFocus([this] { SelectAll(lowpass); })
+      .KeyDown(on_return_to(ttypelist));
+  table.Add("ttypelist", ttypelist)
+      .Change([this] { HeaderChanged(); })
+      .KeyDown(on_return_to(Grid1));
 }
 
 bool GradeForm::mvalue_KeyPress(unsigned char key) {
@@ -66,8 +76,23 @@ bool GradeForm::mvalue_KeyPress(unsigned char key) {
 }
 
 void GradeForm::mvalue_Change() {
-  lowpass.Text = PlainNumberText(LeadingNumber(mvalue.Text) * kUsualPass / 100);
+  lowpass.Text = PlainNumberText(LeadingNumber(mvalue.Text) * kUsualPassOf100 / 100);
   HeaderChanged();
+}
+
+bool GradeForm::GoOnTo(TextBox& next) {
+  SetFocusAndSelect(next);
+  return true;
+}
+
+bool GradeForm::GoOnTo(const Control& next) {
+  SetFocus(next);
+  return true;
+}
+
+bool GradeForm::dropyn_KeyDown(Key key) {
+  if (key == Key::kEnter) return GoOnTo(testdate);
+  return key == Key::kDelete && dropyn_Key();
 }
 
 bool GradeForm::dropyn_Key() {

@@ -52,8 +52,12 @@ struct GradeForm : Portal {
   bool DatePicked = false;  // by the teacher, since the header was filled
 
  private:
+  // By Return; true, as for a key that is used up.
+  bool GoOnTo(TextBox& next);
+  bool GoOnTo(const Control& next);
   bool mvalue_KeyPress(unsigned char key);
   void mvalue_Change();
+  bool dropyn_KeyDown(Key key);
   bool dropyn_Key();
   void SelectAll(TextBox& box);
 };

@@ -91,9 +91,9 @@ void CellEntry::GoTo(int row) {
   if (row >= grid_.FixedRows && row < grid_.Rows()) grid_.Row = row;
 }
 
-void CellEntry::StartOver() {
-  last_active_row_ = grid_.FixedRows;
-  GoTo(grid_.FixedRows);
+void CellEntry::StartAt(int row) {
+  last_active_row_ = row;
+  GoTo(row);
 }
 
 // A name belongs to its row; a heading to none.

@@ -30,8 +30,9 @@ class CellEntry {
   void LastRow();
   // Puts the current cell there; the next key replaces what it holds.
   void GoTo(int row);
-  // To the first row, which then counts as the row last active.
-  void StartOver();
+  // To that row, which then counts as the row last active.
+  void StartAt(int row);
+  void StartOver() { StartAt(grid_.FixedRows); }
   int LastActiveRow() const { return last_active_row_; }
 
  protected:

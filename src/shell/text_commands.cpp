@@ -85,7 +85,7 @@ void Form1::ImportText() {
   else if (Tag.empty())
     StartFromText();
   else
-    Frame->NewClass(kStartFromText);
+    FrameForm->NewClass(kStartFromText);
 }
 
 void Form1::AppendStudents() {
@@ -108,7 +108,7 @@ void Form1::StartFromText() {
     CurrentClass = before;
     return;
   }
-  ResetClassSlot();
+  StartNewClass();
   SetNewClassDefaults();
   const ImportOutcome outcome = AddImportedStudents(roster);
   ShowNewClass();
@@ -119,7 +119,7 @@ void Form1::TransferRoster() {
   const i16 source = CurrentClass;
   if (!TakeSlot()) return;
   CurrentClass = static_cast<i16>(SlotIndex);
-  ResetClassSlot();
+  StartNewClass();
   SetNewClassDefaults();
   const Class& from = Classes[static_cast<std::size_t>(source)];
   Class& to = Current();
@@ -134,7 +134,6 @@ void Form1::TransferRoster() {
 }
 
 void Form1::SetNewClassDefaults() {
-  Current().Magic = "ty8";
   SetDefaultRoundScale();
   SetDefaultLetterValues();
   LoadLetterString();
@@ -143,7 +142,7 @@ void Form1::SetNewClassDefaults() {
 void Form1::ShowNewClass() {
   Caption = "NewClass " + PlainNumberText(SlotIndex);
   Tag = PlainNumberText(SlotIndex);
-  Frame->RebuildRecentMenu();
+  FrameForm->RebuildRecentMenu();
   EnableClassMenus(true);
   showform3();
   CheckNameMode();
@@ -153,7 +152,7 @@ void Form1::mnuTransfer_Click() {
   if (Ask("This option TRANSFERS Name, Id, Comments and Supplementary Information to a new file. "
           "Continue?",
           BoxButtons::kYesNo) == BoxAnswer::kYes)
-    Frame->NewClass(kTransferRoster);
+    FrameForm->NewClass(kTransferRoster);
 }
 
 void Form1::ImportGrades(int by) {

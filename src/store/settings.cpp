@@ -11,6 +11,7 @@
 namespace tallyroll {
 
 std::array<std::string, 5> RecentFiles;
+std::string RememberedFolder;
 std::string PrinterFontName = "Times New Roman";
 float PrinterFontSize = 10;
 std::string SenderAddress;
@@ -70,6 +71,7 @@ void LoadProgramSettings() {
   const bool first_run = Setting("VERSION").empty();
   DataFolder = Setting("DIRFILE");
   if (first_run && DataFolder.empty()) DataFolder = FolderOfEarlierVersion();
+  RememberedFolder = DataFolder;
   PrinterFontName = Setting("FONT", "Times New Roman");
   PrinterFontSize = FontSizeFrom(Setting("SIZE", "10"));
   SenderAddress = Setting("EMAIL");
@@ -91,7 +93,7 @@ void SaveProgramSettings() {
   for (std::size_t i = 0; i < RecentFiles.size(); ++i) {
     Platform().WriteSetting(kApplicationKey, kFileUsed, RecentKey(i), RecentFiles[i]);
   }
-  WriteStartup("DIRFILE", DataFolder);
+  WriteStartup("DIRFILE", RememberedFolder);
   WriteStartup("FONT", PrinterFontName);
   WriteStartup("SIZE", PlainNumberText(PrinterFontSize));
   WriteStartup("VERSION", "8");
@@ -134,6 +136,7 @@ std::string RecentFileOf(std::string_view stored) {
 
 void ResetSettings() {
   RecentFiles.fill("");
+  RememberedFolder.clear();
   PrinterFontName = "Times New Roman";
   PrinterFontSize = 10;
   SenderAddress.clear();

@@ -14,6 +14,8 @@ namespace tallyroll {
 inline constexpr const char* kApplicationKey = "TALLYRLG8";
 
 extern std::array<std::string, 5> RecentFiles;  // full paths, most recent first
+extern std::string
+    RememberedFolder;  // DataFolder as the settings hold it, also while that folder is away
 extern std::string PrinterFontName;
 extern float PrinterFontSize;
 extern std::string SenderAddress;  // e-mail address of the sender

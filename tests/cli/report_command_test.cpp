@@ -310,5 +310,15 @@ TEST_F(ReportCommandTest, NoReportGoesOverAClassFile) {
   }
 }
 
+TEST_F(ReportCommandTest, AReportOfNothingSaysSo) {
+  const std::string file =
+      Build(R"({"Instruments": [{"title": "Quiz", "code": "Q", "typecode": "Q ", "mvalue": 9}],
+                "Students": [{"lastname": "Ng", "firstname": "Ada", "id": "1", "Marks": ["", "9"]}]})");
+  ExpectRefused(RunCli({"report", "--code", "2", file}),
+                file + ": No student of this class is missing any Grades.");
+  ExpectRefused(RunCli({"report", "--code", "3", "--sort", "types=T", file}),
+                file + ": None of the grades is of the types or dates you chose.");
+}
+
 }  // namespace
 }  // namespace tallyroll

@@ -8,7 +8,7 @@ namespace {
 
 using Json = nlohmann::ordered_json;
 
-constexpr const char* kClass = R"({"Instruments": [{"title": "Rivers", "code": "RIV"}],
+constexpr const char* kExportedClass = R"({"Instruments": [{"title": "Rivers", "code": "RIV"}],
   "Students": [
     {"lastname": "Ng", "firstname": "Zoé", "id": "7", "city": "Köln", "Marks": ["", "A-"]},
     {"lastname": "Abel", "firstname": "Bo", "id": "512", "Marks": ["", "91"]}]})";
@@ -27,8 +27,8 @@ class TextCommandTest : public CliTest {
   std::string import_told;  // what the last import put out
 
   std::string Exported(const std::string& what, const std::string& layout) {
-    const CliRun run = RunCli(
-        {"export", Build(kClass), "--what", what, "--layout", layout, "--out", Path("out.txt")});
+    const CliRun run = RunCli({"export", Build(kExportedClass), "--what", what, "--layout", layout,
+                               "--out", Path("out.txt")});
     EXPECT_EQ(run.status, 0) << run.err;
     EXPECT_EQ(run.out, "");
     return Get(Path("out.txt"));
@@ -84,7 +84,7 @@ TEST_F(TextCommandTest, ImportTellsWhoWasGivenAnId) {
 }
 
 TEST_F(TextCommandTest, ImportReplacesAClassByForceAloneAndKeepsTheOldOne) {
-  const std::string old = Get(Build(kClass, "out.TYR"));
+  const std::string old = Get(Build(kExportedClass, "out.TYR"));
   const std::string text = Put("in.txt", "8,Orr Cy\n");
   ExpectRefused(RunCli({"import", text, Path("out.TYR"), "--layout", "comma"}),
                 Path("out.TYR") + ": exists already (--force replaces it and keeps a backup)");
@@ -103,7 +103,7 @@ TEST_F(TextCommandTest, ExportNeverGoesOverAnotherClassFile) {
   const std::string other = Build("{}", "other.TYR");
   const std::string before = Get(other);
   ExpectRefused(
-      RunCli({"export", Build(kClass), "--what", "names", "--layout", "tabs", "--out", other}),
+      RunCli({"export", Build(kExportedClass), "--what", "names", "--layout", "tabs", "--out", other}),
       other + ": is a class file, which is left as it is");
   EXPECT_EQ(Get(other), before);
 }
@@ -143,7 +143,7 @@ TEST_F(TextCommandTest, TheLayoutIsNeededAndKnown) {
   const std::string text = Put("in.txt", "7,Ng Ada\n");
   EXPECT_EQ(RunCli({"import", text, Path("out.TYR")}).status, 2);
   EXPECT_EQ(RunCli({"import", text, Path("out.TYR"), "--layout", "pipes"}).status, 2);
-  EXPECT_EQ(RunCli({"export", Build(kClass), "--what", "all", "--layout", "tabs", "--out",
+  EXPECT_EQ(RunCli({"export", Build(kExportedClass), "--what", "all", "--layout", "tabs", "--out",
                     Path("out.txt")})
                 .status,
             2);
@@ -163,7 +163,7 @@ TEST_F(TextCommandTest, ExportWritesEachContent) {
 
 TEST_F(TextCommandTest, ExportWritesTheEncodingAskedFor) {
   const auto exported = [&](const std::string& layout, const std::string& encoding) {
-    EXPECT_EQ(RunCli({"export", Build(kClass), "--what", "names", "--layout", layout, "--encoding",
+    EXPECT_EQ(RunCli({"export", Build(kExportedClass), "--what", "names", "--layout", layout, "--encoding",
                       encoding, "--out", Path("out.txt")})
                   .status,
               0);
@@ -202,7 +202,7 @@ TEST_F(TextCommandTest, ExportTellsWhatTheLayoutCouldNotCarry) {
 }
 
 TEST_F(TextCommandTest, ExportLeavesTheClassFileAlone) {
-  const std::string file = Build(kClass);
+  const std::string file = Build(kExportedClass);
   const std::string before = Get(file);
   ExpectRefused(RunCli({"export", file, "--what", "names", "--layout", "tabs", "--out", file}),
                 file + ": is the class file itself, which is left as it is");

@@ -83,6 +83,30 @@ TEST_F(FrmEmarksTest, WithoutAGradeExitClosesAtOnce) {
   EXPECT_EQ(Current().Changed, kFalse);
 }
 
+TEST_F(FrmEmarksTest, TheStudentHandedOverIsInWork) {
+  OpenState = 2;
+  OpenAt(1);
+  EXPECT_EQ(portal.Grid1.Row, 2);
+  driver->TypeKeys("Grid1", "55");
+  driver->Press("Exitt");
+  EXPECT_EQ(Mark(1, 1), "81");
+  EXPECT_EQ(Mark(2, 1), "55");
+}
+
+TEST_F(FrmEmarksTest, AClickOnTheHeadingGoesBackToTheStudentHandedOver) {
+  OpenState = 2;
+  OpenAt(1);
+  portal.marks.GoTo(1);
+  driver->PickCell("Grid1", 0, kMarkColumn);
+  EXPECT_EQ(portal.Grid1.Row, 2);
+}
+
+TEST_F(FrmEmarksTest, AStudentBeyondTheClassIsTheFirst) {
+  OpenState = 3;
+  OpenAt(1);
+  EXPECT_EQ(portal.Grid1.Row, 1);
+}
+
 TEST_F(FrmEmarksTest, AGradeBeyondTheClassIsNone) {
   OpenAt(4);
   EXPECT_EQ(portal.list1.ListIndex, -1);

@@ -114,7 +114,7 @@ TEST_F(TextCommandsTest, AFileThatIsGoneChangesNothing) {
 TEST_F(TextCommandsTest, TheFrameStartsAClassFromATextFile) {
   ExpectChoice("", "Tabs");
   screen.ExpectFileDialog(Put("new.txt", "8\tNg, Ada\n7\tAbel, Bo\n"));
-  Frame->ClickMenu("mnuLoadText");
+  FrameForm->ClickMenu("mnuLoadText");
   ASSERT_EQ(WindowCount(), 1);
   Form1& window = *Window(1);
   EXPECT_EQ(window.Caption, "NewClass 1");
@@ -135,7 +135,7 @@ TEST_F(TextCommandsTest, TheLetterValuesOfNewClassesAreTheTeachersOwn) {
       "343'99.5'95'90'88'85'80'78'75'70'68'65'60'54'";
   ExpectChoice("", "Tabs");
   screen.ExpectFileDialog(Put("new.txt", "8\tNg, Ada\n"));
-  Frame->ClickMenu("mnuLoadText");
+  FrameForm->ClickMenu("mnuLoadText");
   EXPECT_EQ(Current().LetterValues[13], Currency::FromWhole(54));
 }
 

@@ -3,6 +3,7 @@
 
 #include <optional>
 
+#include "base/number_text.h"
 #include "platform/portal_driver.h"
 #include "store/grade_file.h"
 #include "store/program_state.h"
@@ -126,6 +127,7 @@ TEST_F(FrmTxtTest, AnImportAsksWhereFirst) {
   Classes[1].SlotState = 10;
   Open(kImportNames);
   EXPECT_EQ(Page(), 0);
+  EXPECT_EQ(driver->Focused(), "append");
   EXPECT_EQ(OpenState, 10);
   EXPECT_TRUE(portal.append.Value);
   driver->Press("okbt");
@@ -197,10 +199,28 @@ TEST_F(FrmTxtTest, APreviewShowsTheFirstRowsAndWhatTheyAreTakenFor) {
   EXPECT_EQ(Use(1), "Last name");
   EXPECT_EQ(Use(2), "First name");
   EXPECT_EQ(Use(3), "(not used)");
+  EXPECT_TRUE(portal.preview.Redraw());
+  EXPECT_EQ(driver->Focused(), "preview");
+  EXPECT_EQ(portal.preview.TextMatrix(1, 0), "ID");
   EXPECT_EQ(portal.preview.TextMatrix(1, 3), "Shoe size");
   EXPECT_EQ(portal.preview.Style(1, 3), CellStyle::kShaded);
   EXPECT_EQ(portal.preview.TextMatrix(2, 2), "Ada");
   EXPECT_EQ(portal.counted.Caption, "Students: 2");
+}
+
+TEST_F(FrmTxtTest, APreviewShowsNineRowsAtMost) {
+  std::string text;
+  for (int i = 1; i <= 9; ++i) text += PlainNumberText(i) + ",Ng Ada\n";
+  OpenColumns(kImportNames, text);
+  EXPECT_EQ(portal.preview.Rows(), 10);
+  EXPECT_EQ(portal.preview.TextMatrix(9, 0), "9");
+  frmtxt longer;
+  ASSERT_EQ(ReplaceFile(ImportFile, text + "10,Orr Bo\n", OldTail::kDrop), 0);
+  OpenState = kAskColumns + kImportNames;
+  longer.Load();
+  EXPECT_EQ(longer.preview.Rows(), 10);
+  EXPECT_EQ(longer.preview.TextMatrix(9, 0), "9");
+  EXPECT_EQ(longer.counted.Caption, "Students: 10");
 }
 
 TEST_F(FrmTxtTest, ACharacterThatAClassFileLacksIsShownByItsNumber) {

@@ -92,6 +92,13 @@ TEST_F(TextImportTest, AnIdThatAnEarlierStudentHasIsReplaced) {
   EXPECT_EQ(Ids(), (std::vector<std::string>{"7", "100"}));
 }
 
+TEST_F(TextImportTest, AnIdThatAnyStudentOfTheClassHasIsReplaced) {
+  Add("1,Abel Al\n2,Bach Bo\n3,Cole Cy");
+  screen.random_numbers = {0.25, 0.5, 0.1, 0.01, 0.26, 0.5, 0.1, 0.01, 0.27, 0.5, 0.1, 0.01};
+  Add("3,Ng Ada\n1,Orr Bo\n2,Poe Di");
+  EXPECT_EQ(Ids(), (std::vector<std::string>{"1", "2", "3", "100", "101", "102"}));
+}
+
 TEST_F(TextImportTest, ADrawnIdThatIsTakenIsDrawnAgain) {
   screen.random_numbers = {0.25, 0.5, 0.1, 0.01, 0.26, 0.5, 0.1, 0.01};
   Add("100,Ng Ada\n100,Orr Bo");
