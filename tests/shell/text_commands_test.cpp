@@ -312,7 +312,7 @@ TEST_F(TextCommandsTest, AnImportIsUndoneByClosingWithoutSaving) {
   window->ClickMenu("mnuclose");
   ASSERT_EQ(WindowCount(), 0);
   EXPECT_EQ(Read(Path("A.TYR")), bytes);
-  Frame->OpenRecent(Path("A.TYR"));
+  FrameForm->OpenRecent(Path("A.TYR"));
   EXPECT_EQ(Current().NumStudents, 2);
   EXPECT_EQ(Current().Students, before.Students);
   EXPECT_EQ(Current().Changed, kFalse);
