@@ -68,10 +68,11 @@ TEST_F(TextCommandsTest, WhoCouldNotKeepHisIdIsToldBehindTheTable) {
   Form1& window = Open("A.TYR");
   ExpectChoice("append", "commas");
   screen.ExpectFileDialog(Put("new.txt", "101,Abel Bo\n,Ng Ada\n"));
-  screen.random_numbers = {0.25, 0.5, 0.1, 0.01, 0.26, 0.5, 0.1, 0.01, 0.27, 0.5, 0.1, 0.01};
+  screen.random_numbers = {0.25, 0.5, 0.1, 0.01, 0.26, 0.5, 0.1, 0.01,
+                           0.27, 0.5, 0.1, 0.01, 0.28, 0.5, 0.1, 0.01};
   screen.ExpectBox(
       "New IDs were given to 2 students: 1 whose ID was taken already, 1 without an ID.\n\n"
-      "Abel, Bo: 100 instead of 101\nNg, Ada: 102");
+      "Abel, Bo: 100 instead of 101\nNg, Ada: 103");
   window.ClickMenu("mnuimportnames");
   EXPECT_EQ(Current().NumStudents, 4);
 }
