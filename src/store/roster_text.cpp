@@ -113,7 +113,7 @@ void ReadRecords(const SourceText& source, const CsvColumns& chosen, TextRoster&
   if (const std::string fault = FaultOf(table); !fault.empty()) return taker.Refuse(fault);
   const CsvColumns columns =
       chosen.uses.empty() ? GuessColumns(table, CsvPurpose::kStudents) : chosen;
-  if (!WhatIsMissing(columns, CsvPurpose::kStudents).empty())
+  if (!table.records.empty() && !WhatIsMissing(columns, CsvPurpose::kStudents).empty())
     return taker.Refuse("has no column with the names of students");
   for (std::size_t i = columns.heading ? 1 : 0; i < table.records.size(); ++i) {
     roster.students.push_back(StudentOfRecord(table.records[i], columns, taker));

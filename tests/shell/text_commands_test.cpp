@@ -68,10 +68,11 @@ TEST_F(TextCommandsTest, WhoCouldNotKeepHisIdIsToldBehindTheTable) {
   Form1& window = Open("A.TYR");
   ExpectChoice("append", "commas");
   screen.ExpectFileDialog(Put("new.txt", "101,Abel Bo\n,Ng Ada\n"));
-  screen.random_numbers = {0.25, 0.5, 0.1, 0.01, 0.26, 0.5, 0.1, 0.01, 0.27, 0.5, 0.1, 0.01};
+  screen.random_numbers = {0.25, 0.5, 0.1, 0.01, 0.26, 0.5, 0.1, 0.01,
+                           0.27, 0.5, 0.1, 0.01, 0.28, 0.5, 0.1, 0.01};
   screen.ExpectBox(
       "New IDs were given to 2 students: 1 whose ID was taken already, 1 without an ID.\n\n"
-      "Abel, Bo: 100 instead of 101\nNg, Ada: 102");
+      "Abel, Bo: 100 instead of 101\nNg, Ada: 103");
   window.ClickMenu("mnuimportnames");
   EXPECT_EQ(Current().NumStudents, 4);
 }
@@ -298,6 +299,79 @@ TEST_F(TextCommandsTest, GradesByNameOfASpreadsheet) {
   EXPECT_EQ(Current().Instruments[1].title, "Lakes");
   EXPECT_EQ(Current().Instruments[1].code, "LAK");
   EXPECT_EQ(Current().Students[2].Marks[1], "77");
+}
+
+TEST_F(TextCommandsTest, AnImportIsUndoneByClosingWithoutSaving) {
+  const Class before = Sample(2, 1);
+  Form1* window = &Open("A.TYR", before);
+  const std::string bytes = Read(Path("A.TYR"));
+  ExpectChoice("append", "commas");
+  screen.ExpectFileDialog(Put("new.txt", "7,Abel Bo\n8,Zorn Cy\n"));
+  window->ClickMenu("mnuimportnames");
+  ASSERT_EQ(Current().NumStudents, 4);
+  screen.ExpectBox("A.TYR Data has been changed. Save File?  ", BoxAnswer::kNo);
+  window->ClickMenu("mnuclose");
+  ASSERT_EQ(WindowCount(), 0);
+  EXPECT_EQ(Read(Path("A.TYR")), bytes);
+  FrameForm->OpenRecent(Path("A.TYR"));
+  EXPECT_EQ(Current().NumStudents, 2);
+  EXPECT_EQ(Current().Students, before.Students);
+  EXPECT_EQ(Current().Changed, kFalse);
+}
+
+// The grade goes out of one class and into another of the same IDs in another order.
+TEST_F(TextCommandsTest, AGradeFindsIdsOfCommasQuotesAndBlanksInTheOtherClass) {
+  const std::vector<std::string> ids = {"7,1", "7", "\"O'B\"", " a  b"};
+  Class from = Sample(4, 1);
+  Class to = Sample(4);
+  for (std::size_t i = 1; i <= 4; ++i) {
+    from.Students[i].id = ids[i - 1];
+    from.Students[i].Marks[1] = std::string(i, 'A');
+    to.Students[i].id = ids[4 - i];
+  }
+  Form1& source = Open("A.TYR", from);
+  screen.ExpectPortal("frmdGrade", [this](PortalDriver& portal) {
+    portal.Choose("List1", 0);
+    screen.ExpectBox(
+        "Transfer Quiz to the clipboard? (The Grade will still remain in the current class.)",
+        BoxAnswer::kOk);
+    portal.Press("transfer");
+    portal.Press("exitbt");
+  });
+  source.ClickMenu("mnuTransfergrade");
+  Form1& target = Open("B.TYR", to);
+  screen.ExpectPortal("frmMarks", [](PortalDriver& portal) {
+    portal.Press("pastegrade");
+    portal.Press("exit");
+  });
+  target.ClickMenu("mnuMarks");
+  ASSERT_EQ(Current().NumInstruments, 1);
+  for (std::size_t i = 1; i <= 4; ++i)
+    EXPECT_EQ(Current().Students[i].Marks[1], std::string(5 - i, 'A')) << i;
+}
+
+TEST_F(TextCommandsTest, TypingGradesAfterAnImportBeginsEmpty) {
+  Form1& window = Open("A.TYR");
+  ExpectChoice("", "csv");
+  screen.ExpectFileDialog(Put("marks.csv", "ID;Quiz\n101;b+\n"));
+  screen.ExpectPortal("frmtxt", [](PortalDriver& portal) {
+    portal.Tick("capitals");
+    portal.Press("okbt");
+  });
+  screen.ExpectPortal("frmMarks", [](PortalDriver& portal) {
+    EXPECT_EQ(portal.Text("title"), "Quiz");
+    portal.Type("code", "Q1");
+    portal.Press("exit");
+  });
+  window.ClickMenu("mnugradesid");
+  EXPECT_EQ(Current().Students[1].Marks[1], "B+");
+  EXPECT_EQ(Current().Students[2].Marks[1], "NEW");
+  screen.ExpectPortal("frmMarks", [](PortalDriver& portal) {
+    EXPECT_EQ(portal.Text("title"), "");
+    portal.Press("exit");
+  });
+  window.ClickMenu("mnuMarks");
+  EXPECT_EQ(Current().NumInstruments, 1);
 }
 
 TEST_F(TextCommandsTest, TransferAsksFirst) {

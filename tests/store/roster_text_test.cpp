@@ -324,6 +324,11 @@ TEST(ReadRosterText, AQuoteThatIsNeverClosedIsRefused) {
             "has a quotation mark in line 3 that is never closed");
 }
 
+TEST(ReadRosterText, ASpreadsheetWithoutALineHoldsNoStudents) {
+  for (const char* text : {"", "\r\n \r\n", "\xEF\xBB\xBF"})
+    EXPECT_EQ(Refusal(text, kCsvText), "holds no students");
+}
+
 TEST(ReadRosterText, ASpreadsheetWithoutNamesIsRefused) {
   EXPECT_EQ(Refusal("ID,City\n1,Oslo\n", kCsvText), "has no column with the names of students");
 }
