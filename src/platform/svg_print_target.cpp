@@ -97,21 +97,21 @@ void SvgPrintTarget::FillPolygon(const std::vector<PrintPoint>& corners, PrintCo
   body_ += "\"/>\n";
 }
 
-void SvgPrintTarget::AddText(std::string_view text, const std::string& place) {
+void SvgPrintTarget::AddText(std::string_view text, double size, const std::string& place) {
   if (text.empty()) return;
-  body_ += "<text " + place + " font-size=\"" + Points(FontSize * kTwipsPerPoint) + "\"" +
+  body_ += "<text " + place + " font-size=\"" + Points(size * kTwipsPerPoint) + "\"" +
            (FontBold ? " font-weight=\"bold\"" : "") + " fill=\"" + ColorText(ForeColor) +
            "\" xml:space=\"preserve\">" + Escaped(text) + "</text>\n";
 }
 
-void SvgPrintTarget::DrawTextAt(double x, double y, std::string_view text) {
-  const double base = y + FontSize * kTwipsPerPoint * kAscent;
-  AddText(text, "x=\"" + Points(x) + "\" y=\"" + Points(base) + "\"");
+void SvgPrintTarget::DrawTextAt(double x, double y, std::string_view text, double size) {
+  const double base = y + size * kTwipsPerPoint * kAscent;
+  AddText(text, size, "x=\"" + Points(x) + "\" y=\"" + Points(base) + "\"");
 }
 
 void SvgPrintTarget::PrintUpwards(std::string_view text, double x, double y) {
   const double base = x + FontSize * kTwipsPerPoint * kAscent;
-  AddText(text, "transform=\"translate(" + Points(base) + "," + Points(y) + ") rotate(-90)\"");
+  AddText(text, FontSize, "transform=\"translate(" + Points(base) + "," + Points(y) + ") rotate(-90)\"");
 }
 
 void SvgPrintTarget::Cls() {

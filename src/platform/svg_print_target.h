@@ -28,10 +28,10 @@ class SvgPrintTarget : public PrintTarget {
   void Cls() override;
 
  protected:
-  void DrawTextAt(double x, double y, std::string_view text) override;
+  void DrawTextAt(double x, double y, std::string_view text, double size) override;
 
  private:
-  void AddText(std::string_view text, const std::string& place);
+  void AddText(std::string_view text, double size, const std::string& place);
 
   std::string body_;
 };

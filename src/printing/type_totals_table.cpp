@@ -148,14 +148,6 @@ void PutTypeHead(bool first_line, Place&& place) {
   }
 }
 
-int TypesInClass() {
-  TypeCounts counts{};
-  TypeSums sums{}, maxes{};
-  ClassTotalsByType(counts, sums, maxes);
-  return static_cast<int>(
-      std::count_if(counts.begin() + 1, counts.end(), [](const auto& count) { return count > 0; }));
-}
-
 }  // namespace
 
 std::vector<TypeTotalRow> TypeTotalRows() {

@@ -99,7 +99,7 @@ TEST_F(FrmOptionsTest, PointsDropNothingWhateverTheWeightsPortalsLeft) {
   Class& c = Current();
   c.AverageFlag1 = c.AverageFlag2 = c.AverageFlag3 = c.AverageFlag4 = kTrue;
   c.TypeWeights.fill(Money("2"));
-  for (const i16 method : {2, 3}) {
+  for (const i16 method : {i16{2}, i16{3}}) {
     c.Method = method;
     frmoptions fresh;
     fresh.Load();

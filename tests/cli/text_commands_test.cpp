@@ -84,7 +84,7 @@ TEST_F(TextCommandTest, ImportTellsWhoWasGivenAnId) {
 }
 
 TEST_F(TextCommandTest, ImportReplacesAClassByForceAloneAndKeepsTheOldOne) {
-  const std::string old = Get(Build(kClass, "out.TYR"));
+  const std::string old = Get(Build(kExportedClass, "out.TYR"));
   const std::string text = Put("in.txt", "8,Orr Cy\n");
   ExpectRefused(RunCli({"import", text, Path("out.TYR"), "--layout", "comma"}),
                 Path("out.TYR") + ": exists already (--force replaces it and keeps a backup)");
@@ -103,7 +103,7 @@ TEST_F(TextCommandTest, ExportNeverGoesOverAnotherClassFile) {
   const std::string other = Build("{}", "other.TYR");
   const std::string before = Get(other);
   ExpectRefused(
-      RunCli({"export", Build(kClass), "--what", "names", "--layout", "tabs", "--out", other}),
+      RunCli({"export", Build(kExportedClass), "--what", "names", "--layout", "tabs", "--out", other}),
       other + ": is a class file, which is left as it is");
   EXPECT_EQ(Get(other), before);
 }
@@ -163,7 +163,7 @@ TEST_F(TextCommandTest, ExportWritesEachContent) {
 
 TEST_F(TextCommandTest, ExportWritesTheEncodingAskedFor) {
   const auto exported = [&](const std::string& layout, const std::string& encoding) {
-    EXPECT_EQ(RunCli({"export", Build(kClass), "--what", "names", "--layout", layout, "--encoding",
+    EXPECT_EQ(RunCli({"export", Build(kExportedClass), "--what", "names", "--layout", layout, "--encoding",
                       encoding, "--out", Path("out.txt")})
                   .status,
               0);

@@ -7,6 +7,7 @@
 
 #include "seating/chart_records.h"
 #include "store/check_class.h"
+#include "store/class_defaults.h"
 #include "tests/support/enrol_student.h"
 #include "tests/support/portal_test.h"
 
