@@ -8,7 +8,7 @@
 namespace tallyroll {
 namespace {
 
-constexpr double kGap = 0.25;       // between texts, in widths of the print font's "N"
+constexpr double kGap = 0.5;        // between texts, in widths of the print font's "N"
 constexpr int kTabbedColumns = 80;  // a page has room for them
 
 }  // namespace
