@@ -34,7 +34,7 @@ bool EndsWithDetails() {
 class StudentBlocks {
  public:
   explicit StudentBlocks(ReportPass& pass) : target_(pass.target) {
-    if (pass.recording) FindStudentRows();
+    if (pass.recording && Job.WrapFirst.size() == 1) FindStudentRows();
     room_ = LinesBelowHead(target_);
     for (i16 s = 1; s <= Current().NumStudents; ++s)
       for (int line = 1, lines = RowsOf(s); line <= lines; ++line)

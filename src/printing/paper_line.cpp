@@ -8,7 +8,7 @@
 namespace tallyroll {
 namespace {
 
-constexpr double kGap = 0.25;       // between texts, in widths of the print font's "N"
+constexpr double kGap = 0.5;        // between texts, in widths of the print font's "N"
 constexpr int kTabbedColumns = 80;  // a page has room for them
 
 }  // namespace
@@ -26,7 +26,8 @@ double PaperLine::RoomOf(std::size_t i) const {
   for (std::size_t next = i + 1; next < cells_.size(); ++next) {
     const Cell& cell = cells_[next];
     if (cell.text.empty()) continue;
-    const double gap = cell.text.front() == '|' ? 0 : kGap * Job.CharUnit;
+    const bool parted = cell.text.front() == '|' || cell.text.front() == ' ';
+    const double gap = parted ? 0 : kGap * Job.CharUnit;
     return cell.x - cells_[i].x - gap;
   }
   return Job.PageTextWidth - cells_[i].x;

@@ -18,7 +18,7 @@ double ColumnUnit(double columns);
 // A text alone on its line, no wider than the page.
 void PrintLine(PrintTarget& target, std::string_view text);
 
-// From left to right. A text that begins with a bar is parted by it from the one before.
+// From left to right. A text that begins with a bar or a blank is parted by it from the one before.
 class PaperLine {
  public:
   explicit PaperLine(PrintTarget& target) : target_(target) {}

@@ -162,10 +162,10 @@ TEST_F(RollBookReportTest, AClassOfOneHasARuleBelowItsRow) {
 }
 
 TEST_F(RollBookReportTest, OnPaperASecondBlockStandsApart) {
-  AddMany(9);
+  AddMany(10);
   LayOut(3);
   // Three heads from 1392, three rows to 2832; an empty line and the heads again.
-  EXPECT_EQ(Find(Page(1), "9"), (PrintedText{5000, 3072 + 240, "9", 10}));
+  EXPECT_EQ(Find(Page(1), "10"), (PrintedText{5500, 3072 + 240, "10", 10}));
 }
 
 TEST_F(RollBookReportTest, ATitleLongerThanHalfThePageIsCut) {

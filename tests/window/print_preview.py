@@ -31,6 +31,14 @@ def look_at_pages(program):
     program.keys("alt+f", "alt+i", "alt+i", "alt+i", "alt+o")
     program.await_labels(" 1", "4")
     program.widget(Atspi.Role.COMBO_BOX, "125 %")
+    program.keys("Next", "Next")
+    program.await_labels(" 3", "4")
+    program.keys("Prior", "Prior", "Prior")
+    program.await_labels(" 1", "4")
+    program.keys("ctrl+plus")
+    program.widget(Atspi.Role.COMBO_BOX, "150 %")
+    program.keys("ctrl+minus")
+    program.widget(Atspi.Role.COMBO_BOX, "125 %")
 
 
 def save(program, key, path):
@@ -82,6 +90,11 @@ def two_students(this, program):
     program.keys("alt+n")
     program.await_labels(" 2")
     path = this.path("one.txt")
+    program.keys("alt+s")
+    program.widget(Atspi.Role.RADIO_BUTTON, "Current student only")
+    program.keys("Escape")  # leaves the question alone
+    program.window("Print Preview Portal")
+    program.await_labels(" 2")
     program.keys("alt+s")
     program.click(program.widget(Atspi.Role.RADIO_BUTTON, "Current student only"))
     program.keys("alt+t")
