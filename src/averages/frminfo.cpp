@@ -23,11 +23,18 @@ void frminfo::Declare(ControlTable& table) {
   table.Add("exit", exit).Click([this] { exit_Click(); });
 }
 
+void frminfo::Load() {
+  const int wanted = OpenState == kInfoOfStudent ? CurrentStudent : 0;
+  StudentScreen::Load();
+  if (wanted >= 1 && wanted <= Current().NumStudents) Show(wanted);
+}
+
+// Whatever the graph does with CurrentStudent, the comment on the screen stays this student's.
 void frminfo::mnugraph_Click() {
-  if (CurrentStudent == 0)
-    ShowMessage("You must first select a student");
-  else
-    ShowPortal("frmgrone");
+  if (CurrentStudent == 0) return (void)ShowMessage("You must first select a student");
+  const i16 shown = CurrentStudent;
+  ShowPortal("frmgrone");
+  CurrentStudent = shown;
 }
 
 }  // namespace tallyroll

@@ -72,7 +72,9 @@ void GridWidget::Measure() {
   const int text_height = std::max(fonts_.plain.Height(), fonts_.bold.Height());
   const double points = QFontInfo(font()).pointSizeF();
   rows_ = RowsOf(*grid_, logicalDpiY(), points, text_height);
-  columns_ = ColumnsOf(*grid_, logicalDpiX(), points);
+  const GridAxis columns = ColumnsOf(*grid_, logicalDpiX(), points);
+  natural_width_ = columns.TotalSize();
+  columns_ = WidenedForTexts(*grid_, columns, fonts_, viewport()->width());
   measured_ = grid_->Revision();
 }
 
@@ -194,7 +196,8 @@ void GridWidget::resizeEvent(QResizeEvent* event) {
   if (!grid_) return;
   const QRect room({}, event->oldSize());
   const bool seen = room.contains(CellRect(grid_->Row, grid_->Col));
-  MeasureIfChanged();
+  Measure();
+  ClampView();
   if (seen) ShowCell(grid_->Row, grid_->Col);
   SetScrollBars();
   shown_.top_row = grid_->TopRow;
@@ -205,7 +208,7 @@ QSize GridWidget::sizeHint() const {
   const int frame = 2 * frameWidth();
   const QSize scroll_bars(verticalScrollBar()->sizeHint().width(),
                           horizontalScrollBar()->sizeHint().height());
-  const QSize whole = QSize(columns_.TotalSize() + frame, rows_.TotalSize() + frame) + scroll_bars;
+  const QSize whole = QSize(natural_width_ + frame, rows_.TotalSize() + frame) + scroll_bars;
   return grid_ ? whole.boundedTo(kUsualSize) : kUsualSize;
 }
 

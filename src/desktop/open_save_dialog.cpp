@@ -1,9 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "desktop/open_save_dialog.h"
 
+#include <QComboBox>
 #include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
+#include <QGridLayout>
+#include <QLabel>
 #include <QLineEdit>
 #include <QShortcut>
 
@@ -66,6 +69,23 @@ void SetUp(QFileDialog& dialog, const FileDialogRequest& request) {
   SetName(dialog, FromPath(request.filename));
 }
 
+// Below the dialog's own fields, whose names stand in the first column.
+QComboBox* AddEncodings(QFileDialog& dialog, TextEncoding offered) {
+  auto* encodings = new QComboBox(&dialog);
+  encodings->setObjectName(QStringLiteral("encoding"));
+  encodings->addItems({QStringLiteral("UTF-8"), QStringLiteral("Windows-1252")});
+  encodings->setCurrentIndex(offered == TextEncoding::kUtf8 ? 0 : 1);
+  auto* label = new QLabel(QStringLiteral("&Encoding:"), &dialog);
+  label->setBuddy(encodings);
+  encodings->setAccessibleName(QStringLiteral("Encoding"));
+  if (auto* grid = qobject_cast<QGridLayout*>(dialog.layout())) {
+    const int row = grid->rowCount();
+    grid->addWidget(label, row, 0);
+    grid->addWidget(encodings, row, 1);
+  }
+  return encodings;
+}
+
 }  // namespace
 
 QStringList FiltersOf(const QString& filter) {
@@ -85,9 +105,13 @@ QStringList FiltersOf(const QString& filter) {
 std::optional<std::string> ShowFileDialog(const FileDialogRequest& request, QWidget* parent) {
   CaseBlindDialog dialog(parent);
   SetUp(dialog, request);
+  const QComboBox* encodings = request.encoding ? AddEncodings(dialog, *request.encoding) : nullptr;
   QObject::connect(new QShortcut(Qt::Key_F1, &dialog), &QShortcut::activated, &dialog,
                    [&request] { Platform().ShowHelp(request.help_context); });
   if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return std::nullopt;
+  if (encodings)
+    *request.encoding =
+        encodings->currentIndex() == 0 ? TextEncoding::kUtf8 : TextEncoding::kWindows1252;
   return ToPath(dialog.selectedFiles().front());
 }
 

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <functional>
+#include <string>
 #include <string_view>
 
 #include "platform/cell_typing.h"
@@ -11,6 +12,10 @@
 namespace tallyroll {
 
 inline constexpr std::size_t kLongestMark = 5;
+
+// A mark as a cell has it: without the blanks behind it, and with a blank for each NUL of a damaged
+// file, which no screen shows. So what looks empty is empty.
+std::string ShownMark(std::string_view mark);
 
 // The cells of one column take keys. Return goes to the next row, End to the last.
 class CellEntry {

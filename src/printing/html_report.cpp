@@ -8,6 +8,7 @@
 #include "platform/class_window.h"
 #include "platform/surroundings.h"
 #include "printing/html_parts.h"
+#include "printing/report_codes.h"
 #include "printing/reports.h"
 #include "store/class_file.h"
 #include "store/program_state.h"
@@ -15,9 +16,6 @@
 
 namespace tallyroll {
 namespace {
-
-constexpr i16 kRollBook = 3;
-constexpr i16 kMonths = 8;
 
 // A blank at its width; the entity goes without its semicolon. One that the teacher typed behind a
 // blank would be taken for it.

@@ -14,6 +14,8 @@
 #include "store/class_file.h"
 #include "store/program_state.h"
 #include "store/safe_file.h"
+#include "store/saved_text.h"
+#include "store/settings.h"
 
 namespace tallyroll {
 namespace {
@@ -56,6 +58,11 @@ bool Run(const std::function<void()>& writer) {
 
 }  // namespace
 
+bool HasAverages() {
+  constexpr i16 kNoMethod = 5;
+  return Current().NumInstruments > 0 && Current().Method != kNoMethod;
+}
+
 const Report* FindReport(int code) {
   const auto found = std::find_if(kReports.begin(), kReports.end(),
                                   [code](const Report& report) { return report.code == code; });
@@ -96,7 +103,7 @@ std::string ReportText() {
 int SaveReportText(const std::string& path) {
   const std::string text = ReportText();
   if (Job.PrintFlag == kPrintCancelled) return 0;
-  const int error = ReplaceFile(path, text, OldTail::kDrop);
+  const int error = ReplaceFile(path, EncodedText(text, SavedTextEncoding), OldTail::kDrop);
   if (error != 0)
     ShowMessage("File Error");
   else

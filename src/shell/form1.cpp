@@ -12,7 +12,6 @@
 #include "shell/shell_state.h"
 #include "store/class_file.h"
 #include "store/frmpassword.h"
-#include "store/sort_students.h"
 
 namespace tallyroll {
 namespace {
@@ -87,7 +86,6 @@ void Form1::Activate() {
   if (Tag.empty()) return;
   CurrentClass = static_cast<i16>(Slot());
   if (Current().NumStudents == 0) return;
-  SortStudents();
   CheckNameMode();
   showform3();
 }
@@ -149,7 +147,7 @@ void Form1::RunPortal(std::string_view portal, int open_state, AfterPortal after
   OpenState = 0;
   if (Tag.empty()) return;
   EnableClassMenus(true);
-  if (after == AfterPortal::kRefill) showform3();
+  showform3();
   if (after == AfterPortal::kSaveIfDone && done) SavePassword();
 }
 
@@ -167,15 +165,15 @@ void Form1::mnuAverage_Click() {
 
 void Form1::mnuattsumm_Click() {
   if (Current().NumSummaries < kMostSummaries)
-    RunPortal("frmAtsum", 0, AfterPortal::kNothing);
+    RunPortal("frmAtsum", 0, AfterPortal::kRefill);
   else
     ShowMessage(kNoMoreSummaries);
 }
 
 void Form1::mnuStatistic_Click() {
   CurrentStudent = 0;
-  RunPortal("frmstatistic", 0, AfterPortal::kNothing);
-  if (CurrentStudent > 0) RunPortal("frmgraph", 0, AfterPortal::kNothing);
+  RunPortal("frmstatistic", 0, AfterPortal::kRefill);
+  if (CurrentStudent > 0) RunPortal("frmgraph", 0, AfterPortal::kRefill);
 }
 
 }  // namespace tallyroll

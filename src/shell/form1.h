@@ -26,9 +26,8 @@ struct ToolButton {
 
 // What follows when a Portal that a menu opened is left.
 enum class AfterPortal {
-  kNothing,
   kRefill,      // the grid is filled again
-  kSaveIfDone,  // the class is saved at once, if the Portal answered that it did its work
+  kSaveIfDone,  // that, and the class is saved if the Portal answered that it did its work
 };
 
 // PendingAction: a new class of the students of ImportFile, or of the class in work.

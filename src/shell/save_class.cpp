@@ -12,7 +12,7 @@ namespace {
 
 constexpr int kClosingRefused = -20;
 constexpr int kSaveHelp = 120;
-constexpr std::string_view kNewClass = "NewClass ";
+constexpr std::string_view kNewClassCaption = "NewClass ";
 
 bool HasClassExtension(std::string_view path) {
   return path.size() >= 4 && UpperCase(path.substr(path.size() - 4)) == ".TYR";
@@ -64,7 +64,7 @@ bool Form1::Save() {
   if (FileErrorCode != 0) return false;
   Current().Changed = kFalse;
   AddRecentFile(Current().FileName);
-  Frame->RebuildRecentMenu();
+  FrameForm->RebuildRecentMenu();
   return true;
 }
 
@@ -74,8 +74,8 @@ void Form1::saveas() {
     FileErrorCode = 0;
     if (!Current().FileName.empty())
       Caption = UpperCase(FileNameOf(PathForDisplay(Current().FileName)));
-    else if (!Caption.starts_with(kNewClass))
-      Caption = std::string(kNewClass) + Caption;
+    else if (!Caption.starts_with(kNewClassCaption))
+      Caption = std::string(kNewClassCaption) + Caption;
     return;
   }
   Current().FileName = path;

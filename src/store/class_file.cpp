@@ -2,6 +2,8 @@
 // The two routines that every open and every save go through.
 #include "store/class_file.h"
 
+#include <algorithm>
+
 #include "base/code_page.h"
 #include "base/number_text.h"
 #include "base/run_time_error.h"
@@ -11,11 +13,11 @@
 #include "platform/surroundings.h"
 #include "store/class_backup.h"
 #include "store/class_defaults.h"
+#include "store/derived_values.h"
 #include "store/mend_class.h"
 #include "store/older_class_file.h"
 #include "store/read_records.h"
 #include "store/side_files.h"
-#include "store/sort_students.h"
 
 namespace tallyroll {
 
@@ -84,7 +86,7 @@ void SettleReadClass(std::size_t file_size, bool older, int error) {
   const int settings = ParseAverageSettings();
   const int derived = PrepareWeights();
   if (settings != 0 || derived != 0) ReportReadError(settings != 0 ? settings : derived);
-  SortStudents();
+  MakeDerivedValues(c);
   Platform().SetWaitCursor(false);
 }
 
@@ -150,6 +152,12 @@ void ReportFailedSave(int error) {
 
 std::string SavedText(std::string_view path) {
   return PathForDisplay(path.substr(path.rfind('/') + 1)) + " saved.";
+}
+
+bool IsOpenClassFile(const std::string& path) {
+  return std::any_of(Classes.begin(), Classes.end(), [&](const Class& c) {
+    return !c.FileName.empty() && CanonicalPath(c.FileName) == CanonicalPath(path);
+  });
 }
 
 void ReportReadError(int error) {

@@ -20,10 +20,12 @@ std::string MarginTop = "-500";
 std::string MarginLeft = "-500";
 std::string MarginBottom = "-500";
 std::string MarginRight = "-500";
+TextEncoding SavedTextEncoding = TextEncoding::kUtf8;
 
 namespace {
 
 constexpr std::string_view kStartup = "startup";
+constexpr std::string_view kWindows1252 = "windows-1252";
 constexpr std::string_view kFileUsed = "FileUsed";
 constexpr i16 kDefaultNameMode = 68;
 
@@ -79,6 +81,8 @@ void LoadProgramSettings() {
   MarginLeft = Setting("MARGINLEFT", "-500");
   MarginBottom = Setting("MARGINBOTTOM", "-500");
   MarginRight = Setting("MARGINRIGHT", "-500");
+  SavedTextEncoding =
+      Setting("ENCODING") == kWindows1252 ? TextEncoding::kWindows1252 : TextEncoding::kUtf8;
   for (std::size_t i = 0; i < RecentFiles.size(); ++i) {
     RecentFiles[i] =
         RecentFileOf(Platform().ReadSetting(kApplicationKey, kFileUsed, RecentKey(i), ""));
@@ -100,6 +104,11 @@ void SaveProgramSettings() {
   WriteStartup("EMAIL", SenderAddress);
   WriteStartup("POP", MailServer);
   WriteStartup("NAMEID", PlainNumberText(NameMode));
+}
+
+void SaveTextEncoding() {
+  const bool utf8 = SavedTextEncoding == TextEncoding::kUtf8;
+  WriteStartup("ENCODING", utf8 ? "utf-8" : kWindows1252);
 }
 
 void LoadLetterString() {
@@ -133,6 +142,7 @@ void ResetSettings() {
   SenderAddress.clear();
   MailServer.clear();
   MarginTop = MarginLeft = MarginBottom = MarginRight = "-500";
+  SavedTextEncoding = TextEncoding::kUtf8;
 }
 
 }  // namespace tallyroll

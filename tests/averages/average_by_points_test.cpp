@@ -96,23 +96,26 @@ TEST_F(AverageByPointsTest, AClassMayHave32767PointsAndNoMore) {
   Put(2, {{"Q", 32767, "32767"}, {"X", 100, "0"}});
   EXPECT_EQ(PointsAverage(), "32767/32767 = 100");
   Current().Instruments[2].typecode = "T";
-  MakeTotalPossible();
-  EXPECT_EQ(TotalPossible[1], std::nullopt);
   Points points;
   const AverageError error = AverageByPoints(points, totals);
   EXPECT_EQ(error.number, kErrorOverflow);
   EXPECT_EQ(error.student, 1);
   EXPECT_EQ(error.grade, 0);
   Current().Instruments[2].typecode = "X";
-  MakeTotalPossible();
-  EXPECT_EQ(TotalPossible[1], 32767);
+  EXPECT_EQ(TotalPossible(), 32767);
 }
 
 TEST_F(AverageByPointsTest, TheTotalNeedsNoUseList) {
   Put(2, {{"Q", 50, "40"}});
   Current().InstrumentUse.clear();
-  MakeTotalPossible();
-  EXPECT_EQ(TotalPossible[1], 50);
+  EXPECT_EQ(TotalPossible(), 50);
+}
+
+TEST_F(AverageByPointsTest, AGradeBehindTheEndOfTheUseListCountsInTheTotal) {
+  Put(2, {{"Q", 50, "40"}, {"T", 40, "30"}});
+  Current().InstrumentUse[2] = Money("2");
+  Current().InstrumentUse.pop_back();
+  EXPECT_EQ(PointsAverage(), "40/90 = 44.4444");
 }
 
 TEST_F(AverageByPointsTest, ASumBeyondCurrencyIsAnErrorAtItsGrade) {
@@ -210,6 +213,24 @@ TEST_F(AverageByPointsAndTypesTest, ATypeWithoutAWeightIsInNothing) {
   EXPECT_EQ(PointsAverage(), "60/60 = 100");
   EXPECT_EQ(Max(kEssay), "0");
   EXPECT_EQ(totals.counts[kEssay], 0);
+}
+
+TEST_F(AverageByPointsAndTypesTest, AWeightOfExactlyZeroIsNone) {
+  Weigh(kQuiz, "0");
+  Weigh(kTest, "100");
+  Put(3, {{"Q", 20, "5"}, {"T", 40, "30"}});
+  // 3000 of 4000, of 40.
+  EXPECT_EQ(PointsAverage(), "30/40 = 75");
+  EXPECT_EQ(totals.counts[kQuiz], 0);
+  EXPECT_EQ(Sum(kQuiz), "0");
+  EXPECT_EQ(Max(kQuiz), "0");
+  Weigh(kTest, "0.0001");
+  // The least weight is one: 30 x 0.0001 = 0.003 of 0.004, of 40.
+  EXPECT_EQ(PointsAverage(), "30/40 = 75");
+  Weigh(kTest, "0");
+  EXPECT_EQ(PointsAverage(), "0/0 = 0");
+  Weigh(kTest, "-1");
+  EXPECT_EQ(PointsAverage(), "0/0 = 0");
 }
 
 TEST_F(AverageByPointsAndTypesTest, WhatIsInNothingIsNeverComputed) {

@@ -149,7 +149,6 @@ TEST_F(FrmGradeSaveTest, WorkStillToBeSavedStays) {
 TEST_F(FrmGradeSaveTest, UnderPointsTheNewGradeDoesNotCount) {
   Current().Method = 2;
   Current().InstrumentUse = {Currency(), Money("1")};
-  TotalPossible[1] = 100;
   Save();
   EXPECT_EQ(Current().InstrumentUse[2], Money("2"));
   EXPECT_EQ(Current().Students[1].Marks[2], "95");

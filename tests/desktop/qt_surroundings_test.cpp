@@ -5,6 +5,7 @@
 
 #include <QApplication>
 #include <QClipboard>
+#include <QComboBox>
 #include <QDir>
 #include <QFile>
 #include <QFileDialog>
@@ -210,6 +211,42 @@ TEST_F(NameOfOtherCase, IsTheFileThatOpens) {
     if (dialog.isVisible()) dialog.reject();
   });
   EXPECT_EQ(surroundings.FileDialog(request), ToPath(folder.path()) + "/b.tyr");
+}
+
+TEST_F(QtSurroundingsTest, ADialogThatSavesATextAsksForItsEncoding) {
+  const QTemporaryDir folder;
+  TextEncoding encoding = TextEncoding::kUtf8;
+  FileDialogRequest request;
+  request.save = true;
+  request.folder = ToPath(folder.path());
+  request.encoding = &encoding;
+  WithNextWindow<QFileDialog>([](QFileDialog& dialog) {
+    auto* encodings = dialog.findChild<QComboBox*>(QStringLiteral("encoding"));
+    ASSERT_NE(encodings, nullptr);
+    EXPECT_TRUE(encodings->isVisible());
+    EXPECT_EQ(encodings->currentText(), QStringLiteral("UTF-8"));
+    encodings->setCurrentText(QStringLiteral("Windows-1252"));
+    dialog.reject();
+  });
+  EXPECT_EQ(surroundings.FileDialog(request), std::nullopt);
+  EXPECT_EQ(encoding, TextEncoding::kUtf8);
+  WithNextWindow<QFileDialog>([](QFileDialog& dialog) {
+    auto* encodings = dialog.findChild<QComboBox*>(QStringLiteral("encoding"));
+    encodings->setFocus();
+    QTest::keyClick(encodings, Qt::Key_Down);
+    dialog.selectFile(QStringLiteral("names.txt"));
+    QMetaObject::invokeMethod(&dialog, "accept");
+  });
+  EXPECT_EQ(surroundings.FileDialog(request), ToPath(folder.path()) + "/names.txt");
+  EXPECT_EQ(encoding, TextEncoding::kWindows1252);
+}
+
+TEST_F(QtSurroundingsTest, ADialogWithoutATextAsksForNoEncoding) {
+  WithNextWindow<QFileDialog>([](QFileDialog& dialog) {
+    EXPECT_EQ(dialog.findChild<QComboBox*>(QStringLiteral("encoding")), nullptr);
+    dialog.reject();
+  });
+  surroundings.FileDialog({});
 }
 
 TEST_F(QtSurroundingsTest, F1InAFileDialogShowsItsHelp) {

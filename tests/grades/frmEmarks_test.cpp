@@ -48,6 +48,22 @@ TEST_F(FrmEmarksTest, TheGradeHandedOverIsShown) {
   EXPECT_EQ(Cell(2), "A+");
 }
 
+TEST_F(FrmEmarksTest, AMarkOfZeroBytesIsShownAsNoneAndIsNone) {
+  Current().Students[1].Marks[2] = std::string_view("\0\0", 2);
+  Current().Students[2].Marks[2] = std::string_view("A+\0", 3);
+  OpenAt(2);
+  EXPECT_EQ(Cell(1), "");
+  EXPECT_EQ(Cell(2), "A+");
+  driver->Type("Title", "Lakes and seas");
+  screen.ExpectBox(kReminder);
+  driver->Press("Exitt");
+  EXPECT_FALSE(portal.Unloaded());
+  TypeMark(1, "75");
+  driver->Press("Exitt");
+  EXPECT_EQ(Current().Students[1].Marks[2], "75");
+  EXPECT_EQ(Current().Students[2].Marks[2].view(), std::string_view("A+\0", 3));
+}
+
 TEST_F(FrmEmarksTest, WithoutAGradeTheFieldsWaitForAPick) {
   OpenAt(0);
   EXPECT_EQ(portal.list1.ListIndex, -1);

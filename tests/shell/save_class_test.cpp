@@ -35,9 +35,9 @@ TEST_F(SaveClassTest, SaveWritesTheClassAndClearsChanged) {
   Current().Changed = kTrue;
   window.ClickMenu("mnusave");
   EXPECT_EQ(Current().Changed, kFalse);
-  EXPECT_TRUE(Frame->CloseWindow(window));
+  EXPECT_TRUE(FrameForm->CloseWindow(window));
   EXPECT_EQ(Open("B.TYR").Tag, "1");
-  Frame->OpenRecent(Path("A.TYR"));
+  FrameForm->OpenRecent(Path("A.TYR"));
   EXPECT_EQ(Classes[2].room, "12");
 }
 
@@ -51,7 +51,7 @@ TEST_F(SaveClassTest, ASaveMovesTheClassUpInTheRecentList) {
   EXPECT_EQ(first.menu.Find("mnuFileList0")->caption, RecentMenuText(0));
   Classes[2].Changed = kTrue;
   screen.ExpectBox("B.TYR Data has been changed. Save File?  ", BoxAnswer::kYes);
-  EXPECT_TRUE(Frame->CloseWindow(second));
+  EXPECT_TRUE(FrameForm->CloseWindow(second));
   EXPECT_EQ(RecentFiles[0], Path("B.TYR"));
 }
 
@@ -71,19 +71,19 @@ TEST_F(SaveClassTest, TheSaveOfAClosedClassIsConfirmedBehindIt) {
   Classes[1].Changed = kTrue;
   Form1& second = Open("B.TYR");
   screen.ExpectBox(kQuestion, BoxAnswer::kYes);
-  EXPECT_TRUE(Frame->CloseWindow(first));
+  EXPECT_TRUE(FrameForm->CloseWindow(first));
   EXPECT_EQ(second.StatusText, "A.TYR saved.");
   Current().Changed = kTrue;
   screen.ExpectBox("B.TYR Data has been changed. Save File?  ", BoxAnswer::kYes);
-  EXPECT_TRUE(Frame->CloseWindow(second));
-  EXPECT_EQ(Frame->StatusText, "B.TYR saved.");
+  EXPECT_TRUE(FrameForm->CloseWindow(second));
+  EXPECT_EQ(FrameForm->StatusText, "B.TYR saved.");
 }
 
 TEST_F(SaveClassTest, AClassThatClosesWithoutASaveConfirmsNone) {
   Form1& first = Open("A.TYR");
   first.ClickMenu("mnusave");
   Form1& second = Open("B.TYR");
-  EXPECT_TRUE(Frame->CloseWindow(first));
+  EXPECT_TRUE(FrameForm->CloseWindow(first));
   EXPECT_EQ(second.StatusText, "");
 }
 
@@ -167,7 +167,7 @@ TEST_F(SaveClassTest, FirstSaveAsKeepsTheFileThatItReplaces) {
 
 TEST_F(SaveClassTest, UnchangedClassClosesWithoutAQuestion) {
   Form1& window = Open("A.TYR");
-  EXPECT_TRUE(Frame->CloseWindow(window));
+  EXPECT_TRUE(FrameForm->CloseWindow(window));
   EXPECT_EQ(WindowCount(), 0);
   EXPECT_EQ(Classes[1].SlotState, 0);
   EXPECT_EQ(Classes[1].NumStudents, 0);
@@ -185,7 +185,7 @@ TEST_F(SaveClassTest, YesSavesAndCloses) {
   EXPECT_EQ(screen.boxes[0].buttons, BoxButtons::kYesNoCancel);
   EXPECT_EQ(screen.boxes[0].icon, BoxIcon::kQuestion);
   EXPECT_EQ(screen.boxes[0].title, "Note to the Teacher");
-  Frame->OpenRecent(Path("A.TYR"));
+  FrameForm->OpenRecent(Path("A.TYR"));
   EXPECT_EQ(Current().room, "9");
 }
 
@@ -194,7 +194,7 @@ TEST_F(SaveClassTest, WindowComesToTheFrontBeforeItAsks) {
   Classes[1].Changed = kTrue;
   Open("B.TYR");
   screen.ExpectBox(kQuestion, BoxAnswer::kNo);
-  EXPECT_TRUE(Frame->CloseWindow(*Window(1)));
+  EXPECT_TRUE(FrameForm->CloseWindow(*Window(1)));
   EXPECT_EQ(frame_screen.calls.end()[-2], "front A.TYR");
 }
 
@@ -205,7 +205,7 @@ TEST_F(SaveClassTest, NoClosesWithoutSaving) {
   screen.ExpectBox(kQuestion, BoxAnswer::kNo);
   window.ClickMenu("mnuclose");
   EXPECT_EQ(WindowCount(), 0);
-  Frame->OpenRecent(Path("A.TYR"));
+  FrameForm->OpenRecent(Path("A.TYR"));
   EXPECT_EQ(Current().room, "");
 }
 
@@ -249,7 +249,7 @@ TEST_F(SaveClassTest, FailedSaveKeepsTheClassOpenAndTheNextCloseTriesAgain) {
 TEST_F(SaveClassTest, AFailedSaveOfOneClassKeepsNoOtherOpen) {
   FailToSave(Open("A.TYR"));
   Form1& second = Open("B.TYR");
-  EXPECT_TRUE(Frame->CloseWindow(second));
+  EXPECT_TRUE(FrameForm->CloseWindow(second));
   EXPECT_EQ(WindowCount(), 1);
 }
 
@@ -343,7 +343,7 @@ TEST_F(SaveClassTest, ARefusedFrameCloseLeavesTheKeptClassInWork) {
   Open("B.TYR");
   Classes[1].Changed = kTrue;
   screen.ExpectBox(kQuestion, BoxAnswer::kCancel);
-  EXPECT_FALSE(Frame->QueryUnload());
+  EXPECT_FALSE(FrameForm->QueryUnload());
   EXPECT_EQ(CurrentClass, 1);
   EXPECT_EQ(frame_screen.calls.back(), "front A.TYR");
 }
@@ -351,12 +351,12 @@ TEST_F(SaveClassTest, ARefusedFrameCloseLeavesTheKeptClassInWork) {
 TEST_F(SaveClassTest, ClosingAWindowBehindLeavesTheFrontOneInWork) {
   Open("A.TYR");
   Form1& second = Open("B.TYR");
-  EXPECT_TRUE(Frame->CloseWindow(*Window(1)));
+  EXPECT_TRUE(FrameForm->CloseWindow(*Window(1)));
   EXPECT_EQ(CurrentClass, 2);
   Current().room = "7";
   second.ClickMenu("mnusave");
-  EXPECT_TRUE(Frame->CloseWindow(second));
-  Frame->OpenRecent(Path("B.TYR"));
+  EXPECT_TRUE(FrameForm->CloseWindow(second));
+  FrameForm->OpenRecent(Path("B.TYR"));
   EXPECT_EQ(Current().room, "7");
 }
 
@@ -366,8 +366,8 @@ TEST_F(SaveClassTest, ACommandMeansTheClassOfItsWindow) {
   Classes[1].room = "5";
   first.ClickMenu("mnusave");
   EXPECT_EQ(CurrentClass, 1);
-  EXPECT_TRUE(Frame->CloseWindow(first));
-  Frame->OpenRecent(Path("A.TYR"));
+  EXPECT_TRUE(FrameForm->CloseWindow(first));
+  FrameForm->OpenRecent(Path("A.TYR"));
   EXPECT_EQ(Current().room, "5");
 }
 

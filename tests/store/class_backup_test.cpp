@@ -38,6 +38,12 @@ TEST(BackupNameTest, ACharacterOfSeveralBytesIsOne) {
                        "es",
                        "old"),
             "/b/annold");
+  EXPECT_EQ(BackupName("\xC3\xA9"
+                       "ab",
+                       "old"),
+            "old");
+  // Where no character begins.
+  EXPECT_EQ(BackupName("\x80\x80", "old"), "old");
   EXPECT_EQ(BackupName("/b/x\xE2\x82\xAC\xE2\x82\xAC\xE2\x82\xAC", "old"), "/b/xold");
 }
 
@@ -111,6 +117,7 @@ TEST_F(ClassBackupTest, AnUnreadClassThatIsItselfCalledBadTakesTheNextName) {
   Backup backup;
   EXPECT_EQ(BackUpUnreadFile(path, kept, backup), 0);
   EXPECT_EQ(kept, Path("a.ba2"));
+  EXPECT_TRUE(backup.stands);
   EXPECT_EQ(Get("a.ba2"), "bytes");
   TakeBack(backup);
   EXPECT_EQ(Get("a.bad"), "bytes");
@@ -126,6 +133,15 @@ TEST_F(ClassBackupTest, AnUnreadFileThatIsKeptAlreadyIsNotKeptTwice) {
   EXPECT_EQ(kept, Path("a.bad"));
   TakeBack(backup);
   EXPECT_EQ(Get("a.bad"), "bytes") << "what another save kept is not this one's to take back";
+  EXPECT_EQ(Files(), 2);
+}
+
+TEST_F(ClassBackupTest, AnEmptyFileThatIsKeptAlreadyIsNotKeptTwice) {
+  const std::string path = Put("a.TYR", "");
+  fs::create_hard_link(path, Path("a.old"));
+  const Backup backup = BackUpConvertedFile(path);
+  EXPECT_TRUE(backup.stands);
+  EXPECT_EQ(backup.made_now, "");
   EXPECT_EQ(Files(), 2);
 }
 

@@ -280,6 +280,18 @@ TEST_F(ClassDefaultsTest, TypeMethodsReadThePercents) {
   }
 }
 
+TEST_F(ClassDefaultsTest, TypesWithoutPointsNoteNoInstrumentsThatCount) {
+  Class& c = Current();
+  MakeInstruments(c);
+  c.Method = 1;
+  EXPECT_EQ(PrepareWeights(), 0);
+  EXPECT_EQ(c.Weights, (List<Currency>(3)));
+  EXPECT_EQ(c.InstrumentUse, (List<Currency>(3)));
+  c.Method = 3;
+  EXPECT_EQ(PrepareWeights(), 0);
+  EXPECT_EQ(c.InstrumentUse, (List<Currency>{Whole(0), Whole(2), Whole(1)}));
+}
+
 TEST_F(ClassDefaultsTest, OtherMethodsHaveNoPercents) {
   Class& c = Current();
   c.Method = 2;

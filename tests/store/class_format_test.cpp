@@ -328,6 +328,29 @@ TEST(ClassFormatTest, AMarkBeyondTheLongestTextOverflows) {
   EXPECT_EQ(SerializeClass(c, bytes), kErrorOverflow);
 }
 
+// The size that is guessed ahead is no fault where a class has much of one thing and none of
+// others.
+TEST(ClassFormatTest, AClassOfAnyShapeIsWritten) {
+  struct Shape {
+    int students, grades, days;
+  };
+  for (const Shape& shape : {Shape{0, 100, 0}, {0, 0, 1000}, {100, 0, 1000}, {100, 300, 0}}) {
+    Class c;
+    c.Magic = "ty8";
+    c.NumStudents = static_cast<i16>(shape.students);
+    ReDim(c.Students, shape.students);
+    c.NumInstruments = static_cast<i16>(shape.grades);
+    ReDim(c.Instruments, shape.grades);
+    c.NumDays = static_cast<i16>(shape.days);
+    ReDim(c.AttendanceDays, shape.days);
+    std::string bytes;
+    ASSERT_EQ(SerializeClass(c, bytes), 0);
+    Class read;
+    EXPECT_EQ(ParseClass(bytes, read).error, 0);
+    EXPECT_TRUE(SameOnDisk(c, read)) << shape.students << " " << shape.grades << " " << shape.days;
+  }
+}
+
 TEST(ClassFormatTest, ACountBeyondItsListIsNotWritten) {
   Class c;
   c.NumStudents = 1;

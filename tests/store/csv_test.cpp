@@ -52,7 +52,15 @@ TEST(Csv, RecordsKnowTheirLine) {
   EXPECT_EQ(table.records[4].line, 8);
 }
 
+TEST(Csv, ALineEndOfEitherKindInsideQuotesIsALine) {
+  const CsvTable table = ParseCsv("\"a\rb\nc\r\nd\"\ne,\"\r");
+  ASSERT_EQ(table.records.size(), 2u);
+  EXPECT_EQ(table.records[1].line, 5);
+  EXPECT_EQ(table.unclosed_line, 5);
+}
+
 TEST(Csv, AQuoteThatIsNeverClosedIsTold) {
+  EXPECT_EQ(FaultOf(ParseCsv("\"a,b\n")), "has a quotation mark in line 1 that is never closed");
   EXPECT_EQ(ParseCsv("a,b\nc,\"d\ne").unclosed_line, 2);
   EXPECT_EQ(ParseCsv("a,\"b\"").unclosed_line, 0);
 }
@@ -94,7 +102,35 @@ TEST(FindSeparator, AQuoteInsideAPlainCellHidesNothing) {
   EXPECT_EQ(FindSeparator("5\" disk;a\n6\" disk;b\n"), ';');
 }
 
+TEST(FindSeparator, AQuoteThatOpensTheLineHidesWhatStandsInIt) {
+  // One comma, and a semicolon that is text. On equal terms it would be the semicolon.
+  EXPECT_EQ(FindSeparator("\"a;b\",c\n"), ',');
+  EXPECT_EQ(FindSeparator("1, \"a;b\"\n"), ',');
+}
+
+TEST(FindSeparator, AQuoteBehindAWordHidesNothing) {
+  // A comma and a semicolon stand on equal terms.
+  EXPECT_EQ(FindSeparator("a \"b;c\",d\n"), ';');
+}
+
+TEST(FindSeparator, AQuotedCellEndsAtItsOwnQuote) {
+  EXPECT_EQ(FindSeparator("\"\";a\n"), ';');
+  EXPECT_EQ(FindSeparator("\"a\"\"\";b\n"), ';');
+}
+
+TEST(FindSeparator, ALineOfOneLetterHasNone) {
+  EXPECT_EQ(FindSeparator("b;c\nd;e\na"), ',');
+}
+
+TEST(FindSeparator, TheFirst20LinesTellIt) {
+  std::string lines;
+  for (int i = 0; i < 19; ++i) lines += "a;b\n";
+  EXPECT_EQ(FindSeparator(lines + "a,b\n"), ',');
+  EXPECT_EQ(FindSeparator(lines + "a;b\na,b\n"), ';');
+}
+
 TEST(FindSeparator, ALineEndOrAQuoteIsNone) {
+  EXPECT_EQ(FindSeparator("sep="), ',');
   EXPECT_EQ(Texts("sep=\na,b\n"), (Rows{{"sep="}, {"a", "b"}}));
   EXPECT_EQ(FindSeparator("sep=\"\na;b\n"), ',');
 }

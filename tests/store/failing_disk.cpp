@@ -1,11 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The program's own definitions of three system calls go before those of the C library.
+// The program's own definitions of some system calls go before those of the C library.
 #include "tests/store/failing_disk.h"
 
 #include <fcntl.h>
 #include <sys/syscall.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <cerrno>
 #include <cstdio>
 
@@ -16,6 +17,16 @@ tallyroll::FailingDisk* failing = nullptr;
 int Failed(int error) {
   errno = error;
   return -1;
+}
+
+bool IsInterrupted() {
+  if (!failing || failing->interruptions <= 0) return false;
+  --failing->interruptions;
+  return true;
+}
+
+size_t AtMost(size_t count) {
+  return failing && failing->most_bytes != 0 ? std::min(count, failing->most_bytes) : count;
 }
 
 }  // namespace
@@ -36,6 +47,26 @@ extern "C" int linkat(int from_folder, const char* from, int to_folder, const ch
                       int flags) noexcept {
   if (failing && failing->link_error != 0) return Failed(failing->link_error);
   return static_cast<int>(syscall(SYS_linkat, from_folder, from, to_folder, to, flags));
+}
+
+extern "C" int fchown(int handle, uid_t owner, gid_t group) noexcept {
+  if (failing && failing->owner_error != 0) return Failed(failing->owner_error);
+  return static_cast<int>(syscall(SYS_fchown, handle, owner, group));
+}
+
+extern "C" int fchmod(int handle, mode_t mode) noexcept {
+  if (failing && failing->mode_error != 0) return Failed(failing->mode_error);
+  return static_cast<int>(syscall(SYS_fchmod, handle, mode));
+}
+
+extern "C" ssize_t read(int handle, void* bytes, size_t count) {
+  if (IsInterrupted()) return Failed(EINTR);
+  return syscall(SYS_read, handle, bytes, AtMost(count));
+}
+
+extern "C" ssize_t write(int handle, const void* bytes, size_t count) {
+  if (IsInterrupted()) return Failed(EINTR);
+  return syscall(SYS_write, handle, bytes, AtMost(count));
 }
 
 namespace tallyroll {

@@ -27,6 +27,11 @@ TEST(ScramblePassword, StopsAtABitNumberAbove7) {
   EXPECT_EQ(ScramblePassword("B", bits), "C");  // bit 0 alone: 66 becomes 67
 }
 
+TEST(ScramblePassword, Bit7IsTheLastThatIsTurnedOver) {
+  const std::vector<int> bits = {7, 8, 0};
+  EXPECT_EQ(ScramblePassword("B", bits), "\xC2");  // 66 and 128
+}
+
 TEST(ScramblePassword, OfNothingIsNothing) {
   EXPECT_EQ(ScramblePassword(""), "");
 }

@@ -7,6 +7,9 @@
 namespace tallyroll {
 namespace {
 
+// Taken before any test runs.
+const float kSizeAtStart = PrinterFontSize;
+
 class SettingsTest : public PortalTest {
  protected:
   void Set(const std::string& key, const std::string& value) {
@@ -39,15 +42,19 @@ TEST_F(SettingsTest, WhatIsSavedIsLoadedAgain) {
   MarginLeft = "2";
   MarginBottom = "3";
   MarginRight = "4";
+  SavedTextEncoding = TextEncoding::kWindows1252;
   RecentFiles = {"/a.TYR", "/b.TYR", "", "", "/e.TYR"};
   SaveProgramSettings();
+  SaveTextEncoding();
   EXPECT_EQ(screen.settings["TALLYRLG8/startup/VERSION"], "8");
   EXPECT_EQ(screen.settings["TALLYRLG8/startup/SIZE"], "9.5");
   EXPECT_EQ(screen.settings["TALLYRLG8/startup/NAMEID"], "73");
   EXPECT_EQ(screen.settings["TALLYRLG8/fileused/File4"], "/e.TYR");
   ResetStore();
   EXPECT_EQ(PrinterFontName, "Times New Roman");
+  EXPECT_EQ(SavedTextEncoding, TextEncoding::kUtf8);
   LoadProgramSettings();
+  EXPECT_EQ(SavedTextEncoding, TextEncoding::kWindows1252);
   EXPECT_EQ(DataFolder + PrinterFontName + SenderAddress + MailServer,
             "/classesCouriera@b.cmail.b.c");
   EXPECT_EQ(PrinterFontSize, 9.5f);
@@ -77,6 +84,29 @@ TEST_F(SettingsTest, SavingGoesInAFixedOrder) {
             "MARGINBOTTOM MARGINRIGHT EMAIL POP NAMEID ");
 }
 
+TEST_F(SettingsTest, TheFontHasTenPointsUntilASizeIsChosen) {
+  EXPECT_EQ(kSizeAtStart, 10.0f);
+  PrinterFontSize = 12;
+  ResetSettings();
+  EXPECT_EQ(PrinterFontSize, 10.0f);
+  Set("SIZE", "1e99");
+  LoadProgramSettings();
+  EXPECT_EQ(PrinterFontSize, 10.0f);
+}
+
+TEST_F(SettingsTest, EachDisplayModeIsLoaded) {
+  for (const int mode : {57, 82, 73, 68}) {
+    Set("NAMEID", std::to_string(mode));
+    LoadProgramSettings();
+    EXPECT_EQ(NameMode, mode);
+  }
+  for (const int none : {56, 58, 81, 83, 72, 74, 67, 69}) {
+    Set("NAMEID", std::to_string(none));
+    LoadProgramSettings();
+    EXPECT_EQ(NameMode, 68) << none;
+  }
+}
+
 TEST_F(SettingsTest, AnUnknownDisplayModeIsTheDefault) {
   for (const char* mode : {"", "0", "69", "abc", "1e99"}) {
     Set("NAMEID", mode);
@@ -90,6 +120,10 @@ TEST_F(SettingsTest, AnUnknownDisplayModeIsTheDefault) {
 
 TEST_F(SettingsTest, ARecentFileLosesItsMenuNumber) {
   EXPECT_EQ(RecentFileOf("1. C:\\MATH.TYR"), "C:\\MATH.TYR");
+  EXPECT_EQ(RecentFileOf("0. /a.TYR"), "/a.TYR");
+  EXPECT_EQ(RecentFileOf("9. /a.TYR"), "/a.TYR");
+  EXPECT_EQ(RecentFileOf("/. /a.TYR"), "/. /a.TYR");
+  EXPECT_EQ(RecentFileOf(":. /a.TYR"), ":. /a.TYR");
   EXPECT_EQ(RecentFileOf("/home/MATH.TYR"), "/home/MATH.TYR");
   EXPECT_EQ(RecentFileOf("1."), "");
   EXPECT_EQ(RecentFileOf("5.y"), "");
@@ -99,8 +133,10 @@ TEST_F(SettingsTest, ARecentFileLosesItsMenuNumber) {
 }
 
 TEST_F(SettingsTest, RecentFilesAreCutAtLoading) {
+  screen.settings["TALLYRLG8/fileused/File0"] = "1. /a.TYR";
   screen.settings["TALLYRLG8/fileused/File2"] = "3. /c.TYR";
   LoadProgramSettings();
+  EXPECT_EQ(RecentFiles[0], "/a.TYR");
   EXPECT_EQ(RecentFiles[2], "/c.TYR");
 }
 

@@ -103,6 +103,20 @@ TEST_F(SideFilesTest, AnAbsentFileMeansTheDefaults) {
   EXPECT_EQ(Current().RoundScale, 0);
 }
 
+TEST_F(SideFilesTest, AFileLongerThan65536BytesIsReportedAndNotRead) {
+  screen.settings["TALLYRLP7/startup/ROUND"] = "1";
+  std::string bytes = Scale(12);
+  bytes.resize(65536);
+  Put("Roundoff.rnd", bytes);
+  ReadSideFiles();
+  EXPECT_EQ(Current().RoundScale, 1);
+  Current().RoundScale = 0;
+  Put("Roundoff.rnd", bytes + "x");
+  screen.ExpectBox("File Error: 57");
+  ReadSideFiles();
+  EXPECT_EQ(Current().RoundScale, 0);
+}
+
 TEST_F(SideFilesTest, AShortFileIsReported) {
   Put("Roundoff.rnd", Scale(3));
   screen.settings["TALLYRLP7/startup/ROUND"] = "1";

@@ -78,6 +78,12 @@ TEST_F(SortStudentsTest, AShorterKeyComesFirstEvenBeforeAZeroByte) {
   EXPECT_EQ(Order(), "3 2 1 ");
 }
 
+TEST_F(SortStudentsTest, AKeyThatGoesOnBehindEightLettersComesBehind) {
+  Enrol({{"Abcdefghi", "", "2"}, {"Abcdefgh", "", "1"}, {"Abcdefgha", "", "0"}});
+  SortStudents();
+  EXPECT_EQ(Order(), "1 0 2 ");
+}
+
 TEST_F(SortStudentsTest, NoStudentsAndOne) {
   Enrol({});
   SortStudents();

@@ -76,6 +76,27 @@ TEST(ExportText, ColumnsStandAtTheirPlaces) {
   EXPECT_EQ(line.substr(57 - 1, 114 - 57), std::string(114 - 57, ' '));
 }
 
+TEST(ExportText, WhatIsLongerThanItsColumnLeavesTheNextItsPlace) {
+  Class c = Two();
+  c.Students[1].id = "1234567890123";
+  c.Students[1].lastname = std::string(40, 'n');
+  const std::string text = ExportText(c, kExportGradesPlain, kColumnsText).bytes;
+  EXPECT_EQ(text.substr(0, 57), "123456789012 " + std::string(32, 'n') + " A-    95.5\r");
+}
+
+TEST(ExportText, AStudentWhoseListEndsEarlyHasNoMark) {
+  Class c = Two();
+  c.Students[1].Marks = {"", "A-"};
+  c.Students[2].Marks.clear();
+  EXPECT_EQ(ExportText(c, kExportGradesPlain, kTabsText).bytes,
+            "1001\tNg, Ada\tA-\t\r\n2\tLe, Bo\t\t\r\n");
+}
+
+TEST(ExportText, FormattedColumnsHaveNoMarkBetweenThem) {
+  EXPECT_EQ(SeparatorOf(kColumnsText), '\0');
+  EXPECT_EQ(SeparatorOf(kCsvText), ',');
+}
+
 TEST(ExportText, SupplementaryInformationFollowsTheName) {
   EXPECT_EQ(Text(kExportInfo, kCommasText),
             "1001,Ng Ada,12 Main St,,NY,,,,,,ada@example.org\r\n2,Le Bo,,,,,,,,,\r\n");
