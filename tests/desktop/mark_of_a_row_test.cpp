@@ -11,6 +11,7 @@
 #include "platform/headless.h"
 #include "shell/program.h"
 #include "store/class_defaults.h"
+#include "store/program_state.h"
 
 namespace tallyroll {
 namespace {
