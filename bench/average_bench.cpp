@@ -18,7 +18,6 @@ void PutBigClassToWork(i16 method) {
   ResetAverages();
   Current() = BigAveragedClass(200, 100, method);
   PrepareWeights();
-  MakeTotalPossible();
 }
 
 void ReadEachMark(benchmark::State& state) {

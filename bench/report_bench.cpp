@@ -43,7 +43,6 @@ struct ReportedClass {
   ReportedClass() : open(BigAveragedClass(kStudents, kGrades, 1)) {
     SetPlatform(&paper);
     PrepareWeights();
-    MakeTotalPossible();
     Job.PrintFlag = kPrintRuns;
     Job.PrintTab = 4;
     Job.ReportCode = kFullGradesWithAverages;
@@ -86,7 +85,7 @@ class KeepingTarget : public QtPrintTarget {
   DrawnPage page;
 
  protected:
-  void DrawTextAt(double x, double y, std::string_view text) override {
+  void DrawTextAt(double x, double y, std::string_view text, double /*size*/) override {
     page.words.push_back({{x - ScaleLeft, y - ScaleTop + FontSize * 18},
                           FontOf(*this),
                           QString::fromLatin1(text.data(), static_cast<qsizetype>(text.size()))});

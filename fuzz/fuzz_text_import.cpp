@@ -4,6 +4,7 @@
 #include "platform/headless.h"
 #include "store/grade_file.h"
 #include "store/program_state.h"
+#include "store/taken_ids.h"
 #include "store/text_export.h"
 #include "store/text_import.h"
 #include "store/text_layout.h"
@@ -14,13 +15,20 @@ namespace {
 constexpr i16 kLayouts[] = {kColumnsText, kSinglesText, kDoublesText,
                             kTabsText,    kCommasText,  kCsvText};
 
-// An import is refused and adds nothing, or every student fits a class file.
+void RequireOwnIds() {
+  TakenIds ids;
+  for (std::size_t i = 1; i < Current().Students.size(); ++i)
+    Require(ids.Take(Current().Students[i].id));
+}
+
+// An import is refused and adds nothing, or every student fits a class file and has an ID.
 void ImportStudents(std::string_view bytes, i16 mode) {
   TextRoster roster = ReadRosterText(bytes, mode);
   Require(roster.refusal.empty() != roster.students.empty());
   const std::size_t students = roster.students.size();
-  Require(AddStudents(roster) == 0);
+  Require(AddStudents(roster).error == 0);
   Require(Current().NumStudents == static_cast<int>(students));
+  RequireOwnIds();
   RequireMended(Current(), bytes.size());
   RequireRoundTrip(Current());
 }

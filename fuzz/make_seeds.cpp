@@ -95,6 +95,8 @@ int Run(const std::filesystem::path& corpus) {
   Put(corpus / "student_clipboard/student",
       "3z\rNg\rAda\r7\r=\r555\r=\r=\r=\rOslo\r=\r=\r=\rone\r\ntwo<END FIELD>\r1\r1\r1\r95\rT\r"
       "3    \r12\r 1/ 2/ 0/ 0/\r");
+  Put(corpus / "grade_clipboard/grade",
+      "8z\rRivers\rRIV\r50\r32.5\r9/10/2026\rN\rHW\r3\r7,41\r7,8,5\r,,B+\r");
   Put(corpus / "settings/recent", "1. C:\\CLASSES\\MATH.TYR");
   return 0;
 }

@@ -98,7 +98,7 @@ RangeMove MoveTo(const RangeDates& dates) {
   move.old_count = count;
   move.new_count = dates.Days();
   move.keep_from_start = static_cast<int>(std::abs(old_next - dates.start));
-  move.drop_at_end = static_cast<int>(std::max(0.0, old_next - dates.end_next));
+  move.added_at_start = static_cast<int>(DateOfDay(1) - dates.start);
   return move;
 }
 
@@ -126,15 +126,9 @@ void MoveMarksToLaterStart(const RangeMove& move) {
   for (int j = kept + 1; j <= move.old_count; ++j) Grid2.ClearDay(j);
 }
 
-void DropEnd(RangeMove& move) {
-  move.old_count -= move.drop_at_end;
-}
-
 void MoveMarksToEarlierStart(const RangeMove& move) {
   Grid2.SetDays(move.new_count);
-  const int last = move.keep_from_start - move.drop_at_end;
-  for (int j = move.old_count, target = last; j >= 1; --j, --target) Grid2.CopyDay(j, target);
-  for (int j = 1; j <= last - move.old_count; ++j) Grid2.ClearDay(j);
+  for (int j = move.new_count; j >= 1; --j) Grid2.CopyDay(j - move.added_at_start, j);
 }
 
 void AdoptRange(const RangeDates& dates) {

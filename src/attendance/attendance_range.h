@@ -49,10 +49,10 @@ void SetUpRange(const RangeDates& dates);
 // A move of the range of a class that has one.
 struct RangeMove {
   TermMonth old_first, old_last;
-  int old_count = 0;  // days; those of an end that is given up are taken off
+  int old_count = 0;  // days
   int new_count = 0;
   int keep_from_start = 0;  // days from the new start to the old end
-  int drop_at_end = 0;      // days from the new end to the old one
+  int added_at_start = 0;   // days from the new start to the old one
 };
 
 RangeMove MoveTo(const RangeDates& dates);
@@ -65,8 +65,8 @@ bool StartsEarlier(const RangeChoice& choice, const RangeMove& move);
 
 // The marks of the term table keep their dates, those before the new start are gone.
 void MoveMarksToLaterStart(const RangeMove& move);
-void DropEnd(RangeMove& move);
-// The marks keep their dates behind the empty days of the new start.
+// The marks keep their dates behind the empty days of the new start, those behind the new end are
+// gone.
 void MoveMarksToEarlierStart(const RangeMove& move);
 
 // Dates the days anew and sizes the term table and the daily marks to them.

@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <cmath>
 #include <string>
-#include <utility>
 
 #include "attendance/attendance_range.h"
 #include "attendance/daily_codes.h"
@@ -16,7 +15,6 @@
 namespace tallyroll {
 namespace {
 
-constexpr int kMovesInList = 38;
 constexpr unsigned char kBackspace = 8;
 
 }  // namespace
@@ -35,8 +33,10 @@ void frmAtt::FollowCursor() {
   blue_row_ = Grid1.Row;
   blue_col_ = Grid1.Col;
   Grid1.SetStyle(blue_row_, blue_col_, CellStyle::kInWork);
-  Combo1.ListIndex = -1;
+  // The list begins at what the cell holds.
   Combo1.Text = Trim(Grid1.TextMatrix(blue_row_, blue_col_));
+  const bool has_code = Combo1.Text.size() == 1 && IsDailyCode(Combo1.Text.front());
+  Combo1.ListIndex = has_code ? static_cast<int>(kDailyCodes.find(Combo1.Text.front())) : -1;
 }
 
 void frmAtt::Write(std::string_view mark) {
@@ -65,6 +65,8 @@ bool frmAtt::Grid1_KeyPress(unsigned char key) {
 // The first arrow goes to the first student, on the day of today where the month has it.
 bool frmAtt::Grid1_KeyDown(Key key) {
   if (OnlyShows()) return false;
+  // The key that drops the list; a choice may have put it away.
+  if (key == Key::kF4) EnterCell();
   if (key != Key::kUp && key != Key::kDown && key != Key::kLeft && key != Key::kRight &&
       key != Key::kEnter)
     return false;
@@ -87,17 +89,10 @@ void frmAtt::Combo1_Click() {
   portalchanged = monthchanged = 1;
   Combo1.Visible = false;
   SetFocus(Grid1);
-  if (std::exchange(navkey, 0) == kMovesInList) return;
   if (Combo1.ListIndex < 0 || !IsDayCell(Grid1, Grid1.Row, Grid1.Col)) return;
   const auto chosen = static_cast<std::size_t>(Combo1.ListIndex);
   Write(chosen < kDailyCodes.size() ? kDailyCodes.substr(chosen, 1) : " ");
   UpdateTotals();
-}
-
-bool frmAtt::Combo1_KeyDown(Key key) {
-  if (key == Key::kHome || key == Key::kUp || key == Key::kRight || key == Key::kDown)
-    navkey = kMovesInList;
-  return false;
 }
 
 bool frmAtt::Combo1_KeyPress(unsigned char key) {

@@ -73,10 +73,9 @@ void frmAtt::Declare(ControlTable& table) {
       .Click([this] { EnterCell(); })
       .KeyDown([this](Key key) { return Grid1_KeyDown(key); })
       .KeyPress([this](unsigned char key) { return Grid1_KeyPress(key); });
-  table.Add("Combo1", Combo1)
-      .Click([this] { Combo1_Click(); })
-      .KeyDown([this](Key key) { return Combo1_KeyDown(key); })
-      .KeyPress([this](unsigned char key) { return Combo1_KeyPress(key); });
+  table.Add("Combo1", Combo1).Click([this] { Combo1_Click(); }).KeyPress([this](unsigned char key) {
+    return Combo1_KeyPress(key);
+  });
   table.Add("status", status);
 }
 

@@ -31,7 +31,6 @@ struct frmAtt : Portal {
   int monthchanged = 0;   // 1 once a code was entered in the month grid
   int exitkind = 2;       // 1 Exit, 2 Cancel
   int firstkey = 1;       // 1: the next key replaces what the cell holds
-  int navkey = 0;         // 38 while a key moves through the list of codes, which is no choice
 
   bool Grid1_KeyPress(unsigned char key);
   bool Grid1_KeyDown(Key key);
@@ -53,7 +52,6 @@ struct frmAtt : Portal {
   void BuildAndFill();
   void EnterCell();
   void FollowCursor();
-  bool Combo1_KeyDown(Key key);
   bool Combo1_KeyPress(unsigned char key);
   void Write(std::string_view mark);
   void UpdateTotals();

@@ -15,13 +15,13 @@ namespace {
 
 using Holds = LabelColumn::Holds;
 
-constexpr int kLongestCode = 3;
-constexpr int kNameWidth = 3125, kIdWidth = 1440;
+constexpr int kLongestDayCode = 3;
+constexpr int kNameWidth = 3125, kDayIdWidth = 1440;
 
-constexpr LabelTable kLabels = {{
-    {{{Holds::kId, "      ID ", kIdWidth}, {}}},
-    {{{Holds::kId, "ID ", kIdWidth}, {Holds::kName, "NAME ", kNameWidth}}},
-    {{{Holds::kName, "NAME", kNameWidth}, {Holds::kId, "ID", kIdWidth}}},
+constexpr LabelTable kDayLabels = {{
+    {{{Holds::kId, "      ID ", kDayIdWidth}, {}}},
+    {{{Holds::kId, "ID ", kDayIdWidth}, {Holds::kName, "NAME ", kNameWidth}}},
+    {{{Holds::kName, "NAME", kNameWidth}, {Holds::kId, "ID", kDayIdWidth}}},
     {{{Holds::kName, "     NAME", kNameWidth}, {}}},
 }};
 
@@ -36,7 +36,7 @@ frmEatt::frmEatt() : Portal("frmEatt"), figures(Grid1, [this] { return GridKey()
   exit.Caption = "E&xit";
   cancel.Caption = "&Cancel";
   Title.MaxLength = static_cast<int>(kLongestText);
-  code.MaxLength = kLongestCode;
+  code.MaxLength = kLongestDayCode;
   Title.Enabled = code.Enabled = false;
   calmess.Visible = false;
 }
@@ -56,7 +56,7 @@ void frmEatt::Declare(ControlTable& table) {
 
 void frmEatt::Load() {
   FillList();
-  figures.LayOut(kLabels);
+  figures.LayOut(kDayLabels);
   SetFocus(list1);
 }
 
@@ -101,7 +101,7 @@ void frmEatt::ShowSummary(int index) {
   Title.Enabled = code.Enabled = true;
   Title.Text = TrimRight(Shown().title);
   code.Text = TrimRight(Shown().code);
-  code.MaxLength = std::max(kLongestCode, static_cast<int>(code.Text.size()));
+  code.MaxLength = std::max(kLongestDayCode, static_cast<int>(code.Text.size()));
   for (int i = 1; i <= Current().NumStudents; ++i) {
     const Student& s = Current().Students[static_cast<std::size_t>(i)];
     Grid1.SetTextMatrix(i, kAbsentColumn,

@@ -97,20 +97,17 @@ void frmatset::OKButton_Click() {
 // The answer to the first question covers both ends, unless the start did not come to a later
 // month number. A Cancel at the second leaves the marks where the first one put them.
 bool frmatset::MoveRange(const RangeDates& dates) {
-  RangeMove move = MoveTo(dates);
+  const RangeMove move = MoveTo(dates);
   if (StartsLater(choice_, move)) {
     if (!MayLose("You are starting at a later month; the information for the earlier month(s) will "
                  "be lost."))
       return false;
     MoveMarksToLaterStart(move);
   }
-  if (EndsEarlier(choice_, move)) {
-    if (choice_.start.month <= move.old_first.month &&
-        !MayLose("You are ending at an earlier month; the information for the later month(s) will "
-                 "be lost."))
-      return false;
-    DropEnd(move);
-  }
+  if (EndsEarlier(choice_, move) && choice_.start.month <= move.old_first.month &&
+      !MayLose("You are ending at an earlier month; the information for the later month(s) will "
+               "be lost."))
+    return false;
   if (StartsEarlier(choice_, move)) MoveMarksToEarlierStart(move);
   return true;
 }

@@ -7,6 +7,15 @@
 #include "store/program_state.h"
 
 namespace tallyroll {
+namespace {
+
+bool HasUnsavedAverages() {
+  const Class& c = Current();
+  return (c.AverageWork2 >= 1 && (c.Method == 1 || c.Method == 3)) ||
+         (c.AverageWork1 >= 1 && c.Method != 1);
+}
+
+}  // namespace
 
 std::string AverageSettingsText(i16 method, const DropBoxes& boxes, const TypeSums& type_weights) {
   std::string text = PlainNumberText(method);
@@ -18,6 +27,12 @@ std::string AverageSettingsText(i16 method, const DropBoxes& boxes, const TypeSu
 
 bool AskToSaveSettings(std::string_view text, std::string_view title) {
   return Ask(text, BoxButtons::kYesNo, BoxIcon::kQuestion, title) == BoxAnswer::kYes;
+}
+
+bool WantsAveragesSaved() {
+  return HasUnsavedAverages() &&
+         Ask("Save Rounded Averaged Grades? (Recommended)", BoxButtons::kYesNo, BoxIcon::kQuestion,
+             "Save File") == BoxAnswer::kYes;
 }
 
 void SaveChangedClass() {

@@ -21,6 +21,9 @@ std::string AverageSettingsText(i16 method, const DropBoxes& boxes, const TypeSu
 
 // The question after which settings go into the class file.
 bool AskToSaveSettings(std::string_view text, std::string_view title);
+// Offers to save the final grades as a grade while there are some that no grade of the class keeps
+// yet. True: the teacher wants it.
+bool WantsAveragesSaved();
 // Raises Changed and saves the class.
 void SaveChangedClass();
 

@@ -63,7 +63,9 @@ frmdropgrade::frmdropgrade() : Portal("frmdropgrade") {
 }
 
 void frmdropgrade::Declare(ControlTable& table) {
-  table.Add("grdgrade", grdgrade).KeyPress([this](unsigned char) { return grdgrade_KeyPress(); });
+  table.Add("grdgrade", grdgrade)
+      .KeyDown([this](Key key) { return key == Key::kEnter && GoToNextRow(grdgrade); })
+      .KeyPress([this](unsigned char) { return grdgrade_KeyPress(); });
   table.Add("exit", exit).Click([this] { Unload(); });
 }
 

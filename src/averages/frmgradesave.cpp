@@ -10,6 +10,7 @@
 #include "grades/marks.h"
 #include "platform/class_window.h"
 #include "platform/surroundings.h"
+#include "store/class_file.h"
 #include "store/class_format.h"
 #include "store/program_state.h"
 
@@ -112,6 +113,8 @@ void frmgradesave::AddGrade(const std::vector<ShortText>& marks) {
     c.Students[i].Marks.back() = marks[i - 1];
   }
   SaveChangedClass();
+  if (c.Changed == kFalse)
+    ClassWindow().ShowStatus("The averages stand as " + grade.title + ". " + SavedText(c.FileName));
   if (c.AverageWork2 == 2 && (c.Method == 1 || c.Method == 3)) c.AverageWork2 = 0;
   if (c.AverageWork1 == 2 && c.Method != 1) c.AverageWork1 = 0;
   CurrentStudent = static_cast<i16>(last);

@@ -15,19 +15,26 @@ frminfo::frminfo() : StudentScreen("frminfo", list1, "Codes") {
 }
 
 void frminfo::Declare(ControlTable& table) {
-  DeclareList(table, "list1");
-  DeclareRecord(table);
   table.Add("mnuprevious", mnuprevious).Click([this] { ShowPrevious(); });
   table.Add("mnuext", mnuext).Click([this] { ShowNext(); });
   table.Add("mnugraph", mnugraph).Click([this] { mnugraph_Click(); });
+  DeclareList(table, "list1");
+  DeclareRecord(table);
   table.Add("exit", exit).Click([this] { exit_Click(); });
 }
 
+void frminfo::Load() {
+  const int wanted = OpenState == kInfoOfStudent ? CurrentStudent : 0;
+  StudentScreen::Load();
+  if (wanted >= 1 && wanted <= Current().NumStudents) Show(wanted);
+}
+
+// Whatever the graph does with CurrentStudent, the comment on the screen stays this student's.
 void frminfo::mnugraph_Click() {
-  if (CurrentStudent == 0)
-    ShowMessage("You must first select a student");
-  else
-    ShowPortal("frmgrone");
+  if (CurrentStudent == 0) return (void)ShowMessage("You must first select a student");
+  const i16 shown = CurrentStudent;
+  ShowPortal("frmgrone");
+  CurrentStudent = shown;
 }
 
 }  // namespace tallyroll

@@ -6,12 +6,16 @@
 
 namespace tallyroll {
 
+// With this OpenState it begins with the student that CurrentStudent counts.
+inline constexpr int kInfoOfStudent = 131;
+
 struct frminfo : StudentScreen {
   frminfo();
   void Declare(ControlTable& table) override;
+  void Load() override;
 
   ListBox list1;
-  CommandButton mnuprevious, mnuext, mnugraph;
+  CommandButton mnuprevious, mnuext, mnugraph;  // entries of its menu
 
   void mnugraph_Click();
 };

@@ -18,8 +18,8 @@ constexpr std::string_view kMethods[] = {"Assign Weights to Individual Items",
                                          "Assign Weights by Type", "Use Points",
                                          "Use Points and Weights by Type"};
 
-std::string_view StateText(i16 flag) {
-  return flag ? "Selected" : "Not Selected";
+std::string_view StateText(bool selected) {
+  return selected ? "Selected" : "Not Selected";
 }
 
 bool Counts(std::size_t grade) {
@@ -109,12 +109,15 @@ void frmoptions::ShowScale() {
   }
 }
 
+// The boxes of the weights Portals stay as they were while points are in use, but points drop
+// nothing.
 void frmoptions::lowframe() {
   const Class& c = Current();
-  dropabs.Caption = StateText(c.AverageFlag1);
-  dsl.Caption = StateText(c.AverageFlag2);
-  dis.Caption = StateText(c.AverageFlag3);
-  dlt.Caption = StateText(c.AverageFlag4);
+  const bool weighs = c.Method != 2 && c.Method != 3;
+  dropabs.Caption = StateText(weighs && c.AverageFlag1);
+  dsl.Caption = StateText(weighs && c.AverageFlag2);
+  dis.Caption = StateText(weighs && c.AverageFlag3);
+  dlt.Caption = StateText(weighs && c.AverageFlag4);
 }
 
 void frmoptions::showgrid() {
@@ -163,7 +166,7 @@ void frmoptions::maketypename() {
   for (std::size_t i = 0; i < types.size(); ++i) {
     const int row = static_cast<int>(i) + 1;
     const std::size_t t = types[i];
-    const bool dropped = c.AverageFlag4 && c.TypeWeights[t] == kMayDrop;
+    const bool dropped = !points && c.AverageFlag4 && c.TypeWeights[t] == kMayDrop;
     names.Show(typegrid, row, t);
     typegrid.SetTextMatrix(row, points ? 3 : 2, PlainNumberText(items[t]));
     typegrid.SetTextMatrix(row, points ? 2 : 3, PlainNumberText(c.TypePercents[t]));

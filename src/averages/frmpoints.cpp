@@ -5,7 +5,6 @@
 
 #include "averages/average_settings.h"
 #include "averages/clipboard_column.h"
-#include "averages/engine/average_state.h"
 #include "averages/type_grid.h"
 #include "base/number_text.h"
 #include "base/run_time_error.h"
@@ -19,11 +18,11 @@ namespace {
 
 constexpr int kMaxColumn = 2;
 constexpr int kFlagColumn = 3;
-constexpr std::string_view kFormat = "4z";
-constexpr Currency kInUse = Currency::FromScaled(1'0000);
-constexpr Currency kNotInUse = Currency::FromScaled(2'0000);
+constexpr std::string_view kPointsFormat = "4z";
+constexpr Currency kCounted = Currency::FromScaled(1'0000);
+constexpr Currency kLeftOut = Currency::FromScaled(2'0000);
 
-Instrument& GradeAt(int row) {
+Instrument& GradeWithPoints(int row) {
   return Current().Instruments[static_cast<std::size_t>(row)];
 }
 
@@ -31,8 +30,8 @@ Instrument& GradeAt(int row) {
 // such as a column of final grades.
 bool CountsSoFar(int row) {
   const Currency use = Current().InstrumentUse[static_cast<std::size_t>(row)];
-  if (use == Currency()) return Trim(GradeAt(row).countflag) != "N";
-  return use != kNotInUse;
+  if (use == Currency()) return Trim(GradeWithPoints(row).countflag) != "N";
+  return use != kLeftOut;
 }
 
 }  // namespace
@@ -49,7 +48,9 @@ frmpoints::frmpoints() : Portal("frmpoints") {
 }
 
 void frmpoints::Declare(ControlTable& table) {
-  table.Add("grdgrade", grdgrade).KeyPress([this](unsigned char) { return grdgrade_KeyPress(); });
+  table.Add("grdgrade", grdgrade)
+      .KeyDown([this](Key key) { return key == Key::kEnter && GoToNextRow(grdgrade); })
+      .KeyPress([this](unsigned char) { return grdgrade_KeyPress(); });
   table.Add("totals", totals);
   table.Add("extra", extra);
   table.Add("paste", paste).Click([this] { paste_Click(); });
@@ -71,10 +72,10 @@ void frmpoints::Load() {
   grdgrade.SetColAlignment(kFlagColumn, ColumnAlign::kCenter);
   ShowTitles(grdgrade);
   for (int row = 1; row < grdgrade.Rows(); ++row) {
-    grdgrade.SetTextMatrix(row, kMaxColumn, PlainNumberText(GradeAt(row).mvalue));
+    grdgrade.SetTextMatrix(row, kMaxColumn, PlainNumberText(GradeWithPoints(row).mvalue));
     grdgrade.SetTextMatrix(row, kFlagColumn, CountsSoFar(row) ? "Y" : "N");
   }
-  frombd.Enabled = ClipboardHas(kFormat);
+  frombd.Enabled = ClipboardHas(kPointsFormat);
   ShowSums();
   SetFocus(grdgrade);
 }
@@ -87,8 +88,8 @@ void frmpoints::ShowSums() {
   sums_ = PointSums();
   for (int row = 1; row < grdgrade.Rows(); ++row) {
     if (!Counts(row)) continue;
-    const bool extra_credit = Trim(GradeAt(row).typecode) == kExtraCreditCode;
-    (extra_credit ? sums_.extra : sums_.total) += Currency::FromWhole(GradeAt(row).mvalue);
+    const bool extra_credit = Trim(GradeWithPoints(row).typecode) == kExtraCreditCode;
+    (extra_credit ? sums_.extra : sums_.total) += Currency::FromWhole(GradeWithPoints(row).mvalue);
   }
   totals.Caption = PlainNumberText(sums_.total);
   extra.Caption = PlainNumberText(sums_.extra);
@@ -103,8 +104,8 @@ void frmpoints::showtypes() {
   TypeSums points{};
   for (int row = 1; row < grdgrade.Rows(); ++row) {
     if (!Counts(row)) continue;
-    for (const std::size_t t : by_code.Of(GradeAt(row).typecode))
-      points[t] += Currency::FromWhole(GradeAt(row).mvalue);
+    for (const std::size_t t : by_code.Of(GradeWithPoints(row).typecode))
+      points[t] += Currency::FromWhole(GradeWithPoints(row).mvalue);
   }
   totals_by_type_.get()->ShowPoints(points);
 }
@@ -119,13 +120,13 @@ bool frmpoints::grdgrade_KeyPress() {
 }
 
 void frmpoints::paste_Click() {
-  CopyLines(kFormat, ColumnOf(grdgrade, kFlagColumn));
+  CopyLines(kPointsFormat, ColumnOf(grdgrade, kFlagColumn));
   frombd.Enabled = true;
 }
 
 void frmpoints::frombd_Click() {
   std::vector<std::string> lines;
-  if (!PasteLines(kFormat, lines)) return;
+  if (!PasteLines(kPointsFormat, lines)) return;
   const int last = std::min(grdgrade.Rows() - 1, static_cast<int>(lines.size()));
   for (int row = 1; row <= last; ++row) {
     const bool counts = UpperCase(Trim(lines[static_cast<std::size_t>(row) - 1])) == "Y";
@@ -149,14 +150,13 @@ void frmpoints::Sumanry_Click() {
 }
 
 void frmpoints::exit_Click() {
-  i16 total_possible = 0;
   try {
-    total_possible = sums_.total.ToWhole16();
+    static_cast<void>(sums_.total.ToWhole16());
   } catch (const RunTimeError&) {
     ShowMessage("The total points of a class can't be more than 32767.", BoxIcon::kCritical);
     return SetFocus(grdgrade);
   }
-  Accept(total_possible);
+  Accept();
   totals_by_type_.Close();
   if (Current().Method != 2)
     UnloadAndShow("frmpercents");
@@ -166,11 +166,10 @@ void frmpoints::exit_Click() {
     UnloadAndShow("frmroundoff");
 }
 
-void frmpoints::Accept(i16 total_possible) {
+void frmpoints::Accept() {
   Class& c = Current();
   for (int row = 1; row < grdgrade.Rows(); ++row)
-    c.InstrumentUse[static_cast<std::size_t>(row)] = Counts(row) ? kInUse : kNotInUse;
-  TotalPossible[static_cast<std::size_t>(CurrentClass)] = total_possible;
+    c.InstrumentUse[static_cast<std::size_t>(row)] = Counts(row) ? kCounted : kLeftOut;
   if (DefaultMethod == 2 && c.Method != 2) c.AverageWork1 = 1;
   if (DefaultMethod == 3 && c.Method != 3) c.AverageWork2 = 1;
   if (DefaultMethod == 2 || DefaultMethod == 3) c.Method = DefaultMethod;
@@ -184,7 +183,7 @@ void frmpoints::SaveOnYes() {
   if (!AskToSaveSettings("Do you want to save these points", "SAVE POINTS")) return;
   Class& c = Current();
   for (int row = 1; row < grdgrade.Rows(); ++row)
-    GradeAt(row).countflag = grdgrade.TextMatrix(row, kFlagColumn);
+    GradeWithPoints(row).countflag = grdgrade.TextMatrix(row, kFlagColumn);
   c.AverageSettings = AverageSettingsText(c.Method, {}, {});
   SaveChangedClass();
   c.AverageWork1 = 2;

@@ -35,7 +35,7 @@ struct frmpoints : Portal {
   bool Counts(int row) const;
   void ShowSums();
   void showtypes();
-  void Accept(i16 total_possible);
+  void Accept();
   void SaveOnYes();
 
   PointSums sums_;

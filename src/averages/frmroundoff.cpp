@@ -20,7 +20,7 @@ constexpr int kRows = 13;
 constexpr int kMinimum = 2;
 constexpr i16 kTemporaryScale = 4;
 constexpr i16 kLetterForm = 3;
-constexpr std::string_view kFormat = "12z";
+constexpr std::string_view kScaleFormat = "12z";
 
 constexpr std::string_view kExplanation =
     "Tallyroll provides an 'AVERAGE ROUNDING OPTION' for schools using standardized number grades "
@@ -34,6 +34,12 @@ constexpr std::string_view kExplanation =
     "does not use one or more of the grades listed, then enter '101' for each item not used. (For "
     "example, if your school doesn't use a grade of '88' [B+], then enter '101' next to that "
     "grade.)";
+
+// The Portal goes when it is left, but what Skip Rounding put out of force comes back whenever
+// rounding is enabled again.
+i16& RememberedScale() {
+  return SkippedScale[static_cast<std::size_t>(CurrentClass)];
+}
 
 std::array<float, 14>& ScaleOf(i16 scale) {
   return Current().RoundTable[static_cast<std::size_t>(scale)];
@@ -132,7 +138,7 @@ void frmroundoff::ShowMode() {
   const bool skipping = Current().RoundMode != 0;
   skip.Enabled = !skipping;
   noskip.Enabled = skipping;
-  readclip.Enabled = !skipping && ClipboardHas(kFormat);
+  readclip.Enabled = !skipping && ClipboardHas(kScaleFormat);
   FillGrid();
   ShowScaleButtons();
 }
@@ -238,15 +244,15 @@ bool frmroundoff::SaveInEmptyScale() {
 void frmroundoff::noskip_Click() {
   Class& c = Current();
   c.RoundMode = 0;
-  c.RoundScale = remembered_scale_;
-  if (remembered_scale_ == kTemporaryScale) changed_ = true;
+  c.RoundScale = RememberedScale();
+  if (c.RoundScale == kTemporaryScale) changed_ = true;
   MarkChanged();
   ShowMode();
 }
 
 void frmroundoff::skip_Click() {
   Class& c = Current();
-  remembered_scale_ = c.RoundScale;
+  RememberedScale() = c.RoundScale;
   if (!SettleChange()) return;
   c.RoundMode = 1;
   if (c.AverageWork1 != 1 && c.Method != 1) c.AverageWork1 = 2;
@@ -294,7 +300,7 @@ void frmroundoff::finalform_Click(i16 form) {
 void frmroundoff::writeclip_Click() {
   std::vector<std::string> minimums = ColumnOf(grdgrade, kMinimum);
   for (std::string& each : minimums) each = std::string(Trim(each));
-  CopyLines(kFormat, minimums);
+  CopyLines(kScaleFormat, minimums);
   readclip.Enabled = true;
 }
 
@@ -306,7 +312,7 @@ void frmroundoff::readclip_Click() {
   }
   if (!MayLoseChange()) return;
   std::vector<std::string> lines;
-  if (!PasteLines(kFormat, lines)) return;
+  if (!PasteLines(kScaleFormat, lines)) return;
   const int last = std::min(kRows, static_cast<int>(lines.size()));
   for (int row = 1; row <= last; ++row)
     grdgrade.SetTextMatrix(row, kMinimum, lines[static_cast<std::size_t>(row) - 1]);

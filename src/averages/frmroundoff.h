@@ -51,7 +51,6 @@ struct frmroundoff : Portal {
 
   CellTyping typing_;
   bool changed_ = false;
-  i16 remembered_scale_ = 0;  // in force when Skip Rounding was pressed
 };
 
 }  // namespace tallyroll

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "averages/frmscrnavg.h"
 
+#include "averages/average_settings.h"
 #include "averages/rounding.h"
 #include "base/number_text.h"
 #include "base/text.h"
@@ -12,13 +13,6 @@ namespace {
 
 bool IsPointMethod() {
   return Current().Method == 2 || Current().Method == 3;
-}
-
-// There are averages that no grade of the class keeps yet.
-bool HasUnsavedAverages() {
-  const Class& c = Current();
-  return (c.AverageWork2 >= 1 && (c.Method == 1 || c.Method == 3)) ||
-         (c.AverageWork1 >= 1 && c.Method != 1);
 }
 
 }  // namespace
@@ -72,8 +66,7 @@ void frmscrnavg::ShowMore() {
 void frmscrnavg::Leave() {
   ClassWindow().EnableEntry("mnuoptions", true);
   ClassWindow().EnableEntry("mnuprtgrade", true);
-  if (HasUnsavedAverages() && Ask("Save Rounded Averaged Grades? (Recommended)", BoxButtons::kYesNo,
-                                  BoxIcon::kQuestion, "Save File") == BoxAnswer::kYes)
+  if (WantsAveragesSaved())
     UnloadAndShow("frmgradesave");
   else
     Unload();

@@ -14,7 +14,7 @@ constexpr int kMarkColumn = 2;
 constexpr int kFirstDetail = 3;
 constexpr int kAttendanceColumns = 7;
 
-const Student& Shown() {
+const Student& StudentOnScreen() {
   return Current().Students[static_cast<std::size_t>(CurrentStudent)];
 }
 
@@ -69,7 +69,7 @@ void StudentScreen::Show(int student) {
   CurrentStudent = static_cast<i16>(student);
   students_.ListIndex = student - 1;
   comments.Enabled = true;
-  comments.Text = Shown().comments;
+  comments.Text = StudentOnScreen().comments;
   FillGrades();
   FillAttendance();
   ShowMore();
@@ -86,7 +86,7 @@ void StudentScreen::FillGrades() {
     const Instrument& grade = c.Instruments[static_cast<std::size_t>(i)];
     grdgrade.SetTextMatrix(i, 0, Trim(grade.title));
     grdgrade.SetTextMatrix(i, 1, Trim(grade.code));
-    grdgrade.SetTextMatrix(i, kMarkColumn, Trim(MarkOf(Shown(), i)));
+    grdgrade.SetTextMatrix(i, kMarkColumn, Trim(MarkOf(StudentOnScreen(), i)));
   }
 }
 
@@ -94,9 +94,9 @@ void StudentScreen::FillAttendance() {
   const Class& c = Current();
   for (int i = 1; i <= c.NumSummaries; ++i) {
     grdatt.SetTextMatrix(i, 0, Trim(c.Summaries[static_cast<std::size_t>(i)].code));
-    grdatt.SetTextMatrix(i, 1, ItemOrNone(Shown().SummaryAbsent, i));
-    grdatt.SetTextMatrix(i, 2, ItemOrNone(Shown().SummaryLate, i));
-    std::string_view detail = ItemOrNone(Shown().SummaryDetail, i);
+    grdatt.SetTextMatrix(i, 1, ItemOrNone(StudentOnScreen().SummaryAbsent, i));
+    grdatt.SetTextMatrix(i, 2, ItemOrNone(StudentOnScreen().SummaryLate, i));
+    std::string_view detail = ItemOrNone(StudentOnScreen().SummaryDetail, i);
     for (int col = kFirstDetail; col < kAttendanceColumns; ++col) {
       const std::size_t end = detail.find('/');
       grdatt.SetTextMatrix(i, col, Trim(detail.substr(0, end)));

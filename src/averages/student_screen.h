@@ -22,6 +22,7 @@ struct StudentScreen : Portal {
   StudentScreen(std::string_view name, ListBox& students, std::string_view code_heading);
   void DeclareList(ControlTable& table, std::string_view name);
   void DeclareRecord(ControlTable& table);
+  void Show(int student);
   void ShowNext();
   void ShowPrevious();
 
@@ -29,7 +30,6 @@ struct StudentScreen : Portal {
   virtual void Leave() { Unload(); }
 
  private:
-  void Show(int student);
   void StoreComment();
   void FillGrades();
   void FillAttendance();

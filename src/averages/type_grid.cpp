@@ -35,6 +35,11 @@ void ShowTitles(Grid& grid) {
   }
 }
 
+bool GoToNextRow(Grid& grid) {
+  if (grid.Row + 1 < grid.Rows()) ++grid.Row;
+  return true;
+}
+
 std::vector<std::vector<std::string>> RowsToPrint(const Grid& grid) {
   std::vector<std::vector<std::string>> rows;
   for (int row = grid.FixedRows; row < grid.Rows(); ++row) {

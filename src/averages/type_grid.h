@@ -21,6 +21,9 @@ void HeadColumns(Grid& grid, std::initializer_list<std::string_view> headings);
 // Title and type of grade i in row i, behind the headings.
 void ShowTitles(Grid& grid);
 
+// Enter goes on downward and stays in the last row; true, as for a key that is used up.
+bool GoToNextRow(Grid& grid);
+
 // The rows of a grid below its headings, as they go to paper.
 std::vector<std::vector<std::string>> RowsToPrint(const Grid& grid);
 // Prints a table; where nothing can be printed the status bar says so.

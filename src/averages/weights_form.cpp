@@ -75,8 +75,10 @@ void WeightsForm::Load() {
   SetFocus(grid_);
 }
 
+// The next key replaces what was not typed into the cell.
 void WeightsForm::SetNewWeight(int row, std::string_view text) {
   if (TakesWeight(row)) grid_.SetTextMatrix(row, NewColumn(), text);
+  typing_.first_key = true;
 }
 
 // A sum that no Currency holds shows as no number, and is refused as any other that isn't 100.
@@ -110,7 +112,7 @@ void WeightsForm::grid_Moved() {
 // Enter goes on to the next weight.
 bool WeightsForm::grid_KeyDown(Key key) {
   if (key != Key::kEnter) return false;
-  if (grid_.Row < LastRow()) ++grid_.Row;
+  GoToNextRow(grid_);
   grid_Moved();
   return true;
 }
@@ -167,7 +169,6 @@ void WeightsForm::frombd_Click() {
   if (!PasteLines(clipboard_format_, lines)) return;
   const int last = std::min(LastRow(), static_cast<int>(lines.size()));
   for (int row = 1; row <= last; ++row) SetNewWeight(row, lines[static_cast<std::size_t>(row) - 1]);
-  typing_.first_key = true;
   SetChanged();
   ShowSums();
 }
@@ -180,7 +181,7 @@ void WeightsForm::types_Click() {
 
 void WeightsForm::ClearDropBoxes() {
   droptype.Value = dropyn.Value = labs.Value = labs.Visible = false;
-  drop_.Close();
+  drop_.Hide();
 }
 
 void WeightsForm::print_Click() {
@@ -191,14 +192,15 @@ void WeightsForm::droptype_Click() {
   if (!droptype.Value) return ClearDropBoxes();
   dropyn.Value = false;
   labs.Visible = true;
-  if (!drop_.Open()) return ClearDropBoxes();
+  // What was chosen before the box was cleared is chosen still.
+  if (!drop_.get() && !drop_.Open()) return ClearDropBoxes();
   drop_.Show();
 }
 
 void WeightsForm::dropyn_Click() {
   if (!dropyn.Value) return ClearDropBoxes();
   droptype.Value = false;
-  drop_.Close();
+  drop_.Hide();
   labs.Visible = true;
   if (AnyGradeMayBeDropped()) return;
   TellNoGradeMayBeDropped();
@@ -234,6 +236,7 @@ void WeightsForm::exit_Click() {
   if (!SumIsHundred() || !ReadWeights(weights)) {
     ShowMessage("The weights, excluding 'Extra Credit', must equal 100", BoxIcon::kCritical,
                 "Note to the Teacher ");
+    typing_.first_key = true;
     return SetFocus(grid_);
   }
   Accept(weights, drops);

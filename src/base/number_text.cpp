@@ -86,7 +86,7 @@ struct Decimal {
   }
 };
 
-bool IsDigit(char c) {
+bool IsDecimalDigit(char c) {
   return c >= '0' && c <= '9';
 }
 bool IsSign(char c) {
@@ -94,7 +94,7 @@ bool IsSign(char c) {
 }
 
 std::string_view TakeDigits(std::string_view& rest) {
-  const auto end = std::find_if_not(rest.begin(), rest.end(), IsDigit);
+  const auto end = std::find_if_not(rest.begin(), rest.end(), IsDecimalDigit);
   const std::string_view digits = rest.substr(0, static_cast<std::size_t>(end - rest.begin()));
   rest.remove_prefix(digits.size());
   return digits;

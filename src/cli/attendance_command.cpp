@@ -1,5 +1,4 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include <CLI/CLI.hpp>
 #include <memory>
 #include <vector>
 
@@ -146,9 +145,11 @@ std::string RunsJson(const std::vector<AbsenceRun>& runs) {
 
 // ---- The command ----
 
+// Empty when nobody was absent on so many days in a row.
 std::string Output(const AttendanceOptions& options, DayRange range) {
   if (options.consecutive > 0) {
     const std::vector<AbsenceRun> runs = AbsencesInARow(range, options.consecutive);
+    if (runs.empty()) return {};
     return options.json ? RunsJson(runs) : options.csv ? RunsCsv(runs) : RunsTable(runs);
   }
   return options.json ? CountsJson(range) : options.csv ? CountsCsv(range) : CountsTable(range);
@@ -158,6 +159,7 @@ CommandResult Attendance(const AttendanceOptions& options) {
   NameMode = options.name_mode;
   std::string reason = OpenClassFile(options.file, options.opening);
   if (!reason.empty()) return Refused(options.file, reason);
+  if (Current().NumStudents == 0) return Refused(options.file, kNoStudents);
   DayRange range{1, Current().NumDays};
   if (!options.months.empty()) {
     MonthRange months;
@@ -166,26 +168,31 @@ CommandResult Attendance(const AttendanceOptions& options) {
     const CivilDate last = DateOfSerial(months.last);
     range = DaysBetween(months.first, DateSerial({last.year, last.month + 1, 1}) - 1);
   }
-  return Done(Output(options, range));
+  std::string text = Output(options, range);
+  if (text.empty())
+    return Refused(options.file, "no student was absent on " +
+                                     PlainNumberText(options.consecutive) +
+                                     " or more marked days in a row");
+  return Done(std::move(text));
 }
 
 }  // namespace
 
-void AddAttendanceCommand(CLI::App& app, ChosenCommand& chosen) {
-  CLI::App* command =
-      app.add_subcommand("attendance", "Counts every student's absences, cuts, lates and so on");
+void AddAttendanceCommand(Command& app, ChosenCommand& chosen) {
+  Command command =
+      app.AddCommand("attendance", "Counts every student's absences, cuts, lates and so on");
   const auto options = std::make_shared<AttendanceOptions>();
-  command->add_option("FILE", options->file, "the class file")->required();
-  command->add_option("--months", options->months, "these months alone, YYYY-MM..YYYY-MM");
+  command.AddOption("FILE", options->file, "the class file").Required();
+  command.AddOption("--months", options->months, "these months alone, YYYY-MM..YYYY-MM");
   command
-      ->add_option("--consecutive", options->consecutive,
-                   "who was absent on so many marked days in a row, with the dates")
-      ->check(CLI::Range(1, 32767));
-  CLI::Option* csv = command->add_flag("--csv", options->csv, "as comma-separated values");
-  command->add_flag("--json", options->json, "as JSON")->excludes(csv);
-  AddNameMode(*command, options->name_mode);
-  AddOpenOptions(*command, options->opening);
-  command->callback(
+      .AddOption("--consecutive", options->consecutive,
+                 "who was absent on so many marked days in a row, with the dates")
+      .Between(1, 32767);
+  CommandOption csv = command.AddFlag("--csv", options->csv, "as comma-separated values");
+  command.AddFlag("--json", options->json, "as JSON").Excludes(csv);
+  AddNameMode(command, options->name_mode);
+  AddOpenOptions(command, options->opening);
+  command.WhenChosen(
       [&chosen, options] { chosen = [options](std::istream&) { return Attendance(*options); }; });
 }
 

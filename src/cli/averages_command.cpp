@@ -1,5 +1,4 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include <CLI/CLI.hpp>
 #include <memory>
 #include <vector>
 
@@ -133,7 +132,7 @@ std::string ArrayText(std::string& text) {
         text += i == 1 ? "\n" : ",\n";
         AddJsonObject(student, outcome, text);
       });
-  text += Current().NumStudents == 0 ? "]\n" : "\n]\n";
+  text += "\n]\n";
   return reason;
 }
 
@@ -143,7 +142,7 @@ CommandResult Averages(const AveragesOptions& options) {
   NameMode = options.name_mode;
   std::string reason = OpenClassFile(options.file, options.opening);
   if (!reason.empty()) return Refused(options.file, reason);
-  MakeTotalPossible();
+  if (Current().NumStudents == 0) return Refused(options.file, kNoStudents);
   std::string text;
   reason = options.json ? ArrayText(text) : options.csv ? CsvText(text) : TableText(text);
   return reason.empty() ? Done(text) : Refused(options.file, Utf8FromCodePage(reason));
@@ -151,16 +150,15 @@ CommandResult Averages(const AveragesOptions& options) {
 
 }  // namespace
 
-void AddAveragesCommand(CLI::App& app, ChosenCommand& chosen) {
-  CLI::App* command =
-      app.add_subcommand("averages", "Shows every student's average and final grade");
+void AddAveragesCommand(Command& app, ChosenCommand& chosen) {
+  Command command = app.AddCommand("averages", "Shows every student's average and final grade");
   const auto options = std::make_shared<AveragesOptions>();
-  command->add_option("FILE", options->file, "the class file")->required();
-  CLI::Option* csv = command->add_flag("--csv", options->csv, "as comma-separated values");
-  command->add_flag("--json", options->json, "as JSON, with the totals by type")->excludes(csv);
-  AddNameMode(*command, options->name_mode);
-  AddOpenOptions(*command, options->opening);
-  command->callback(
+  command.AddOption("FILE", options->file, "the class file").Required();
+  CommandOption csv = command.AddFlag("--csv", options->csv, "as comma-separated values");
+  command.AddFlag("--json", options->json, "as JSON, with the totals by type").Excludes(csv);
+  AddNameMode(command, options->name_mode);
+  AddOpenOptions(command, options->opening);
+  command.WhenChosen(
       [&chosen, options] { chosen = [options](std::istream&) { return Averages(*options); }; });
 }
 

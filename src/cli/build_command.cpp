@@ -1,5 +1,4 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include <CLI/CLI.hpp>
 #include <istream>
 #include <iterator>
 #include <memory>
@@ -16,6 +15,7 @@ namespace {
 struct BuildOptions {
   std::string json;
   std::string file;
+  bool force = false;
 };
 
 // The JSON text; `reason` says why there is none.
@@ -34,19 +34,19 @@ CommandResult Build(const BuildOptions& options, std::istream& in) {
   const std::string text = ReadJson(options.json, in, reason);
   if (reason.empty()) reason = ReadClassFromJson(text);
   if (!reason.empty()) return Refused(options.json, reason);
-  reason = WriteClassTo(options.file, Current());
+  reason = WriteClassTo(options.file, Current(), options.force);
   return reason.empty() ? Done() : Refused(options.file, reason);
 }
 
 }  // namespace
 
-void AddBuildCommand(CLI::App& app, ChosenCommand& chosen) {
-  CLI::App* command =
-      app.add_subcommand("build", "Writes the class file that a JSON text describes");
+void AddBuildCommand(Command& app, ChosenCommand& chosen) {
+  Command command = app.AddCommand("build", "Writes the class file that a JSON text describes");
   const auto options = std::make_shared<BuildOptions>();
-  command->add_option("JSON", options->json, "the JSON file, - for standard input")->required();
-  command->add_option("FILE", options->file, "the class file to write")->required();
-  command->callback(
+  command.AddOption("JSON", options->json, "the JSON file, - for standard input").Required();
+  command.AddOption("FILE", options->file, "the class file to write").Required();
+  AddForce(command, options->force);
+  command.WhenChosen(
       [&chosen, options] { chosen = [options](std::istream& in) { return Build(*options, in); }; });
 }
 

@@ -1,5 +1,4 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include <CLI/CLI.hpp>
 #include <memory>
 #include <vector>
 
@@ -49,11 +48,11 @@ CommandResult Check(const std::vector<std::string>& files) {
 
 }  // namespace
 
-void AddCheckCommand(CLI::App& app, ChosenCommand& chosen) {
-  CLI::App* command = app.add_subcommand("check", "Says whether class files are in order");
+void AddCheckCommand(Command& app, ChosenCommand& chosen) {
+  Command command = app.AddCommand("check", "Says whether class files are in order");
   const auto files = std::make_shared<std::vector<std::string>>();
-  command->add_option("FILE", *files, "the class files")->required();
-  command->callback(
+  command.AddOption("FILE", *files, "the class files").Required();
+  command.WhenChosen(
       [&chosen, files] { chosen = [files](std::istream&) { return Check(*files); }; });
 }
 

@@ -1,17 +1,16 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "cli/class_in_file.h"
 
-#include <CLI/CLI.hpp>
 #include <filesystem>
 
-#include "attendance/calendar.h"
 #include "base/number_text.h"
 #include "base/run_time_error.h"
 #include "cli/command_line_surroundings.h"
 #include "cli/commands.h"
 #include "cli/date_order.h"
-#include "store/class_defaults.h"
-#include "store/class_file.h"
+#include "shell/opened_class.h"
+#include "store/class_backup.h"
+#include "store/class_format.h"
 #include "store/older_class_file.h"
 #include "store/program_state.h"
 #include "store/safe_file.h"
@@ -67,37 +66,57 @@ std::string ParseClassFile(const std::string& path, Class& c) {
   return outcome.error == 0 ? "" : FileErrorText(outcome.error);
 }
 
-void AddOpenOptions(CLI::App& command, OpenOptions& options) {
-  command.add_option("--password", options.password, "the password of the file");
+void AddOpenOptions(Command& command, OpenOptions& options) {
+  command.AddOption("--password", options.password, "the password of the file");
   command
-      .add_option("--date-order", options.date_order,
-                  "how the dates in the file are read (otherwise as the system's locale has them)")
-      ->check(CLI::IsMember({"mdy", "dmy", "ymd"}));
+      .AddOption("--date-order", options.date_order,
+                 "how the dates in the file are read (otherwise as the system's locale has them)")
+      .OneOf({"mdy", "dmy", "ymd"});
 }
 
-void AddNameMode(CLI::App& command, i16& name_mode) {
+void AddNameMode(Command& command, i16& name_mode) {
   command
-      .add_option("--name-mode", name_mode,
-                  "by name: 68 with the ID, 57 without; by ID: 82 with the name, 73 without")
-      ->check(CLI::IsMember({68, 57, 82, 73}));
+      .AddOption("--name-mode", name_mode,
+                 "by name: 68 with the ID, 57 without; by ID: 82 with the name, 73 without")
+      .OneOf({68, 57, 82, 73});
 }
 
 std::string OpenClassFile(const std::string& path, const OpenOptions& options) {
   CommandLineSurroundings surroundings(options.password, DateOrderOfOption(options.date_order));
   CurrentClass = 1;
-  ResetClassSlot();
-  Current().FileName = path;
-  ReadClassFile();
+  const bool opened = OpenClass(path);
   if (!surroundings.Refusal().empty()) return surroundings.Refusal();
-  if (Current().FileName.empty()) return "cannot be opened";
-  if (IsOlderFormat(Current())) RecalculateRangeSummaries();
-  return {};
+  return opened ? "" : "cannot be opened";
 }
 
-std::string WriteClassTo(const std::string& path, const Class& c) {
+void AddForce(Command& command, bool& force) {
+  command.AddFlag("--force", force,
+                   "replace a file that is there already; the old one is kept as a backup");
+}
+
+std::string WriteClassTo(const std::string& path, const Class& c, bool force) {
+  std::error_code ignored;  // what cannot be looked at cannot be written, and the writer says so
+  const bool there = std::filesystem::is_regular_file(path, ignored);
+  if (there && !force) return "exists already (--force replaces it and keeps a backup)";
   std::string bytes;
+  Backup backup;
   int error = SerializeClass(c, bytes);
+  if (error == 0 && there) error = BackUpReplacedFile(path, backup);
   if (error == 0) error = ReplaceFile(path, bytes, OldTail::kDrop);
+  if (error != 0) TakeBack(backup);
+  return error == 0 ? "" : FileErrorText(error);
+}
+
+std::string WhyNotOver(const std::string& path) {
+  const FileContents there = ReadWholeFile(path);
+  const bool holds_class = there.bytes.starts_with("ty8") || IsOlderMark(there.bytes.substr(0, 3));
+  return holds_class ? "is a class file, which is left as it is" : "";
+}
+
+std::string WriteFileTo(const std::string& path, std::string_view bytes) {
+  std::string reason = WhyNotOver(path);
+  if (!reason.empty()) return reason;
+  const int error = ReplaceFile(path, bytes, OldTail::kDrop);
   return error == 0 ? "" : FileErrorText(error);
 }
 

@@ -4,6 +4,7 @@
 
 #include <optional>
 #include <string>
+#include <string_view>
 
 #include "store/records.h"
 
@@ -23,8 +24,16 @@ struct OpenOptions {
 // The class in slot 1 as the program holds it after every step of opening.
 std::string OpenClassFile(const std::string& path, const OpenOptions& options);
 
-// Writes a class completely or not at all; nothing of an earlier file stays behind it.
-std::string WriteClassTo(const std::string& path, const Class& c);
+// Writes a class completely or not at all. A file that is there already is refused, or with
+// `force` replaced: the old one then stays as a backup beside it, and nothing of it behind the new.
+std::string WriteClassTo(const std::string& path, const Class& c, bool force = false);
+
+// Writes what is no class, such as a text; never over a class file.
+std::string WriteFileTo(const std::string& path, std::string_view bytes);
+// Why no such file may be written there.
+std::string WhyNotOver(const std::string& path);
+
+inline constexpr const char* kNoStudents = "the class has no students";
 
 // "File Error: 53 (there is no such file)".
 std::string FileErrorText(int error);

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "cli/command_line.h"
 
-#include <CLI/CLI.hpp>
 #include <algorithm>
 #include <iostream>
+#include <string>
 
 #include "cli/command_line_surroundings.h"
 #include "cli/commands.h"
@@ -20,8 +20,8 @@ void WriteReason(std::string reason, std::ostream& err) {
   err << reason << std::endl;
 }
 
-int RefuseCommandLine(const CLI::ParseError& error, std::ostream& err) {
-  WriteReason(ReasonLine("tallyroll-cli", error.what() + std::string(" (see --help)")), err);
+int RefuseCommandLine(const std::string& reason, std::ostream& err) {
+  WriteReason(ReasonLine("tallyroll-cli", reason + " (see --help)"), err);
   return kWrongCommandLine;
 }
 
@@ -32,6 +32,7 @@ int RunChosen(const ChosenCommand& chosen, std::istream& in, std::ostream& out, 
     WriteReason(std::move(result.text), err);
     return kRefused;
   }
+  if (!result.note.empty()) WriteReason(result.note, err);
   out << result.text << std::flush;
   if (out) return 0;
   WriteReason("standard output: cannot be written", err);
@@ -41,7 +42,7 @@ int RunChosen(const ChosenCommand& chosen, std::istream& in, std::ostream& out, 
 }  // namespace
 
 CommandResult Done(std::string text) {
-  return {false, std::move(text)};
+  return {.text = std::move(text)};
 }
 
 std::string ReasonLine(const std::string& file, const std::string& reason) {
@@ -52,14 +53,13 @@ std::string ReasonLine(const std::string& file, const std::string& reason) {
 }
 
 CommandResult Refused(const std::string& file, const std::string& reason) {
-  return {true, ReasonLine(file, reason)};
+  return {.refused = true, .text = ReasonLine(file, reason)};
 }
 
 int RunCommandLine(int argc, const char* const* argv, std::istream& in, std::ostream& out,
                    std::ostream& err) {
-  CLI::App app("Tallyroll without a screen", "tallyroll-cli");
-  app.set_version_flag("--version", "tallyroll-cli " TALLYROLL_VERSION);
-  app.require_subcommand(1);
+  CommandParser parser;
+  Command app = parser.Root();
   ChosenCommand chosen;
   AddDumpCommand(app, chosen);
   AddBuildCommand(app, chosen);
@@ -71,13 +71,10 @@ int RunCommandLine(int argc, const char* const* argv, std::istream& in, std::ost
   AddReportCommand(app, chosen);
   AddImportCommand(app, chosen);
   AddExportCommand(app, chosen);
-  try {
-    app.parse(argc, argv);
-  } catch (const CLI::ParseError& error) {
-    if (error.get_exit_code() != 0) return RefuseCommandLine(error, err);
-    app.exit(error, out, err);
-    return 0;
-  }
+  std::string reason;
+  const ParsedLine parsed = parser.Parse(argc, argv, out, reason);
+  if (parsed == ParsedLine::kWrong) return RefuseCommandLine(reason, err);
+  if (parsed == ParsedLine::kAnswered) return 0;
   return RunChosen(chosen, in, out, err);
 }
 

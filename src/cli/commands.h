@@ -6,18 +6,16 @@
 #include <iosfwd>
 #include <string>
 
+#include "cli/command_options.h"
 #include "store/records.h"
-
-namespace CLI {
-class App;
-}
 
 namespace tallyroll {
 
 // What a command gives: the whole of its output, or why it was refused.
 struct CommandResult {
   bool refused = false;
-  std::string text;  // UTF-8
+  std::string text;       // UTF-8
+  std::string note = {};  // a line on standard error all the same
 };
 
 // "FILE: reason" on one line, whatever the name or the message holds.
@@ -31,20 +29,22 @@ using ChosenCommand = std::function<CommandResult(std::istream& in)>;
 
 // Adds --password and --date-order to a command that opens a class.
 struct OpenOptions;
-void AddOpenOptions(CLI::App& command, OpenOptions& options);
+void AddOpenOptions(Command& command, OpenOptions& options);
+// Adds --force to a command that writes a class.
+void AddForce(Command& command, bool& force);
 // How names and IDs are shown and sorted.
-void AddNameMode(CLI::App& command, i16& name_mode);
+void AddNameMode(Command& command, i16& name_mode);
 
 // Each adds its command and its options, and fills `chosen` when it is the one.
-void AddDumpCommand(CLI::App& app, ChosenCommand& chosen);
-void AddBuildCommand(CLI::App& app, ChosenCommand& chosen);
-void AddCheckCommand(CLI::App& app, ChosenCommand& chosen);
-void AddConvertCommand(CLI::App& app, ChosenCommand& chosen);
-void AddShowCommand(CLI::App& app, ChosenCommand& chosen);
-void AddAveragesCommand(CLI::App& app, ChosenCommand& chosen);
-void AddAttendanceCommand(CLI::App& app, ChosenCommand& chosen);
-void AddReportCommand(CLI::App& app, ChosenCommand& chosen);
-void AddImportCommand(CLI::App& app, ChosenCommand& chosen);
-void AddExportCommand(CLI::App& app, ChosenCommand& chosen);
+void AddDumpCommand(Command& app, ChosenCommand& chosen);
+void AddBuildCommand(Command& app, ChosenCommand& chosen);
+void AddCheckCommand(Command& app, ChosenCommand& chosen);
+void AddConvertCommand(Command& app, ChosenCommand& chosen);
+void AddShowCommand(Command& app, ChosenCommand& chosen);
+void AddAveragesCommand(Command& app, ChosenCommand& chosen);
+void AddAttendanceCommand(Command& app, ChosenCommand& chosen);
+void AddReportCommand(Command& app, ChosenCommand& chosen);
+void AddImportCommand(Command& app, ChosenCommand& chosen);
+void AddExportCommand(Command& app, ChosenCommand& chosen);
 
 }  // namespace tallyroll

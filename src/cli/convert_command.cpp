@@ -1,5 +1,4 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include <CLI/CLI.hpp>
 #include <memory>
 
 #include "cli/class_in_file.h"
@@ -12,6 +11,7 @@ namespace {
 struct ConvertOptions {
   std::string from;
   std::string to;
+  bool force = false;
   OpenOptions opening;
 };
 
@@ -25,20 +25,20 @@ CommandResult Convert(const ConvertOptions& options) {
     return Refused(options.from, "is already in the current format");
   }
   Current().Magic = "ty8";
-  reason = WriteClassTo(options.to, Current());
+  reason = WriteClassTo(options.to, Current(), options.force);
   return reason.empty() ? Done() : Refused(options.to, reason);
 }
 
 }  // namespace
 
-void AddConvertCommand(CLI::App& app, ChosenCommand& chosen) {
-  CLI::App* command =
-      app.add_subcommand("convert", "Writes an older class file in the current format");
+void AddConvertCommand(Command& app, ChosenCommand& chosen) {
+  Command command = app.AddCommand("convert", "Writes an older class file in the current format");
   const auto options = std::make_shared<ConvertOptions>();
-  command->add_option("OLD", options->from, "the older class file")->required();
-  command->add_option("NEW", options->to, "the class file to write")->required();
-  AddOpenOptions(*command, options->opening);
-  command->callback(
+  command.AddOption("OLD", options->from, "the older class file").Required();
+  command.AddOption("NEW", options->to, "the class file to write").Required();
+  AddOpenOptions(command, options->opening);
+  AddForce(command, options->force);
+  command.WhenChosen(
       [&chosen, options] { chosen = [options](std::istream&) { return Convert(*options); }; });
 }
 

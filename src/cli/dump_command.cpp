@@ -1,5 +1,4 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include <CLI/CLI.hpp>
 #include <memory>
 
 #include "cli/class_in_file.h"
@@ -31,17 +30,17 @@ CommandResult Dump(const DumpOptions& options) {
 
 }  // namespace
 
-void AddDumpCommand(CLI::App& app, ChosenCommand& chosen) {
-  CLI::App* command = app.add_subcommand("dump", "Writes a class file as JSON");
+void AddDumpCommand(Command& app, ChosenCommand& chosen) {
+  Command command = app.AddCommand("dump", "Writes a class file as JSON");
   const auto options = std::make_shared<DumpOptions>();
-  command->add_option("FILE", options->file, "the class file")->required();
-  CLI::Option* opened = command->add_flag("--opened", options->opened,
-                                          "the class as the program holds it after opening");
-  AddOpenOptions(*command, options->opening);
+  command.AddOption("FILE", options->file, "the class file").Required();
+  CommandOption opened = command.AddFlag("--opened", options->opened,
+                                         "the class as the program holds it after opening");
+  AddOpenOptions(command, options->opening);
   for (const char* option : {"--password", "--date-order"}) {
-    command->get_option(option)->needs(opened);
+    command.Option(option).Needs(opened);
   }
-  command->callback(
+  command.WhenChosen(
       [&chosen, options] { chosen = [options](std::istream&) { return Dump(*options); }; });
 }
 

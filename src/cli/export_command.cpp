@@ -1,5 +1,4 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include <CLI/CLI.hpp>
 #include <memory>
 
 #include "base/number_text.h"
@@ -7,7 +6,6 @@
 #include "cli/commands.h"
 #include "cli/text_layouts.h"
 #include "store/program_state.h"
-#include "store/safe_file.h"
 #include "store/text_export.h"
 
 namespace tallyroll {
@@ -23,6 +21,7 @@ struct ExportOptions {
   std::string out;
   std::string what;
   std::string layout;
+  std::string encoding;  // empty: the layout's usual one
   i16 name_mode = 68;
   OpenOptions opening;
 };
@@ -31,35 +30,43 @@ CommandResult Export(const ExportOptions& options) {
   if (IsSameFile(options.file, options.out))
     return Refused(options.out, "is the class file itself, which is left as it is");
   NameMode = options.name_mode;
-  const std::string reason = OpenClassFile(options.file, options.opening);
+  std::string reason = OpenClassFile(options.file, options.opening);
   if (!reason.empty()) return Refused(options.file, reason);
-  const TextOfClass text =
-      ExportText(Current(), kWhats.at(options.what), kTextLayouts.at(options.layout));
-  if (const int error = ReplaceFile(options.out, text.bytes, OldTail::kDrop))
-    return Refused(options.out, FileErrorText(error));
+  if (Current().NumStudents == 0) return Refused(options.file, kNoStudents);
+  const int what = kWhats.at(options.what);
+  const i16 layout = kTextLayouts.at(options.layout);
+  const TextOfClass text = options.encoding.empty() ? ExportText(Current(), what, layout)
+                                                    : ExportText(Current(), what, layout,
+                                                                 kEncodings.at(options.encoding));
+  reason = WriteFileTo(options.out, text.bytes);
+  if (!reason.empty()) return Refused(options.out, reason);
   if (text.changed == 0) return Done();
   return Done("values changed to fit the layout: " + PlainNumberText(text.changed) + "\n");
 }
 
 }  // namespace
 
-void AddExportCommand(CLI::App& app, ChosenCommand& chosen) {
-  CLI::App* command = app.add_subcommand("export", "Writes the students of a class to a text file");
+void AddExportCommand(Command& app, ChosenCommand& chosen) {
+  Command command = app.AddCommand("export", "Writes the students of a class to a text file");
   const auto options = std::make_shared<ExportOptions>();
-  command->add_option("FILE", options->file, "the class file")->required();
-  command->add_option("--what", options->what, "what is written of each student")
-      ->required()
-      ->check(CLI::IsMember(NamesOf(kWhats)));
-  command->add_option("--layout", options->layout, "how the fields of a line are parted")
-      ->required()
-      ->check(CLI::IsMember(NamesOf(kTextLayouts)));
-  command->add_option("--out", options->out, "the text file to write")->required();
+  command.AddOption("FILE", options->file, "the class file").Required();
+  command.AddOption("--what", options->what, "what is written of each student")
+      .Required()
+      .OneOf(NamesOf(kWhats));
+  command.AddOption("--layout", options->layout, "how the fields of a line are parted")
+      .Required()
+      .OneOf(NamesOf(kTextLayouts));
+  command.AddOption("--out", options->out, "the text file to write").Required();
   command
-      ->add_option("--name-mode", options->name_mode,
-                   "the order of the students: by name 68 or 57, by ID 82 or 73")
-      ->check(CLI::IsMember({68, 57, 82, 73}));
-  AddOpenOptions(*command, options->opening);
-  command->callback(
+      .AddOption("--encoding", options->encoding,
+                 "utf-8 with its mark, or windows-1252; otherwise utf-8 for csv alone")
+      .OneOf(NamesOf(kEncodings));
+  command
+      .AddOption("--name-mode", options->name_mode,
+                 "the order of the students: by name 68 or 57, by ID 82 or 73")
+      .OneOf({68, 57, 82, 73});
+  AddOpenOptions(command, options->opening);
+  command.WhenChosen(
       [&chosen, options] { chosen = [options](std::istream&) { return Export(*options); }; });
 }
 

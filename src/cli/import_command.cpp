@@ -1,5 +1,4 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include <CLI/CLI.hpp>
 #include <memory>
 
 #include "base/code_page.h"
@@ -21,6 +20,7 @@ struct ImportOptions {
   std::string file;
   std::string layout;
   bool leave_out = false;
+  bool force = false;
 };
 
 std::string LackingReason(const TextRoster& roster) {
@@ -31,10 +31,16 @@ std::string LackingReason(const TextRoster& roster) {
 
 void StartClass() {
   CurrentClass = 1;
-  ResetClassSlot();
-  Current().Magic = "ty8";
+  StartNewClass();
   SetDefaultRoundScale();
   SetDefaultLetterValues();
+}
+
+std::string Told(const ImportOutcome& outcome) {
+  if (outcome.given.empty()) return {};
+  std::string text = GivenIdsSentence(outcome) + "\n";
+  for (const std::string& line : GivenIdLines(outcome)) text += line + "\n";
+  return Utf8FromCodePage(text);
 }
 
 CommandResult Import(const ImportOptions& options) {
@@ -49,25 +55,27 @@ CommandResult Import(const ImportOptions& options) {
 
   const CommandLineSurroundings surroundings({}, DateOrderOfOption(""));
   StartClass();
-  if (const int error = AddStudents(roster)) return Refused(options.text, FileErrorText(error));
-  const std::string reason = WriteClassTo(options.file, Current());
-  return reason.empty() ? Done() : Refused(options.file, reason);
+  const ImportOutcome outcome = AddStudents(roster);
+  if (outcome.error != 0) return Refused(options.text, FileErrorText(outcome.error));
+  const std::string reason = WriteClassTo(options.file, Current(), options.force);
+  return reason.empty() ? Done(Told(outcome)) : Refused(options.file, reason);
 }
 
 }  // namespace
 
-void AddImportCommand(CLI::App& app, ChosenCommand& chosen) {
-  CLI::App* command =
-      app.add_subcommand("import", "Makes a class of the students that a text file holds");
+void AddImportCommand(Command& app, ChosenCommand& chosen) {
+  Command command =
+      app.AddCommand("import", "Makes a class of the students that a text file holds");
   const auto options = std::make_shared<ImportOptions>();
-  command->add_option("TEXT", options->text, "the text file, one student a line")->required();
-  command->add_option("FILE", options->file, "the class file to write")->required();
-  command->add_option("--layout", options->layout, "how the fields of a line are parted")
-      ->required()
-      ->check(CLI::IsMember(NamesOf(kTextLayouts)));
-  command->add_flag("--leave-out", options->leave_out,
-                    "leave a value empty that a class file cannot hold, and import the rest");
-  command->callback(
+  command.AddOption("TEXT", options->text, "the text file, one student a line").Required();
+  command.AddOption("FILE", options->file, "the class file to write").Required();
+  command.AddOption("--layout", options->layout, "how the fields of a line are parted")
+      .Required()
+      .OneOf(NamesOf(kTextLayouts));
+  command.AddFlag("--leave-out", options->leave_out,
+                  "leave a value empty that a class file cannot hold, and import the rest");
+  AddForce(command, options->force);
+  command.WhenChosen(
       [&chosen, options] { chosen = [options](std::istream&) { return Import(*options); }; });
 }
 

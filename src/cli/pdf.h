@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The laid out report as a PDF file. A build without Qt has another implementation, which refuses.
+// The laid out report as a PDF file. Each program has one of three implementations: pdf.cpp draws it,
+// pdf_elsewhere.cpp has another program draw it, no_pdf.cpp of a build without Qt refuses.
 #pragma once
 
 #include <memory>

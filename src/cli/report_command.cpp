@@ -1,5 +1,4 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include <CLI/CLI.hpp>
 #include <filesystem>
 #include <memory>
 #include <optional>
@@ -14,21 +13,25 @@
 #include "cli/date_order.h"
 #include "cli/months_option.h"
 #include "cli/pdf.h"
+#include "cli/text_layouts.h"
 #include "grades/marks.h"
 #include "printing/html_report.h"
 #include "printing/report_choice.h"
 #include "printing/reports.h"
 #include "store/program_state.h"
-#include "store/safe_file.h"
+#include "store/saved_text.h"
 #include "store/sort_students.h"
 
 namespace tallyroll {
 namespace {
 
+constexpr i16 kAveragesTab = 4;
+constexpr int kClassInformation = 22;
+
 struct ReportOptions {
   std::string file;
   int code = 0;
-  std::string out, format;
+  std::string out, format, encoding = "windows-1252";
   std::vector<std::string> students;
   bool attendance = false, comments = false, parent_signature = false;
   bool school = false, teacher = false, code_details = false;
@@ -81,6 +84,8 @@ void TakeTypes(const std::string& sort) {
 }
 
 std::string TakeChoice(const ReportOptions& options, const Report& report) {
+  // Only what the class says of itself stands without students.
+  if (Current().NumStudents == 0 && report.code != kClassInformation) return kNoStudents;
   Choice = ReportChoice();
   Choice.attendance1 = options.attendance;
   Choice.comment1 = options.comments;
@@ -95,6 +100,8 @@ std::string TakeChoice(const ReportOptions& options, const Report& report) {
   Choice.grade = options.grade;
   Choice.summary = options.summary;
   TakeTypes(options.sort);
+  if (report.tab == kAveragesTab && !HasAverages())
+    return "the class has no averages: it needs grades, and weights or points for them";
   if (report.code == 8) return TakeMonths(options);
   if (report.code == 10 && (options.grade < 1 || options.grade > GradeCount(Current())))
     return "--grade must be a grade of the class, from 1";
@@ -118,11 +125,15 @@ std::string DocumentTitle(const ReportOptions& options) {
 
 CommandResult MakePdf(const ReportOptions& options, const CommandLineSurroundings& surroundings) {
   if (options.out.empty()) return Refused(options.file, "a PDF needs --out");
+  const std::string reason = WhyNotOver(options.out);
+  if (!reason.empty()) return Refused(options.out, reason);
   const PdfOutcome outcome = WritePdf(options.out, DocumentTitle(options));
   if (!outcome.refusal.empty()) return Refused(options.file, outcome.refusal);
   if (outcome.error != 0) return Refused(options.out, FileErrorText(outcome.error));
   if (Job.PrintFlag == kPrintCancelled) return Refused(options.file, surroundings.Refusal());
-  return Done();
+  CommandResult result = Done();
+  if (!Job.Notice.empty()) result.note = ReasonLine(options.out, Utf8FromCodePage(Job.Notice));
+  return result;
 }
 
 CommandResult MakeReport(const ReportOptions& options) {
@@ -144,14 +155,18 @@ CommandResult MakeReport(const ReportOptions& options) {
   const auto title = CodePageFromUtf8(options.title);
   if (!title) return Refused(options.file, "the title has characters that a class cannot hold");
   Job.PrintTitle = *title;
+  if (const std::string nothing = NothingToReport(); !nothing.empty())
+    return Refused(options.file, nothing);
   const std::string format = FormatOf(options);
   if (format == "pdf") return MakePdf(options, surroundings);
   const std::string bytes = format == "html" ? ReportHtml() : ReportText();
   if (Job.PrintFlag == kPrintCancelled) return Refused(options.file, surroundings.Refusal());
+  if (bytes.empty()) return Refused(options.file, "there is nothing to report");
   if (options.out.empty()) return Done(Utf8FromCodePage(bytes));
-  if (const int error = ReplaceFile(options.out, bytes, OldTail::kDrop))
-    return Refused(options.out, FileErrorText(error));
-  return Done();
+  const bool html = format == "html";
+  reason =
+      WriteFileTo(options.out, html ? bytes : EncodedText(bytes, kEncodings.at(options.encoding)));
+  return reason.empty() ? Done() : Refused(options.out, reason);
 }
 
 std::string CheckDate(const std::string& text) {
@@ -165,34 +180,37 @@ std::string CheckSort(const std::string& text) {
 
 }  // namespace
 
-void AddReportCommand(CLI::App& app, ChosenCommand& chosen) {
-  CLI::App* command = app.add_subcommand("report", "Writes a report as text, HTML or PDF");
+void AddReportCommand(Command& app, ChosenCommand& chosen) {
+  Command command = app.AddCommand("report", "Writes a report as text, HTML or PDF");
   const auto options = std::make_shared<ReportOptions>();
-  command->add_option("FILE", options->file, "the class file")->required();
-  command->add_option("--code", options->code, "the report's code, 1 to 24")->required();
-  command->add_option("--out", options->out, "the file to write: .txt, .htm or .pdf");
-  command->add_option("--format", options->format, "whatever the file's name says")
-      ->check(CLI::IsMember({"text", "html", "pdf"}));
-  command->add_option("--student", options->students, "a student's ID; may be given again")
-      ->allow_extra_args(false);
-  command->add_flag("--attendance", options->attendance, "with attendance summaries");
-  command->add_flag("--comments", options->comments, "with comments");
-  command->add_flag("--parent-signature", options->parent_signature, "with a line to sign");
-  command->add_flag("--school", options->school, "headed by the school");
-  command->add_flag("--teacher", options->teacher, "headed by the teacher");
-  command->add_flag("--code-details", options->code_details, "with a table of the codes");
-  command->add_option("--sort", options->sort, "none, type, or types=Q,T")->check(CheckSort);
-  command->add_option("--rank", options->rank, "of the report on one grade")
-      ->check(CLI::IsMember({"none", "high", "low"}));
-  command->add_option("--title", options->title, "a title of your own");
-  command->add_option("--grade", options->grade, "the grade's number, for code 10");
-  command->add_option("--summary", options->summary, "the summary's number, for code 9");
-  command->add_option("--months", options->months, "YYYY-MM..YYYY-MM, for code 8");
-  command->add_option("--today", options->today, "the date in the head, YYYY-MM-DD")
-      ->check(CheckDate);
-  AddNameMode(*command, options->name_mode);
-  AddOpenOptions(*command, options->opening);
-  command->callback(
+  command.AddOption("FILE", options->file, "the class file").Required();
+  command.AddOption("--code", options->code, "the report's code, 1 to 24").Required();
+  command.AddOption("--out", options->out, "the file to write: .txt, .htm or .pdf");
+  command.AddOption("--format", options->format, "whatever the file's name says")
+      .OneOf({"text", "html", "pdf"});
+  command
+      .AddOption("--encoding", options->encoding,
+                 "of a text file: windows-1252, or utf-8 with its mark")
+      .OneOf(NamesOf(kEncodings));
+  command.AddOption("--student", options->students, "a student's ID; may be given again")
+      .OneValueEach();
+  command.AddFlag("--attendance", options->attendance, "with attendance summaries");
+  command.AddFlag("--comments", options->comments, "with comments");
+  command.AddFlag("--parent-signature", options->parent_signature, "with a line to sign");
+  command.AddFlag("--school", options->school, "headed by the school");
+  command.AddFlag("--teacher", options->teacher, "headed by the teacher");
+  command.AddFlag("--code-details", options->code_details, "with a table of the codes");
+  command.AddOption("--sort", options->sort, "none, type, or types=Q,T").Check(CheckSort);
+  command.AddOption("--rank", options->rank, "of the report on one grade")
+      .OneOf({"none", "high", "low"});
+  command.AddOption("--title", options->title, "a title of your own");
+  command.AddOption("--grade", options->grade, "the grade's number, for code 10");
+  command.AddOption("--summary", options->summary, "the summary's number, for code 9");
+  command.AddOption("--months", options->months, "YYYY-MM..YYYY-MM, for code 8");
+  command.AddOption("--today", options->today, "the date in the head, YYYY-MM-DD").Check(CheckDate);
+  AddNameMode(command, options->name_mode);
+  AddOpenOptions(command, options->opening);
+  command.WhenChosen(
       [&chosen, options] { chosen = [options](std::istream&) { return MakeReport(*options); }; });
 }
 

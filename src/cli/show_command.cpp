@@ -1,5 +1,4 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include <CLI/CLI.hpp>
 #include <memory>
 #include <vector>
 
@@ -21,7 +20,7 @@ struct ShowOptions {
 std::vector<std::string> HeadingRow(const Class& c) {
   std::vector<std::string> row = NameHeading();
   for (int j = 1; j <= c.NumInstruments; ++j) {
-    row.push_back(Shown(c.Instruments[static_cast<std::size_t>(j)].code));
+    row.push_back(CellText(c.Instruments[static_cast<std::size_t>(j)].code));
   }
   return row;
 }
@@ -30,7 +29,7 @@ std::vector<std::string> StudentRow(const Class& c, int i) {
   std::vector<std::string> row = NameCells(c, i);
   const Student& student = c.Students[static_cast<std::size_t>(i)];
   for (int j = 1; j <= c.NumInstruments; ++j) {
-    row.push_back(Shown(student.Marks[static_cast<std::size_t>(j)]));
+    row.push_back(CellText(student.Marks[static_cast<std::size_t>(j)]));
   }
   return row;
 }
@@ -40,6 +39,7 @@ CommandResult Show(const ShowOptions& options) {
   const std::string reason = OpenClassFile(options.file, options.opening);
   if (!reason.empty()) return Refused(options.file, reason);
   const Class& c = Current();
+  if (c.NumStudents == 0) return Refused(options.file, kNoStudents);
   Table table = {HeadingRow(c)};
   for (int i = 1; i <= c.NumStudents; ++i) table.push_back(StudentRow(c, i));
   return Done(Utf8FromCodePage(ClassHeading(c) + AlignedText(table)));
@@ -47,13 +47,13 @@ CommandResult Show(const ShowOptions& options) {
 
 }  // namespace
 
-void AddShowCommand(CLI::App& app, ChosenCommand& chosen) {
-  CLI::App* command = app.add_subcommand("show", "Shows the students and their marks as a table");
+void AddShowCommand(Command& app, ChosenCommand& chosen) {
+  Command command = app.AddCommand("show", "Shows the students and their marks as a table");
   const auto options = std::make_shared<ShowOptions>();
-  command->add_option("FILE", options->file, "the class file")->required();
-  AddNameMode(*command, options->name_mode);
-  AddOpenOptions(*command, options->opening);
-  command->callback(
+  command.AddOption("FILE", options->file, "the class file").Required();
+  AddNameMode(command, options->name_mode);
+  AddOpenOptions(command, options->opening);
+  command.WhenChosen(
       [&chosen, options] { chosen = [options](std::istream&) { return Show(*options); }; });
 }
 

@@ -12,7 +12,7 @@ namespace tallyroll {
 namespace {
 
 std::string PlainName(const Student& student) {
-  return Shown(student.lastname) + ", " + Shown(student.firstname);
+  return CellText(student.lastname) + ", " + CellText(student.firstname);
 }
 
 std::string NumberedName(const Student& student, int number) {
@@ -21,7 +21,7 @@ std::string NumberedName(const Student& student, int number) {
 
 }  // namespace
 
-std::string Shown(std::string_view text) {
+std::string CellText(std::string_view text) {
   std::string shown(Trim(text));
   for (char& c : shown) {
     const auto byte = static_cast<unsigned char>(c);
@@ -46,7 +46,7 @@ std::vector<std::string> NameHeading() {
 
 std::vector<std::string> NameCells(const Class& c, int i) {
   const Student& student = c.Students[static_cast<std::size_t>(i)];
-  const std::string id = Shown(student.id);
+  const std::string id = CellText(student.id);
   switch (NameMode) {
     case 57:
       return {NumberedName(student, i)};
@@ -62,7 +62,7 @@ std::vector<std::string> NameCells(const Class& c, int i) {
 std::string ClassHeading(const Class& c) {
   std::string heading;
   for (const std::string* part : {&c.description, &c.teacher, &c.school}) {
-    const std::string shown = Shown(*part);
+    const std::string shown = CellText(*part);
     if (!shown.empty()) heading += (heading.empty() ? "" : ", ") + shown;
   }
   return heading.empty() ? heading : heading + "\n\n";

@@ -14,7 +14,7 @@ namespace tallyroll {
 using Table = std::vector<std::vector<std::string>>;
 
 // Text of a class on one line of a terminal: no control character reaches it.
-std::string Shown(std::string_view text);
+std::string CellText(std::string_view text);
 
 // The leading cells of the heading, and those of student i, as NameMode asks.
 std::vector<std::string> NameHeading();

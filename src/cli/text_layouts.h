@@ -5,6 +5,7 @@
 #include <string>
 #include <vector>
 
+#include "platform/surroundings.h"
 #include "store/text_layout.h"
 
 namespace tallyroll {
@@ -13,6 +14,10 @@ namespace tallyroll {
 inline const std::map<std::string, i16> kTextLayouts = {
     {"columns", kColumnsText}, {"single", kSinglesText}, {"double", kDoublesText},
     {"tabs", kTabsText},       {"comma", kCommasText},   {"csv", kCsvText}};
+
+// What --encoding takes.
+inline const std::map<std::string, TextEncoding> kEncodings = {
+    {"utf-8", TextEncoding::kUtf8}, {"windows-1252", TextEncoding::kWindows1252}};
 
 // The names in such a list, for an option to be checked against.
 template <typename Values>

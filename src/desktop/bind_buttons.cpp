@@ -66,7 +66,11 @@ class TickBinding : public CaptionedBinding<C, W> {
  public:
   TickBinding(C& control, ControlRow& row, W& widget, BindingOwner& owner)
       : CaptionedBinding<C, W>(control, row, widget, owner) {
-    const auto ticked = [this] { this->UserPressed({&ControlRow::change, &ControlRow::click}); };
+    const auto ticked = [this] {
+      // An option that is on already stays on: nothing happened.
+      if (this->widget_.isChecked() == this->control_.Value) return;
+      this->UserPressed({&ControlRow::change, &ControlRow::click});
+    };
     if constexpr (std::is_same_v<W, QAction>) {
       widget.setCheckable(true);
       QObject::connect(&widget, &QAction::triggered, this, ticked);

@@ -6,13 +6,12 @@
 #include <QDateEdit>
 #include <QEvent>
 #include <QLineEdit>
-#include <QScrollBar>
 #include <QSignalBlocker>
 #include <QStackedWidget>
-#include <QStyle>
 #include <QTabWidget>
 #include <cmath>
 
+#include "desktop/cell_list.h"
 #include "desktop/control_binding.h"
 #include "desktop/field_validator.h"
 #include "desktop/grid_widget.h"
@@ -27,6 +26,8 @@ class ComboBinding : public Binding<ComboBox, QComboBox> {
       : Binding(control, row, combo, owner) {
     combo.setInsertPolicy(QComboBox::NoInsert);
     QObject::connect(&combo, &QComboBox::activated, this, [this](int index) {
+      // The line that is chosen already changes nothing, but a cell may take it again.
+      if (!control_.Over && index == control_.ListIndex) return;
       index_ = index;
       UserDid({&ControlRow::change, &ControlRow::click});
     });
@@ -59,7 +60,7 @@ class ComboBinding : public Binding<ComboBox, QComboBox> {
     text_ = control_.Text;
     const QString text = FromText(text_);
     if (widget_.isEditable() && widget_.currentText() != text) widget_.setEditText(text);
-    if (control_.Over) PlaceOverGrid();
+    if (control_.Over) StandInGrid();
   }
 
  private:
@@ -75,41 +76,17 @@ class ComboBinding : public Binding<ComboBox, QComboBox> {
     index_ = -1;
   }
 
-  GridWidget* FindGrid() {
+  void StandInGrid() {
+    auto* list = qobject_cast<CellList*>(&widget_);
+    if (!list) return;
     for (auto* grid : widget_.window()->findChildren<GridWidget*>())
-      if (grid->grid() == control_.Over) return grid;
-    return nullptr;
-  }
-
-  // The user scrolls without a word to the Portal; the list stays with its cell.
-  void FollowGrid() {
-    grid_ = FindGrid();
-    if (!grid_) return;
-    for (QScrollBar* bar : {grid_->horizontalScrollBar(), grid_->verticalScrollBar()}) {
-      QObject::connect(bar, &QScrollBar::valueChanged, this, [this] { PlaceOverGrid(); });
-      QObject::connect(bar, &QScrollBar::rangeChanged, this, [this] { PlaceOverGrid(); });
-    }
-    QAbstractItemView& lines = *widget_.view();
-    lines.setMinimumWidth(lines.sizeHintForColumn(0) + 2 * lines.frameWidth());
-  }
-
-  // The text stands in the cell, and the arrow behind it. A cell out of sight takes the list along.
-  void PlaceOverGrid() {
-    if (!grid_) FollowGrid();
-    if (!grid_) return;
-    const QWidget& seen = *grid_->viewport();
-    QRect place = grid_->CellRect(control_.Over->Row, control_.Over->Col);
-    if (!seen.rect().intersects(place)) return widget_.move(-widget_.width(), 0);
-    place.setWidth(place.width() + widget_.style()->pixelMetric(QStyle::PM_ScrollBarExtent));
-    place.moveTopLeft(seen.mapTo(widget_.parentWidget(), place.topLeft()));
-    widget_.setGeometry(place);
-    widget_.raise();
+      if (grid->grid() == control_.Over) list->StandIn(*grid);
+    list->Place();
   }
 
   std::vector<std::string> list_;
   int index_ = -1;
   std::string text_;
-  GridWidget* grid_ = nullptr;  // of a list that stands over a grid
 };
 
 class TabBinding : public Binding<TabStrip, QTabWidget> {

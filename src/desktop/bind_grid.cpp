@@ -2,6 +2,7 @@
 // Grids: the widget reads the Grid in place, so there is nothing to copy.
 #include <algorithm>
 
+#include "desktop/card_drag.h"
 #include "desktop/control_binding.h"
 #include "desktop/grid_widget.h"
 
@@ -24,6 +25,7 @@ class GridBinding : public Binding<Grid, GridWidget> {
                      [this] { UserDid({&ControlRow::click}); });
     QObject::connect(&widget, &GridWidget::cellDoubleClicked, this,
                      [this] { UserDid({&ControlRow::dbl_click}); });
+    if (row.drag_drop) LetCardsMove();
   }
   // The Portal, and the grid with it, may be gone before the widget.
   ~GridBinding() override { widget_.SetGrid(nullptr); }
@@ -34,6 +36,22 @@ class GridBinding : public Binding<Grid, GridWidget> {
     const int whole = widget_.sizeHint().width();
     const int widest = widget_.fontMetrics().averageCharWidth() * kWholeUpTo;
     widget_.setMinimumWidth(std::min(whole, widest));
+  }
+
+ private:
+  void LetCardsMove() {
+    auto* cards = new CardDrag(widget_, QString::fromStdString(row().name));
+    cards->picture = [this](const QPoint& place) {
+      const GridWidget::Cell cell = widget_.CellAt(place);
+      if (cell.row < 0 || control_.TextMatrix(cell.row, cell.col).empty()) return QPixmap();
+      return widget_.viewport()->grab(widget_.CellRect(cell.row, cell.col));
+    };
+    cards->dropped = [this](const std::string& source, const QPoint& place) {
+      const GridWidget::Cell cell = widget_.CellAt(place);
+      control_.MouseRow = cell.row;
+      control_.MouseCol = cell.col;
+      UserDropped(source);
+    };
   }
 };
 

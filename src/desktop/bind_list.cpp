@@ -3,6 +3,7 @@
 #include <QListWidget>
 #include <QMouseEvent>
 
+#include "desktop/card_drag.h"
 #include "desktop/control_binding.h"
 #include "desktop/list_columns.h"
 #include "desktop/text_conversion.h"
@@ -17,9 +18,14 @@ class ListBinding : public Binding<ListBox, QListWidget> {
     list.setItemDelegate(columns_);
     list.installEventFilter(this);
     list.viewport()->installEventFilter(this);
+    if (row.drag_drop) LetCardsMove();
     QObject::connect(&list, &QListWidget::currentRowChanged, this, [this] {
       press_is_told_ = true;
-      UserDid({&ControlRow::change, &ControlRow::click});
+      // Keys walk through the lines; a click means the line.
+      if (by_mouse_)
+        UserDid({&ControlRow::change, &ControlRow::click});
+      else
+        UserDid({&ControlRow::change});
     });
     QObject::connect(&list, &QListWidget::itemPressed, this, [this] { MarkCurrent(); });
     QObject::connect(&list, &QListWidget::itemClicked, this, [this] {
@@ -52,8 +58,10 @@ class ListBinding : public Binding<ListBox, QListWidget> {
 
   bool eventFilter(QObject* watched, QEvent* event) override {
     if (event->type() == QEvent::FocusIn && watched == &widget_) return TakeFocus(event);
+    if (event->type() == QEvent::KeyPress) by_mouse_ = false;
     if (event->type() == QEvent::MouseButtonPress) {
       press_is_told_ = false;
+      by_mouse_ = true;
       // A press below the last line would take away the mark but not the choice.
       if (!widget_.itemAt(static_cast<QMouseEvent*>(event)->position().toPoint())) return true;
     }
@@ -61,6 +69,16 @@ class ListBinding : public Binding<ListBox, QListWidget> {
   }
 
  private:
+  // A line can be dragged to another control, and what is dragged from there dropped here.
+  void LetCardsMove() {
+    auto* cards = new CardDrag(widget_, QString::fromStdString(row().name));
+    cards->picture = [this](const QPoint& place) {
+      const QListWidgetItem* item = widget_.itemAt(place);
+      return item ? CardPicture(widget_, item->text()) : QPixmap();
+    };
+    cards->dropped = [this](const std::string& source, const QPoint&) { UserDropped(source); };
+  }
+
   // With the focus the list makes its first line the current one, which nobody chose.
   bool TakeFocus(QEvent* event) {
     const QSignalBlocker silence(widget_);
@@ -113,6 +131,7 @@ class ListBinding : public Binding<ListBox, QListWidget> {
   ListColumns* columns_;  // the list's
   std::vector<std::string> list_;
   bool press_is_told_ = false;
+  bool by_mouse_ = false;  // the last press on the list
 };
 
 }  // namespace

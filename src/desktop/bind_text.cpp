@@ -47,6 +47,9 @@ class TextBinding : public Binding<TextBox, W> {
   virtual void Write(std::string_view text) = 0;
   virtual void Limit(int max_length) = 0;
 
+  // What the field holds, as the control will have it.
+  std::string Held() const { return edited_ ? Typed().value_or(known_) : known_; }
+
   void UserEdited() {
     edited_ = true;
     this->UserDid({&ControlRow::change});
@@ -102,7 +105,8 @@ class LineBinding : public TextBinding<QLineEdit> {
   FieldValidator* validator_;  // the field's
 };
 
-// Positions of the logic count a line end as two characters.
+// Positions of the logic count a line end by its characters in the text: two once the user typed,
+// and one for the bare ends of a text from elsewhere.
 class LinesBinding : public TextBinding<CodePageTextEdit> {
  public:
   LinesBinding(TextBox& control, ControlRow& row, CodePageTextEdit& edit, BindingOwner& owner)
@@ -133,16 +137,22 @@ class LinesBinding : public TextBinding<CodePageTextEdit> {
   void Limit(int max_length) override { widget_.SetMaxLength(max_length); }
 
  private:
+  static std::size_t Step(std::string_view rest) { return rest.starts_with("\r\n") ? 2 : 1; }
+
   int InLogic(int position) const {
-    return position +
-           static_cast<int>(widget_.toPlainText().left(position).count(QLatin1Char('\n')));
+    const std::string text = Held();
+    std::size_t place = 0;
+    for (; position > 0 && place < text.size(); --position)
+      place += Step(std::string_view(text).substr(place));
+    return static_cast<int>(place);
   }
   int InWidget(int position) const {
-    const QString text = widget_.toPlainText();
-    int place = 0;
-    for (int passed = 0; place < text.size() && passed < position; ++place)
-      passed += text[place] == QLatin1Char('\n') ? 2 : 1;
-    return place;
+    const std::string text = Held();
+    const std::size_t end = std::min(static_cast<std::size_t>(std::max(position, 0)), text.size());
+    int passed = 0;
+    for (std::size_t place = 0; place < end; ++passed)
+      place += Step(std::string_view(text).substr(place));
+    return passed;
   }
 
   bool writing_ = false;

@@ -4,12 +4,16 @@
 
 #include <QAction>
 #include <QCloseEvent>
+#include <QCursor>
 #include <QLabel>
+#include <QMdiArea>
 #include <QMenu>
 #include <QVBoxLayout>
 
+#include "base/number_text.h"
 #include "desktop/grid_widget.h"
 #include "desktop/menu_view.h"
+#include "desktop/message_moment.h"
 #include "desktop/text_conversion.h"
 #include "desktop/toolbar_view.h"
 
@@ -47,6 +51,9 @@ ClassWindowView::ClassWindowView(Form1& form) : form_(&form) {
   addAction(switch_focus);
   connect(switch_focus, &QAction::triggered, this, &ClassWindowView::SwitchBetweenGridAndToolbar);
 
+  moment_ = new MessageMoment(
+      [this] { return mdiArea() != nullptr && mdiArea()->currentSubWindow() == this; },
+      [this] { EndStatus(); }, this);
   connect(menu_, &MenuView::Pressed, this, &ClassWindowView::MenuPressed);
   connect(toolbar_, &ToolbarView::Pressed, this, &ClassWindowView::ToolPressed);
   connect(grid_, &GridWidget::hovered, this, &ClassWindowView::PointAt);
@@ -61,11 +68,29 @@ void ClassWindowView::Sync() {
   menu_->Sync();
   toolbar_->Sync();
   grid_->UpdateFromGrid();
-  if (const QString caption = FromText(form_->Caption); caption != windowTitle()) {
-    setWindowTitle(caption);
-  }
+  if (const QString title = Title(); title != windowTitle()) setWindowTitle(title);
+  moment_->Follow(form_->MessagesTold);
   const QString status = hint_.isEmpty() ? FromText(form_->StatusText) : hint_;
   if (status != status_->text()) status_->setText(status);
+}
+
+// An asterisk marks what is not saved yet.
+QString ClassWindowView::Title() const {
+  const auto slot = static_cast<std::size_t>(LeadingNumber(form_->Tag));
+  const QString caption = FromText(form_->Caption);
+  return Classes[slot].Changed != kFalse ? caption + QLatin1Char('*') : caption;
+}
+
+// What the pointer rests on is told again.
+void ClassWindowView::EndStatus() {
+  if (form_ == nullptr) return;
+  form_->EndStatus();
+  const QPoint pointer = grid_->viewport()->mapFromGlobal(QCursor::pos());
+  const GridWidget::Cell cell =
+      grid_->viewport()->underMouse() ? grid_->CellAt(pointer) : GridWidget::Cell{};
+  form_->Grid1.MouseRow = cell.row;
+  form_->Grid1.MouseCol = cell.col;
+  PointAt();
 }
 
 void ClassWindowView::ShowHint(const QString& hint) {

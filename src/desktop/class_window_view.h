@@ -12,6 +12,7 @@ namespace tallyroll {
 
 class GridWidget;
 class MenuView;
+class MessageMoment;
 class ToolbarView;
 
 class ClassWindowView : public QMdiSubWindow {
@@ -43,6 +44,8 @@ class ClassWindowView : public QMdiSubWindow {
   void closeEvent(QCloseEvent* event) override;
 
  private:
+  QString Title() const;
+  void EndStatus();
   void PointAt();
   void SwitchBetweenGridAndToolbar();
 
@@ -52,6 +55,7 @@ class ClassWindowView : public QMdiSubWindow {
   ToolbarView* toolbar_;
   GridWidget* grid_;
   QLabel* status_;
+  MessageMoment* moment_;
   QString hint_;
 };
 

@@ -18,6 +18,7 @@
 #include <QTextEdit>
 #include <QWidget>
 
+#include "desktop/chart_widget.h"
 #include "desktop/grid_widget.h"
 
 namespace tallyroll {
@@ -64,8 +65,8 @@ bool IsInput(const QObject& object) {
     return !action->menu() && !action->isSeparator();
   if (const auto* group = qobject_cast<const QGroupBox*>(&object)) return group->isCheckable();
   return IsOneOf<QAbstractButton, QAbstractItemView, QAbstractSlider, QAbstractSpinBox, QComboBox,
-                 QDialogButtonBox, QLineEdit, QPlainTextEdit, QTextEdit, QTabWidget, GridWidget>(
-      object);
+                 QDialogButtonBox, QLineEdit, QPlainTextEdit, QTextEdit, QTabWidget, GridWidget,
+                 ChartWidget>(object);
 }
 
 }  // namespace tallyroll

@@ -7,7 +7,9 @@
 #include <functional>
 #include <initializer_list>
 #include <memory>
+#include <string_view>
 
+#include "platform/chart.h"
 #include "platform/portal.h"
 
 class QWidget;
@@ -26,6 +28,8 @@ class BindingOwner {
   // The same for a press that may have come by mnemonic or Enter: the field that has the focus is
   // left first, which may stop the press.
   virtual void UserPressed(ControlBinding& binding, std::initializer_list<Event> events) = 0;
+  // Something was dragged here from the control of that name.
+  virtual void UserDropped(ControlBinding& binding, std::string_view source) = 0;
 };
 
 class ControlBinding : public QObject {
@@ -50,6 +54,8 @@ class ControlBinding : public QObject {
   virtual void ShowValue() {}
   virtual const Control& control() const = 0;
   QObject& target() const { return *target_; }
+
+  void UserDropped(std::string_view source) { owner_.UserDropped(*this, source); }
 
   void UserDid(std::initializer_list<BindingOwner::Event> events) { owner_.UserDid(*this, events); }
   void UserPressed(std::initializer_list<BindingOwner::Event> events) {
@@ -85,6 +91,7 @@ BoundControl BindControl(DTPicker&, ControlRow&, QObject&, BindingOwner&);
 BoundControl BindControl(PictureBox&, ControlRow&, QObject&, BindingOwner&);
 BoundControl BindControl(ProgressBar&, ControlRow&, QObject&, BindingOwner&);
 BoundControl BindControl(Grid&, ControlRow&, QObject&, BindingOwner&);
+BoundControl BindControl(Graph&, ControlRow&, QObject&, BindingOwner&);
 
 // A binding that knows the classes of its control and its widget.
 template <typename C, typename W>

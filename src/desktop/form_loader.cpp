@@ -10,9 +10,12 @@
 #include <QLayout>
 #include <utility>
 
+#include "desktop/cell_list.h"
+#include "desktop/chart_widget.h"
 #include "desktop/code_page_text_edit.h"
 #include "desktop/date_field.h"
 #include "desktop/grid_widget.h"
+#include "desktop/seats_widget.h"
 #include "desktop/text_conversion.h"
 
 namespace tallyroll {
@@ -23,7 +26,11 @@ QWidget* MakeOwnWidget(const QString& class_name, QWidget* parent) {
   if (class_name == QLatin1String("tallyroll::GridWidget") ||
       class_name == QLatin1String("GridWidget"))
     return new GridWidget(parent);
+  if (class_name == QLatin1String("tallyroll::SeatsWidget")) return new SeatsWidget(parent);
+  if (class_name == QLatin1String("tallyroll::ChartWidget")) return new ChartWidget(parent);
+  if (class_name == QLatin1String("tallyroll::CellList")) return new CellList(parent);
   if (class_name == QLatin1String("QPlainTextEdit")) return new CodePageTextEdit(parent);
+  if (class_name == QLatin1String("tallyroll::DateArrow")) return new DateArrow(parent);
   if (class_name == QLatin1String("QDateEdit")) return new DateField(parent);
   return nullptr;
 }

@@ -17,6 +17,7 @@
 #include "desktop/about_box.h"
 #include "desktop/class_window_view.h"
 #include "desktop/menu_view.h"
+#include "desktop/message_moment.h"
 #include "desktop/start_page.h"
 #include "desktop/text_conversion.h"
 #include "desktop/tile_windows.h"
@@ -46,6 +47,13 @@ FrameWindow::FrameWindow() {
   start_rows_->setContentsMargins(0, 0, 0, 0);
   start_rows_->addWidget(status_);
 
+  moment_ = new MessageMoment([this] { return front_ == nullptr; },
+                              [this] {
+                                FrameForm->EndStatus();
+                                Sync();
+                              },
+                              this);
+
   area_ = new QMdiArea;
   area_->setActivationOrder(QMdiArea::ActivationHistoryOrder);
   pages_ = new QStackedWidget;
@@ -53,7 +61,7 @@ FrameWindow::FrameWindow() {
   pages_->addWidget(area_);
   setCentralWidget(pages_);
 
-  menu_ = new MenuView(Frame->menu, this);
+  menu_ = new MenuView(FrameForm->menu, this);
   menu_->ShowIn(menuBar());
   shown_menu_ = menu_;
   AddWindowKeys();
@@ -106,12 +114,12 @@ void FrameWindow::Connect(ClassWindowView* view) {
   // Queued: the window must not go while its own close event runs.
   connect(
       view, &ClassWindowView::CloseAsked, this,
-      [this, view] { RunInFront(view, [](Form1& form) { Frame->CloseWindow(form); }); },
+      [this, view] { RunInFront(view, [](Form1& form) { FrameForm->CloseWindow(form); }); },
       Qt::QueuedConnection);
 }
 
 void FrameWindow::Press(const QString& entry) {
-  Run([&entry] { Frame->ClickMenu(entry.toStdString()); });
+  Run([&entry] { FrameForm->ClickMenu(entry.toStdString()); });
 }
 
 void FrameWindow::Run(const std::function<void()>& command) {
@@ -156,7 +164,7 @@ void FrameWindow::FollowFront() {
 // A program that starts with a class spares the page until its windows are closed.
 void FrameWindow::SyncStartPage() {
   if (start_ == nullptr) {
-    start_ = new StartPage(Frame->menu);
+    start_ = new StartPage(FrameForm->menu);
     start_rows_->insertWidget(0, start_, 1);
     connect(start_, &StartPage::Pressed, this, &FrameWindow::Press);
   }
@@ -169,7 +177,8 @@ void FrameWindow::Sync() {
   for (QMdiSubWindow* window : area_->subWindowList())
     static_cast<ClassWindowView*>(window)->Sync();
   pages_->setCurrentIndex(front_ != nullptr ? 1 : 0);
-  const QString status = hint_.isEmpty() ? FromText(Frame->StatusText) : hint_;
+  moment_->Follow(FrameForm->MessagesTold);
+  const QString status = hint_.isEmpty() ? FromText(FrameForm->StatusText) : hint_;
   if (status != status_->text()) status_->setText(status);
   if (shown_menu_ == &CurrentMenu()) return;
   shown_menu_ = &CurrentMenu();
@@ -239,6 +248,10 @@ void FrameWindow::Arrange(Arrangement how) {
   } else {
     TileWindows(*area_, how == Arrangement::kTileHorizontal ? Qt::Vertical : Qt::Horizontal);
   }
+  // A window that left the whole frame for its part of it has lost the focus.
+  if (front_ == nullptr) return;
+  area_->setActiveSubWindow(front_);
+  front_->widget()->setFocus();
 }
 
 void FrameWindow::ShowAbout() {
@@ -247,8 +260,8 @@ void FrameWindow::ShowAbout() {
 
 void FrameWindow::closeEvent(QCloseEvent* event) {
   if (!may_close_) {
-    may_close_ = Frame->QueryUnload();
-    if (may_close_) Frame->Unload();
+    may_close_ = FrameForm->QueryUnload();
+    if (may_close_) FrameForm->Unload();
   }
   event->setAccepted(may_close_);
   if (!may_close_) return;

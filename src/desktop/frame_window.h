@@ -17,6 +17,7 @@ namespace tallyroll {
 
 class ClassWindowView;
 class MenuView;
+class MessageMoment;
 class StartPage;
 
 // Shows `Frame`, which must be there first and stay until this window is gone.
@@ -64,6 +65,7 @@ class FrameWindow : public QMainWindow, public FrameScreen {
   StartPage* start_ = nullptr;  // made when it is first shown
   QMdiArea* area_;
   QLabel* status_;              // stands below the start page
+  MessageMoment* moment_;       // of what it tells
   MenuView* menu_;              // the frame's own
   const MenuView* shown_menu_;  // what the bar shows
   ClassWindowView* front_ = nullptr;

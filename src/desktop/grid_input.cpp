@@ -8,6 +8,7 @@
 #include <algorithm>
 
 #include "desktop/grid_widget.h"
+#include "desktop/key_mapping.h"
 #include "desktop/text_conversion.h"
 
 namespace tallyroll {
@@ -88,7 +89,10 @@ void GridWidget::keyPressEvent(QKeyEvent* event) {
   MeasureIfChanged();
   const int key = event->key();
   const bool presses = key == Qt::Key_Return || key == Qt::Key_Enter || key == Qt::Key_Space;
-  if (presses && enter_double_clicks_ && grid_->Row < grid_->Rows() && grid_->Col < grid_->Cols()) {
+  if (KeyOf(*event) == Key::kF4) {
+    Q_EMIT listAsked();
+  } else if (presses && enter_double_clicks_ && grid_->Row < grid_->Rows() &&
+             grid_->Col < grid_->Cols()) {
     DoubleClick(grid_->Row, grid_->Col);
   } else if (const std::optional<Cell> target = TargetOf(*event)) {
     MoveTo(target->row, target->col);

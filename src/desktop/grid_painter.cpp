@@ -182,6 +182,26 @@ int RoomForText(int cell_width, ColumnAlign align) {
   return cell_width - 2 * (align == ColumnAlign::kCenter ? kCenteredMargin : kCellMargin);
 }
 
+GridAxis WidenedForTexts(const Grid& grid, const GridAxis& columns, const GridFonts& fonts,
+                         int width) {
+  int spare = width - columns.TotalSize();
+  if (spare <= 0) return columns;
+  std::vector<int> sizes;
+  for (int col = 0; col < grid.Cols(); ++col) {
+    const int size = columns.SizeOf(col);
+    sizes.push_back(size);
+    if (size == 0 || grid.ColAlignment(col) != ColumnAlign::kLeft) continue;
+    int widest = 0;
+    for (int row = 0; row < grid.Rows(); ++row)
+      widest = std::max(widest, fonts.plain.WidthOf(grid.TextMatrix(row, col)));
+    const int lacking = widest - RoomForText(size, ColumnAlign::kLeft);
+    const int given = std::clamp(lacking, 0, spare);
+    sizes.back() += given;
+    spare -= given;
+  }
+  return GridAxis(std::move(sizes), columns.Fixed());
+}
+
 CellFont::CellFont(const QFont& font) : font_(font) {
   const QFontMetricsF metrics(font);
   widths_.fill(kNotMeasured);

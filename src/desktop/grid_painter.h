@@ -45,6 +45,11 @@ struct GridFonts {
 // fits its narrow column.
 int RoomForText(int cell_width, ColumnAlign align);
 
+// The columns with the room that is left behind them, up to `width`, given to texts on the left
+// that their columns would cut, column by column.
+GridAxis WidenedForTexts(const Grid& grid, const GridAxis& columns, const GridFonts& fonts,
+                         int width);
+
 // What is painted: the grid, where its cells stand, and how they look.
 struct GridPicture {
   const Grid& grid;

@@ -72,7 +72,9 @@ void GridWidget::Measure() {
   const int text_height = std::max(fonts_.plain.Height(), fonts_.bold.Height());
   const double points = QFontInfo(font()).pointSizeF();
   rows_ = RowsOf(*grid_, logicalDpiY(), points, text_height);
-  columns_ = ColumnsOf(*grid_, logicalDpiX(), points);
+  const GridAxis columns = ColumnsOf(*grid_, logicalDpiX(), points);
+  natural_width_ = columns.TotalSize();
+  columns_ = WidenedForTexts(*grid_, columns, fonts_, viewport()->width());
   measured_ = grid_->Revision();
 }
 
@@ -189,9 +191,14 @@ void GridWidget::paintEvent(QPaintEvent* event) {
   }
 }
 
-void GridWidget::resizeEvent(QResizeEvent*) {
+// A current cell that was in sight stays in sight when the room gets smaller.
+void GridWidget::resizeEvent(QResizeEvent* event) {
   if (!grid_) return;
-  MeasureIfChanged();
+  const QRect room({}, event->oldSize());
+  const bool seen = room.contains(CellRect(grid_->Row, grid_->Col));
+  Measure();
+  ClampView();
+  if (seen) ShowCell(grid_->Row, grid_->Col);
   SetScrollBars();
   shown_.top_row = grid_->TopRow;
   shown_.left_col = grid_->LeftCol;
@@ -201,7 +208,7 @@ QSize GridWidget::sizeHint() const {
   const int frame = 2 * frameWidth();
   const QSize scroll_bars(verticalScrollBar()->sizeHint().width(),
                           horizontalScrollBar()->sizeHint().height());
-  const QSize whole = QSize(columns_.TotalSize() + frame, rows_.TotalSize() + frame) + scroll_bars;
+  const QSize whole = QSize(natural_width_ + frame, rows_.TotalSize() + frame) + scroll_bars;
   return grid_ ? whole.boundedTo(kUsualSize) : kUsualSize;
 }
 

@@ -52,6 +52,7 @@ class GridWidget : public QAbstractScrollArea {
   void cellDoubleClicked(int row, int col);
   void currentCellChanged(int row, int col);
   void hovered(int row, int col);  // -1, -1 when the pointer has left
+  void listAsked();                // F4 or Alt+Down: what may be chosen in the current cell
 
  protected:
   bool event(QEvent* event) override;
@@ -97,6 +98,7 @@ class GridWidget : public QAbstractScrollArea {
   std::uint64_t measured_ = 0;
   GridAxis rows_;
   GridAxis columns_;
+  int natural_width_ = 0;  // of the columns as the logic set them
   GridFonts fonts_;
   GridColors colors_;
 };

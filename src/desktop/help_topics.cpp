@@ -51,6 +51,13 @@ constexpr std::array kContexts = {
     550,  // summary of settings: frmoptions
     560,  // averages: frmscrnavg
     570,  // all information: frminfo
+    580,  // seating charts: frmseating
+    600,  // statistics of a grade: frmstatistic
+    610,  // its graph: frmgraph
+    620,  // a student's progress: frmgrone
+    630,  // comparing classes: frmcompare
+    640,  // the roll book: FRMROLLBOOK
+    650,  // one grade of all students: frmsingles
 };
 
 }  // namespace

@@ -10,6 +10,7 @@
 #include <QToolBar>
 
 #include "desktop/help_topics.h"
+#include "desktop/window_places.h"
 
 namespace tallyroll {
 
@@ -36,6 +37,7 @@ HelpWindow::HelpWindow(QWidget* parent) : QMainWindow(parent, Qt::Window) {
   AddTools();
   connect(browser_, &QTextBrowser::sourceChanged, this, [this] { statusBar()->clearMessage(); });
   resize(720, 640);
+  KeepOnScreen(*this);
   browser_->setFocus();
 }
 

@@ -32,6 +32,8 @@ constexpr char16_t kBlank = 32;
 
 std::optional<Key> KeyOf(const QKeyEvent& event) {
   const int key = event.key();
+  // Two keys for one thing: to drop a list.
+  if (key == Qt::Key_Down && event.modifiers() & Qt::AltModifier) return Key::kF4;
   if (key >= Qt::Key_F1 && key <= Qt::Key_F12)
     return static_cast<Key>(static_cast<int>(Key::kF1) + key - Qt::Key_F1);
   for (const auto& [code, named] : kNamedKeys)

@@ -11,7 +11,9 @@
 
 #include "desktop/form_loader.h"
 #include "desktop/key_mapping.h"
+#include "desktop/scrolling_body.h"
 #include "desktop/text_conversion.h"
+#include "desktop/wheel_guard.h"
 #include "desktop/window_places.h"
 #include "platform/surroundings.h"
 
@@ -37,6 +39,7 @@ PortalDialog::PortalDialog(Portal& portal, QWidget* parent)
 
 PortalDialog::PortalDialog(Portal& portal, const QString& form_file, QWidget* parent)
     : QDialog(parent), portal_(portal) {
+  WheelGuard::Install();
   const LoadedForm form = Forms().Load(form_file, *this);
   complaints_ = form.complaints;
   portal_.Declare(table_);
@@ -44,7 +47,9 @@ PortalDialog::PortalDialog(Portal& portal, const QString& form_file, QWidget* pa
   LeaveEnterToTheDefault(form);
   if (portal_.Caption.empty()) portal_.Caption = ToText(windowTitle()).value_or("");
   for (const auto& binding : bindings_) binding->TakeCaption();
+  body_ = ScrollingBody::Of(*this);
   ShowControls();
+  TakeRoom(*this, body_);
   connect(qApp, &QApplication::focusChanged, this,
           [this](QWidget*, QWidget* now) { FocusMoved(now); });
 }
@@ -150,6 +155,11 @@ void PortalDialog::UserPressed(ControlBinding& binding, std::initializer_list<Ev
   UserDid(binding, events);
 }
 
+void PortalDialog::UserDropped(ControlBinding& binding, std::string_view source) {
+  const auto& drop = binding.row().drag_drop;
+  if (drop) Raise(std::function<void()>([&] { drop(source); }));
+}
+
 bool PortalDialog::LeaveField() {
   if (!focused_ || !focused_->row().lost_focus) return true;
   QWidget* before = focusWidget();
@@ -180,16 +190,19 @@ ControlBinding* PortalDialog::BindingOf(const QWidget* widget) const {
 // Popups, boxes and other windows take the focus only for a while; the field is not left.
 void PortalDialog::FocusMoved(QWidget* now) {
   if (!now || now->window() != this) return;
+  if (body_) body_->BringIntoSight(now);
   const bool opening = std::exchange(opening_, false);
   ControlBinding* binding = BindingOf(now);
   if (binding == focused_) return;
   ControlBinding* left = std::exchange(focused_, binding);
   if (silent_ > 0 || opening) return;
   was_blocked_ = false;
+  // The button is up again when a box has been answered.
+  const bool by_press = QApplication::mouseButtons() != Qt::NoButton;
   if (left) Raise(left->row().lost_focus);
-  const bool stopped = was_blocked_ || focused_ != binding;
-  if (stopped && QApplication::mouseButtons() != Qt::NoButton) swallow_press_of_ = now;
   if (binding && focused_ == binding) Raise(binding->row().got_focus);
+  const bool stopped = was_blocked_ || focused_ != binding;
+  swallow_press_of_ = stopped && by_press ? now : nullptr;
 }
 
 bool PortalDialog::PassKey(ControlBinding& binding, const QKeyEvent& key) {
@@ -253,6 +266,7 @@ void PortalDialog::showEvent(QShowEvent* event) {
   setAttribute(Qt::WA_KeyboardFocusChange);
   GiveFocusAsked();
   focused_ = BindingOf(focusWidget());
+  if (body_) body_->BringIntoSight(focusWidget());
   silent_ = 0;
 }
 

@@ -13,6 +13,7 @@
 namespace tallyroll {
 
 struct LoadedForm;
+class ScrollingBody;
 
 // Each event copies what the user changed into the controls, calls the handler, and shows what the
 // handler changed. While it shows and once the Portal is closed, nothing is passed on.
@@ -51,6 +52,7 @@ class PortalDialog : public QDialog, private BindingOwner {
  private:
   void UserDid(ControlBinding& binding, std::initializer_list<Event> events) override;
   void UserPressed(ControlBinding& binding, std::initializer_list<Event> events) override;
+  void UserDropped(ControlBinding& binding, std::string_view source) override;
 
   void BindControls(const LoadedForm& form);
   void BindRow(ControlRow& row, const LoadedForm& form);
@@ -74,6 +76,7 @@ class PortalDialog : public QDialog, private BindingOwner {
   ControlTable table_;
   std::vector<std::unique_ptr<ControlBinding>> bindings_;
   QStringList complaints_;
+  ScrollingBody* body_ = nullptr;  // null in a form without a foot
   ControlBinding* focused_ = nullptr;
   QWidget* swallow_press_of_ = nullptr;  // its press began with leaving a field that must be mended
   bool was_blocked_ = false;             // another window came up in front

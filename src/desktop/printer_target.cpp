@@ -44,7 +44,7 @@ Sheet SheetOf(const QPrinter& printer) {
 }
 
 PrinterTarget::PrinterTarget(QPrinter& printer, const Sheet& sheet)
-    : PagedTarget(sheet), printer_(printer) {}
+    : PagedTarget(sheet), printer_(printer), before_(printer.pageLayout().orientation()) {}
 
 std::unique_ptr<PrinterTarget> PrinterTarget::Open(QPrinter& printer, bool landscape,
                                                    std::string_view title) {
@@ -52,13 +52,16 @@ std::unique_ptr<PrinterTarget> PrinterTarget::Open(QPrinter& printer, bool lands
   const Sheet sheet = SheetOf(printer);
   printer.setFullPage(true);
   printer.setDocName(FromText(title));
-  printer.setPageOrientation(landscape ? QPageLayout::Landscape : QPageLayout::Portrait);
   std::unique_ptr<PrinterTarget> target(
       new PrinterTarget(printer, landscape ? Turned(sheet) : sheet));
-  return target->Begin(printer) ? std::move(target) : nullptr;
+  printer.setPageOrientation(landscape ? QPageLayout::Landscape : QPageLayout::Portrait);
+  if (target->Begin(printer)) return target;
+  printer.setPageOrientation(target->before_);
+  return nullptr;
 }
 
 int PrinterTarget::Finish(bool keep) {
+  printer_.setPageOrientation(before_);
   return keep && printer_.printerState() == QPrinter::Error ? kErrorDevice : 0;
 }
 

@@ -16,7 +16,8 @@ Sheet SheetOf(const QPrinter& printer);
 
 class PrinterTarget : public PagedTarget {
  public:
-  // Null when the printer refuses. The printer outlives the target.
+  // Null when the printer refuses. The printer outlives the target, and stands after the job as it
+  // was set up.
   static std::unique_ptr<PrinterTarget> Open(QPrinter& printer, bool landscape,
                                              std::string_view title);
   ~PrinterTarget() override { KillDoc(); }
@@ -29,6 +30,7 @@ class PrinterTarget : public PagedTarget {
   PrinterTarget(QPrinter& printer, const Sheet& sheet);
 
   QPrinter& printer_;
+  QPageLayout::Orientation before_;  // comes back when the job is over
 };
 
 }  // namespace tallyroll

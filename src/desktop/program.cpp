@@ -11,6 +11,7 @@
 #include "desktop/help_window.h"
 #include "desktop/palette_icon.h"
 #include "desktop/qt_surroundings.h"
+#include "desktop/wheel_guard.h"
 #include "shell/program.h"
 #include "shell/shell_state.h"
 
@@ -18,6 +19,7 @@ namespace tallyroll {
 
 int RunProgram(QApplication& application, bool dark, const std::string& file) {
   SetAppearance(application, dark);
+  WheelGuard::Install();
   application.setWindowIcon(PaletteIcon(QStringLiteral("tallyroll"), QPalette(Qt::white)));
   // The frame ends the program; the greeting, which may be the only window, must not.
   application.setQuitOnLastWindowClosed(false);
@@ -25,7 +27,7 @@ int RunProgram(QApplication& application, bool dark, const std::string& file) {
   ResetProgram();
   QtSurroundings surroundings;
   SetPlatform(&surroundings);
-  Frame = std::make_unique<MDIForm1>();
+  FrameForm = std::make_unique<MDIForm1>();
   int result = 0;
   {
     FrameWindow window;
@@ -33,7 +35,7 @@ int RunProgram(QApplication& application, bool dark, const std::string& file) {
     surroundings.help_hook = [&window](int context) { ShowHelpTopic(&window, context); };
     // Within the event loop, so that the greeting can be shown and the program be left from it.
     QTimer::singleShot(0, &window, [&window, file] {
-      Frame->Load(file);
+      FrameForm->Load(file);
       window.Sync();
     });
     result = QApplication::exec();

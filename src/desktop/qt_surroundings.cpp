@@ -159,9 +159,13 @@ QPrinter& QtSurroundings::Printer() {
   return *printer_;
 }
 
+bool QtSurroundings::LiesAcross(bool landscape) {
+  return landscape || Printer().pageLayout().orientation() == QPageLayout::Landscape;
+}
+
 std::unique_ptr<PrintTarget> QtSurroundings::MakePrintBox(bool landscape) {
   const Sheet sheet = SheetOf(Printer());
-  return std::make_unique<QtPrintTarget>(landscape ? Turned(sheet) : sheet);
+  return std::make_unique<QtPrintTarget>(LiesAcross(landscape) ? Turned(sheet) : sheet);
 }
 
 std::optional<PrintRange> QtSurroundings::PrintDialog(const PrintRange& offered) {
@@ -170,7 +174,7 @@ std::optional<PrintRange> QtSurroundings::PrintDialog(const PrintRange& offered)
 }
 
 std::unique_ptr<PrintTarget> QtSurroundings::OpenPrinter(bool landscape, std::string_view title) {
-  auto printer = PrinterTarget::Open(Printer(), landscape, title);
+  auto printer = PrinterTarget::Open(Printer(), LiesAcross(landscape), title);
   if (printer)
     printer->failed = [](int) {
       ShowMessage("The report could not be printed.", BoxIcon::kCritical);
@@ -181,7 +185,7 @@ std::unique_ptr<PrintTarget> QtSurroundings::OpenPrinter(bool landscape, std::st
 std::unique_ptr<PrintTarget> QtSurroundings::OpenPdf(const std::string& path, bool landscape,
                                                      std::string_view title) {
   int error = 0;
-  auto pdf = PdfTarget::Open(path, SheetOf(Printer()), landscape, title, error);
+  auto pdf = PdfTarget::Open(path, SheetOf(Printer()), LiesAcross(landscape), title, error);
   if (pdf) pdf->failed = [](int) { ShowMessage("File Error"); };
   return pdf;
 }

@@ -58,6 +58,9 @@ class QtSurroundings : public Surroundings {
  private:
   // The printer in use, asked for when it is needed first: that takes a while.
   QPrinter& Printer();
+  // Whether the sheet lies across: where the report wants it, and where the teacher set the printer
+  // up so.
+  bool LiesAcross(bool landscape);
 
   std::unique_ptr<QPrinter> printer_;
   std::map<Portal*, QPointer<PortalDialog>> beside_;  // a dialog goes with the one below it

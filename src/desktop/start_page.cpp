@@ -5,6 +5,7 @@
 #include <QCommandLinkButton>
 #include <QEvent>
 #include <QHBoxLayout>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QPainter>
 #include <QVBoxLayout>
@@ -28,9 +29,13 @@ QLabel* Heading(const QString& text, double scale) {
   return label;
 }
 
-// Shows where the keyboard is, which a command link by itself does not.
+// Shows where the keyboard is and takes Enter, which a command link by itself does not.
 class PageButton : public QCommandLinkButton {
  protected:
+  void keyPressEvent(QKeyEvent* event) override {
+    if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) return click();
+    QCommandLinkButton::keyPressEvent(event);
+  }
   void paintEvent(QPaintEvent* event) override {
     QCommandLinkButton::paintEvent(event);
     if (!hasFocus()) return;

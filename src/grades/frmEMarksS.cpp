@@ -13,7 +13,7 @@ namespace {
 
 constexpr int kTitleWidth = 3360;
 constexpr int kCodeWidth = 900;
-constexpr int kMarkWidth = 1100;
+constexpr int kMarkOfGradeWidth = 1100;
 
 void FillTitles(Grid& grid) {
   const Class& c = Current();
@@ -22,7 +22,7 @@ void FillTitles(Grid& grid) {
   grid.FixedCols = kMarkColumn;
   grid.SetColWidth(0, kTitleWidth);
   grid.SetColWidth(1, kCodeWidth);
-  grid.SetColWidth(kMarkColumn, kMarkWidth);
+  grid.SetColWidth(kMarkColumn, kMarkOfGradeWidth);
   grid.SetColAlignment(kMarkColumn, ColumnAlign::kRight);
   grid.Row = grid.TopRow = 1;
   grid.Col = grid.LeftCol = kMarkColumn;
@@ -74,7 +74,7 @@ void frmEMarksS::Show(int student) {
   shown_ = student;
   lstName.ListIndex = student - 1;
   for (int k = 1; k < grdgrade.Rows(); ++k)
-    grdgrade.SetTextMatrix(k, kMarkColumn, TrimRight(MarkOf(Shown(), k)));
+    grdgrade.SetTextMatrix(k, kMarkColumn, ShownMark(MarkOf(Shown(), k)));
   marks.StartOver();
   marks.Enable(true);
   DataChanged = false;
@@ -114,7 +114,7 @@ void frmEMarksS::Store() {
   for (int k = 1; k < grdgrade.Rows(); ++k) {
     const std::string_view cell = grdgrade.TextMatrix(k, kMarkColumn);
     ShortText& mark = row[static_cast<std::size_t>(k)];
-    if (cell != TrimRight(mark)) mark = cell;
+    if (cell != ShownMark(mark)) mark = cell;
   }
   Current().Changed = kTrue;
   DataChanged = false;

@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 #include "base/number_text.h"
 #include "base/text.h"
@@ -35,7 +36,7 @@ frmEmarks::frmEmarks() : GradeForm("frmEmarks") {
 }
 
 void frmEmarks::Declare(ControlTable& table) {
-  table.Add("list1", list1).Change([this] { list1_Change(); }).Click([this] { list1_Change(); });
+  table.Add("list1", list1).Change([this] { list1_Change(); }).Click([this] { list1_Click(); });
   DeclareHeader(table, "Title");
   table.Add("tempdate", tempdate);
   DeclareMarks(table);
@@ -57,7 +58,15 @@ void frmEmarks::Load() {
   if (!chosen) return SetFocus(list1);
   list1.ListIndex = CurrentStudent - 1;
   makefields();
+  GoToStudent(OpenState);
   SetFocus(Grid1);
+}
+
+// In view with his neighbour above, so that a slip of one row is seen.
+void frmEmarks::GoToStudent(int student) {
+  if (student < 1 || student > Current().NumStudents) return;
+  marks.StartAt(student);
+  Grid1.TopRow = std::max(Grid1.FixedRows, student - 1);
 }
 
 void frmEmarks::EnableFields(bool on) {
@@ -87,7 +96,7 @@ void frmEmarks::makefields() {
   tempdate.Visible = !date;
   ChooseType(TypeOfCode(grade.typecode));
   for (int i = 1; i < Grid1.Rows(); ++i)
-    SetMarkCell(i, TrimRight(MarkOf(c.Students[static_cast<std::size_t>(i)], shown_)));
+    SetMarkCell(i, MarkOf(c.Students[static_cast<std::size_t>(i)], shown_));
   marks.StartOver();
   EnableFields(true);
   DatePicked = DataChanged = false;
@@ -105,12 +114,20 @@ void frmEmarks::list1_Change() {
   if (DataChanged) {
     if (!Check()) {
       list1.ListIndex = shown_ - 1;
+      refused_ = true;
       return;
     }
     Store();
   }
   CurrentStudent = static_cast<i16>(picked);
   makefields();
+}
+
+// Comes after a change as well. Keys walk through the titles without it.
+void frmEmarks::list1_Click() {
+  list1_Change();
+  // A refused pick leads to the field that is to be mended.
+  if (!std::exchange(refused_, false) && shown_ > 0) SetFocus(Grid1);
 }
 
 bool frmEmarks::Check() {
@@ -143,7 +160,7 @@ void frmEmarks::Store() {
     List<ShortText>& row = c.Students[static_cast<std::size_t>(i)].Marks;
     if (shown_ > UpperBound(row)) ReDimPreserve(row, c.NumInstruments, ShortText(kNewMark));
     ShortText& mark = row[static_cast<std::size_t>(shown_)];
-    if (MarkCell(i) != TrimRight(mark)) mark = MarkCell(i);
+    if (MarkCell(i) != ShownMark(mark)) mark = MarkCell(i);
   }
   Instrument& grade = Shown();
   Keep(title.Text, grade.title);

@@ -6,7 +6,8 @@
 
 namespace tallyroll {
 
-// CurrentStudent holds the Instrument shown; 0 leaves the choice to the teacher.
+// CurrentStudent holds the Instrument shown; 0 leaves the choice to the teacher. OpenState holds
+// the student whose mark is in work first; 0 is the first of the class.
 struct frmEmarks : GradeForm {
   frmEmarks();
   void Declare(ControlTable& table) override;
@@ -21,6 +22,7 @@ struct frmEmarks : GradeForm {
   i16 Mode = 1;  // of the last check: 1 clean, 2 a required field is empty, 3 mvalue was refused
 
   void list1_Change();
+  void list1_Click();
   void Exitt_Click();
   void cancel_Click();
 
@@ -35,7 +37,9 @@ struct frmEmarks : GradeForm {
   bool Check();
   void Store();
   void EnableFields(bool on);
+  void GoToStudent(int student);
 
+  bool refused_ = false;   // the pick of another title
   int shown_ = 0;          // the Instrument in the fields; 0 is none
   i16 maximum_score_ = 0;  // as the last check found it
 };

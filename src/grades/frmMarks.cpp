@@ -12,10 +12,12 @@
 #include "grades/student_grid.h"
 #include "platform/class_window.h"
 #include "platform/surroundings.h"
+#include "store/box_list.h"
 #include "store/class_defaults.h"
 #include "store/class_format.h"
 #include "store/clipboard_boxes.h"
 #include "store/program_state.h"
+#include "store/student_names.h"
 
 namespace tallyroll {
 namespace {
@@ -64,14 +66,16 @@ void frmMarks::Declare(ControlTable& table) {
   table.Add("exit", exit).Click([this] { exit_Click(); });
   table.Add("cancel", cancel).Click([this] { cancel_Click(); });
   const auto option = [&](std::string_view name, OptionButton& button, bool takes_text) {
-    table.Add(name, button).Click([this, takes_text] { Text1.Enabled = takes_text; });
+    table.Add(name, button)
+        .Click([this, takes_text] { Text1.Enabled = takes_text; })
+        .KeyDown([this](Key key) { return FillByEnter(key); });
   };
   option("Option1", Option1, false);
   option("Option2", Option2, false);
   option("Option3", Option3, false);
   option("Option4", Option4, false);
   option("Option5", Option5, true);
-  table.Add("Text1", Text1);
+  table.Add("Text1", Text1).KeyDown([this](Key key) { return FillByEnter(key); });
   table.Add("Command5", Command5).Click([this] { Command5_Click(); });
   table.Add("Command6", Command6).Click([this] { Command6_Click(); });
 }
@@ -81,6 +85,7 @@ void frmMarks::Load() {
     imported_ = ReadGradeImport(OpenState);
     next_import_ = imported_.columns.begin();
     TellImport();
+    TellNoGrades();
   }
   StartOver();
 }
@@ -99,14 +104,38 @@ void frmMarks::TellImport() {
   ClassWindow().ShowStatus(told + ".");
 }
 
-// Grade after grade, as they stand side by side in the file.
+void frmMarks::TellNoGrades() {
+  const Class& c = Current();
+  std::vector<std::string> lines;
+  for (std::size_t k = 0; k < imported_.columns.size(); ++k) {
+    const std::string grade = imported_.columns.size() == 1
+                                  ? ""
+                                  : ", grade " + PlainNumberText(static_cast<std::int64_t>(k) + 1);
+    for (int i = 1; i <= c.NumStudents; ++i) {
+      const auto student = static_cast<std::size_t>(i);
+      const std::string_view mark = Left(imported_.columns[k].marks[student], kLongestMark);
+      if (!mark.empty() && !IsGrade(mark))
+        lines.push_back(PlainName(c.Students[student]) + grade + ": " + std::string(mark));
+    }
+  }
+  if (lines.empty()) return;
+  ShowMessage(
+      "These marks of the file are no grades as they stand. Of each only the number that it begins "
+      "with counts, otherwise 0; letters count in capitals." +
+          BoxList(lines),
+      BoxIcon::kInformation);
+}
+
+// Grade after grade, as they stand side by side in the file. A student whom it lacks has none yet.
 void frmMarks::FillFromFile() {
   if (next_import_ == imported_.columns.end()) return;
   const GradeColumn& column = *next_import_++;
   title.Text = Left(column.title, kLongestText);
   code.Text = Left(column.code, static_cast<std::size_t>(code.MaxLength));
-  for (int i = 1; i < Grid1.Rows(); ++i)
-    SetMarkCell(i, Left(UpperCase(column.marks[static_cast<std::size_t>(i)]), kLongestMark));
+  for (int i = 1; i < Grid1.Rows(); ++i) {
+    const auto student = static_cast<std::size_t>(i);
+    SetMarkCell(i, imported_.found[student] ? Left(column.marks[student], kLongestMark) : kNewMark);
+  }
   DataEntered = true;
 }
 
@@ -148,18 +177,25 @@ void frmMarks::fill_Click() {
   SetFocus(Option1);
 }
 
-std::string_view frmMarks::FillMark() const {
+std::string frmMarks::FillMark() const {
   if (Option1.Value) return "ABS";
   if (Option2.Value) return "CUT";
   if (Option3.Value) return "NON";
   if (Option4.Value) return "EXC";
-  return Left(Text1.Text, kLongestMark);
+  return UpperCase(Left(Text1.Text, kLongestMark));
 }
 
 void frmMarks::Command5_Click() {
   for (int i = 1; i < Grid1.Rows(); ++i)
     if (MarkCell(i).empty() || MarkCell(i) == " ") SetMarkCell(i, FillMark());
   Command6_Click();
+}
+
+// The default button stands behind the fill and cannot be pressed.
+bool frmMarks::FillByEnter(Key key) {
+  if (key != Key::kEnter) return false;
+  Command5_Click();
+  return true;
 }
 
 void frmMarks::Command6_Click() {
@@ -291,14 +327,8 @@ void frmMarks::pastegrade_Click() {
   ShowHeader(grade->header);
   ChooseTypeOf(grade->header.type);
   for (int i = 1; i < Grid1.Rows(); ++i) SetMarkCell(i, kNewMark);
-  const Class& c = Current();
-  for (const MarkText& mark : grade->marks) {
-    for (int i = 1; i < Grid1.Rows(); ++i) {
-      if (Trim(c.Students[static_cast<std::size_t>(i)].id) != Trim(mark.id)) continue;
-      SetMarkCell(i, Left(mark.mark, kLongestMark));
-      break;
-    }
-  }
+  for (const MarkText& mark : grade->marks)
+    SetMarkCell(mark.student, Left(mark.mark, kLongestMark));
   GoToMarks();
 }
 

@@ -47,9 +47,11 @@ struct frmMarks : GradeForm {
  private:
   void StartOver();
   void TellImport();
+  void TellNoGrades();  // of the file, as they stand in it
   void FillFromFile();
   void OpenFill(bool open);
-  std::string_view FillMark() const;
+  std::string FillMark() const;
+  bool FillByEnter(Key key);
   bool NothingEntered() const;
   bool AddGrade(i16 maximum_score);  // false: the class holds no more
   bool MayReplaceTitle();

@@ -66,12 +66,12 @@ frmMgrade::frmMgrade() : Portal("frmMgrade") {
 }
 
 void frmMgrade::Declare(ControlTable& table) {
-  table.Add("list1", list1).Change([this] { list1_Change(); }).Click([this] { list1_Change(); });
-  table.Add("grdgrade", grdgrade);
-  table.Add("comments", comments).Change([this] { comments_Change(); });
   table.Add("mnuprevious", mnuprevious).Click([this] { mnuprevious_Click(); });
   table.Add("mnunextt", mnunextt).Click([this] { mnunextt_Click(); });
   table.Add("mnuexit", mnuexit).Click([this] { mnuexit_Click(); });
+  table.Add("list1", list1).Change([this] { list1_Change(); }).Click([this] { list1_Change(); });
+  table.Add("grdgrade", grdgrade);
+  table.Add("comments", comments).Change([this] { comments_Change(); });
 }
 
 void frmMgrade::Load() {

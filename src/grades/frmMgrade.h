@@ -16,7 +16,7 @@ struct frmMgrade : Portal {
   ListBox list1;  // the students
   Grid grdgrade;  // title, code, date and mark of each missing grade
   TextBox comments;
-  CommandButton mnuprevious, mnunextt, mnuexit;
+  CommandButton mnuprevious, mnunextt, mnuexit;  // entries of its menu
 
   void list1_Change();
   void comments_Change();

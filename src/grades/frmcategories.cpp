@@ -15,7 +15,7 @@ namespace tallyroll {
 namespace {
 
 constexpr int kLongestDescription = 15;
-constexpr int kLongestCode = 2;
+constexpr int kLongestTypeCode = 2;
 constexpr std::string_view kNoteWithPoint = "Note to the Teacher.";
 constexpr std::string_view kSmallNote = "Note to the teacher";
 
@@ -66,7 +66,7 @@ frmcategories::frmcategories() : Portal("frmcategories") {
   HelpContext = 340;
   olddesc.Enabled = oldcode.Enabled = false;
   catdesc.MaxLength = kLongestDescription;
-  catcode.MaxLength = kLongestCode;
+  catcode.MaxLength = kLongestTypeCode;
   defaults.Caption = "&Defaults";
   another.Caption = "&Another";
   exit.Caption = "E&xit";
@@ -118,26 +118,9 @@ std::size_t frmcategories::Chosen() const {
   return static_cast<std::size_t>(listcat.ListIndex) + kFirstModifiableType;
 }
 
-// Whether the list goes to another line by this key; at its ends it stays.
-bool frmcategories::Walks(Key key) const {
-  switch (key) {
-    case Key::kUp:
-    case Key::kHome:
-    case Key::kPageUp:
-      return listcat.ListIndex != 0;
-    case Key::kDown:
-    case Key::kEnd:
-    case Key::kPageDown:
-      return listcat.ListIndex + 1 != static_cast<int>(listcat.List.size());
-    default:
-      return false;
-  }
-}
-
 // The arrow keys walk through the types; Return takes the one they come to.
 bool frmcategories::listcat_KeyDown(Key key) {
   const bool takes = key == Key::kEnter && Chosen() > 0;
-  walking_ = Walks(key);
   if (takes) SetFocus(catdesc);
   return takes;
 }
@@ -148,9 +131,8 @@ void frmcategories::listcat_Change() {
   oldcode.Text = Trim(codes_[Chosen()]);
 }
 
-// Comes after each change as well.
 void frmcategories::listcat_Click() {
-  if (Chosen() > 0 && !std::exchange(walking_, false)) SetFocus(catdesc);
+  if (Chosen() > 0) SetFocus(catdesc);
 }
 
 void frmcategories::EnterBox() {

@@ -32,7 +32,6 @@ struct frmcategories : Portal {
 
  private:
   std::size_t Chosen() const;  // the type; 0 is none
-  bool Walks(Key key) const;
   bool listcat_KeyDown(Key key);
   void EnterBox();
   void TypeInBox();
@@ -43,7 +42,6 @@ struct frmcategories : Portal {
 
   TypeCodes codes_;
   TypeTexts names_;
-  bool walking_ = false;  // a key goes to another line of listcat
 };
 
 }  // namespace tallyroll

@@ -1,7 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "grades/grade_clipboard.h"
 
+#include <algorithm>
 #include <array>
+#include <unordered_map>
+#include <utility>
 
 #include "base/line_reader.h"
 #include "base/number_text.h"
@@ -40,6 +43,41 @@ std::optional<GradeHeaderText> NextHeader(LineReader& lines) {
     if ((header.*field).size() > kLongestText) return std::nullopt;
   }
   return header;
+}
+
+// The first student of each ID.
+class StudentsById {
+ public:
+  explicit StudentsById(const Class& c) {
+    for (int i = 1; i <= c.NumStudents; ++i) {
+      const std::string_view id = Trim(c.Students[static_cast<std::size_t>(i)].id);
+      students_.try_emplace(id, i);
+      longest_ = std::max(longest_, id.size());
+    }
+  }
+
+  // 0 when there is none. Texts that no ID is as long as are not looked up.
+  int Find(std::string_view id) const {
+    if (id.size() > longest_) return 0;
+    const auto found = students_.find(id);
+    return found == students_.end() ? 0 : found->second;
+  }
+
+ private:
+  std::unordered_map<std::string_view, int> students_;
+  std::size_t longest_ = 0;
+};
+
+// The longest ID that a comma closes is that before the last comma.
+std::optional<MarkText> MarkOfLine(std::string_view line, const StudentsById& students) {
+  for (std::size_t end = line.size(); end > 0;) {
+    const std::size_t comma = line.rfind(',', end - 1);
+    if (comma == std::string_view::npos) break;
+    if (const int student = students.Find(Trim(line.substr(0, comma))))
+      return MarkText{student, std::string(Trim(line.substr(comma + 1)))};
+    end = comma;
+  }
+  return std::nullopt;
 }
 
 }  // namespace
@@ -87,13 +125,12 @@ std::optional<GradeText> ReadGrade(std::string_view clipboard) {
   const auto count = lines.Next();
   if (!header || !count) return std::nullopt;
   GradeText grade{*header, {}};
+  const StudentsById students(Current());
   for (double left = LeadingNumber(*count); left >= 1; --left) {
     const auto line = lines.Next();
     if (!line) return std::nullopt;
-    const std::size_t comma = line->find(',');
-    if (comma == std::string_view::npos) return std::nullopt;
-    grade.marks.push_back(
-        {std::string(line->substr(0, comma)), std::string(Trim(line->substr(comma + 1)))});
+    if (line->find(',') == std::string_view::npos) return std::nullopt;
+    if (auto mark = MarkOfLine(*line, students)) grade.marks.push_back(std::move(*mark));
   }
   return grade;
 }

@@ -15,13 +15,15 @@ struct GradeHeaderText {
   std::string type;  // the label of its type in a header alone, its code in a whole grade
 };
 
+// The mark of a student of the current class.
 struct MarkText {
-  std::string id, mark;
+  int student;
+  std::string mark;
 };
 
 struct GradeText {
   GradeHeaderText header;
-  std::vector<MarkText> marks;
+  std::vector<MarkText> marks;  // a line whose ID no student of the class has is passed over
 };
 
 bool HoldsHeader(std::string_view clipboard);
@@ -31,8 +33,10 @@ std::string HeaderOnClipboard(const GradeHeaderText& header);
 // Grade i of the current class with the marks of all students.
 std::string GradeOnClipboard(int i);
 
-// Nothing when lines are missing, or longer than a class file can hold. Any of the usual line ends
-// closes a line, for a clipboard may have passed through another program.
+// An ID may hold commas itself: a line belongs to the student whose whole ID it begins with, to the
+// longest of several, and its mark is what stands behind. Of students with one ID the first takes
+// it. Nothing when lines are missing, or longer than a class file can hold. Any of the usual line
+// ends closes a line, for a clipboard may have passed through another program.
 std::optional<GradeHeaderText> ReadHeader(std::string_view clipboard);
 std::optional<GradeText> ReadGrade(std::string_view clipboard);
 

@@ -15,11 +15,15 @@
 namespace tallyroll {
 namespace {
 
-constexpr int kLongestCode = 3;
-constexpr double kUsualPass = 65;  // of 100
+constexpr int kLongestGradeCode = 3;
+constexpr double kUsualPassOf100 = 65;  // of 100
 
 bool Blank(std::string_view text) {
   return Trim(text).empty();
+}
+
+void TellNoWholeNumber() {
+  ShowMessage("Maximum Score must be a whole number", BoxIcon::kNone, "Note to the teacher.");
 }
 
 }  // namespace
@@ -27,15 +31,20 @@ bool Blank(std::string_view text) {
 GradeForm::GradeForm(std::string_view name)
     : Portal(name), marks(*this, Grid1, kMarkColumn, [this] { MarksChanged(); }) {
   title.MaxLength = mvalue.MaxLength = lowpass.MaxLength = kLongestText;
-  code.MaxLength = kLongestCode;
+  code.MaxLength = kLongestGradeCode;
 }
 
 void GradeForm::DeclareHeader(ControlTable& table, std::string_view title_name) {
-  table.Add(title_name, title).Change([this] { HeaderChanged(); });
-  table.Add("code", code).Change([this] { HeaderChanged(); });
+  // Return goes through the header down to the marks.
+  const auto on_return_to = [this](auto& next) {
+    return [this, &next](Key key) { return key == Key::kEnter && GoOnTo(next); };
+  };
+  table.Add(title_name, title).Change([this] { HeaderChanged(); }).KeyDown(on_return_to(code));
+  table.Add("code", code).Change([this] { HeaderChanged(); }).KeyDown(on_return_to(mvalue));
   table.Add("mvalue", mvalue)
       .Change([this] { mvalue_Change(); })
       .GotFocus([this] { SelectAll(mvalue); })
+      .KeyDown(on_return_to(dropyn))
       .KeyPress([this](unsigned char key) { return mvalue_KeyPress(key); });
   table.Add("dropyn", dropyn)
       .Change([this] {
@@ -43,27 +52,47 @@ void GradeForm::DeclareHeader(ControlTable& table, std::string_view title_name) 
         if (dropyn.Text != "Y") dropyn.Text = "N";
         HeaderChanged();
       })
-      .KeyDown([this](Key key) { return key == Key::kDelete && dropyn_Key(); })
+      .KeyDown([this](Key key) { return dropyn_KeyDown(key); })
       .KeyPress([this](unsigned char) { return dropyn_Key(); });
-  table.Add("testdate", testdate).Change([this] {
-    DatePicked = true;
-    HeaderChanged();
-  });
-  table.Add("lowpass", lowpass).Change([this] { HeaderChanged(); }).GotFocus([this] {
-    SelectAll(lowpass);
-  });
-  table.Add("ttypelist", ttypelist).Change([this] { HeaderChanged(); });
+  table.Add("testdate", testdate)
+      .Change([this] {
+        DatePicked = true;
+        HeaderChanged();
+      })
+      .KeyDown(on_return_to(lowpass));
+  table.Add("lowpass", lowpass)
+      .Change([this] { HeaderChanged(); })
+      .GotFocus([this] { SelectAll(lowpass); })
+      .KeyDown(on_return_to(ttypelist));
+  table.Add("ttypelist", ttypelist)
+      .Change([this] { HeaderChanged(); })
+      .KeyDown(on_return_to(Grid1));
 }
 
 bool GradeForm::mvalue_KeyPress(unsigned char key) {
   if (key != '.') return false;
-  ShowMessage("Maximum Score must be a whole number", BoxIcon::kNone, "Note to the teacher.");
+  TellNoWholeNumber();
   return true;
 }
 
 void GradeForm::mvalue_Change() {
-  lowpass.Text = PlainNumberText(LeadingNumber(mvalue.Text) * kUsualPass / 100);
+  lowpass.Text = PlainNumberText(LeadingNumber(mvalue.Text) * kUsualPassOf100 / 100);
   HeaderChanged();
+}
+
+bool GradeForm::GoOnTo(TextBox& next) {
+  SetFocusAndSelect(next);
+  return true;
+}
+
+bool GradeForm::GoOnTo(const Control& next) {
+  SetFocus(next);
+  return true;
+}
+
+bool GradeForm::dropyn_KeyDown(Key key) {
+  if (key == Key::kEnter) return GoOnTo(testdate);
+  return key == Key::kDelete && dropyn_Key();
 }
 
 bool GradeForm::dropyn_Key() {
@@ -82,7 +111,7 @@ std::string_view GradeForm::MarkCell(int student) const {
 }
 
 void GradeForm::SetMarkCell(int student, std::string_view mark) {
-  Grid1.SetTextMatrix(student, kMarkColumn, mark);
+  Grid1.SetTextMatrix(student, kMarkColumn, ShownMark(mark));
 }
 
 bool GradeForm::EveryMarkEmpty() const {
@@ -115,8 +144,13 @@ std::optional<i16> GradeForm::CheckMaximumScore(std::string_view note_title) {
   const double number = LeadingNumber(mvalue.Text);
   try {
     const i16 score = RoundToInt16(number);
-    if (score != 0) return score;
-    ShowMessage("The value for Maximum Score must be greater than 0", BoxIcon::kNone, note_title);
+    // "1,000" begins with 1, and is not meant so.
+    const bool whole = WholeNumberText(mvalue.Text).has_value();
+    if (score != 0 && whole) return score;
+    if (score != 0)
+      TellNoWholeNumber();
+    else
+      ShowMessage("The value for Maximum Score must be greater than 0", BoxIcon::kNone, note_title);
   } catch (const RunTimeError&) {
     ShowMessage(number < 0 ? "The value for Maximum Score must not be less than -32768"
                            : "The value for Maximum Score must not be greater than 32767",

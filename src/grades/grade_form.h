@@ -37,8 +37,8 @@ struct GradeForm : Portal {
   bool RequiredEmpty() const;
   // The box that tells what is required, and the focus where something is missing.
   void Remind();
-  // mvalue as a class holds it; nothing when it is 0 or out of range, after a box and with the
-  // focus.
+  // mvalue as a class holds it; nothing when it is no number, 0 or out of range, after a box and
+  // with the focus.
   std::optional<i16> CheckMaximumScore(std::string_view note_title);
 
   void FillTypeList();
@@ -52,8 +52,12 @@ struct GradeForm : Portal {
   bool DatePicked = false;  // by the teacher, since the header was filled
 
  private:
+  // By Return; true, as for a key that is used up.
+  bool GoOnTo(TextBox& next);
+  bool GoOnTo(const Control& next);
   bool mvalue_KeyPress(unsigned char key);
   void mvalue_Change();
+  bool dropyn_KeyDown(Key key);
   bool dropyn_Key();
   void SelectAll(TextBox& box);
 };

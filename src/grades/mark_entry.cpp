@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "grades/mark_entry.h"
 
+#include <algorithm>
 #include <initializer_list>
 #include <utility>
 
@@ -30,6 +31,13 @@ std::string_view SpecialMarkOf(Key key) {
 }
 
 }  // namespace
+
+std::string ShownMark(std::string_view mark) {
+  std::string shown(mark);
+  std::ranges::replace(shown, '\0', ' ');
+  shown.resize(TrimRight(shown).size());
+  return shown;
+}
 
 CellEntry::CellEntry(Grid& grid, int column, std::function<void()> edited)
     : grid_(grid), column_(column), edited_(std::move(edited)) {}
@@ -83,9 +91,9 @@ void CellEntry::GoTo(int row) {
   if (row >= grid_.FixedRows && row < grid_.Rows()) grid_.Row = row;
 }
 
-void CellEntry::StartOver() {
-  last_active_row_ = grid_.FixedRows;
-  GoTo(grid_.FixedRows);
+void CellEntry::StartAt(int row) {
+  last_active_row_ = row;
+  GoTo(row);
 }
 
 // A name belongs to its row; a heading to none.

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <functional>
+#include <string>
 #include <string_view>
 
 #include "platform/cell_typing.h"
@@ -11,6 +12,10 @@
 namespace tallyroll {
 
 inline constexpr std::size_t kLongestMark = 5;
+
+// A mark as a cell has it: without the blanks behind it, and with a blank for each NUL of a damaged
+// file, which no screen shows. So what looks empty is empty.
+std::string ShownMark(std::string_view mark);
 
 // The cells of one column take keys. Return goes to the next row, End to the last.
 class CellEntry {
@@ -25,8 +30,9 @@ class CellEntry {
   void LastRow();
   // Puts the current cell there; the next key replaces what it holds.
   void GoTo(int row);
-  // To the first row, which then counts as the row last active.
-  void StartOver();
+  // To that row, which then counts as the row last active.
+  void StartAt(int row);
+  void StartOver() { StartAt(grid_.FixedRows); }
   int LastActiveRow() const { return last_active_row_; }
 
  protected:

@@ -94,6 +94,12 @@ Currency GradeValue(std::string_view mark) {
   return LeadingCurrency(text);
 }
 
+bool IsGrade(std::string_view mark) {
+  const std::string_view text = Trim(mark);
+  return KindOfMark(text) != MarkKind::kGraded || kLetterIndices[LetterPlace(text)] != kNoLetter ||
+         WholeNumberText(text).has_value();
+}
+
 int GradeCount(const Class& c) {
   return std::min<int>(c.NumInstruments, UpperBound(c.Instruments));
 }

@@ -26,6 +26,10 @@ MarkKind KindOfMark(std::string_view mark);
 // hold throws RunTimeError{kErrorOverflow}, as Currency's own operations do.
 Currency GradeValue(std::string_view mark);
 
+// Whether a teacher who reads it sees a grade: a number and nothing else, a letter, or a special
+// mark. Everything else counts by the number that it begins with, or as 0.
+bool IsGrade(std::string_view mark);
+
 // What NumInstruments can hold, and what a Portal says that cannot add another one.
 inline constexpr int kMostGrades = 32767;
 inline constexpr std::string_view kNoMoreGrades = "You may only have 32767 grades in a class.";

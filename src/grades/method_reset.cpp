@@ -13,7 +13,6 @@ constexpr i16 kByItems = 0;
 constexpr i16 kByTypes = 1;
 constexpr i16 kByPoints = 2;
 constexpr i16 kByPointsAndTypes = 3;
-constexpr i16 kNoMethod = 5;
 
 void GradesChanged(bool same_types_in_use) {
   const i16 method = Current().Method;

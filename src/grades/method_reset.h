@@ -4,7 +4,12 @@
 
 #include <string_view>
 
+#include "store/records.h"
+
 namespace tallyroll {
+
+// `Method` while weights wait to be given.
+inline constexpr i16 kNoMethod = 5;
 
 // Whether an Instrument of the current class other than `except` has this typecode; blanks around
 // it do not count.

@@ -24,11 +24,15 @@ double FixedPrintTarget::AverageCharWidth() const {
 }
 
 void FixedPrintTarget::Line(double x1, double y1, double x2, double y2) {
-  job->pages.back().lines.push_back({x1, y1, x2, y2});
+  job->pages.back().lines.push_back({x1, y1, x2, y2, ForeColor, LineWidth});
+}
+
+void FixedPrintTarget::FillPolygon(const std::vector<PrintPoint>& corners, PrintColor color) {
+  job->pages.back().shapes.push_back({corners, color});
 }
 
 void FixedPrintTarget::PrintUpwards(std::string_view text, double x, double y) {
-  job->pages.back().texts.push_back({x, y, std::string(text), FontSize, FontBold, true});
+  job->pages.back().texts.push_back({x, y, std::string(text), FontSize, FontBold, true, ForeColor});
 }
 
 void FixedPrintTarget::NewPage() {
@@ -41,8 +45,8 @@ void FixedPrintTarget::Cls() {
   CurrentX = CurrentY = 0;
 }
 
-void FixedPrintTarget::DrawTextAt(double x, double y, std::string_view text) {
-  job->pages.back().texts.push_back({x, y, std::string(text), FontSize, FontBold, false});
+void FixedPrintTarget::DrawTextAt(double x, double y, std::string_view text, double size) {
+  job->pages.back().texts.push_back({x, y, std::string(text), size, FontBold, false, ForeColor});
 }
 
 std::vector<std::string> FixedPrintTarget::RowsOf(const PrintedPage& page) {

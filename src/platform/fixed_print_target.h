@@ -19,19 +19,30 @@ struct PrintedText {
   double size = 0;  // points
   bool bold = false;
   bool upwards = false;
+  PrintColor color = 0;
 
   friend bool operator==(const PrintedText&, const PrintedText&) = default;
 };
 
 struct PrintedLine {
   double x1 = 0, y1 = 0, x2 = 0, y2 = 0;
+  PrintColor color = 0;
+  double width = 10;
 
   friend bool operator==(const PrintedLine&, const PrintedLine&) = default;
+};
+
+struct PrintedShape {
+  std::vector<PrintPoint> corners;
+  PrintColor color = 0;
+
+  friend bool operator==(const PrintedShape&, const PrintedShape&) = default;
 };
 
 struct PrintedPage {
   std::vector<PrintedText> texts;
   std::vector<PrintedLine> lines;
+  std::vector<PrintedShape> shapes;
 
   friend bool operator==(const PrintedPage&, const PrintedPage&) = default;
 };
@@ -44,6 +55,7 @@ struct PrintedJob {
   std::vector<PrintedPage> pages = std::vector<PrintedPage>(1);
   bool ended = false;
   bool killed = false;
+  bool fails = false;  // it will come to nothing
 };
 
 // A character is as wide as ten times its points, and a line as high as twenty-four times: at 10
@@ -58,9 +70,13 @@ class FixedPrintTarget : public PrintTarget {
   double TextHeight(std::string_view text) const override;
   double AverageCharWidth() const override;
   void Line(double x1, double y1, double x2, double y2) override;
+  void FillPolygon(const std::vector<PrintPoint>& corners, PrintColor color) override;
   void PrintUpwards(std::string_view text, double x, double y) override;
   void NewPage() override;
-  void EndDoc() override { job->ended = true; }
+  bool EndDoc() override {
+    job->ended = true;
+    return !job->killed && !job->fails;
+  }
   void KillDoc() override { job->killed = true; }
   void Cls() override;
 
@@ -72,7 +88,7 @@ class FixedPrintTarget : public PrintTarget {
   static std::vector<std::string> RowsOf(const PrintedPage& page);
 
  protected:
-  void DrawTextAt(double x, double y, std::string_view text) override;
+  void DrawTextAt(double x, double y, std::string_view text, double size) override;
 
  private:
   Kind kind_;

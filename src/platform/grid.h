@@ -3,6 +3,8 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
+#include <string>
 #include <string_view>
 #include <vector>
 
@@ -61,6 +63,8 @@ class Grid : public Control {
   int LeftCol = 1;
   int MouseRow = -1;  // the cell under the pointer, set before a mouse event; -1 outside
   int MouseCol = -1;
+  // A second, smaller line of a cell, where the screen shows cells as cards; may be null.
+  std::function<std::string(int row, int col)> SmallLine;
 
  private:
   struct Column {

@@ -74,6 +74,7 @@ std::optional<std::string> HeadlessSurroundings::FileDialog(const FileDialogRequ
   }
   std::optional<std::string> path = std::move(scripted_dialogs_.front());
   scripted_dialogs_.pop_front();
+  if (path && request.encoding && encoding_answer) *request.encoding = *encoding_answer;
   return path;
 }
 

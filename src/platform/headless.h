@@ -81,6 +81,7 @@ class HeadlessSurroundings : public Surroundings {
   std::optional<PrintRange> print_answer = PrintRange();  // of the next print dialogs
   std::vector<PrintRange> print_dialogs;                  // what each offered
   std::vector<std::shared_ptr<PrintedJob>> print_jobs;    // every printer and PDF that was opened
+  std::optional<TextEncoding> encoding_answer;            // of the next dialogs that ask for one
   bool printer_refuses = false;
   int printer_set_ups = 0;
   std::optional<std::pair<std::string, float>> font_answer;  // of the next font dialogs

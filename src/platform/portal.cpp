@@ -3,6 +3,7 @@
 
 #include <utility>
 
+#include "platform/chart.h"
 #include "platform/class_window.h"
 #include "platform/surroundings.h"
 

@@ -14,9 +14,9 @@
 
 namespace tallyroll {
 
-using ControlPointer =
-    std::variant<Label*, TextBox*, CommandButton*, CheckBox*, OptionButton*, ListBox*, ComboBox*,
-                 struct Frame*, Pages*, TabStrip*, DTPicker*, PictureBox*, ProgressBar*, Grid*>;
+using ControlPointer = std::variant<Label*, TextBox*, CommandButton*, CheckBox*, OptionButton*,
+                                    ListBox*, ComboBox*, struct Frame*, Pages*, TabStrip*,
+                                    DTPicker*, PictureBox*, ProgressBar*, Grid*, struct Graph*>;
 
 // Keys that a Portal asks for by name; characters come by KeyPress.
 enum class Key {
@@ -62,6 +62,9 @@ struct ControlRow {
   std::function<bool(Key)> key_down;  // true: the key is used up
   std::function<bool(unsigned char)>
       key_press;  // a typed character of the code page, 8 is Backspace
+  // What was dragged from the control of that name is dropped here: the chosen line of a list, or
+  // the current cell of a grid. On a grid, MouseRow and MouseCol are the cell under the pointer.
+  std::function<void(std::string_view source)> drag_drop;
 
   ControlRow& Change(std::function<void()> f) {
     change = std::move(f);
@@ -81,6 +84,10 @@ struct ControlRow {
   }
   ControlRow& LostFocus(std::function<void()> f) {
     lost_focus = std::move(f);
+    return *this;
+  }
+  ControlRow& DragDrop(std::function<void(std::string_view)> f) {
+    drag_drop = std::move(f);
     return *this;
   }
   ControlRow& KeyDown(std::function<bool(Key)> f) {

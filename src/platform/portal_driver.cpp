@@ -4,6 +4,7 @@
 #include <type_traits>
 #include <utility>
 
+#include "platform/chart.h"
 #include "platform/surroundings.h"
 
 namespace tallyroll {
@@ -184,6 +185,18 @@ void PortalDriver::PickCell(std::string_view grid, int row, int col) {
     Raise(events, {&ControlRow::change});
   }
   Raise(events, {&ControlRow::click});
+}
+
+void PortalDriver::Drag(std::string_view source, std::string_view target, int row, int col) {
+  const ControlRow* from = Reach(source, "drag from");
+  const ControlRow* onto = Reach(target, "drop on");
+  if (!from || !onto || !MoveFocus(*from)) return;
+  if (auto* grid = std::get_if<Grid*>(&onto->control)) {
+    (*grid)->MouseRow = row;
+    (*grid)->MouseCol = col;
+  }
+  if (onto->drag_drop) onto->drag_drop(source);
+  Settle();
 }
 
 void PortalDriver::PressKey(std::string_view control, Key key) {

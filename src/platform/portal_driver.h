@@ -38,6 +38,8 @@ class PortalDriver {
   void PickDate(std::string_view picker, double serial);
   // Clicks a grid cell; one that is not fixed becomes the current one.
   void PickCell(std::string_view grid, int row, int col);
+  // Drags the chosen line of a list or the current cell of a grid onto a cell, or onto a list (-1).
+  void Drag(std::string_view source, std::string_view target, int row = -1, int col = -1);
   void PressKey(std::string_view control, Key key);
   void TypeKeys(std::string_view control, std::string_view characters);
   // Moves the focus: the control that had it is left, this one gets it.

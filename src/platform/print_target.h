@@ -3,10 +3,21 @@
 // or the hidden one on which a report is laid out to find its page breaks.
 #pragma once
 
+#include <cstdint>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace tallyroll {
+
+using PrintColor = std::uint32_t;  // 0xRRGGBB
+
+struct PrintPoint {
+  double x = 0;
+  double y = 0;
+
+  friend bool operator==(const PrintPoint&, const PrintPoint&) = default;
+};
 
 // Lengths in twips, 1/1440 inch. The origin is the corner of the margins once the page is set up.
 class PrintTarget {
@@ -20,6 +31,8 @@ class PrintTarget {
   std::string FontName = "Times New Roman";
   double FontSize = 10;  // points
   bool FontBold = false;
+  PrintColor ForeColor = 0;  // of text and lines
+  double LineWidth = 10;
 
   // The sheet, what of it can be printed on, and where the upper left corner of that lies.
   double Width = 12240;
@@ -40,21 +53,33 @@ class PrintTarget {
   // At the pen; afterwards the pen stands at the left edge of the next line, or behind the text.
   void Print(std::string_view text = {});
   void PrintOpen(std::string_view text);
-  // The pen goes to a column of the target's average character, the first being 1. What was printed
-  // beyond that column is never printed over: the pen goes one blank behind it.
+  // At the pen and no wider than `room`: what is wider is set smaller, and what would be too small
+  // to read is cut with an ellipsis. The pen goes behind it.
+  void PrintWithin(std::string_view text, double room);
+  // The text, or as much of its beginning as `room` holds with an ellipsis behind.
+  std::string Shortened(std::string_view text, double room) const;
+  // How many of the text's characters `room` holds.
+  std::size_t Fitting(std::string_view text, double room) const;
+  // The pen goes to a column of the target's average character, the first being 1. What reaches
+  // that column already is neither printed over nor touched: the pen goes one blank behind it.
   void Tab(int column);
 
   virtual void Line(double x1, double y1, double x2, double y2) = 0;
+  // A surface without an outline.
+  virtual void FillPolygon(const std::vector<PrintPoint>& corners, PrintColor color) = 0;
+  void FillRectangle(double x1, double y1, double x2, double y2, PrintColor color);
   // Text that runs upwards, its beginning at the bottom: x is its left edge, y its lower end.
   virtual void PrintUpwards(std::string_view text, double x, double y) = 0;
 
   virtual void NewPage() {}  // printers: the sheet is done, another one begins
-  virtual void EndDoc() {}   // printers: the last sheet is done, the job goes out
+  // Printers: the last sheet is done, the job goes out. False when it came to nothing.
+  virtual bool EndDoc() { return true; }
   virtual void KillDoc() {}  // printers: what was not sent yet is dropped
   virtual void Cls() {}      // other surfaces: clean, with the pen at the origin
 
  protected:
-  virtual void DrawTextAt(double x, double y, std::string_view text) = 0;
+  // In `size` points, which are FontSize or fewer, on the base line of the current font.
+  virtual void DrawTextAt(double x, double y, std::string_view text, double size) = 0;
 };
 
 }  // namespace tallyroll

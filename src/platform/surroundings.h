@@ -28,6 +28,10 @@ struct MessageRequest {
   bool second_is_default = false;  // Enter presses the second button
 };
 
+// How a text file is written: UTF-8 with its mark at the head, as editors of today read it, or the
+// bytes of the class file's code page.
+enum class TextEncoding { kUtf8, kWindows1252 };
+
 struct FileDialogRequest {
   bool save = false;
   std::string title;              // empty: the dialog's own
@@ -38,6 +42,7 @@ struct FileDialogRequest {
   bool file_must_exist = false;
   bool overwrite_prompt = false;
   int help_context = 0;
+  TextEncoding* encoding = nullptr;  // of a text to be saved: offered, asked, and answered here
 };
 
 // What a print dialog asks, and what it answers.

@@ -18,11 +18,11 @@
 namespace tallyroll {
 namespace {
 
-constexpr std::string_view kAverageTitle = " All Grades/Average for ";
-constexpr std::string_view kPlainTitle = " All Grades for ";
-constexpr int kTextRule = 80;
+constexpr std::string_view kAllGradesAverageTitle = " All Grades/Average for ";
+constexpr std::string_view kAllGradesTitle = " All Grades for ";
+constexpr int kAllGradesRule = 80;
 
-std::string Text(std::string_view text) {
+std::string GradeText(std::string_view text) {
   return std::string(Trim(text));
 }
 
@@ -47,20 +47,23 @@ std::vector<int> GradesInOrder() {
 
 // ---- Columns: those of the rows stand a little beside their heads ----
 
-constexpr std::array kColumns = {
-    GradeColumn{0, 0, 1, "TITLE", "", [](int i) { return Text(GradeInReport(i).title); }},
-    GradeColumn{0.96, 0.96, 34, "CODE", "", [](int i) { return Text(GradeInReport(i).code); }},
-    GradeColumn{1.1, 1.1, 40, "TP.", "", [](int i) { return Text(GradeInReport(i).typecode); }},
-    GradeColumn{1.2, 1.2, 45, " DATE", "", [](int i) { return Text(GradeInReport(i).testdate); }},
+constexpr std::array kAllGradesColumns = {
+    GradeColumn{0, 0, 1, "TITLE", "", [](int i) { return GradeText(GradeInReport(i).title); }},
+    GradeColumn{0.96, 0.96, 34, "CODE", "", [](int i) { return GradeText(GradeInReport(i).code); }},
+    GradeColumn{1.1, 1.1, 40, "TP.", "",
+                [](int i) { return GradeText(GradeInReport(i).typecode); }},
+    GradeColumn{1.2, 1.2, 45, " DATE", "",
+                [](int i) { return GradeText(GradeInReport(i).testdate); }},
     GradeColumn{1.44, 1.45, 58, "GRADE", "",
-                [](int i) { return Text(MarkOf(StudentInReport(), i)); }},
+                [](int i) { return GradeText(MarkOf(StudentInReport(), i)); }},
     GradeColumn{1.61, 1.61, 66, "MAX.", "SCORE",
                 [](int i) { return PlainNumberText(GradeInReport(i).mvalue); }},
 };
-constexpr GradeColumns kTable{kColumns, 1.79, 1.78, 74};
+constexpr GradeColumns kAllGradesTable{kAllGradesColumns, 1.79, 1.78, 74};
 
-std::string Title() {
-  return std::string(ReportWithAverages() ? kAverageTitle : kPlainTitle) + StudentLabel();
+std::string AllGradesTitle() {
+  return std::string(ReportWithAverages() ? kAllGradesAverageTitle : kAllGradesTitle) +
+         StudentLabel();
 }
 
 Section GradesSection(PrintTarget& target, const std::vector<int>& grades) {
@@ -69,11 +72,12 @@ Section GradesSection(PrintTarget& target, const std::vector<int>& grades) {
   return {.rows = static_cast<int>(grades.size()),
           .print =
               [&target, &grades, base](int row) {
-                PrintGradeRow(target, kTable, base, grades[static_cast<std::size_t>(row) - 1]);
+                PrintGradeRow(target, kAllGradesTable, base,
+                              grades[static_cast<std::size_t>(row) - 1]);
               },
           .head =
               [&target, base] {
-                PrintGradeHead(target, kTable, base);
+                PrintGradeHead(target, kAllGradesTable, base);
                 target.Print();
               },
           .head_lines = 3,
@@ -84,21 +88,20 @@ Section GradesSection(PrintTarget& target, const std::vector<int>& grades) {
 
 void PrintAllGrades(ReportPass& pass) {
   PrintTarget& target = pass.target;
-  StudentHeader(pass, Title(), pass.first == 1);
+  StudentHeader(pass, AllGradesTitle(), pass.first == 1);
   if (pass.first == 1) target.Print();
   const std::vector<int> grades = GradesInOrder();
-  PrintSections(pass,
-                {GradesSection(target, grades), TypeTotalsSection(target, TypeTotalRows()),
-                 StudentTailSection(pass)},
-                true);
+  PrintSections(
+      pass, {GradesSection(target, grades), TypeTotalsSection(target), StudentTailSection(pass)},
+      true);
 }
 
 void WriteAllGrades(TextReport& text) {
-  text.Row(kTextRule, '=');
-  text.Line(Title());
+  text.Row(kAllGradesRule, '=');
+  text.Line(AllGradesTitle());
   text.End();
-  WriteGradeHead(text, kTable);
-  for (const int grade : GradesInOrder()) WriteGradeRow(text, kTable, grade);
+  WriteGradeHead(text, kAllGradesTable);
+  for (const int grade : GradesInOrder()) WriteGradeRow(text, kAllGradesTable, grade);
   text.Line("   ");
   WriteTypeTotals(text);
   WriteStudentTail(text);

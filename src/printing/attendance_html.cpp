@@ -13,29 +13,29 @@
 namespace tallyroll {
 namespace {
 
-constexpr std::array kWeekdays = {"Su", "Mo", "Tu", "We", "Th", "Fr", "Sa"};
+constexpr std::array kHtmlWeekdays = {"Su", "Mo", "Tu", "We", "Th", "Fr", "Sa"};
 // The last head has a zero for its "O": it is known so.
-constexpr std::string_view kTotalHeads =
+constexpr std::string_view kHtmlTotalHeads =
     "<TD rowspan = 2> A  B  S</TD><TD rowspan = 2> C  U  T </TD><TD rowspan = 2> E  X  C </TD>"
     "<TD rowspan = 2> S  P  A </TD><TD rowspan = 2> N  O  T</TD><TD rowspan = 2> L  A  T </TD>"
     "<TD rowspan = 2> T  0  T</TD></TR>\r\n";
 
-std::string HeadOf(const Month& month) {
+std::string HtmlHeadOf(const Month& month) {
   std::string html =
       "<TABLE BORDER = 1 CELLPADDING = 2 CELLSPACING = 2 width = 100%>\r\n"
       "<CAPTION> Attendance Summary - ";
   html += std::string(MonthName(month.month)) + ", " + PlainNumberText(month.year) +
           "   </CAPTION>\r\n<TR ALIGN = LEFT ><TD COLSPAN = 90></TD>";
   for (int day = 1; day <= DaysIn(month); ++day)
-    html += "<TD font size = 1>" + std::string(kWeekdays[WeekdayOf(month, day)]) + "</TD>";
-  html += kTotalHeads;
+    html += "<TD font size = 1>" + std::string(kHtmlWeekdays[WeekdayOf(month, day)]) + "</TD>";
+  html += kHtmlTotalHeads;
   html += "<TR><TD  COLSPAN =  70 > Student Name </TD><TD COLSPAN = 20> Student ID </TD>";
   for (int day = 1; day <= DaysIn(month); ++day)
     html += "<TD font size = 3 >" + PlainNumberText(day) + "</TD>";
   return html + "</TR>\r\n";
 }
 
-std::string RowOf(const Student& student, const Month& month) {
+std::string HtmlRowOf(const Student& student, const Month& month) {
   std::string html = "<TR><TD COLSPAN = 70>" + HtmlText(PlainName(student)) +
                      "</TD><TD COLSPAN = 20 >" + HtmlText(Trim(student.id)) + "</TD>";
   const MonthMarks marks = MarksOfMonth(student, month);
@@ -52,9 +52,9 @@ std::string RowOf(const Student& student, const Month& month) {
 std::string AttendanceHtml(std::string_view title) {
   std::string html = HtmlHead(title);
   for (const Month& month : MonthsOf(Choice.month_first, Choice.month_last)) {
-    html += HeadOf(month);
+    html += HtmlHeadOf(month);
     for (int i = 1; i <= Current().NumStudents; ++i)
-      html += RowOf(Current().Students[static_cast<std::size_t>(i)], month);
+      html += HtmlRowOf(Current().Students[static_cast<std::size_t>(i)], month);
     html += "</table>\r\n";
   }
   return html + "</body></html>";

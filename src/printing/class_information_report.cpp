@@ -4,13 +4,14 @@
 #include <string>
 
 #include "printing/page_frame.h"
+#include "printing/paper_line.h"
 #include "printing/report_writers.h"
 #include "store/program_state.h"
 
 namespace tallyroll {
 namespace {
 
-constexpr std::string_view kTitle = " Class Information Printout";
+constexpr std::string_view kInformationTitle = " Class Information Printout";
 constexpr int kValueColumn = 30;
 
 struct InformationLine {
@@ -42,13 +43,13 @@ void PutLines(Sheet&& sheet) {
 }  // namespace
 
 void PrintClassInformation(ReportPass& pass) {
-  PageHeader(pass, kTitle);
+  PageHeader(pass, kInformationTitle);
   PutLines(PaperSheet{pass.target});
   PageFooter(pass, 2);  // one row in all
 }
 
 void WriteClassInformation(TextReport& text) {
-  text.Line(kTitle);
+  text.Line(kInformationTitle);
   text.End();
   PutLines(text);
 }

@@ -9,43 +9,49 @@
 #include "base/text.h"
 #include "grades/marks.h"
 #include "printing/grade_columns.h"
+#include "printing/paper_line.h"
 #include "store/program_state.h"
 
 namespace tallyroll {
 namespace {
 
-std::string Text(std::string_view text) {
+std::string DetailText(std::string_view text) {
   return std::string(Trim(text));
 }
 
-constexpr std::array kColumns = {
-    GradeColumn{4, 4, 5, "TITLE", "", [](int i) { return Text(GradeInReport(i).title); }},
-    GradeColumn{35, 35, 36, "CODE", "", [](int i) { return Text(GradeInReport(i).code); }},
+constexpr std::array kDetailColumns = {
+    GradeColumn{4, 4, 5, "TITLE", "", [](int i) { return DetailText(GradeInReport(i).title); }},
+    GradeColumn{35, 35, 36, "CODE", "", [](int i) { return DetailText(GradeInReport(i).code); }},
     GradeColumn{35 + 2 * 4, 35 + 2 * 4, 43, "TYPE", "",
-                [](int i) { return Text(GradeInReport(i).typecode); }},
+                [](int i) { return DetailText(GradeInReport(i).typecode); }},
     GradeColumn{35 + 3 * 4, 35 + 3 * 4, 50, " DATE", "",
-                [](int i) { return Text(GradeInReport(i).testdate); }},
+                [](int i) { return DetailText(GradeInReport(i).testdate); }},
     GradeColumn{35 + 5 * 4, 35 + 5 * 4, 64, "MAX.", "SCORE",
                 [](int i) { return PlainNumberText(GradeInReport(i).mvalue); }},
 };
-constexpr GradeColumns kTable{kColumns, 35 + 6.5 * 4, 35 + 6.5 * 4, 72};
+constexpr GradeColumns kDetailTable{kDetailColumns, 35 + 6.5 * 4, 35 + 6.5 * 4, 72};
+constexpr double kColumnsOfTable = 66;
 
 }  // namespace
 
 Section CodeDetailsSection(PrintTarget& target) {
   return {.rows = GradeCount(Current()),
-          .print = [&target](int row) { PrintGradeRow(target, kTable, Job.CharUnit, row); },
+          .print =
+              [&target](int row) {
+                PrintGradeRow(target, kDetailTable, ColumnUnit(kColumnsOfTable), row);
+              },
           .head =
               [&target] {
-                PrintGradeHead(target, kTable, Job.CharUnit);
+                PrintGradeHead(target, kDetailTable, ColumnUnit(kColumnsOfTable));
                 Rule(target);
               },
           .head_lines = 2};
 }
 
 void WriteCodeDetails(TextReport& text) {
-  WriteGradeHead(text, kTable);
-  for (int grade = 1; grade <= GradeCount(Current()); ++grade) WriteGradeRow(text, kTable, grade);
+  WriteGradeHead(text, kDetailTable);
+  for (int grade = 1; grade <= GradeCount(Current()); ++grade)
+    WriteGradeRow(text, kDetailTable, grade);
 }
 
 }  // namespace tallyroll

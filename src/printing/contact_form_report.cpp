@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Codes 20 and 21: a block of six lines a student, for the whole class or for one.
+#include "printing/paper_line.h"
 #include "printing/report_writers.h"
 #include "printing/sections.h"
 #include "store/program_state.h"
@@ -8,9 +9,9 @@
 namespace tallyroll {
 namespace {
 
-constexpr std::string_view kTitle = " Student Home Contact Form";
+constexpr std::string_view kFormTitle = " Student Home Contact Form";
 constexpr int kBlockLines = 7;
-constexpr int kTextRule = 77;
+constexpr int kFormRule = 77;
 
 // One walk for paper and text: `Sheet` has Put, Tab and End.
 template <typename Sheet>
@@ -33,7 +34,7 @@ void PutBlock(Sheet&& sheet, const Student& student) {
   sheet.End(student.zip);
 }
 
-const Student& StudentAt(int i) {
+const Student& StudentOfForm(int i) {
   return Current().Students[static_cast<std::size_t>(i)];
 }
 
@@ -45,37 +46,37 @@ void PrintBlock(PrintTarget& target, const Student& student) {
 
 void WriteBlock(TextReport& text, const Student& student) {
   PutBlock(text, student);
-  text.Row(kTextRule, '_');
+  text.Row(kFormRule, '_');
   text.End();
 }
 
 }  // namespace
 
 void PrintContactForms(ReportPass& pass) {
-  PageHeader(pass, kTitle);
+  PageHeader(pass, kFormTitle);
   PrintSections(pass, {{.rows = Current().NumStudents,
-                        .print = [&](int row) { PrintBlock(pass.target, StudentAt(row)); },
+                        .print = [&](int row) { PrintBlock(pass.target, StudentOfForm(row)); },
                         .lines = [](int) { return kBlockLines; }}});
 }
 
 void WriteContactForms(TextReport& text) {
-  text.Line(kTitle);
+  text.Line(kFormTitle);
   text.End();
-  for (int i = 1; i <= Current().NumStudents; ++i) WriteBlock(text, StudentAt(i));
+  for (int i = 1; i <= Current().NumStudents; ++i) WriteBlock(text, StudentOfForm(i));
 }
 
 void PrintOneContactForm(ReportPass& pass) {
-  StudentHeader(pass, kTitle, true);
+  StudentHeader(pass, kFormTitle, true);
   PrintSections(
       pass,
-      {{.rows = 1, .print = [&](int) { PrintBlock(pass.target, StudentAt(CurrentStudent)); }}},
+      {{.rows = 1, .print = [&](int) { PrintBlock(pass.target, StudentOfForm(CurrentStudent)); }}},
       true);
 }
 
 void WriteOneContactForm(TextReport& text) {
-  text.Line(kTitle);
+  text.Line(kFormTitle);
   text.End();
-  WriteBlock(text, StudentAt(CurrentStudent));
+  WriteBlock(text, StudentOfForm(CurrentStudent));
 }
 
 }  // namespace tallyroll

@@ -46,7 +46,8 @@ frmmargins::frmmargins() : Portal("frmmargins") {
   Frame1.Caption = "Margins [inches]";
   for (Side& side : sides) {
     side.inches.MaxLength = kLongest;
-    side.hundredths.Enabled = false;
+    // The inches beside it say the same.
+    side.hundredths.Enabled = side.hundredths.Visible = false;
     side.more.Caption = "+";
     side.less.Caption = "-";
   }

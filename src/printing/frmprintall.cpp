@@ -6,15 +6,16 @@
 
 #include "base/text.h"
 #include "grades/marks.h"
+#include "grades/method_reset.h"
 #include "platform/surroundings.h"
+#include "printing/report_codes.h"
 #include "printing/report_parts.h"
+#include "printing/reports.h"
 #include "store/program_state.h"
 #include "store/student_names.h"
 
 namespace tallyroll {
 namespace {
-
-constexpr int kNoMethod = 5;
 
 // What a report is about. A class that has none of it is not offered the report.
 enum class Needs { kNothing, kGrades, kDays, kSummaries, kAverages };
@@ -29,7 +30,7 @@ bool Has(Needs needs) {
     case Needs::kSummaries:
       return c.NumSummaries > 0;
     case Needs::kAverages:
-      return c.NumInstruments > 0 && c.Method != kNoMethod;
+      return HasAverages();
     case Needs::kNothing:
       break;
   }
@@ -37,10 +38,6 @@ bool Has(Needs needs) {
 }
 
 using F = frmprintall;
-
-bool IsOneOf(int code, std::initializer_list<int> codes) {
-  return std::find(codes.begin(), codes.end(), code) != codes.end();
-}
 
 }  // namespace
 
@@ -216,10 +213,9 @@ void frmprintall::Load() {
   LoadReports();
   LoadShown();
   none.Value = sort1.Value = sort_None.Value = true;
-  onetypes.Fill();
-  rolltypes.Fill();
   LoadDates();
-  LoadTitles();
+  LoadGrades();
+  LoadSummaries();
   lstName.Checks = true;
   for (int i = 1; i <= Current().NumStudents; ++i)
     lstName.List.push_back(StudentListLine(Current().Students[static_cast<std::size_t>(i)]));
@@ -262,9 +258,18 @@ void frmprintall::LoadDates() {
   dateend.Value = *std::max_element(dates.begin(), dates.end());
 }
 
-void frmprintall::LoadTitles() {
+// Also after a preview, from which a grade may have been saved: it can be chosen, and what was
+// chosen stays.
+void frmprintall::LoadGrades() {
+  onetypes.Fill();
+  rolltypes.Fill();
+  lsttitle.List.clear();
+  for (int i = 1; i <= GradeCount(Current()); ++i)
+    lsttitle.List.emplace_back(Trim(GradeInReport(i).title));
+}
+
+void frmprintall::LoadSummaries() {
   const Class& c = Current();
-  for (int i = 1; i <= GradeCount(c); ++i) lsttitle.List.emplace_back(Trim(GradeInReport(i).title));
   for (int i = 1; i <= c.NumSummaries; ++i)
     lstatt.List.emplace_back(Trim(c.Summaries[static_cast<std::size_t>(i)].title));
 }

@@ -79,7 +79,8 @@ struct frmprintall : Portal {
   void LoadReports();
   void LoadShown();
   void LoadDates();
-  void LoadTitles();
+  void LoadGrades();
+  void LoadSummaries();
   void TickAll(bool on);
 
   // Which report is chosen on the tab in front; 0 when the class has nothing for any of them.

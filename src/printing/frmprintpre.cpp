@@ -4,10 +4,13 @@
 #include <algorithm>
 #include <optional>
 
+#include "averages/average_settings.h"
 #include "base/number_text.h"
+#include "grades/method_reset.h"
 #include "platform/class_window.h"
 #include "platform/surroundings.h"
 #include "printing/print_command.h"
+#include "printing/report_codes.h"
 #include "printing/reports.h"
 #include "printing/running.h"
 #include "store/program_state.h"
@@ -15,8 +18,6 @@
 namespace tallyroll {
 namespace {
 
-constexpr int kRollBookTitles = 4, kFullClass = 11, kAveragesOfOne = 12;
-constexpr int kNoMethod = 5;
 constexpr std::array kZoomSteps = {50, 75, 100, 125, 150};
 constexpr int kFullSize = 2;
 constexpr int kPreviewTopic = 440, kAveragesTopic = 540;
@@ -46,6 +47,12 @@ frmprintpre::frmprintpre() : Portal("frmprintpre") {
   pdf.Caption = "Save as P&DF";
   eleven.Caption = "H&elp";
   twelve.Caption = "E&xit";
+  zoom_in.Caption = zoom_in_unshifted.Caption = "Zoom In";
+  zoom_out.Caption = "Zoom Out";
+  page_back.Caption = "Back";
+  page_on.Caption = "Next";
+  size_label.Caption = "Size";
+  pagenum_label.Caption = "Page";
   Frame1.Caption = "Save";
   all.Caption = "All selected students";
   current.Caption = "Current student only";
@@ -55,7 +62,9 @@ frmprintpre::frmprintpre() : Portal("frmprintpre") {
 
 void frmprintpre::Declare(ControlTable& table) {
   DeclareToolbar(table);
+  table.Add("size_label", size_label);
   table.Add("size", size).Change([this] { showscreen(); });
+  table.Add("pagenum_label", pagenum_label);
   table.Add("pagenum", pagenum).Change([this] { ShowPage(pagenum.ListIndex); });
   table.Add("Pagen", Pagen);
   table.Add("Pagel", Pagel);
@@ -69,6 +78,16 @@ void frmprintpre::Declare(ControlTable& table) {
   table.Add("Command5", Command5).Click([this] { Command5_Click(); });
   table.Add("Command7", Command7).Click([this] { Command7_Click(); });
   table.Add("picture1", picture1);
+  DeclareKeys(table);
+}
+
+// Ctrl with plus, with or without the shift key, and minus; Page Up and Down.
+void frmprintpre::DeclareKeys(ControlTable& table) {
+  table.Add("zoom_in", zoom_in).Click([this] { StepZoom(1); });
+  table.Add("zoom_in_unshifted", zoom_in_unshifted).Click([this] { StepZoom(1); });
+  table.Add("zoom_out", zoom_out).Click([this] { StepZoom(-1); });
+  table.Add("page_back", page_back).Click([this] { ShowPage(pagenum.ListIndex - 1); });
+  table.Add("page_on", page_on).Click([this] { ShowPage(pagenum.ListIndex + 1); });
 }
 
 void frmprintpre::DeclareToolbar(ControlTable& table) {
@@ -87,7 +106,10 @@ void frmprintpre::DeclareToolbar(ControlTable& table) {
     const bool averages = Job.ReportCode == kFullClass || Job.ReportCode == kAveragesOfOne;
     Platform().ShowHelp(averages ? kAveragesTopic : kPreviewTopic);
   });
-  table.Add("twelve", twelve).Click([this] { QueryUnload(); });
+  table.Add("twelve", twelve).Click([this] {
+    if (!Busy()) ShowFrame1(false);
+    QueryUnload();
+  });
 }
 
 void frmprintpre::Load() {
@@ -158,10 +180,27 @@ void frmprintpre::ShowPage(int index) {
   showscreen();
 }
 
+bool frmprintpre::SheetChanged() const {
+  const auto sheet = Platform().MakePrintBox(PrintsLandscape());
+  return sheet &&
+         (sheet->Width != picture1.SheetWidth || sheet->Height != picture1.SheetHeight ||
+          sheet->ScaleWidth != printable_width_ || sheet->ScaleHeight != printable_height_);
+}
+
+// Another sheet has other pages: when the teacher chose one with the printer, the report is laid
+// out again, and printed whole where all pages were wanted.
 void frmprintpre::ShowPrint() {
   if (Busy()) return;
+  const int pages = Job.PageCount;
   std::optional<PrintRange> range = Platform().PrintDialog(AllPages());
   if (!range) return;
+  if (SheetChanged()) {
+    const Running running(running_);
+    Job.PrintFlag = kPrintRuns;
+    PrintMessage message;
+    if (!LayOutReport() || Job.PageCount == 0) return Unload();
+    if (range->from_page == 1 && range->to_page == pages) range->to_page = Job.PageCount;
+  }
   range->from_page = std::clamp<int>(range->from_page, 1, Job.PageCount);
   range->to_page = std::clamp<int>(range->to_page, range->from_page, Job.PageCount);
   {
@@ -185,12 +224,12 @@ void frmprintpre::eight_Click() {
   if (!Refuses("E-mail")) ClassWindow().ShowStatus(kPortalNotAvailable);
 }
 
-// A final grade stands in the report that no grade of the class keeps yet.
+// The report holds final grades, which no grade of the class may keep yet. Escape in the frame of
+// choices leaves that alone.
 void frmprintpre::QueryUnload() {
   if (Busy()) return;
-  if (Job.ReportCode == kFullClass && Current().Method != kNoMethod &&
-      Ask("Save Rounded Averaged Grades? (Recommended)", BoxButtons::kYesNo, BoxIcon::kQuestion,
-          "Save File") == BoxAnswer::kYes)
+  if (Frame1.Visible) return Command7_Click();
+  if (Job.ReportCode == kFullClass && WantsAveragesSaved())
     UnloadAndShow("frmgradesave");
   else
     Unload();

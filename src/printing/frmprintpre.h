@@ -22,7 +22,9 @@ struct frmprintpre : Portal {
   CommandButton seven, eight;            // print, e-mail
   CommandButton nine, ten, pdf;          // save as text, HTML, PDF
   CommandButton eleven, twelve;          // help, exit
+  Label size_label, pagenum_label;
   ComboBox size, pagenum;
+  CommandButton zoom_in, zoom_in_unshifted, zoom_out, page_back, page_on;  // keys alone
   Label Pagen, Pagel;  // the page on screen, and how many there are
   PictureBox picture1;
   Frame Frame1;  // which students a file holds
@@ -39,6 +41,7 @@ struct frmprintpre : Portal {
   enum class Save { kText, kHtml };
 
   void DeclareToolbar(ControlTable& table);
+  void DeclareKeys(ControlTable& table);
   void makesize();
   void makepage();
   void StepZoom(int by);
@@ -48,6 +51,8 @@ struct frmprintpre : Portal {
   // time.
   bool Busy() const { return running_ || drawing_; }
   bool Refuses(std::string_view function) const;
+  // Whether the sheet is another than the one that the pages were laid out for.
+  bool SheetChanged() const;
   void eight_Click();
   void AskAndSave(Save form);
   void ShowFrame1(bool on);

@@ -1,14 +1,16 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "printing/grade_columns.h"
 
+#include "printing/paper_line.h"
+
 namespace tallyroll {
 namespace {
 
-constexpr int kTextRule = 80;
+constexpr int kGradeHeadRule = 80;
 
 // One walk for paper and text: `place` goes to a column and puts a text there.
 template <typename Place>
-void PutHead(const GradeColumns& table, bool first_line, Place&& place) {
+void PutGradeHead(const GradeColumns& table, bool first_line, Place&& place) {
   for (const GradeColumn& column : table.columns) {
     const std::string_view head = first_line ? column.first : column.second;
     if (!head.empty()) place(column.head, column.text, head);
@@ -17,17 +19,14 @@ void PutHead(const GradeColumns& table, bool first_line, Place&& place) {
 }
 
 template <typename Place>
-void PutRow(const GradeColumns& table, int grade, Place&& place) {
+void PutGradeRow(const GradeColumns& table, int grade, Place&& place) {
   for (const GradeColumn& column : table.columns)
     place(column.row, column.text, column.value(grade));
   if (ShowsWeightOrUse()) place(table.use_row, table.use_text, WeightOrUse(grade));
 }
 
-auto OnPaper(PrintTarget& target, double unit) {
-  return [&target, unit](double units, int, std::string_view text) {
-    target.CurrentX = units * unit;
-    target.PrintOpen(text);
-  };
+auto OnPaper(PaperLine& line, double unit) {
+  return [&line, unit](double units, int, std::string_view text) { line.Put(units * unit, text); };
 }
 
 auto InText(TextReport& report) {
@@ -40,27 +39,29 @@ auto InText(TextReport& report) {
 }  // namespace
 
 void PrintGradeHead(PrintTarget& target, const GradeColumns& table, double unit) {
+  PaperLine line(target);
   for (const bool first_line : {true, false}) {
-    PutHead(table, first_line, OnPaper(target, unit));
-    target.Print();
+    PutGradeHead(table, first_line, OnPaper(line, unit));
+    line.End();
   }
 }
 
 void PrintGradeRow(PrintTarget& target, const GradeColumns& table, double unit, int grade) {
-  PutRow(table, grade, OnPaper(target, unit));
-  target.Print();
+  PaperLine line(target);
+  PutGradeRow(table, grade, OnPaper(line, unit));
+  line.End();
 }
 
 void WriteGradeHead(TextReport& text, const GradeColumns& table) {
   for (const bool first_line : {true, false}) {
-    PutHead(table, first_line, InText(text));
+    PutGradeHead(table, first_line, InText(text));
     text.End();
   }
-  text.Row(kTextRule, '_');
+  text.Row(kGradeHeadRule, '_');
 }
 
 void WriteGradeRow(TextReport& text, const GradeColumns& table, int grade) {
-  PutRow(table, grade, InText(text));
+  PutGradeRow(table, grade, InText(text));
   text.End();
 }
 

@@ -9,24 +9,23 @@
 namespace tallyroll {
 namespace {
 
-constexpr std::string_view kAverageTitle = " Summary of Grades/Average for ";
-constexpr std::string_view kPlainTitle = " Summary of Grades for ";
+constexpr std::string_view kSummaryAverageTitle = " Summary of Grades/Average for ";
+constexpr std::string_view kSummaryTitle = " Summary of Grades for ";
 
-std::string Title() {
-  return std::string(ReportWithAverages() ? kAverageTitle : kPlainTitle) + StudentLabel();
+std::string SummaryTitle() {
+  return std::string(ReportWithAverages() ? kSummaryAverageTitle : kSummaryTitle) + StudentLabel();
 }
 
 }  // namespace
 
 void PrintGradeSummary(ReportPass& pass) {
-  StudentHeader(pass, Title(), pass.first == 1);
-  PrintSections(pass, {TypeTotalsSection(pass.target, TypeTotalRows()), StudentTailSection(pass)},
-                true);
+  StudentHeader(pass, SummaryTitle(), pass.first == 1);
+  PrintSections(pass, {TypeTotalsSection(pass.target), StudentTailSection(pass)}, true);
 }
 
 void WriteGradeSummary(TextReport& text) {
   text.Row(80, '=');
-  text.Line(Title());
+  text.Line(SummaryTitle());
   text.End();
   WriteTypeTotals(text);
   WriteStudentTail(text);

@@ -5,17 +5,17 @@
 
 #include "base/code_page.h"
 #include "base/line_reader.h"
+#include "platform/class_window.h"
 #include "platform/surroundings.h"
 #include "printing/html_parts.h"
+#include "printing/report_codes.h"
 #include "printing/reports.h"
+#include "store/class_file.h"
 #include "store/program_state.h"
 #include "store/safe_file.h"
 
 namespace tallyroll {
 namespace {
-
-constexpr i16 kRollBook = 3;
-constexpr i16 kMonths = 8;
 
 // A blank at its width; the entity goes without its semicolon. One that the teacher typed behind a
 // blank would be taken for it.
@@ -87,7 +87,10 @@ int SaveReportHtml(const std::string& path) {
   const std::string html = ReportHtml();
   if (html.empty()) return 0;  // the teacher knows why
   const int error = ReplaceFile(path, html, OldTail::kDrop);
-  if (error != 0) ShowMessage("File Error");
+  if (error != 0)
+    ShowMessage("File Error");
+  else
+    ClassWindow().ShowStatus(SavedText(path));
   return error;
 }
 

@@ -4,6 +4,8 @@
 #include <algorithm>
 #include <iterator>
 
+#include "printing/paper_line.h"
+
 namespace tallyroll {
 namespace {
 
@@ -11,9 +13,7 @@ using Lines = std::vector<TableLine>;
 
 class Paper {
  public:
-  Paper(PrintTarget& target, int width)
-      : target_(target),
-        unit_(std::min(Job.CharUnit, static_cast<double>(Job.PageTextWidth) / width)) {}
+  Paper(PrintTarget& target, int width) : target_(target), unit_(ColumnUnit(width)) {}
 
   void Print(const Lines& lines) const {
     for (const TableLine& line : lines) {
@@ -21,11 +21,9 @@ class Paper {
         PrintRule();
         continue;
       }
-      for (const LineCell& cell : line.cells) {
-        target_.CurrentX = cell.column * unit_;
-        target_.PrintOpen(cell.text);
-      }
-      target_.Print();
+      PaperLine cells(target_);
+      for (const LineCell& cell : line.cells) cells.Put(cell.column * unit_, cell.text);
+      cells.End();
     }
   }
 
@@ -49,7 +47,11 @@ void Write(TextReport& text, const Lines& lines, int width) {
       continue;
     }
     for (const LineCell& cell : line.cells) {
-      text.Tab(std::max(cell.column, 1));
+      const int column = std::max(cell.column, 1);
+      if (cell.text.starts_with('|'))
+        text.Bar(column);
+      else
+        text.Tab(column);
       text.Put(cell.text);
     }
     text.End();
@@ -57,28 +59,23 @@ void Write(TextReport& text, const Lines& lines, int width) {
 }
 
 Section SectionOf(const Paper& paper, const LineBlock& block) {
-  const auto row_at = [&block](int row) -> const Lines& {
-    return block.rows[static_cast<std::size_t>(row) - 1];
-  };
-  const int count = static_cast<int>(block.rows.size());
-  return {.rows = count,
-          .print =
-              [&paper, &block, row_at, count](int row) {
-                paper.Print(row_at(row));
-                if (row == count) paper.Print(block.foot);
-              },
-          .head = [&paper, &block] { paper.Print(block.head); },
-          .head_lines = LinesOnPaper(block.head),
-          .lines =
-              [&block, row_at, count](int row) {
-                return LinesOnPaper(row_at(row)) + (row == count ? LinesOnPaper(block.foot) : 0);
-              }};
+  return {
+      .rows = block.count,
+      .print =
+          [&paper, &block](int row) {
+            paper.Print(block.row(row));
+            if (row == block.count) paper.Print(block.foot);
+          },
+      .head = [&paper, &block] { paper.Print(block.head); },
+      .head_lines = LinesOnPaper(block.head),
+      .lines =
+          [&block](int row) { return 1 + (row == block.count ? LinesOnPaper(block.foot) : 0); }};
 }
 
 }  // namespace
 
-void PrintTable(ReportPass& pass, const LineTable& table, bool restart,
-                std::vector<Section> behind) {
+void PrintLineTable(ReportPass& pass, const LineTable& table, bool restart,
+                    std::vector<Section> behind) {
   const Paper paper(pass.target, table.width);
   std::vector<Section> sections;
   sections.reserve(table.blocks.size() + behind.size());
@@ -89,10 +86,11 @@ void PrintTable(ReportPass& pass, const LineTable& table, bool restart,
 
 void WriteTable(TextReport& text, const LineTable& table) {
   for (const LineBlock& block : table.blocks) {
+    if (&block != &table.blocks.front()) text.End();
     Write(text, block.head, table.text_rule);
-    for (const Lines& row : block.rows) {
+    for (int row = 1; row <= block.count; ++row) {
       if (Cancelled()) return;
-      Write(text, row, table.text_rule);
+      Write(text, block.row(row), table.text_rule);
     }
     Write(text, block.foot, table.text_rule);
   }

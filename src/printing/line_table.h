@@ -4,6 +4,7 @@
 // as the print font's "N", or less where the page is too narrow for all of them.
 #pragma once
 
+#include <functional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -15,7 +16,7 @@
 namespace tallyroll {
 
 struct LineCell {
-  int column = 0;  // 0 is the left edge
+  int column = 0;  // 0 is the left edge; a line goes from left to right
   std::string text;
 };
 
@@ -27,8 +28,11 @@ struct TableLine {
 // Rows under their heads. A table that is too wide goes on in a further block with the same rows.
 struct LineBlock {
   std::vector<TableLine> head;
-  std::vector<std::vector<TableLine>> rows;  // each stays together on a page
-  std::vector<TableLine> foot;               // behind the last row
+  int count = 0;
+  // The row of a number from 1: a line of cells, which a rule may follow. Made when it is wanted,
+  // since a page shows few of them.
+  std::function<std::vector<TableLine>(int row)> row = nullptr;
+  std::vector<TableLine> foot = {};  // behind the last row
 };
 
 struct LineTable {
@@ -39,8 +43,8 @@ struct LineTable {
 
 // Prints the rows of the pass, blocks one behind the other, and what stands behind the table.
 // `restart` is that of PageFooter.
-void PrintTable(ReportPass& pass, const LineTable& table, bool restart = false,
-                std::vector<Section> behind = {});
+void PrintLineTable(ReportPass& pass, const LineTable& table, bool restart = false,
+                    std::vector<Section> behind = {});
 void WriteTable(TextReport& text, const LineTable& table);
 
 }  // namespace tallyroll

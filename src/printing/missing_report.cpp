@@ -1,11 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Codes 2 and 14: which grades are missing, for the class or for one student.
+#include <algorithm>
 #include <array>
 #include <string>
 #include <vector>
 
 #include "base/text.h"
 #include "grades/marks.h"
+#include "printing/paper_line.h"
 #include "printing/report_parts.h"
 #include "printing/report_writers.h"
 #include "printing/sections.h"
@@ -15,29 +17,33 @@ namespace tallyroll {
 namespace {
 
 constexpr std::string_view kClassTitle = " Missing Grades for Class Printout";
-constexpr std::string_view kStudentTitle = "Missing Grades For ";
+constexpr std::string_view kMissingTitle = "Missing Grades For ";
 constexpr std::string_view kNoneOnPaper = " is not missing any Grades";
 constexpr std::string_view kNoneInText = "  is not missing any Grades";
 constexpr int kLinesBesideList = 2;  // the name and the heads
 constexpr int kClassRule = 77, kStudentRule = 80;
+constexpr double kColumnsOfTable = 61;
 
-struct Column {
+struct MissingColumn {
   double units;  // CharUnits on paper
   int text;      // characters in a text file
   std::string_view head;
   std::string (*value)(int grade);
 };
 
-std::string Text(std::string_view text) {
+std::string MissingText(std::string_view text) {
   return std::string(Trim(text));
 }
 
-constexpr std::array kColumns = {
-    Column{4, 5, "TITLE", [](int i) { return Text(GradeInReport(i).title); }},
-    Column{35, 36, "CODE", [](int i) { return Text(GradeInReport(i).code); }},
-    Column{35 + 2 * 4, 43, "TYPE", [](int i) { return Text(GradeInReport(i).typecode); }},
-    Column{35 + 3 * 4, 50, " DATE", [](int i) { return Text(GradeInReport(i).testdate); }},
-    Column{35 + 5 * 4, 64, "GRADE", [](int i) { return Text(MarkOf(StudentInReport(), i)); }},
+constexpr std::array kMissingColumns = {
+    MissingColumn{4, 5, "TITLE", [](int i) { return MissingText(GradeInReport(i).title); }},
+    MissingColumn{35, 36, "CODE", [](int i) { return MissingText(GradeInReport(i).code); }},
+    MissingColumn{35 + 2 * 4, 43, "TYPE",
+                  [](int i) { return MissingText(GradeInReport(i).typecode); }},
+    MissingColumn{35 + 3 * 4, 50, " DATE",
+                  [](int i) { return MissingText(GradeInReport(i).testdate); }},
+    MissingColumn{35 + 5 * 4, 64, "GRADE",
+                  [](int i) { return MissingText(MarkOf(StudentInReport(), i)); }},
 };
 
 std::vector<int> MissingGrades(const Student& student) {
@@ -47,34 +53,20 @@ std::vector<int> MissingGrades(const Student& student) {
   return missing;
 }
 
-template <typename Move, typename Put>
-void PutHead(Move&& move, Put&& put) {
-  for (const Column& column : kColumns) {
-    move(column.units, column.text);
-    put(column.head);
-  }
-}
-
-template <typename Move, typename Put>
-void PutRow(int grade, Move&& move, Put&& put) {
-  for (const Column& column : kColumns) {
-    move(column.units, column.text);
-    put(column.value(grade));
-  }
-}
-
 void PrintHead(PrintTarget& target) {
-  PutHead([&](double units, int) { target.CurrentX = units * Job.CharUnit; },
-          [&](std::string_view text) { target.PrintOpen(text); });
-  target.Print();
+  const double unit = ColumnUnit(kColumnsOfTable);
+  PaperLine line(target);
+  for (const MissingColumn& column : kMissingColumns) line.Put(column.units * unit, column.head);
+  line.End();
   Rule(target);
 }
 
-void PrintRow(PrintTarget& target, int grade) {
-  PutRow(
-      grade, [&](double units, int) { target.CurrentX = units * Job.CharUnit; },
-      [&](std::string_view text) { target.PrintOpen(text); });
-  target.Print();
+void PrintMissingRow(PrintTarget& target, int grade) {
+  const double unit = ColumnUnit(kColumnsOfTable);
+  PaperLine line(target);
+  for (const MissingColumn& column : kMissingColumns)
+    line.Put(column.units * unit, column.value(grade));
+  line.End();
 }
 
 // ---- For the class ----
@@ -89,38 +81,64 @@ struct ClassRow {
   int lines = 1;       // what must fit for the row to stay on its page
 };
 
-std::vector<ClassRow> RowsOfClass() {
-  std::vector<ClassRow> rows;
-  for (int s = 1; s <= Current().NumStudents; ++s) {
+// The rows that a pass needs, whole students at a time.
+class ClassRows {
+ public:
+  // In the layout pass all of them; the last row of each student is kept for the pages.
+  explicit ClassRows(const ReportPass& pass) {
+    if (pass.recording) Job.WrapLast = {0};
+    int student = 1;
+    if (!pass.recording) {
+      const auto begin = std::lower_bound(Job.WrapLast.begin(), Job.WrapLast.end(), pass.first);
+      student = std::max(static_cast<int>(begin - Job.WrapLast.begin()), 1);
+    }
+    before_ = Job.WrapLast[static_cast<std::size_t>(student) - 1];
+    for (; student <= Current().NumStudents; ++student) {
+      if (!pass.recording && before_ + static_cast<int>(rows_.size()) >= pass.last) return;
+      AddStudent(student);
+      if (pass.recording) Job.WrapLast.push_back(static_cast<int>(rows_.size()));
+    }
+  }
+  const ClassRow& At(int row) const { return rows_[static_cast<std::size_t>(row - before_) - 1]; }
+  static int Count() { return Job.WrapLast.back(); }
+
+ private:
+  void AddStudent(int s) {
     const std::vector<int> missing = MissingGrades(Current().Students[static_cast<std::size_t>(s)]);
     const int whole = kLinesBesideList + static_cast<int>(missing.size());
     for (const int grade : missing) {
       const bool first = grade == missing.front();
-      rows.push_back(
+      rows_.push_back(
           {static_cast<i16>(s), grade, first, grade == missing.back(), first ? whole : 1});
     }
   }
-  return rows;
-}
+
+  std::vector<ClassRow> rows_;
+  int before_ = 0;  // rows of the students ahead of them
+};
 
 void PrintClassRow(PrintTarget& target, const ClassRow& row) {
   CurrentStudent = row.student;
   if (row.first) {
-    target.Print(StudentLabel());
+    PrintLine(target, StudentLabel());
     PrintHead(target);
   }
-  PrintRow(target, row.grade);
+  PrintMissingRow(target, row.grade);
   if (row.last) target.Print();
 }
 
 void WriteList(TextReport& text, const std::vector<int>& missing, int rule) {
-  const auto move = [&text](double, int column) { text.Tab(column); };
-  const auto put = [&text](std::string_view part) { text.Put(part); };
-  PutHead(move, put);
+  for (const MissingColumn& column : kMissingColumns) {
+    text.Tab(column.text);
+    text.Put(column.head);
+  }
   text.End();
   text.Row(rule, '_');
   for (const int grade : missing) {
-    PutRow(grade, move, put);
+    for (const MissingColumn& column : kMissingColumns) {
+      text.Tab(column.text);
+      text.Put(column.value(grade));
+    }
     text.End();
   }
 }
@@ -129,11 +147,10 @@ void WriteList(TextReport& text, const std::vector<int>& missing, int rule) {
 
 void PrintMissingForClass(ReportPass& pass) {
   PageHeader(pass, kClassTitle);
-  const std::vector<ClassRow> rows = RowsOfClass();
-  const auto row_at = [&rows](int row) { return rows[static_cast<std::size_t>(row) - 1]; };
-  PrintSections(pass, {{.rows = static_cast<int>(rows.size()),
-                        .print = [&](int row) { PrintClassRow(pass.target, row_at(row)); },
-                        .lines = [&](int row) { return row_at(row).lines; }}});
+  const ClassRows rows(pass);
+  PrintSections(pass, {{.rows = ClassRows::Count(),
+                        .print = [&](int row) { PrintClassRow(pass.target, rows.At(row)); },
+                        .lines = [&](int row) { return rows.At(row).lines; }}});
 }
 
 void WriteMissingForClass(TextReport& text) {
@@ -149,21 +166,22 @@ void WriteMissingForClass(TextReport& text) {
 }
 
 void PrintMissingForStudent(ReportPass& pass) {
-  StudentHeader(pass, std::string(kStudentTitle) + StudentLabel(), pass.first == 1);
+  StudentHeader(pass, std::string(kMissingTitle) + StudentLabel(), pass.first == 1);
   const std::vector<int> missing = MissingGrades(StudentInReport());
   PrintTarget& target = pass.target;
   if (missing.empty()) {
     PrintSections(
         pass,
         {{.rows = 1,
-          .print = [&](int) { target.Print(StudentLabel() + std::string(kNoneOnPaper)); }}},
+          .print = [&](int) { PrintLine(target, StudentLabel() + std::string(kNoneOnPaper)); }}},
         true);
     return;
   }
   PrintSections(
       pass,
       {{.rows = static_cast<int>(missing.size()),
-        .print = [&](int row) { PrintRow(target, missing[static_cast<std::size_t>(row) - 1]); },
+        .print =
+            [&](int row) { PrintMissingRow(target, missing[static_cast<std::size_t>(row) - 1]); },
         .head = [&] { PrintHead(target); },
         .head_lines = 1}},
       true);
@@ -171,7 +189,7 @@ void PrintMissingForStudent(ReportPass& pass) {
 
 void WriteMissingForStudent(TextReport& text) {
   text.Row(kStudentRule, '=');
-  text.Line(std::string(kStudentTitle) + StudentLabel());
+  text.Line(std::string(kMissingTitle) + StudentLabel());
   text.End();
   const std::vector<int> missing = MissingGrades(StudentInReport());
   if (missing.empty())

@@ -4,12 +4,11 @@
 #include "printing/print_command.h"
 #include "printing/print_run.h"
 #include "printing/report_choice.h"
+#include "printing/report_codes.h"
 #include "store/program_state.h"
 
 namespace tallyroll {
 namespace {
-
-constexpr i16 kMonths = 8;
 
 Shown ShownByMode() {
   return NameMode == 57 ? Shown::kName : NameMode == 73 ? Shown::kId : Shown::kNameAndId;

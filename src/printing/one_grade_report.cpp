@@ -6,6 +6,7 @@
 
 #include "base/text.h"
 #include "grades/marks.h"
+#include "printing/paper_line.h"
 #include "printing/report_choice.h"
 #include "printing/report_parts.h"
 #include "printing/report_writers.h"
@@ -16,7 +17,8 @@
 namespace tallyroll {
 namespace {
 
-constexpr int kTextRule = 80;
+constexpr int kOneGradeRule = 80;
+constexpr double kColumnsOfTable = 51;
 
 struct OneGradeRow {
   std::string label;  // name or ID
@@ -26,7 +28,7 @@ struct OneGradeRow {
   bool counts = true;  // marks that are left out stand behind all others, whatever the order
 };
 
-OneGradeRow RowOf(const Student& student) {
+OneGradeRow OneGradeRowOf(const Student& student) {
   const std::string_view mark = Trim(MarkOf(student, Choice.grade));
   const std::string id(Trim(student.id));
   return {Choice.shown == Shown::kId ? id : PlainName(student),
@@ -37,7 +39,7 @@ OneGradeRow RowOf(const Student& student) {
 std::vector<OneGradeRow> RowsInOrder() {
   std::vector<OneGradeRow> rows;
   for (int i = 1; i <= Current().NumStudents; ++i)
-    rows.push_back(RowOf(Current().Students[static_cast<std::size_t>(i)]));
+    rows.push_back(OneGradeRowOf(Current().Students[static_cast<std::size_t>(i)]));
   if (Choice.rank == Rank::kNone) return rows;
   const bool falling = Choice.rank == Rank::kHighToLow;
   std::stable_sort(rows.begin(), rows.end(), [falling](const OneGradeRow& a, const OneGradeRow& b) {
@@ -47,22 +49,18 @@ std::vector<OneGradeRow> RowsInOrder() {
   return rows;
 }
 
-std::string Title() {
+std::string OneGradeTitle() {
   return " " + std::string(Trim(GradeInReport(Choice.grade).title));
 }
 
-template <typename Move, typename Put>
-void PutRow(std::string_view label, std::string_view id, std::string_view mark, Move&& move,
-            Put&& put) {
+// One walk for paper and text: `place` puts a text at a column.
+template <typename Place>
+void PutOneGradeRow(std::string_view label, std::string_view id, std::string_view mark,
+                    Place&& place) {
   const bool both = Choice.shown == Shown::kNameAndId;
-  move(4.0, 5);
-  put(label);
-  if (both) {
-    move(30.0, 40);
-    put(id);
-  }
-  move(both ? 45.0 : 35.0, both ? 60 : 45);
-  put(mark);
+  place(4.0, 5, label);
+  if (both) place(30.0, 40, id);
+  place(both ? 45.0 : 35.0, both ? 60 : 45, mark);
 }
 
 std::string_view LabelHead() {
@@ -73,39 +71,43 @@ std::string_view LabelHead() {
 
 void PrintOneGrade(ReportPass& pass) {
   PrintTarget& target = pass.target;
-  PageHeader(pass, Title());
+  PageHeader(pass, OneGradeTitle());
   const std::vector<OneGradeRow> rows = RowsInOrder();
-  const auto move = [&](double units, int) { target.CurrentX = units * Job.CharUnit; };
-  const auto put = [&](std::string_view text) { target.PrintOpen(text); };
+  PaperLine line(target);
+  const auto place = [&line](double units, int, std::string_view text) {
+    line.Put(units * ColumnUnit(kColumnsOfTable), text);
+  };
   PrintSections(pass, {{.rows = static_cast<int>(rows.size()),
                         .print =
                             [&](int row) {
                               const OneGradeRow& r = rows[static_cast<std::size_t>(row) - 1];
-                              PutRow(r.label, r.id, r.mark, move, put);
-                              target.Print();
+                              PutOneGradeRow(r.label, r.id, r.mark, place);
+                              line.End();
                               Rule(target);
                             },
                         .head =
                             [&] {
-                              PutRow(LabelHead(), "ID", "GRADE", move, put);
-                              target.Print();
+                              PutOneGradeRow(LabelHead(), "ID", "GRADE", place);
+                              line.End();
                               Rule(target);
                             },
                         .head_lines = 1}});
 }
 
 void WriteOneGrade(TextReport& text) {
-  const auto move = [&](double, int column) { text.Tab(column); };
-  const auto put = [&](std::string_view part) { text.Put(part); };
-  text.Line(Title());
+  const auto place = [&text](double, int column, std::string_view part) {
+    text.Tab(column);
+    text.Put(part);
+  };
+  text.Line(OneGradeTitle());
   text.End();
-  PutRow(LabelHead(), "ID", "GRADE", move, put);
+  PutOneGradeRow(LabelHead(), "ID", "GRADE", place);
   text.End();
-  text.Row(kTextRule, '_');
+  text.Row(kOneGradeRule, '_');
   for (const OneGradeRow& row : RowsInOrder()) {
-    PutRow(row.label, row.id, row.mark, move, put);
+    PutOneGradeRow(row.label, row.id, row.mark, place);
     text.End();
-    text.Row(kTextRule, '_');
+    text.Row(kOneGradeRule, '_');
   }
 }
 

@@ -9,6 +9,7 @@
 #include "base/text.h"
 #include "platform/portal.h"
 #include "platform/surroundings.h"
+#include "printing/paper_line.h"
 #include "printing/report_choice.h"
 #include "store/program_state.h"
 
@@ -17,6 +18,7 @@ namespace {
 
 constexpr double kHeadSize = 12;
 constexpr double kTitleSize = 14;
+constexpr int kFootLines = 4;  // SetupPage keeps them free
 constexpr std::string_view kComments = "COMMENTS: ";
 
 // A proportional font of 12 points comes back a hair smaller, as the page breaks were found with
@@ -31,18 +33,25 @@ bool HeadsStudent() {
   return Job.PrintTab == 2 || Job.PrintTab == 4;
 }
 
+bool HeadsSchool() {
+  return HeadsStudent() && Choice.school;
+}
+
 void PrintCentred(PrintTarget& target, std::string_view text) {
-  target.CurrentX = (Job.PageTextWidth - target.TextWidth(text)) / 2;
-  target.Print(text);
+  target.CurrentX = std::max((Job.PageTextWidth - target.TextWidth(text)) / 2, 0.0);
+  PrintLine(target, text);
 }
 
 void PrintSchoolAndDate(PrintTarget& target, double body_size) {
   target.FontSize = kHeadSize;
-  if (HeadsStudent() && Choice.school) target.PrintOpen(Trim(Current().school));
   const std::string today = DateText(std::floor(Platform().Now()), Platform().ShortDateOrder());
-  target.CurrentX = Job.PageTextWidth - target.TextWidth(today);
+  const double date_place = Job.PageTextWidth - target.TextWidth(today);
+  const double line_below = target.CurrentY + target.TextHeight("A");
+  if (HeadsSchool()) target.PrintWithin(Trim(Current().school), date_place - target.TextWidth(" "));
+  target.CurrentX = date_place;
   target.FontSize = body_size;
-  target.Print(today);
+  PrintLine(target, today);
+  if (HeadsSchool()) target.CurrentY = std::max(target.CurrentY, line_below);
 }
 
 int CommentLines(const PrintTarget& target) {
@@ -57,7 +66,15 @@ int CommentLines(const PrintTarget& target) {
   return std::max(static_cast<int>(lines), 1);
 }
 
-// A word that is wider than a line stands on one of its own.
+// What is wider than a line is broken at the margin; `line` keeps the rest.
+void BreakWide(const PrintTarget& target, std::string& line, std::vector<std::string>& lines) {
+  while (line.size() > 1 && target.TextWidth(line) > Job.PageTextWidth) {
+    const std::size_t fits = std::max<std::size_t>(target.Fitting(line, Job.PageTextWidth), 1);
+    lines.push_back(line.substr(0, fits));
+    line = std::string(TrimLeft(std::string_view(line).substr(fits)));
+  }
+}
+
 void Wrap(const PrintTarget& target, std::string text, std::vector<std::string>& lines) {
   std::string line;
   for (std::string word = NextWord(text); !word.empty(); word = NextWord(text)) {
@@ -66,9 +83,11 @@ void Wrap(const PrintTarget& target, std::string text, std::vector<std::string>&
       line.clear();
     }
     line += word;
+    BreakWide(target, line, lines);
   }
   if (target.TextWidth(line + text) < Job.PageTextWidth) return lines.push_back(line + text);
   if (!line.empty()) lines.push_back(line);
+  BreakWide(target, text, lines);
   lines.push_back(text);
 }
 
@@ -90,7 +109,7 @@ void StudentHeader(ReportPass& pass, std::string_view title, bool student_begins
   if (!student_begins) return;
   PrintSchoolAndDate(target, body_size);
   target.FontSize = kHeadSize;
-  if (HeadsStudent() && Choice.teacher) target.Print(Trim(Current().teacher));
+  if (HeadsStudent() && Choice.teacher) PrintLine(target, Trim(Current().teacher));
   target.FontSize = kTitleSize;
   PrintCentred(target, title);
   PrintCentred(target, Job.PrintTitle);
@@ -106,8 +125,8 @@ void PageFooter(ReportPass& pass, int position, bool& restart) {
   const bool at_first_row = restart || Job.PageCount == 0;
   const int first = at_first_row ? 1 : Job.PageLast.back() + 1;
   ++Job.PageCount;
-  Job.PageFirst.push_back(static_cast<i16>(first));
-  Job.PageLast.push_back(static_cast<i16>(position - 1));
+  Job.PageFirst.push_back(first);
+  Job.PageLast.push_back(position - 1);
   Job.PageStudent.push_back(CurrentStudent);
   ++pass.page;
   restart = false;
@@ -140,15 +159,35 @@ bool WouldPassBottom(const PrintTarget& target, int lines) {
   return target.TextHeight("A") * lines + target.CurrentY > Job.PageBottom;
 }
 
-void FitBlock(ReportPass& pass) {
+// The foot stands behind an empty line in the lines that are kept free for it.
+bool WouldPushFootOff(const PrintTarget& target, int lines) {
+  return WouldPassBottom(target, lines + 2 - kFootLines);
+}
+
+void NoteTooTall() {
+  Job.Notice = "The report ends with " + StudentLabel() +
+               ": what is printed of one student takes more than a page. Choose a smaller font or "
+               "narrower margins.";
+}
+
+int LinesBelowHead(const PrintTarget& target) {
+  constexpr int kBodyLines = 3, kTitles = 2;
+  const double school = HeadsSchool() ? std::max(kHeadSize - target.FontSize, 0.0) : 0;
+  const double teacher = HeadsStudent() && Choice.teacher ? kHeadSize : 0;
+  const double head = kBodyLines + (school + teacher + kTitles * kTitleSize) / target.FontSize;
+  return static_cast<int>(Job.PageBottom / target.TextHeight("A") - head);
+}
+
+void FitBlock(ReportPass& pass, int position) {
   PrintTarget& target = pass.target;
   const double line = target.TextHeight("A");
   const double comment = std::nearbyint(line * CommentLines(target) / 4.0);
   Job.BlockLines = static_cast<int>(std::nearbyint(line * Job.BlockLines));
   const double block = Job.BlockLines + comment;
-  if (block + target.CurrentY > Job.PageBottom) BreakPage(pass, CurrentStudent);
+  if (block + target.CurrentY > Job.PageBottom) BreakPage(pass, position);
   if (block > Job.PageBottom) {
-    PageFooter(pass, CurrentStudent + 1);
+    PageFooter(pass, position + 1);
+    NoteTooTall();
     throw ReportEnds{};
   }
 }
@@ -167,7 +206,7 @@ std::vector<std::string> WrappedComment(const PrintTarget& target) {
 }
 
 void WrapComments(PrintTarget& target) {
-  for (const std::string& line : WrappedComment(target)) target.Print(line);
+  for (const std::string& line : WrappedComment(target)) PrintLine(target, line);
 }
 
 void Rule(PrintTarget& target) {

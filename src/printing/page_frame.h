@@ -29,11 +29,15 @@ void BreakPage(ReportPass& pass, int position);
 
 // Whether `lines` more lines of the current font would pass the page's bottom.
 bool WouldPassBottom(const PrintTarget& target, int lines);
+// Whether behind `lines` more lines and an empty one the foot would leave the sheet.
+bool WouldPushFootOff(const PrintTarget& target, int lines);
+// Tells that the report ends with CurrentStudent.
+void NoteTooTall();
 
-// Before a student's block in the layout pass: breaks the page when the block, judged by the lines
-// of the one before and the length of the comment, does not fit. A block taller than a page ends
-// the layout with that student.
-void FitBlock(ReportPass& pass);
+// Before a student's block, whose first row is `position`, in the layout pass: breaks the page when
+// the block, judged by the lines of the one before and the length of the comment, does not fit. A
+// block taller than a page ends the layout with that student, which the notice tells.
+void FitBlock(ReportPass& pass, int position);
 
 // "COMMENTS: " and the comment of CurrentStudent, wrapped at words into lines of the current font.
 std::vector<std::string> WrappedComment(const PrintTarget& target);
@@ -42,17 +46,11 @@ void WrapComments(PrintTarget& target);
 // A rule across the page at the pen.
 void Rule(PrintTarget& target);
 
-// Paper under the names that TextReport has, so that one walk over the data serves both.
-struct PaperSheet {
-  PrintTarget& target;
-
-  void Put(std::string_view text) { target.PrintOpen(text); }
-  void Tab(int column) { target.Tab(column); }
-  void End(std::string_view text = {}) { target.Print(text); }
-};
+// Lines of the current font from below the head of a report to the bottom of its first page.
+int LinesBelowHead(const PrintTarget& target);
 
 // Ends a pass: thrown by FitBlock for a block taller than a page, and by writers that cannot go on,
-// with what the teacher is told. RunReport catches it.
+// with what the teacher is told. What was laid out stays where there is no reason.
 struct ReportEnds {
   std::string reason = {};
 };

@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "printing/print_command.h"
 
+#include "platform/class_window.h"
 #include "platform/surroundings.h"
+#include "store/class_file.h"
 
 namespace tallyroll {
 namespace {
@@ -38,8 +40,8 @@ void PrintToPdf(const std::string& path, PrintMessage& message) {
   const auto file = Platform().OpenPdf(path, PrintsLandscape(), Job.PrintTitle);
   if (!file)
     ShowMessage("File Error");
-  else
-    Print(*file, AllPages(), message);
+  else if (Print(*file, AllPages(), message))
+    ClassWindow().ShowStatus(SavedText(path));
 }
 
 }  // namespace tallyroll

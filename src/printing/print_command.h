@@ -18,7 +18,8 @@ std::unique_ptr<PrintTarget> OpenPrinterOrTell();
 // Each copy is a job of its own: printed on both sides, the next one begins on a new sheet.
 void PrintOnPrinter(const PrintRange& range, PrintMessage& message);
 
-// Prints every page into a PDF file. One that cannot be written is told.
+// Prints every page into a PDF file; the status bar confirms it. One that cannot be written is
+// told.
 void PrintToPdf(const std::string& path, PrintMessage& message);
 
 }  // namespace tallyroll

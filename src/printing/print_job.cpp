@@ -28,8 +28,10 @@ PrintJob Job;
 ReportChoice Choice;
 
 void ClearPageTable() {
-  Job.PageFirst = Job.PageLast = Job.PageStudent = Job.WrapFirst = Job.WrapLast = {0};
+  Job.PageFirst = Job.PageLast = Job.WrapFirst = Job.WrapLast = {0};
+  Job.PageStudent = {0};
   Job.PageCount = 0;
+  Job.Notice.clear();
 }
 
 void ResetPrintJob() {

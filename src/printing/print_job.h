@@ -32,12 +32,13 @@ struct PrintJob {
 
   // The page table. A row is a student in the class reports and a line in the reports on one
   // student; rows past the last student are those of a table behind the students. Lists begin at 1.
-  i16 PageCount = 0;
-  std::vector<i16> PageFirst{0}, PageLast{0};
+  int PageCount = 0;
+  std::vector<int> PageFirst{0}, PageLast{0};
   std::vector<i16> PageStudent{0};  // CurrentStudent when the page ended
   // First and last grade of each wrapped row of the grade matrix, found once for the first student.
-  // Reports on one student keep the first and last row of each page of the student here.
-  std::vector<i16> WrapFirst{0}, WrapLast{0};
+  // The missing grades of the class keep the last row of each student in WrapLast.
+  std::vector<int> WrapFirst{0}, WrapLast{0};
+  std::string Notice;  // what the teacher is told about the pages that were laid out
 };
 
 extern PrintJob Job;

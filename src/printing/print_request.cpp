@@ -8,6 +8,7 @@
 #include "printing/frmprintall.h"
 #include "printing/print_command.h"
 #include "printing/report_choice.h"
+#include "printing/report_codes.h"
 #include "printing/reports.h"
 #include "printing/running.h"
 #include "store/program_state.h"
@@ -16,13 +17,6 @@
 
 namespace tallyroll {
 namespace {
-
-constexpr int kRollBook = 3, kRollBookTitles = 4, kMonths = 8, kOneSummary = 9, kOneGrade = 10;
-constexpr int kFullClass = 11, kAveragesOfOne = 12, kGradesOfOne = 13;
-
-bool IsOneOf(int code, std::initializer_list<int> codes) {
-  return std::find(codes.begin(), codes.end(), code) != codes.end();
-}
 
 bool IsOnStudents(int code) {
   const Report* report = FindReport(code);
@@ -121,8 +115,12 @@ bool frmprintall::LayOut(bool for_preview) {
   if (for_preview && (Job.PrintTab == 2 || Job.PrintTab == 4)) RefreshNames();
   FillChoice();
   // The averages of the whole class are looked at before they go to paper: the preview prints them.
-  if (Job.ReportCode == kFullClass && !for_preview) return false;
-  return CheckChoice() && LayOutReport() && Job.PageCount > 0;
+  if (Job.ReportCode == kFullClass && !for_preview)
+    return Refuse(
+        "The averages of the full class are printed from the preview. Choose Preview, then Print.");
+  if (!CheckChoice()) return false;
+  if (const std::string nothing = NothingToReport(); !nothing.empty()) ShowMessage(nothing);
+  return LayOutReport() && Job.PageCount > 0;
 }
 
 void frmprintall::prints_Click() {
@@ -140,7 +138,9 @@ void frmprintall::preview_Click() {
     PrintMessage message;
     laid_out = LayOut(true);
   }
-  if (laid_out) ShowPortal("frmprintpre");
+  if (!laid_out) return;
+  ShowPortal("frmprintpre");
+  LoadGrades();
 }
 
 }  // namespace tallyroll

@@ -4,14 +4,13 @@
 #include <algorithm>
 
 #include "printing/report_choice.h"
+#include "printing/report_codes.h"
 #include "printing/reports.h"
 #include "store/program_state.h"
 #include "store/settings.h"
 
 namespace tallyroll {
 namespace {
-
-constexpr i16 kMonths = 8;
 
 bool DrawPages(PrintTarget& printer, const PrintRange& range,
                const std::function<void(int page)>& progress) {
@@ -35,7 +34,9 @@ void PrepareTarget(PrintTarget& target) {
   SetupPage(target);
 }
 
-bool LayOutReport() {
+namespace {
+
+bool LayOutAll() {
   const Report* report = FindReport(Job.ReportCode);
   const auto box = Platform().MakePrintBox(PrintsLandscape());
   if (!report || !box) return false;
@@ -48,12 +49,19 @@ bool LayOutReport() {
   });
 }
 
+}  // namespace
+
+bool LayOutReport() {
+  const bool done = LayOutAll();
+  if (done && !Job.Notice.empty()) ShowMessage(Job.Notice);
+  return done;
+}
+
 bool PrintPages(PrintTarget& printer, const PrintRange& range,
                 const std::function<void(int page)>& progress) {
   const bool done = DrawPages(printer, range, progress);
   if (!done) printer.KillDoc();
-  printer.EndDoc();
-  return done;
+  return printer.EndDoc() && done;
 }
 
 }  // namespace tallyroll

@@ -9,7 +9,7 @@
 
 namespace tallyroll {
 
-// Whether the report of Job.ReportCode lies across the sheet.
+// Whether the report of Job.ReportCode lies across the sheet, however the printer is set up.
 bool PrintsLandscape();
 
 // Gives a target the print font and the margins, as the report of Job.ReportCode wants them.
@@ -17,6 +17,7 @@ void PrepareTarget(PrintTarget& target);
 
 // Lays the report of Job.ReportCode out, once for each of Choice.students where it is on one
 // student, and fills the page table. False when the teacher cancelled or was told why it cannot be.
+// That a report ends early is told.
 bool LayOutReport();
 
 // Draws pages of the page table once on a prepared printer or PDF, and ends the job. `progress` is

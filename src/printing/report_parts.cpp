@@ -7,6 +7,7 @@
 #include "averages/average_lines.h"
 #include "base/number_text.h"
 #include "base/text.h"
+#include "printing/paper_line.h"
 #include "printing/report_choice.h"
 #include "store/program_state.h"
 
@@ -43,18 +44,22 @@ int CellsInRow(double width, double left, double column) {
   return std::max(static_cast<int>((width - left) / column), 1);
 }
 
+// Room for one at least.
+double SummaryUnit() {
+  return std::max(ColumnUnit(kSummaryLeft + kSummaryColumn), 1.0);
+}
+
 int PeriodsInRow() {
-  return CellsInRow(Job.PageTextWidth / std::max(Job.CharUnit, 1.0), kSummaryLeft, kSummaryColumn);
+  return CellsInRow(Job.PageTextWidth / SummaryUnit(), kSummaryLeft, kSummaryColumn);
 }
 
 void PrintCells(PrintTarget& target, std::string_view label, int first, int last,
                 const std::function<std::string(int)>& cell) {
-  target.PrintOpen(label);
-  for (int i = first; i <= last; ++i) {
-    target.CurrentX = (kSummaryLeft + kSummaryColumn * (i - first)) * Job.CharUnit;
-    target.PrintOpen(cell(i));
-  }
-  target.Print();
+  PaperLine line(target);
+  line.Put(0, label);
+  for (int i = first; i <= last; ++i)
+    line.Put((kSummaryLeft + kSummaryColumn * (i - first)) * SummaryUnit(), cell(i));
+  line.End();
 }
 
 void WriteCells(TextReport& text, std::string_view label, int first, int last,
@@ -119,7 +124,9 @@ std::string WeightOrUse(int grade) {
 }
 
 double GradeBase(const PrintTarget& target) {
-  return (target.FontSize < 9 ? 37 : 33) * Job.CharUnit;
+  constexpr double kBasesOfTable = 1.9;
+  const double base = target.FontSize < 9 ? 37 : 33;
+  return base * ColumnUnit(kBasesOfTable * base);
 }
 
 std::string AttendanceCell(const Student& student, int summary) {
@@ -161,7 +168,8 @@ void WriteAttendanceRows(TextReport& text) {
 
 void PrintAverages(PrintTarget& target) {
   TypeTotals totals;
-  CheckAverage(PrintAverageAndCompute([&](std::string_view line) { target.Print(line); }, totals));
+  CheckAverage(
+      PrintAverageAndCompute([&](std::string_view line) { PrintLine(target, line); }, totals));
 }
 
 void WriteAverages(TextReport& text) {
@@ -175,7 +183,7 @@ void PrintParentSignature(PrintTarget& target) {
   Rule(target);
   target.Print();
   target.CurrentX = GradeBase(target) / 2;
-  target.Print("Parent's Signature");
+  PrintLine(target, "Parent's Signature");
 }
 
 std::vector<Section> SignatureSections(PrintTarget& target) {

@@ -6,12 +6,16 @@
 #include <functional>
 
 #include "base/run_time_error.h"
+#include "platform/class_window.h"
 #include "platform/surroundings.h"
 #include "printing/page_frame.h"
 #include "printing/report_choice.h"
 #include "printing/report_writers.h"
+#include "store/class_file.h"
 #include "store/program_state.h"
 #include "store/safe_file.h"
+#include "store/saved_text.h"
+#include "store/settings.h"
 
 namespace tallyroll {
 namespace {
@@ -54,6 +58,11 @@ bool Run(const std::function<void()>& writer) {
 
 }  // namespace
 
+bool HasAverages() {
+  constexpr i16 kNoMethod = 5;
+  return Current().NumInstruments > 0 && Current().Method != kNoMethod;
+}
+
 const Report* FindReport(int code) {
   const auto found = std::find_if(kReports.begin(), kReports.end(),
                                   [code](const Report& report) { return report.code == code; });
@@ -94,8 +103,11 @@ std::string ReportText() {
 int SaveReportText(const std::string& path) {
   const std::string text = ReportText();
   if (Job.PrintFlag == kPrintCancelled) return 0;
-  const int error = ReplaceFile(path, text, OldTail::kDrop);
-  if (error != 0) ShowMessage("File Error");
+  const int error = ReplaceFile(path, EncodedText(text, SavedTextEncoding), OldTail::kDrop);
+  if (error != 0)
+    ShowMessage("File Error");
+  else
+    ClassWindow().ShowStatus(SavedText(path));
   return error;
 }
 

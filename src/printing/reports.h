@@ -19,12 +19,19 @@ struct Report {
   bool one_student = false;
 };
 
+// Whether the class in work can have the reports with averages: grades, and a method to average
+// them.
+bool HasAverages();
+
 // Null for a code that no report has.
 const Report* FindReport(int code);
 
 // Lays Job.ReportCode out on a target, for CurrentStudent where it is on one student, and goes on
 // in the page table. False when it could not be done: the teacher was told, or cancelled.
 bool LayOutRows(PrintTarget& target);
+
+// Why the report of Job.ReportCode has nothing but its head; empty where it has something.
+std::string NothingToReport();
 
 // Draws a page of the table. False as above.
 bool RenderPage(PrintTarget& target, int page);

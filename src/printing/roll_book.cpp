@@ -52,10 +52,16 @@ std::vector<int> RollBookGrades() {
 }
 
 std::string DateWithoutYear(int grade) {
+  constexpr std::size_t kShort = 3;
+  const std::string date = WholeDateWithoutYear(grade);
+  const bool cut = date.size() < Trim(GradeInReport(grade).testdate).size();
+  return cut ? date : date.substr(0, kShort);
+}
+
+std::string WholeDateWithoutYear(int grade) {
   const std::string_view date = Trim(GradeInReport(grade).testdate);
   std::size_t end = date.rfind('/');
   if (end == std::string_view::npos) end = date.rfind('.');
-  if (end == std::string_view::npos) end = 3;
   return std::string(date.substr(0, end));
 }
 

@@ -14,5 +14,7 @@ std::vector<int> RollBookGrades();
 // A grade's date without its year: cut at the last "/", or at the last "." where there is none, or
 // after three characters where there is neither.
 std::string DateWithoutYear(int grade);
+// The same for a table whose cells are as wide as they must be: a date with neither stays whole.
+std::string WholeDateWithoutYear(int grade);
 
 }  // namespace tallyroll

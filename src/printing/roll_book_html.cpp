@@ -28,8 +28,8 @@ std::string LabelCell(std::string_view text) {
 }
 
 template <typename TextOfGrade>
-std::string RowOf(std::string_view opening, std::string_view label, const std::vector<int>& grades,
-                  TextOfGrade text) {
+std::string HtmlRollRowOf(std::string_view opening, std::string_view label,
+                          const std::vector<int>& grades, TextOfGrade text) {
   std::string row = std::string(opening) + LabelCell(label);
   for (const int grade : grades) row += GradeCell(text(grade));
   return row + "</TR>\r\n";
@@ -57,13 +57,13 @@ std::string RollBookHtml(std::string_view title) {
                      "<CAPTION> ROLLBOOK " + HtmlText(title) + " </CAPTION>\r\n" +
                      "<TR ALIGN = LEFT ><TH>" + std::string(StudentColumnHead()) +
                      "<TH><TH COLSPAN = 49><TH COLSPAN = 5> GRADES </TH></TR>\r\n";
-  html +=
-      RowOf(kHeadRow, "", grades, [](int i) { return std::string_view(GradeInReport(i).code); });
-  html += RowOf(kHeadRow, "", grades, [](int i) { return DateWithoutYear(i); });
+  html += HtmlRollRowOf(kHeadRow, "", grades,
+                        [](int i) { return std::string_view(GradeInReport(i).code); });
+  html += HtmlRollRowOf(kHeadRow, "", grades, [](int i) { return WholeDateWithoutYear(i); });
   for (int s = 1; s <= Current().NumStudents; ++s) {
     const Student& student = Current().Students[static_cast<std::size_t>(s)];
-    html += RowOf("<TR>", StudentColumnText(student), grades,
-                  [&](int i) { return MarkOf(student, i); });
+    html += HtmlRollRowOf("<TR>", StudentColumnText(student), grades,
+                          [&](int i) { return MarkOf(student, i); });
   }
   html += "</TABLE>\r\n";
   if (Choice.printcode) html += Details();

@@ -8,6 +8,7 @@
 #include "base/text.h"
 #include "grades/marks.h"
 #include "printing/line_table.h"
+#include "printing/paper_line.h"
 #include "printing/report_parts.h"
 #include "printing/report_writers.h"
 #include "printing/roll_book.h"
@@ -19,15 +20,15 @@ namespace tallyroll {
 namespace {
 
 constexpr i16 kFullTitles = 4;
-constexpr std::string_view kTitle = "ROLL BOOK";
-constexpr int kTitleColumn = 40;
-constexpr int kStep = 5;
-constexpr int kLastStart = 90;  // no column begins here or beyond
-constexpr int kWidth = kLastStart + kStep;
-constexpr int kTextRule = 89;
+constexpr std::string_view kRollBookTitle = "ROLL BOOK";
+constexpr int kRollTitleColumn = 40;
+constexpr int kRollStep = 5;
+constexpr int kLastRollStart = 90;  // no column begins here or beyond
+constexpr int kRollWidth = kLastRollStart + kRollStep;
+constexpr int kRollRule = 89;
 
 int GradesInBlock() {
-  return (kLastStart - BehindStudentColumn() + kStep - 1) / kStep;
+  return (kLastRollStart - BehindStudentColumn() + kRollStep - 1) / kRollStep;
 }
 
 // The grades that stand side by side in each block. A class without grades has one empty block.
@@ -48,18 +49,18 @@ void AddCells(TableLine& line, const std::vector<int>& grades, TextOfGrade text)
   int column = BehindStudentColumn();
   for (const int grade : grades) {
     line.cells.push_back({column, std::string(Trim(text(grade)))});
-    column += kStep;
+    column += kRollStep;
   }
 }
 
-TableLine RowOf(const Student& student, const std::vector<int>& grades) {
+TableLine RollRowOf(const Student& student, const std::vector<int>& grades) {
   TableLine line;
   line.cells.push_back({0, StudentColumnText(student)});
   AddCells(line, grades, [&](int grade) { return MarkOf(student, grade); });
   return line;
 }
 
-std::vector<TableLine> HeadOf(const std::vector<int>& grades) {
+std::vector<TableLine> RollHeadOf(const std::vector<int>& grades) {
   TableLine heads, codes, dates;
   heads.cells = {{0, std::string(StudentColumnHead())}, {BehindStudentColumn(), "GRADES"}};
   AddCells(codes, grades, [](int grade) { return std::string_view(GradeInReport(grade).code); });
@@ -72,17 +73,17 @@ std::vector<TableLine> HeadOf(const std::vector<int>& grades) {
 }
 
 LineBlock BlockOf(const std::vector<int>& grades) {
-  LineBlock block{HeadOf(grades), {}, {{{}, '='}}};
-  for (int i = 1; i <= Current().NumStudents; ++i) {
-    std::vector<TableLine> row = {RowOf(Current().Students[static_cast<std::size_t>(i)], grades)};
+  const auto row_at = [grades](int i) {
+    std::vector<TableLine> row = {
+        RollRowOf(Current().Students[static_cast<std::size_t>(i)], grades)};
     if (i > 1) row.push_back({{}, '_'});
-    block.rows.push_back(std::move(row));
-  }
-  return block;
+    return row;
+  };
+  return {RollHeadOf(grades), Current().NumStudents, row_at, {{{}, '='}}};
 }
 
-LineTable Table() {
-  LineTable table{kWidth, {}, kTextRule};
+LineTable RollTable() {
+  LineTable table{kRollWidth, {}, kRollRule};
   for (const std::vector<int>& grades : GradesByBlock()) table.blocks.push_back(BlockOf(grades));
   return table;
 }
@@ -114,15 +115,16 @@ std::string FullTitle(int grade) {
   return std::string(Trim(GradeInReport(grade).title));
 }
 
+// Half of the page is the students'.
 double LongestTitle(PrintTarget& target, const std::vector<int>& grades) {
   const TitleFont font(target);
   double longest = 0;
   for (const int grade : grades) longest = std::max(longest, target.TextWidth(FullTitle(grade)));
-  return longest;
+  return std::min(longest, Job.PageBottom / 2.0);
 }
 
 double Unit() {
-  return std::min(Job.CharUnit, static_cast<double>(Job.PageTextWidth) / kWidth);
+  return ColumnUnit(kRollWidth);
 }
 
 int TitleLines(PrintTarget& target, const std::vector<int>& grades) {
@@ -131,13 +133,14 @@ int TitleLines(PrintTarget& target, const std::vector<int>& grades) {
 
 // The titles stand on the line that heads the students.
 void PrintTitles(PrintTarget& target, const std::vector<int>& grades) {
-  target.CurrentY += TitleLines(target, grades) * target.TextHeight("A");
+  const double room = TitleLines(target, grades) * target.TextHeight("A");
+  target.CurrentY += room;
   {
     const TitleFont font(target);
     double x = BehindStudentColumn() * Unit();
     for (const int grade : grades) {
-      target.PrintUpwards(FullTitle(grade), x, target.CurrentY);
-      x += kStep * Unit();
+      target.PrintUpwards(target.Shortened(FullTitle(grade), room), x, target.CurrentY);
+      x += kRollStep * Unit();
     }
   }
   target.Print(StudentColumnHead());
@@ -147,11 +150,10 @@ void PrintTitles(PrintTarget& target, const std::vector<int>& grades) {
 // The first student has no rule below, as in the book without titles, unless he is the last.
 void PrintStudent(PrintTarget& target, int row, const std::vector<int>& grades) {
   const Student& student = Current().Students[static_cast<std::size_t>(row)];
-  for (const LineCell& cell : RowOf(student, grades).cells) {
-    target.CurrentX = cell.column * Unit();
-    target.PrintOpen(cell.text);
-  }
-  target.Print();
+  PaperLine line(target);
+  for (const LineCell& cell : RollRowOf(student, grades).cells)
+    line.Put(cell.column * Unit(), cell.text);
+  line.End();
   if (row > 1 || row == Current().NumStudents) Rule(target);
 }
 
@@ -171,18 +173,18 @@ void PrintFullTitles(ReportPass& pass) {
 }  // namespace
 
 void PrintRollBook(ReportPass& pass) {
-  PageHeader(pass, kTitle);
+  PageHeader(pass, kRollBookTitle);
   if (Job.ReportCode == kFullTitles)
     PrintFullTitles(pass);
   else
-    PrintTable(pass, Table());
+    PrintLineTable(pass, RollTable());
 }
 
 void WriteRollBook(TextReport& text) {
-  text.Tab(kTitleColumn);
-  text.Line(kTitle);
+  text.Tab(kRollTitleColumn);
+  text.Line(kRollBookTitle);
   text.End();
-  WriteTable(text, Table());
+  WriteTable(text, RollTable());
 }
 
 }  // namespace tallyroll

@@ -2,6 +2,7 @@
 // Codes 19 and 23: the students with room for notes, or with a grid of empty boxes.
 #include "base/number_text.h"
 #include "base/text.h"
+#include "printing/paper_line.h"
 #include "printing/report_writers.h"
 #include "printing/sections.h"
 #include "store/program_state.h"
@@ -14,7 +15,7 @@ constexpr i16 kGridForm = 23;
 constexpr std::string_view kGridTitle = " Class Roster Printout Grid Form";
 constexpr std::string_view kListTitle = "Class Roster";
 constexpr std::string_view kBox = "        |";
-constexpr int kTextWidth = 80;
+constexpr int kRosterWidth = 80;
 
 bool NamesAlone() {
   return NameMode == 57;
@@ -30,7 +31,7 @@ int NotesColumn() {
 
 // One walk for paper and text: `Sheet` has Put, Tab and End.
 template <typename Sheet>
-void PutHead(Sheet&& sheet) {
+void PutRosterHead(Sheet&& sheet) {
   sheet.Tab(6);
   sheet.Put(IdsAlone() ? "ID" : "NAME");
   if (!NamesAlone() && !IdsAlone()) {
@@ -62,25 +63,34 @@ void PutStudent(Sheet&& sheet, int row) {
   sheet.Tab(NotesColumn());
 }
 
-void PrintBoxes(PrintTarget& target) {
-  while (target.CurrentX + target.TextWidth(kBox) <= Job.PageTextWidth) target.PrintOpen(kBox);
+// As many as the page has room for.
+std::string Boxes(const PrintTarget& target) {
+  const double room = Job.PageTextWidth - TabStop(target, NotesColumn());
+  std::string boxes;
+  while (target.TextWidth(boxes) + target.TextWidth(kBox) <= room) boxes += kBox;
+  return boxes;
 }
 
-void PrintRow(PrintTarget& target, int row) {
-  PutStudent(PaperSheet{target}, row);
-  if (Job.ReportCode == kGridForm) PrintBoxes(target);
-  target.Print();
-  if (Job.ReportCode != kGridForm) Rule(target);
+PaperSheet RosterSheet(PrintTarget& target) {
+  return PaperSheet(target, PaperSheet::Columns::kStay);
+}
+
+void PrintRosterRow(PrintTarget& target, int row) {
+  PaperSheet sheet = RosterSheet(target);
+  PutStudent(sheet, row);
+  const bool grid = Job.ReportCode == kGridForm;
+  sheet.End(grid ? Boxes(target) : std::string());
+  if (!grid) Rule(target);
 }
 
 void WriteRow(TextReport& text, int row) {
   PutStudent(text, row);
   if (Job.ReportCode == kGridForm) {
-    while (text.Column() + static_cast<int>(kBox.size()) <= kTextWidth) text.Put(kBox);
+    while (text.Column() + static_cast<int>(kBox.size()) <= kRosterWidth) text.Put(kBox);
     return text.End();
   }
   text.End();
-  text.Row(kTextWidth, '_');
+  text.Row(kRosterWidth, '_');
 }
 
 }  // namespace
@@ -89,15 +99,15 @@ void WriteRow(TextReport& text, int row) {
 void PrintRoster(ReportPass& pass) {
   PageHeader(pass, kGridTitle);
   PrintSections(pass, {{.rows = Current().NumStudents,
-                        .print = [&](int row) { PrintRow(pass.target, row); },
-                        .head = [&] { PutHead(PaperSheet{pass.target}); },
+                        .print = [&](int row) { PrintRosterRow(pass.target, row); },
+                        .head = [&] { PutRosterHead(RosterSheet(pass.target)); },
                         .head_lines = 2}});
 }
 
 void WriteRoster(TextReport& text) {
   text.Line(Job.ReportCode == kGridForm ? kGridTitle : kListTitle);
   text.End();
-  PutHead(text);
+  PutRosterHead(text);
   for (int row = 1; row <= Current().NumStudents; ++row) WriteRow(text, row);
 }
 

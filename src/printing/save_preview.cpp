@@ -1,8 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // How the Print Preview Portal saves a report as text, HTML or PDF.
+#include <algorithm>
 #include <filesystem>
 #include <utility>
 
+#include "base/code_page.h"
+#include "base/text.h"
 #include "platform/surroundings.h"
 #include "printing/frmprintpre.h"
 #include "printing/html_report.h"
@@ -10,24 +13,43 @@
 #include "printing/report_choice.h"
 #include "printing/reports.h"
 #include "printing/running.h"
+#include "store/class_file.h"
+#include "store/program_state.h"
+#include "store/saved_text.h"
 
 namespace tallyroll {
 namespace {
 
 constexpr int kSavingTopic = 120;
 
-// The name to save under; empty when the dialog was cancelled. `folder` follows it.
-std::string AskForName(std::string_view filter, std::string_view extension, std::string& folder) {
+// A file is called as the printout is, or else as the class. What parts folders is no part of a
+// name.
+std::string NameOfPrintout(std::string_view extension) {
+  std::string name = Utf8FromCodePage(Trim(Job.PrintTitle));
+  if (name.empty()) name = std::filesystem::path(Current().FileName).stem().string();
+  std::replace(name.begin(), name.end(), '/', '-');
+  return name + "." + LowerCase(extension);
+}
+
+// The name to save under; empty when the dialog was cancelled, or an open class would be lost.
+// `folder` follows it.
+std::string AskForName(std::string_view filter, std::string_view extension, std::string& folder,
+                       std::string_view offered = {}) {
   FileDialogRequest request;
   request.save = true;
   request.folder = folder;
+  request.filename = offered;
   request.filter = filter;
   request.default_extension = extension;
   request.overwrite_prompt = true;
   request.help_context = kSavingTopic;
-  std::string path = Platform().FileDialog(request).value_or("");
-  if (!path.empty()) folder = std::filesystem::path(path).parent_path().string();
-  return path;
+  const bool text = extension == "TXT";
+  std::string path = (text ? AskForText(request) : Platform().FileDialog(request)).value_or("");
+  if (path.empty()) return path;
+  folder = std::filesystem::path(path).parent_path().string();
+  if (!IsOpenClassFile(path)) return path;
+  ShowMessage(" The file is already open ");
+  return {};
 }
 
 }  // namespace
@@ -43,7 +65,7 @@ void frmprintpre::AskAndSave(Save form) {
 
 void frmprintpre::ShowFrame1(bool on) {
   Frame1.Visible = on;
-  size.Visible = pagenum.Visible = !on;
+  size.Visible = pagenum.Visible = size_label.Visible = pagenum_label.Visible = !on;
   all.Value = true;
   current.Value = false;
   if (on) SetFocus(all);
@@ -82,7 +104,8 @@ void frmprintpre::SaveReport(Save form) {
 
 void frmprintpre::pdf_Click() {
   if (Busy()) return;
-  const std::string path = AskForName("PDF Files (*.pdf)|*.PDF", "PDF", folder_);
+  const std::string path =
+      AskForName("PDF Files (*.pdf)|*.PDF", "PDF", folder_, NameOfPrintout("PDF"));
   if (path.empty()) return;
   {
     const Running running(running_);

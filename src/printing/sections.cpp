@@ -47,16 +47,28 @@ class SectionWalk {
     return first;
   }
 
+  // An empty line parts a head from what precedes it on its page.
+  static int LinesWithGap(const Section& section, bool page_is_empty) {
+    return section.head_lines + (section.head_lines > 0 && !page_is_empty ? 1 : 0);
+  }
+
   int HeadLines(int row) const {
     if (headed_) return 0;
     int lines = 0;
-    for (std::size_t s = FirstHead(row); s <= section_; ++s) lines += sections_[s].head_lines;
+    for (std::size_t s = FirstHead(row); s <= section_; ++s)
+      lines += LinesWithGap(sections_[s], page_is_empty_ && lines == 0);
     return lines;
+  }
+
+  void PrintHead(const Section& section) {
+    if (LinesWithGap(section, page_is_empty_) > section.head_lines) pass_.target.Print();
+    section.head();
+    if (section.head_lines > 0) page_is_empty_ = false;
   }
 
   void PrintHeads(int row) {
     if (headed_) return;
-    for (std::size_t s = FirstHead(row); s <= section_; ++s) sections_[s].head();
+    for (std::size_t s = FirstHead(row); s <= section_; ++s) PrintHead(sections_[s]);
     headed_ = true;
   }
 
@@ -64,7 +76,8 @@ class SectionWalk {
   void PrintLastHeads(int last) {
     const std::size_t behind = last == 0 ? 0 : section_ + 1;
     for (std::size_t s = behind; s < sections_.size(); ++s)
-      if (!WouldPassBottom(pass_.target, sections_[s].head_lines)) sections_[s].head();
+      if (!WouldPassBottom(pass_.target, LinesWithGap(sections_[s], page_is_empty_)))
+        PrintHead(sections_[s]);
   }
 
   // A row that no page could hold does not leave a page empty for it.

@@ -13,7 +13,8 @@ namespace tallyroll {
 struct Section {
   int rows = 0;
   std::function<void(int row)> print;  // rows count from 1 within the section
-  std::function<void()> head = [] {};  // above the first row, and again on each new page
+  // Above the first row and again on each new page, parted from what precedes by an empty line.
+  std::function<void()> head = [] {};
   int head_lines = 0;
   std::function<int(int row)> lines = [](int) { return 1; };  // what a row takes
   // Decides in the layout pass instead of the lines whether a row begins a new page, and breaks it.

@@ -17,9 +17,9 @@
 namespace tallyroll {
 namespace {
 
-constexpr std::string_view kTitle = "Attendance for ";
-constexpr int kStep = 12;
-constexpr int kLastStart = 69;  // no date begins here or beyond
+constexpr std::string_view kStudentAttendanceTitle = "Attendance for ";
+constexpr int kDateStep = 12;
+constexpr int kLastDateStart = 69;  // no date begins here or beyond
 
 struct AttendanceCode {
   char code;
@@ -44,7 +44,7 @@ std::vector<std::string> DatesOf(const Student& student, char code) {
   return dates;
 }
 
-TableLine LineOf(std::string text) {
+TableLine PlainLine(std::string text) {
   return {{{0, std::move(text)}}};
 }
 
@@ -53,8 +53,8 @@ using Rows = std::vector<std::vector<TableLine>>;
 void AddDates(Rows& rows, const std::vector<std::string>& dates) {
   TableLine line;
   for (const std::string& date : dates) {
-    int column = line.cells.empty() ? 0 : line.cells.back().column + kStep;
-    if (column >= kLastStart) {
+    int column = line.cells.empty() ? 0 : line.cells.back().column + kDateStep;
+    if (column >= kLastDateStart) {
       rows.push_back({line});
       line = {};
       column = 0;
@@ -68,40 +68,44 @@ void AddCode(Rows& rows, const AttendanceCode& code) {
   const std::string heading(code.heading);
   const std::vector<std::string> dates = DatesOf(StudentInReport(), code.code);
   if (dates.empty()) {
-    rows.push_back({LineOf("No " + heading)});
+    rows.push_back({PlainLine("No " + heading)});
   } else {
-    rows.push_back({LineOf(heading)});
+    rows.push_back({PlainLine(heading)});
     AddDates(rows, dates);
     rows.push_back({TableLine()});
-    rows.push_back({LineOf("Number of " + heading + "is " +
-                           PlainNumberText(static_cast<std::int64_t>(dates.size())))});
+    rows.push_back({PlainLine("Number of " + heading + "is " +
+                              PlainNumberText(static_cast<std::int64_t>(dates.size())))});
   }
   rows.push_back({TableLine()});
   rows.push_back({TableLine()});
 }
 
-LineTable Table() {
-  LineBlock block;
-  for (const AttendanceCode& code : kCodes) AddCode(block.rows, code);
-  return {80, {block}};
+LineTable DatesTable() {
+  Rows rows;
+  for (const AttendanceCode& code : kCodes) AddCode(rows, code);
+  const int count = static_cast<int>(rows.size());
+  const auto row_at = [rows = std::move(rows)](int row) {
+    return rows[static_cast<std::size_t>(row) - 1];
+  };
+  return {80, {{{}, count, row_at}}};
 }
 
-std::string Title() {
-  return std::string(kTitle) + StudentLabel();
+std::string StudentAttendanceTitle() {
+  return std::string(kStudentAttendanceTitle) + StudentLabel();
 }
 
 }  // namespace
 
 void PrintStudentAttendance(ReportPass& pass) {
-  StudentHeader(pass, Title(), pass.first == 1);
-  PrintTable(pass, Table(), true, SignatureSections(pass.target));
+  StudentHeader(pass, StudentAttendanceTitle(), pass.first == 1);
+  PrintLineTable(pass, DatesTable(), true, SignatureSections(pass.target));
 }
 
 void WriteStudentAttendance(TextReport& text) {
   text.Row(80, '=');
-  text.Line(Title());
+  text.Line(StudentAttendanceTitle());
   text.End();
-  WriteTable(text, Table());
+  WriteTable(text, DatesTable());
   if (Choice.parentsig) WriteParentSignature(text);
   text.Line("   ");
 }

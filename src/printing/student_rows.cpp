@@ -7,6 +7,7 @@
 
 #include "base/text.h"
 #include "grades/marks.h"
+#include "printing/paper_line.h"
 #include "store/program_state.h"
 
 namespace tallyroll {
@@ -25,25 +26,26 @@ std::string MarkInReport(int grade) {
   return std::string(Trim(MarkOf(StudentInReport(), grade)));
 }
 
-// A grade stands in a row while a whole column is left at the pen.
-void FindRows() {
+}  // namespace
+
+void FindStudentRows() {
   const double column = kColumn * Job.CharUnit;
   const int count = GradeCount(Current());
   int in_row = 0;
   while (Job.PageTextWidth - column * in_row >= column) ++in_row;
   in_row = std::max(in_row, 1);
   for (int first = 1; first <= count; first += in_row) {
-    Job.WrapFirst.push_back(static_cast<i16>(first));
-    Job.WrapLast.push_back(static_cast<i16>(std::min(first + in_row - 1, count)));
+    Job.WrapFirst.push_back(first);
+    Job.WrapLast.push_back(std::min(first + in_row - 1, count));
   }
 }
 
-void PrintLine(PrintTarget& target, int first, int last, const TextOfGrade& text) {
-  for (int i = first; i <= last; ++i) {
-    target.CurrentX = kColumn * Job.CharUnit * (i - first);
-    target.PrintOpen(text(i));
-  }
-  target.Print();
+namespace {
+
+void PrintCells(PrintTarget& target, int first, int last, const TextOfGrade& text) {
+  PaperLine line(target);
+  for (int i = first; i <= last; ++i) line.Put(kColumn * Job.CharUnit * (i - first), text(i));
+  line.End();
 }
 
 void WriteLine(TextReport& text, int first, int last, const TextOfGrade& part) {
@@ -56,12 +58,11 @@ void WriteLine(TextReport& text, int first, int last, const TextOfGrade& part) {
 
 }  // namespace
 
-void PrintStudentRows(ReportPass& pass) {
-  if (pass.recording && Job.WrapFirst.size() == 1) FindRows();
-  pass.target.Print(StudentLabel());
-  for (std::size_t row = 1; row < Job.WrapFirst.size(); ++row) {
-    PrintLine(pass.target, Job.WrapFirst[row], Job.WrapLast[row], CodeOf);
-    PrintLine(pass.target, Job.WrapFirst[row], Job.WrapLast[row], MarkInReport);
+void PrintStudentRows(PrintTarget& target, int rows) {
+  PrintLine(target, StudentLabel());
+  for (std::size_t row = 1; row <= static_cast<std::size_t>(rows); ++row) {
+    PrintCells(target, Job.WrapFirst[row], Job.WrapLast[row], CodeOf);
+    PrintCells(target, Job.WrapFirst[row], Job.WrapLast[row], MarkInReport);
     Job.BlockLines += 2;
   }
 }

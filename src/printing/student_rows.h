@@ -7,9 +7,12 @@
 
 namespace tallyroll {
 
-// The name, then the rows. They are found once for a report, in its layout pass, and kept in the
-// page table for all students. Each row adds 2 to BlockLines.
-void PrintStudentRows(ReportPass& pass);
+// A grade stands in a row while a whole column is left. Found once for a report, in its layout
+// pass, and kept in WrapFirst and WrapLast for all students.
+void FindStudentRows();
+
+// The name, then as many of the rows. Each row adds 2 to BlockLines.
+void PrintStudentRows(PrintTarget& target, int rows);
 void WriteStudentRows(TextReport& text);
 
 }  // namespace tallyroll

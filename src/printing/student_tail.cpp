@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "base/text.h"
+#include "printing/paper_line.h"
 #include "printing/report_choice.h"
 #include "store/program_state.h"
 
@@ -51,7 +52,7 @@ Section StudentTailSection(ReportPass& pass) {
                   target.Print();
                   if (Choice.attendance1) PrintAttendanceRows(target);
                 }
-                if (!comment.empty()) target.Print(comment[static_cast<std::size_t>(row) - 1]);
+                if (!comment.empty()) PrintLine(target, comment[static_cast<std::size_t>(row) - 1]);
                 if (row == rows) PrintClose(target);
               },
           .lines =

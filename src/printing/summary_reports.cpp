@@ -47,7 +47,7 @@ std::array<std::string, kDetails> DetailsOf(const Student& student, int period) 
 
 // ---- 9: one period ----
 
-constexpr int kIdColumn = 40, kAbsenceColumn = 47, kLateColumn = 62;
+constexpr int kPeriodIdColumn = 40, kAbsenceColumn = 47, kLateColumn = 62;
 
 std::string PeriodTitle() {
   return UpperCase(TrimRight(PeriodAt(Choice.summary).title));
@@ -60,7 +60,7 @@ TableLine OnePeriodLine(const Student& student) {
   } else {
     line.cells.push_back({0, PlainName(student)});
     if (Choice.shown == Shown::kNameAndId)
-      line.cells.push_back({kIdColumn, std::string(Trim(student.id))});
+      line.cells.push_back({kPeriodIdColumn, std::string(Trim(student.id))});
   }
   line.cells.push_back({kAbsenceColumn, ItemText(student.SummaryAbsent, Choice.summary)});
   line.cells.push_back({kLateColumn, ItemText(student.SummaryLate, Choice.summary)});
@@ -70,13 +70,11 @@ TableLine OnePeriodLine(const Student& student) {
 LineTable OnePeriodTable() {
   TableLine head;
   head.cells.push_back({0, Choice.shown == Shown::kId ? "ID" : "NAME"});
-  if (Choice.shown == Shown::kNameAndId) head.cells.push_back({kIdColumn, "ID"});
+  if (Choice.shown == Shown::kNameAndId) head.cells.push_back({kPeriodIdColumn, "ID"});
   head.cells.push_back({kAbsenceColumn, "TOTAL ABSENCE"});
   head.cells.push_back({kLateColumn, "LATE"});
-  LineBlock block{{head, {{}, '_'}}, {}, {}};
-  for (int i = 1; i <= Current().NumStudents; ++i)
-    block.rows.push_back({OnePeriodLine(StudentAt(i))});
-  return {80, {block}};
+  const auto row_at = [](int i) { return std::vector<TableLine>{OnePeriodLine(StudentAt(i))}; };
+  return {80, {{{head, {{}, '_'}}, Current().NumStudents, row_at}}};
 }
 
 // ---- 16: all periods ----
@@ -84,7 +82,7 @@ LineTable OnePeriodTable() {
 constexpr std::string_view kAllTitle = "ATTENDANCE SUMMARY";
 constexpr int kAllTitleColumn = 40;
 constexpr int kAllWidth = 95;
-constexpr int kStep = 5;
+constexpr int kPeriodStep = 5;
 
 using Heads = std::array<std::string_view, 2 + kDetails>;
 constexpr Heads kTextHeads = {"Abs", "Late", "Cut", "Exc", "Spa", "Note"};
@@ -99,7 +97,7 @@ std::vector<std::vector<int>> PeriodsByBlock() {
   std::vector<std::vector<int>> blocks(1);
   int column = BehindStudentColumn();
   for (int i = 1; i <= Current().NumSummaries; ++i) {
-    const int width = kStep * ColumnsOf(i);
+    const int width = kPeriodStep * ColumnsOf(i);
     if (!blocks.back().empty() && column + width > kAllWidth) {
       blocks.emplace_back();
       column = BehindStudentColumn();
@@ -116,7 +114,7 @@ std::vector<TableLine> AllPeriodsHead(const std::vector<int>& periods, const Hea
   int column = BehindStudentColumn();
   for (const int period : periods) {
     codes.cells.push_back({column, std::string(Trim(PeriodAt(period).code))});
-    for (int k = 0; k < ColumnsOf(period); ++k, column += kStep)
+    for (int k = 0; k < ColumnsOf(period); ++k, column += kPeriodStep)
       columns.cells.push_back({column, std::string(heads[static_cast<std::size_t>(k)])});
   }
   return {codes, columns, {{}, '_'}};
@@ -128,7 +126,7 @@ TableLine AllPeriodsLine(const Student& student, const std::vector<int>& periods
   int column = BehindStudentColumn();
   const auto add = [&](std::string text) {
     line.cells.push_back({column, std::move(text)});
-    column += kStep;
+    column += kPeriodStep;
   };
   for (const int period : periods) {
     add(ItemText(student.SummaryAbsent, period));
@@ -142,10 +140,10 @@ TableLine AllPeriodsLine(const Student& student, const std::vector<int>& periods
 LineTable AllPeriodsTable(const Heads& heads) {
   LineTable table{kAllWidth, {}};
   for (const std::vector<int>& periods : PeriodsByBlock()) {
-    LineBlock block{AllPeriodsHead(periods, heads), {}, {}};
-    for (int i = 1; i <= Current().NumStudents; ++i)
-      block.rows.push_back({AllPeriodsLine(StudentAt(i), periods), {{}, '_'}});
-    table.blocks.push_back(std::move(block));
+    const auto row_at = [periods](int i) {
+      return std::vector<TableLine>{AllPeriodsLine(StudentAt(i), periods), {{}, '_'}};
+    };
+    table.blocks.push_back({AllPeriodsHead(periods, heads), Current().NumStudents, row_at});
   }
   table.blocks.back().foot = {{{}, '='}};
   return table;
@@ -153,7 +151,7 @@ LineTable AllPeriodsTable(const Heads& heads) {
 
 // ---- 24: one student ----
 
-constexpr std::string_view kStudentTitle = " Summary of Attendance for ";
+constexpr std::string_view kStudentSummaryTitle = " Summary of Attendance for ";
 constexpr int kStudentTitleColumn = 15;
 constexpr int kCodeColumn = 34;
 constexpr std::array kHeadColumns = {41, 50, 58, 63, 68, 73};
@@ -179,20 +177,19 @@ LineTable StudentTable() {
   heads.cells = {{0, "TITLE"}, {kCodeColumn, "CODE"}};
   for (std::size_t k = 0; k < kStudentHeads.size(); ++k)
     heads.cells.push_back({kHeadColumns[k], kStudentHeads[k]});
-  LineBlock block{{total, heads, {{}, '_'}}, {}, {}};
-  for (int i = 1; i <= Current().NumSummaries; ++i) block.rows.push_back({StudentPeriodLine(i)});
-  return {80, {block}};
+  const auto row_at = [](int i) { return std::vector<TableLine>{StudentPeriodLine(i)}; };
+  return {80, {{{total, heads, {{}, '_'}}, Current().NumSummaries, row_at}}};
 }
 
 std::string StudentTitle() {
-  return std::string(kStudentTitle) + StudentLabel();
+  return std::string(kStudentSummaryTitle) + StudentLabel();
 }
 
 }  // namespace
 
 void PrintOneSummary(ReportPass& pass) {
   PageHeader(pass, PeriodTitle());
-  PrintTable(pass, OnePeriodTable());
+  PrintLineTable(pass, OnePeriodTable());
 }
 
 void WriteOneSummary(TextReport& text) {
@@ -204,7 +201,7 @@ void WriteOneSummary(TextReport& text) {
 
 void PrintAllSummaries(ReportPass& pass) {
   PageHeader(pass, kAllTitle);
-  PrintTable(pass, AllPeriodsTable(kPaperHeads));
+  PrintLineTable(pass, AllPeriodsTable(kPaperHeads));
 }
 
 void WriteAllSummaries(TextReport& text) {
@@ -216,7 +213,7 @@ void WriteAllSummaries(TextReport& text) {
 
 void PrintAttendanceSummaryForStudent(ReportPass& pass) {
   StudentHeader(pass, StudentTitle(), pass.first == 1);
-  PrintTable(pass, StudentTable(), true, SignatureSections(pass.target));
+  PrintLineTable(pass, StudentTable(), true, SignatureSections(pass.target));
 }
 
 void WriteAttendanceSummaryForStudent(TextReport& text) {

@@ -9,8 +9,10 @@ namespace tallyroll {
 
 class TextReport {
  public:
-  // The first column is 1. What stands beyond that column already is parted by one blank.
+  // The first column is 1. What reaches that column already is parted from it by one blank.
   void Tab(int column);
+  // The same for a text that begins with a bar, which parts it from what it touches.
+  void Bar(int column);
   void Put(std::string_view text) { text_ += text; }
   void End(std::string_view text = {});
   // `text` alone on a line.

@@ -1,12 +1,17 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "printing/type_choice.h"
 
+#include <algorithm>
+
 #include "base/text.h"
 #include "grades/type_totals.h"
 
 namespace tallyroll {
 
 void TypeChoice::Fill() {
+  const std::vector<std::string> ticked = Ticked();
+  codes_.clear();
+  all.List.clear();
   TypeCodes codes;
   MakeTypeCodes(codes);
   TypeTexts labels;
@@ -22,6 +27,8 @@ void TypeChoice::Fill() {
   some.List = all.List;
   some.Checks = true;
   some.Checked.assign(some.List.size(), false);
+  for (std::size_t i = 0; i < codes_.size(); ++i)
+    some.Checked[i] = std::find(ticked.begin(), ticked.end(), codes_[i]) != ticked.end();
 }
 
 void TypeChoice::Show(bool all_types, bool some_types) {

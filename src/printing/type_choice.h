@@ -13,7 +13,7 @@ struct TypeChoice {
   ListBox all;   // what "all types" are
   ListBox some;  // those that are ticked count
 
-  // The types that have a grade.
+  // The types that have a grade. What was ticked stays ticked.
   void Fill();
   // Shows one of the lists, or none.
   void Show(bool all_types, bool some_types);

@@ -13,19 +13,19 @@ namespace tallyroll {
 struct TypeTotalRow {
   std::string name, code;
   int number = 0;       // grades counted
-  std::string total;    // the student's sum; empty in reports on the class
+  std::string total;    // the sum of their values
   std::string maximum;  // the sum of the maximum scores
   std::string average;  // percent, two decimals; empty where nothing was counted
   std::string weight;   // in percent
 };
 
 // In reports on one student the figures are his: by the average's own count in reports with
-// averages, otherwise of all his marks. In reports on the class they are those of all grades, and
-// with averages the percent is what all students earned of what they could have earned.
+// averages, otherwise of all his marks. In the report on the class with averages they are the
+// averages' counts of all students together, otherwise the grades that the class has.
 std::vector<TypeTotalRow> TypeTotalRows();
 
-// The table as a section of a report on paper.
-Section TypeTotalsSection(PrintTarget& target, std::vector<TypeTotalRow> rows);
+// The table as a section of a report on paper. Its figures are made for the page that shows them.
+Section TypeTotalsSection(PrintTarget& target);
 void WriteTypeTotals(TextReport& text);
 
 }  // namespace tallyroll

@@ -5,6 +5,7 @@
 
 #include "platform/surroundings.h"
 #include "printing/page_frame.h"
+#include "printing/paper_line.h"
 #include "printing/print_command.h"
 #include "printing/print_run.h"
 
@@ -12,11 +13,12 @@ namespace tallyroll {
 namespace {
 
 // In widths of the average character.
-constexpr int kGap = 3;                   // behind the names and the heads
-constexpr int kFirstStep = 5, kStep = 7;  // the least that the later columns lie apart
+constexpr int kGap = 3;                        // behind the names and the heads
+constexpr int kFirstStep = 5, kLaterStep = 7;  // the least that the later columns lie apart
+constexpr int kFewest = 10;                    // what a name keeps in any case
 
 // The left edges of the columns. The second stands behind the longest name, the others so that no
-// head runs into the next one.
+// head runs into the next one. Where they pass the page they come nearer to the names.
 std::vector<double> ColumnsOf(const PrintedTable& table, PrintTarget& target) {
   const double character = target.AverageCharWidth();
   double names = 0;
@@ -24,12 +26,16 @@ std::vector<double> ColumnsOf(const PrintedTable& table, PrintTarget& target) {
   target.FontBold = true;
   std::vector<double> columns = {(table.first_column - 1) * character};
   for (std::size_t i = 1; i < table.head.size(); ++i) {
-    const double step = (i == 1 ? 0 : i == 2 ? kFirstStep : kStep) * character;
+    const double step = (i == 1 ? 0 : i == 2 ? kFirstStep : kLaterStep) * character;
     const double head = target.TextWidth(table.head[i - 1]) + kGap * character;
     const double texts = i == 1 ? names + kGap * character : 0;
     columns.push_back(columns.back() + std::max({step, head, texts}));
   }
+  const double end = columns.back() + target.TextWidth(table.head.back());
   target.FontBold = false;
+  const double room = columns[1] - columns[0] - kFewest * character;
+  const double passed = std::clamp(end - Job.PageTextWidth, 0.0, std::max(room, 0.0));
+  for (std::size_t i = 1; i < columns.size(); ++i) columns[i] -= passed;
   return columns;
 }
 
@@ -55,11 +61,9 @@ class TablePages {
 
  private:
   void PrintRow(const std::vector<std::string>& cells) {
-    for (std::size_t i = 0; i < cells.size(); ++i) {
-      target_.CurrentX = columns_[i];
-      target_.PrintOpen(cells[i]);
-    }
-    target_.Print();
+    PaperLine line(target_);
+    for (std::size_t i = 0; i < cells.size(); ++i) line.Put(columns_[i], cells[i]);
+    line.End();
   }
 
   void PrintHead() {

@@ -4,6 +4,7 @@
 
 #include "base/text.h"
 #include "shell/form1.h"
+#include "store/derived_values.h"
 #include "store/student_names.h"
 
 namespace tallyroll {
@@ -92,10 +93,13 @@ void FillBlankRow(Grid& grid, int row) {
 
 }  // namespace
 
-// Each cell is set once, blank ones too: what did not change costs a comparison and no more.
+// A Portal may have renamed or reordered students, so they are sorted before they are shown: the
+// row that a key or a click reaches is the student who stands in it. Each cell is set once, blank
+// ones too: what did not change costs a comparison and no more.
 void Form1::showform3() {
   if (Tag.empty()) return;
-  const Class& c = Classes[static_cast<std::size_t>(Slot())];
+  Class& c = Classes[static_cast<std::size_t>(Slot())];
+  MakeDerivedValues(c);
   Grid1.SetRedraw(false);
   LayOut(Grid1, c);
   FillTitles(Grid1, c);

@@ -15,22 +15,21 @@
 namespace tallyroll {
 namespace {
 
-constexpr auto kRefill = AfterPortal::kRefill;
 constexpr auto kSaveIfDone = AfterPortal::kSaveIfDone;
 
 void EditStudent(Form1& window, int open_state) {
   CurrentStudent = 0;
-  window.RunPortal("frmEdit", open_state, kRefill);
+  window.RunPortal("frmEdit", open_state, AfterPortal::kRefill);
 }
 
 void EditByTitle(Form1& window) {
   CurrentStudent = 0;
-  window.RunPortal("frmEmarks", 0, kRefill);
+  window.RunPortal("frmEmarks", 0, AfterPortal::kRefill);
 }
 
 template <int kIndex>
 void OpenRecentEntry(Form1&) {
-  Frame->mnuFileList_Click(kIndex);
+  FrameForm->mnuFileList_Click(kIndex);
 }
 
 // Captions are what teachers know by heart, their blanks included.
@@ -39,15 +38,15 @@ constexpr ClassMenuRow kRows[] = {
     {.level = 0, .name = "mnuFile", .caption = "&File"},
     {.level = 1, .name = "mnuNew", .caption = "&New Class"},
     {.level = 2, .name = "mnuown", .caption = "Use the &Program", .status = "Start a class by entering its students",
-     .shortcut = "Ctrl+N", .action = [](Form1&) { Frame->NewClass(10); }},
+     .shortcut = "Ctrl+N", .action = [](Form1&) { FrameForm->NewClass(10); }},
     {.level = 2, .name = "mnuwizard", .caption = "Use the &Wizard", .status = "Start a class step by step",
-     .shortcut = "Ctrl+Shift+N", .action = [](Form1&) { Frame->NewClass(15); }},
+     .shortcut = "Ctrl+Shift+N", .action = [](Form1&) { FrameForm->NewClass(15); }},
     {.level = 1, .name = "mnuOpen", .caption = "&Open...", .status = "Open a class file",
-     .shortcut = "Ctrl+O", .action = [](Form1&) { Frame->mnuOpen_Click(); }},
+     .shortcut = "Ctrl+O", .action = [](Form1&) { FrameForm->mnuOpen_Click(); }},
     {.level = 1, .name = "mnuclose", .caption = "&Close ", .status = "Close this class",
-     .shortcut = "Ctrl+W", .action = [](Form1& window) { Frame->CloseWindow(window); }},
+     .shortcut = "Ctrl+W", .action = [](Form1& window) { FrameForm->CloseWindow(window); }},
     {.level = 1, .name = "mnucloseall", .caption = "Clos&e All ", .status = "Close every open class",
-     .action = [](Form1&) { Frame->mnucloseall_Click(); }},
+     .action = [](Form1&) { FrameForm->mnucloseall_Click(); }},
     {.level = 1},
     {.level = 1, .name = "mnusave", .caption = "&Save", .status = "Save this class",
      .shortcut = "Ctrl+S", .action = [](Form1& window) { window.mnusave_Click(); }},
@@ -97,40 +96,40 @@ constexpr ClassMenuRow kRows[] = {
     {.level = 1, .name = "mnuFileList4", .status = "Open this class again", .action = OpenRecentEntry<4>},
     {.level = 1},
     {.level = 1, .name = "mnuExit", .caption = "E&xit", .status = "Leave Tallyroll",
-     .shortcut = "Ctrl+Q", .action = [](Form1& window) { if (Frame->CloseWindow(window)) Frame->mnuExit_Click(); }},
+     .shortcut = "Ctrl+Q", .action = [](Form1& window) { if (FrameForm->CloseWindow(window)) FrameForm->mnuExit_Click(); }},
 
     {.level = 0, .name = "mnuStudents", .caption = "&Students"},
     {.level = 1, .name = "mnuAdd", .caption = "&Add Student", .status = "Enter new students",
-     .shortcut = "Ctrl+Ins", .portal = "frmAdd", .after = kRefill},
+     .shortcut = "Ctrl+Ins", .portal = "frmAdd"},
     {.level = 1, .name = "mmucomment", .caption = "Add &Comment", .status = "Write a comment on a student",
      .portal = "frmEdit", .action = [](Form1& window) { EditStudent(window, kEditAtComment); }},
     {.level = 1, .name = "mnuEdit", .caption = "&Edit ", .status = "Edit names, IDs and supplementary information",
      .shortcut = "Ctrl+E", .portal = "frmEdit", .action = [](Form1& window) { EditStudent(window, kEditStudent); }},
     {.level = 1, .name = "mnuDelete", .caption = "&Delete Student", .status = "Take a student off the roster",
-     .portal = "frmdelete", .after = kRefill},
+     .portal = "frmdelete"},
 
     {.level = 0, .name = "mnuRecords", .caption = "&Records"},
     {.level = 1, .name = "mnuEnterRecords", .caption = "&Enter Records"},
     {.level = 2, .name = "mnuMarks", .caption = "&Grades", .status = "Enter a new grade for every student",
-     .shortcut = "Ctrl+G", .portal = "frmMarks", .after = kRefill},
+     .shortcut = "Ctrl+G", .portal = "frmMarks"},
     {.level = 2, .name = "mnuAttend", .caption = "Daily &Attendance", .status = "Enter the attendance of a day",
      .shortcut = "Ctrl+D", .portal = "frmAtt", .open_state = 15},
     {.level = 2, .name = "mnuattsumm", .caption = "&Summary Attendance", .status = "Enter the attendance of a period",
      .portal = "frmAtsum", .action = [](Form1& window) { window.mnuattsumm_Click(); }},
     {.level = 2, .name = "mnuTransfergrade", .caption = "T&ransfer Grade Between Classes", .status = "Carry a grade to another class",
-     .portal = "frmdGrade", .open_state = 157, .after = kRefill},
+     .portal = "frmdGrade", .open_state = 157},
     {.level = 1, .name = "mnuEditRecords", .caption = "E&dit Records"},
     {.level = 2, .name = "mnuEMarks", .caption = "Edit &Grades"},
     {.level = 3, .name = "mnuEMarksT", .caption = "By &Title of Grade", .status = "Edit a grade of all students",
      .shortcut = "Ctrl+T", .portal = "frmEmarks", .action = EditByTitle},
     {.level = 3, .name = "mnuEMarksS", .caption = "By &Student Name", .status = "Edit all grades of a student",
-     .portal = "frmEMarksS", .after = kRefill},
+     .portal = "frmEMarksS"},
     {.level = 2, .name = "mnucat", .caption = "Edit &Modifiable Grade Type Categories", .status = "Name the grade types of this class",
      .portal = "frmcategories"},
     {.level = 2, .name = "mnuLetter", .caption = "Edit &Numerical Values for  Letter Grades", .status = "Set what each letter grade counts",
      .portal = "frmletter"},
     {.level = 2, .name = "mnureorder", .caption = "Edit &Order of Grade Title", .status = "Put the grades in another order",
-     .portal = "frmdGrade", .open_state = 269, .after = kRefill},
+     .portal = "frmdGrade", .open_state = 269},
     {.level = 2, .name = "mnuedaily", .caption = "Ed&it/Delete  Daily Attendance", .status = "Edit or delete daily attendance",
      .portal = "frmAtt", .open_state = 25},
     {.level = 2, .name = "mnuEAttend", .caption = "E&dit Summary Attendance ", .status = "Edit the attendance of a period",
@@ -138,7 +137,7 @@ constexpr ClassMenuRow kRows[] = {
     {.level = 2, .name = "mnuDAttend", .caption = "Delete Summary A&ttendance", .status = "Delete the attendance of a period",
      .portal = "frmDatt"},
     {.level = 2, .name = "mnuDMarks", .caption = "De&lete Grades", .status = "Delete a grade of all students",
-     .portal = "frmdGrade", .open_state = 121, .after = kRefill},
+     .portal = "frmdGrade", .open_state = 121},
 
     {.level = 0, .name = "mnuequalW", .caption = "&Make Up Grades"},
     {.level = 1, .name = "mnuindweights", .caption = "Assign Weights to &Individual Items ", .status = "Averages by a weight for each grade",

@@ -21,7 +21,7 @@ struct ClassMenuRow {
   std::string_view portal = {};
   int open_state = 0;  // the mode that the Portal is handed
   int method = -1;     // the method of averages that the Portal works with, -1 leaves it
-  AfterPortal after = AfterPortal::kNothing;
+  AfterPortal after = AfterPortal::kRefill;
   void (*action)(Form1& window) = nullptr;
 };
 

@@ -27,8 +27,8 @@ class Forwarder : public ClassWindowCalls {
   void ShowStatus(std::string_view text) override {
     if (Form1* window = Window())
       window->ShowStatus(text);
-    else if (Frame)
-      Frame->StatusText = text;
+    else if (FrameForm)
+      FrameForm->ShowStatus(text);
   }
 };
 

@@ -6,6 +6,8 @@
 #include <cerrno>
 #include <filesystem>
 
+#include "base/code_page.h"
+#include "base/number_text.h"
 #include "base/run_time_error.h"
 #include "platform/surroundings.h"
 #include "store/program_state.h"
@@ -31,12 +33,23 @@ void MakeDataFolder() {
   std::filesystem::create_directories(folder, failed);
   DataFolder = failed ? ProgramFolder : folder;
   if (!failed) CopySample();
+  RememberedFolder = DataFolder;
   Platform().WriteSetting(kApplicationKey, "startup", "DIRFILE", DataFolder);
 }
 
-int EnterDataFolder() {
-  if (chdir(DataFolder.c_str()) == 0) return 0;
-  return errno == ENOENT ? kErrorPathNotFound : RunTimeErrorOf(errno);
+bool EnterDataFolder() {
+  if (!RememberedFolder.empty() && chdir(RememberedFolder.c_str()) == 0) {
+    DataFolder = RememberedFolder;
+    return true;
+  }
+  if (chdir(DataFolder.c_str()) == 0) return true;
+  const int error = errno == ENOENT ? kErrorPathNotFound : RunTimeErrorOf(errno);
+  ShowMessage(
+      "File Error: " + PlainNumberText(error) +
+          ". The folder of the class files cannot be reached: " + PathForDisplay(DataFolder),
+      BoxIcon::kExclamation);
+  DataFolder = ProgramFolder;
+  return false;
 }
 
 }  // namespace tallyroll

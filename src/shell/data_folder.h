@@ -8,7 +8,8 @@ namespace tallyroll {
 // keeps the folder in the settings. Where none can be made the program's own folder serves.
 void MakeDataFolder();
 
-// Makes DataFolder the working directory. 0, or a run-time error number.
-int EnterDataFolder();
+// Makes DataFolder the working directory; one that was away and is back is DataFolder again. While
+// it cannot be reached, the program's folder takes its place. False after a box that told so.
+bool EnterDataFolder();
 
 }  // namespace tallyroll

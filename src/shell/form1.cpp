@@ -10,8 +10,8 @@
 #include "shell/class_menu.h"
 #include "shell/class_toolbar.h"
 #include "shell/shell_state.h"
+#include "store/class_file.h"
 #include "store/frmpassword.h"
-#include "store/sort_students.h"
 
 namespace tallyroll {
 namespace {
@@ -86,7 +86,6 @@ void Form1::Activate() {
   if (Tag.empty()) return;
   CurrentClass = static_cast<i16>(Slot());
   if (Current().NumStudents == 0) return;
-  SortStudents();
   CheckNameMode();
   showform3();
 }
@@ -105,13 +104,19 @@ void Form1::SetNameMode(i16 mode) {
 // What the teacher does in a window is meant for its class, whatever another window's closing has
 // left in work.
 void Form1::TakeUpClass() {
-  message_stands_ = false;
+  EndStatus();
   if (!Tag.empty()) CurrentClass = static_cast<i16>(Slot());
 }
 
 void Form1::ShowStatus(std::string_view text) {
   StatusText = text;
   message_stands_ = !text.empty();
+  ++MessagesTold;
+}
+
+void Form1::EndStatus() {
+  if (message_stands_) StatusText.clear();
+  message_stands_ = false;
 }
 
 void Form1::ShowHint(std::string_view text) {
@@ -142,8 +147,16 @@ void Form1::RunPortal(std::string_view portal, int open_state, AfterPortal after
   OpenState = 0;
   if (Tag.empty()) return;
   EnableClassMenus(true);
-  if (after == AfterPortal::kRefill) showform3();
-  if (after == AfterPortal::kSaveIfDone && done) mnusave_Click();
+  showform3();
+  if (after == AfterPortal::kSaveIfDone && done) SavePassword();
+}
+
+void Form1::SavePassword() {
+  mnusave_Click();
+  if (Current().Changed != kFalse) return;
+  ShowStatus(SavedText(Current().FileName) + (Current().PasswordSet == 1
+                                                  ? " It opens with its password from now on."
+                                                  : " It opens without a password from now on."));
 }
 
 void Form1::mnuAverage_Click() {
@@ -152,15 +165,15 @@ void Form1::mnuAverage_Click() {
 
 void Form1::mnuattsumm_Click() {
   if (Current().NumSummaries < kMostSummaries)
-    RunPortal("frmAtsum", 0, AfterPortal::kNothing);
+    RunPortal("frmAtsum", 0, AfterPortal::kRefill);
   else
     ShowMessage(kNoMoreSummaries);
 }
 
 void Form1::mnuStatistic_Click() {
   CurrentStudent = 0;
-  RunPortal("frmstatistic", 0, AfterPortal::kNothing);
-  if (CurrentStudent > 0) RunPortal("frmgraph", 0, AfterPortal::kNothing);
+  RunPortal("frmstatistic", 0, AfterPortal::kRefill);
+  if (CurrentStudent > 0) RunPortal("frmgraph", 0, AfterPortal::kRefill);
 }
 
 }  // namespace tallyroll

@@ -26,9 +26,8 @@ struct ToolButton {
 
 // What follows when a Portal that a menu opened is left.
 enum class AfterPortal {
-  kNothing,
   kRefill,      // the grid is filled again
-  kSaveIfDone,  // the class is saved at once, if the Portal answered that it did its work
+  kSaveIfDone,  // that, and the class is saved if the Portal answered that it did its work
 };
 
 // PendingAction: a new class of the students of ImportFile, or of the class in work.
@@ -48,6 +47,7 @@ class Form1 {
   Menu menu;  // the program's full menu
   std::vector<ToolButton> Toolbar2;
   std::string StatusText;  // StatusBar1
+  int MessagesTold = 0;    // by which a screen sees a new message of the same words
 
   // The window's own working fields.
   int SlotIndex = -1;
@@ -85,7 +85,9 @@ class Form1 {
   void ImportGrades(int by);      // kGradesById or kGradesByName
   void ExportStudents(int what);  // kExportNames and the like
   void mnuTransfer_Click();       // a new class with these students
-  void ShowStatus(std::string_view text);  // a message, which stands until the next command
+  // A message, which stands until the next command or until a screen has shown it long enough.
+  void ShowStatus(std::string_view text);
+  void EndStatus();
 
  private:
   int Slot() const;  // from Tag
@@ -110,6 +112,7 @@ class Form1 {
   // Saving.
   bool Save();  // WriteClassFile; false when it failed
   void AskToSave();
+  void SavePassword();
 
   bool message_stands_ = false;  // StatusText is a message, which no hint replaces
   std::string save_title_;       // title of the save dialog; empty is the dialog's own

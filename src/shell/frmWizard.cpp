@@ -15,6 +15,7 @@ namespace tallyroll {
 namespace {
 
 constexpr i16 kWelcome = 1;
+constexpr i16 kTermPage = 3;
 constexpr i16 kRequiredPage = 4;
 constexpr i16 kOptionalPages = 5;
 constexpr i16 kFinished = 8;
@@ -52,9 +53,13 @@ void frmWizard::Declare(ControlTable& table) {
   table.Add("room", room);
   table.Add("teacher", teacher);
   table.Add("timed", timed);
-  table.Add("tempstart", tempstart);
+  table.Add("tempstart", tempstart)
+      .Change([this] { FollowText(termstart, tempstart); })
+      .LostFocus([this] { LeaveDate(tempstart); });
   table.Add("termstart", termstart).Change([this] { termstart_Change(); });
-  table.Add("tempend", tempend);
+  table.Add("tempend", tempend).Change([this] { FollowText(termend, tempend); }).LostFocus([this] {
+    LeaveDate(tempend);
+  });
   table.Add("termend", termend).Change([this] { termend_Change(); });
   table.Add("Lname", Lname).Change([this] { Required_Change(); });
   table.Add("fname", fname).Change([this] { Required_Change(); });
@@ -75,7 +80,8 @@ void frmWizard::Declare(ControlTable& table) {
 }
 
 void frmWizard::Load() {
-  termstart.Value = termend.Value = std::floor(Platform().Now());
+  FollowText(termstart, tempstart);
+  FollowText(termend, tempend);
   ShowStep();
 }
 
@@ -119,6 +125,23 @@ void frmWizard::termend_Change() {
   tempend.Text = DateText(termend.Value, Platform().ShortDateOrder());
 }
 
+bool frmWizard::IsDateOrEmpty(const TextBox& box) {
+  return Blank(box) || DateFromText(Trim(box.Text), Platform().ShortDateOrder());
+}
+
+void frmWizard::RefuseDate(TextBox& box) {
+  refused_date_ = box.Text;
+  ShowMessage("\"" + Trimmed(box) + "\" is not a date. Type one such as " +
+              DateText(std::floor(Platform().Now()), Platform().ShortDateOrder()) +
+              ", choose it from the calendar, or leave the box empty.");
+  SetFocusAndSelect(box);
+}
+
+// Told once of a text: the way out must not be barred by a date.
+void frmWizard::LeaveDate(TextBox& box) {
+  if (!IsDateOrEmpty(box) && box.Text != refused_date_) RefuseDate(box);
+}
+
 void frmWizard::Required_Change() {
   LimitNames(Lname, fname);
   if (Step == kRequiredPage) cmdNext.Enabled = RequiredFilled();
@@ -131,6 +154,8 @@ void frmWizard::cmdBack_Click() {
 }
 
 void frmWizard::cmdNext_Click() {
+  for (TextBox* date : {&tempstart, &tempend})
+    if (Step == kTermPage && !IsDateOrEmpty(*date)) return RefuseDate(*date);
   ++Step;
   if (Step <= kFinished) return ShowStep();
   update();

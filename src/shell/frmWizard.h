@@ -40,6 +40,11 @@ struct frmWizard : Portal {
   void ShowStep();
   void FocusPage();
   bool RequiredFilled() const;
+  static bool IsDateOrEmpty(const TextBox& box);
+  void RefuseDate(TextBox& box);
+  void LeaveDate(TextBox& box);
+
+  std::string refused_date_;  // the text that was last told to be no date
 };
 
 }  // namespace tallyroll

@@ -28,12 +28,12 @@ constexpr std::array kFields = {
     Edits{&frmclassinfo::tempend, &Class::termend},
 };
 
-double DateOrToday(const std::string& text) {
-  const double today = std::floor(Platform().Now());
-  return DateFromText(text, Platform().ShortDateOrder()).value_or(today);
-}
-
 }  // namespace
+
+void FollowText(DTPicker& picker, const TextBox& text) {
+  const double today = std::floor(Platform().Now());
+  picker.Value = DateFromText(Trim(text.Text), Platform().ShortDateOrder()).value_or(today);
+}
 
 frmclassinfo::frmclassinfo() : Portal("frmclassinfo") {
   Caption = "Class Information Portal";
@@ -49,9 +49,15 @@ void frmclassinfo::Declare(ControlTable& table) {
   table.Add("room", room).Change(edited);
   table.Add("teacher", teacher).Change(edited);
   table.Add("timed", timed).Change(edited);
-  table.Add("tempstart", tempstart).Change(edited);
+  table.Add("tempstart", tempstart).Change([this] {
+    Dirty = true;
+    FollowText(termstart, tempstart);
+  });
   table.Add("termstart", termstart).Change([this] { termstart_Change(); });
-  table.Add("tempend", tempend).Change(edited);
+  table.Add("tempend", tempend).Change([this] {
+    Dirty = true;
+    FollowText(termend, tempend);
+  });
   table.Add("termend", termend).Change([this] { termend_Change(); });
   table.Add("exit", exit).Click([this] { exit_Click(); });
   table.Add("cancel", cancel).Click([this] { cancel_Click(); });
@@ -65,8 +71,8 @@ void frmclassinfo::Load() {
   }
   // A file may hold a longer one; it is shown whole.
   description.MaxLength = std::max(kLongestDescription, static_cast<int>(description.Text.size()));
-  termstart.Value = DateOrToday(tempstart.Text);
-  termend.Value = DateOrToday(tempend.Text);
+  FollowText(termstart, tempstart);
+  FollowText(termend, tempend);
   SetFocus(description);
 }
 

@@ -8,6 +8,9 @@ namespace tallyroll {
 
 inline constexpr int kLongestDescription = 30;
 
+// The calendar opens at the date of the text, and at today where that is none.
+void FollowText(DTPicker& picker, const TextBox& text);
+
 struct frmclassinfo : Portal {
   frmclassinfo();
   void Declare(ControlTable& table) override;

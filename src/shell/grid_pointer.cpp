@@ -44,7 +44,8 @@ void Form1::Grid1_DblClick() {
       return RunPortal("frmEdit", kEditStudent, AfterPortal::kRefill);
     case Spot::kGrade:
       CurrentStudent = ItemOrNone(col - 1, Current().NumInstruments);
-      return RunPortal("frmEmarks", 0, AfterPortal::kRefill);
+      return RunPortal("frmEmarks", ItemOrNone(row - 1, Current().NumStudents),
+                       AfterPortal::kRefill);
   }
 }
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "shell/mdi_form1.h"
 
+#include "platform/class_window.h"
 #include "shell/frame_menu.h"
 #include "shell/recent_list.h"
 #include "shell/shell_state.h"
@@ -21,7 +22,7 @@ MDIForm1::MDIForm1() : menu(MakeFrameMenu(*this)) {
 
 void MDIForm1::ClickMenu(std::string_view name) {
   if (!menu.Reachable(name)) return;
-  StatusText.clear();
+  EndStatus();
   if (const auto& click = menu[name].click) click();
 }
 
@@ -62,6 +63,11 @@ void MDIForm1::mnuFileList_Click(int index) {
   OpenRecent(RecentFiles[static_cast<std::size_t>(index)]);
 }
 
+void MDIForm1::ShowStatus(std::string_view text) {
+  StatusText = text;
+  ++MessagesTold;
+}
+
 void MDIForm1::RebuildRecentMenu() {
   ShowRecentFiles(menu, true);
   for (const auto& window : ClassWindows)
@@ -70,13 +76,17 @@ void MDIForm1::RebuildRecentMenu() {
 
 bool MDIForm1::CloseWindow(Form1& window) {
   const auto before = static_cast<std::size_t>(CurrentClass);
+  const int told_before = window.MessagesTold;
   if (!window.QueryUnload()) return false;
+  // What its last save told outlives the window.
+  const std::string told = window.MessagesTold != told_before ? window.StatusText : "";
   Screen->DestroyWindow(window);
   for (auto& each : ClassWindows)
     if (each.get() == &window) each.reset();
   // Whatever window closed, the class that was in work stays in work.
   if (ClassWindows[before]) CurrentClass = static_cast<i16>(before);
   RebuildRecentMenu();
+  if (!told.empty()) ClassWindow().ShowStatus(told);
   return true;
 }
 

@@ -19,6 +19,7 @@ class MDIForm1 {
   Menu menu;                // the frame's own small menu, shown while no class is open
   std::string CommandFile;  // the class file named on the command line
   std::string StatusText;   // shown while no class window is there to show it
+  int MessagesTold = 0;     // as in a class window
 
   // Starts the program: settings, data folder, sample, greeting or the file of the command line.
   void Load(std::string_view command_file);
@@ -37,6 +38,8 @@ class MDIForm1 {
   void mnuFileList_Click(int index);  // the entry's place in RecentFiles
   void mnucloseall_Click();           // each window is asked, also behind one that refuses
   void mnuExit_Click();
+  void ShowStatus(std::string_view text);
+  void EndStatus() { StatusText.clear(); }
   void RebuildRecentMenu();  // in the frame and in every class window
 
   // Asks a window's QueryUnload and destroys it when it may go. False when it stays.

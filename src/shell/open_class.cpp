@@ -3,13 +3,12 @@
 #include <filesystem>
 #include <utility>
 
-#include "attendance/calendar.h"
-#include "averages/engine/average_state.h"
 #include "base/code_page.h"
 #include "base/number_text.h"
 #include "base/text.h"
 #include "platform/portal.h"
 #include "shell/data_folder.h"
+#include "shell/opened_class.h"
 #include "shell/recent_list.h"
 #include "shell/shell_state.h"
 #include "store/class_defaults.h"
@@ -80,9 +79,7 @@ void Form1::OpenByDialog() {
     again = false;
     OpenState = kOpening;
     PendingAction = 0;
-    const int error = EnterDataFolder();
-    const auto path = error == 0 ? Platform().FileDialog(OpenRequest()) : std::nullopt;
-    if (error != 0) ReportReadError(error);
+    const auto path = EnterDataFolder() ? Platform().FileDialog(OpenRequest()) : std::nullopt;
     if (!path || path->empty()) {
       GiveSlotBack();
     } else if (readyopen(*path)) {
@@ -104,7 +101,7 @@ void Form1::OpenRecentPick() {
     ShowMessage("Tallyroll cannot open the file " + PathForDisplay(RecentPick));
     GiveSlotBack();
     RemoveRecentFile(RecentPick);
-    Frame->RebuildRecentMenu();
+    FrameForm->RebuildRecentMenu();
   } else if (readyopen(RecentPick)) {
     GiveSlotBack();
     ShowMessage(" The file is already open ");
@@ -116,30 +113,24 @@ void Form1::OpenRecentPick() {
 
 void Form1::ReadInto(std::string_view path) {
   CurrentClass = static_cast<i16>(SlotIndex);
-  ResetClassSlot();
-  Current().FileName = path;
-  SweepLeftovers(Current().FileName);
-  ReadClassFile();
-  if (!Current().FileName.empty()) return ShowOpenedClass();
+  SweepLeftovers(std::string(path));
+  if (OpenClass(path)) return ShowOpenedClass();
   GiveSlotBack();
   CurrentClass = static_cast<i16>(SlotIndex - 1);
 }
 
 void Form1::ShowOpenedClass() {
-  MakeTotalPossible();
   const std::string path = Current().FileName;
   Caption = UpperCase(FileNameOf(PathForDisplay(path)));
   Tag = PlainNumberText(SlotIndex);
   AddRecentFile(path);
-  Frame->RebuildRecentMenu();
+  FrameForm->RebuildRecentMenu();
   LastFolder = FolderOf(path);
   showform3();
   if (Current().NumStudents > 0) CheckNameMode();
   FileErrorCode = 0;
   if (Current().Magic == "ty8") return;
-  // The conversion left the range summaries to be counted, and menus and grid follow the older
-  // data.
-  RecalculateRangeSummaries();
+  // Menus and grid follow the older data.
   EnableClassMenus(true);
   Activate();
 }
@@ -147,7 +138,7 @@ void Form1::ShowOpenedClass() {
 void Form1::OpenNewClass(int pending_action) {
   if (!TakeSlot()) return;
   const i16 before = std::exchange(CurrentClass, static_cast<i16>(SlotIndex));
-  ResetClassSlot();
+  StartNewClass();
   ShowPortal(pending_action == 15 ? "frmWizard" : "frmAdd");
   PendingAction = 0;
   if (Current().FileName.empty() && Current().NumStudents == 0) {
@@ -156,13 +147,11 @@ void Form1::OpenNewClass(int pending_action) {
     return;
   }
   // Before the first save, so that the file holds the values too.
-  SetDefaultLetterValues();
-  SetDefaultRoundScale();
-  LoadLetterString();
+  SetNewClassDefaults();
   saveas();
   if (Current().FileName.empty()) Caption = "NewClass " + PlainNumberText(SlotIndex);
   Tag = PlainNumberText(SlotIndex);
-  Frame->RebuildRecentMenu();
+  FrameForm->RebuildRecentMenu();
   EnableClassMenus(true);
   showform3();
   CheckNameMode();

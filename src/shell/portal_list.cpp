@@ -3,6 +3,12 @@
 
 #include <array>
 
+#include "analysis/FRMROLLBOOK.h"
+#include "analysis/frmcompare.h"
+#include "analysis/frmgraph.h"
+#include "analysis/frmgrone.h"
+#include "analysis/frmsingles.h"
+#include "analysis/frmstatistic.h"
 #include "attendance/frmAtsum.h"
 #include "attendance/frmAtt.h"
 #include "attendance/frmDatt.h"
@@ -31,6 +37,7 @@
 #include "roster/frmEdit.h"
 #include "roster/frmdelete.h"
 #include "roster/frmstudents.h"
+#include "seating/frmseating.h"
 #include "shell/frmWizard.h"
 #include "shell/frmclassinfo.h"
 #include "shell/frmstartup.h"
@@ -70,9 +77,9 @@ constexpr std::array kPortals{
     PortalRow{"frmletter", Make<frmletter>},
     PortalRow{"frmEatt", Make<frmEatt>},
     PortalRow{"frmDatt", Make<frmDatt>},
-    PortalRow{"frmsingles"},
+    PortalRow{"frmsingles", Make<frmsingles>},
     PortalRow{"frminfo", Make<frminfo>},
-    PortalRow{"FRMROLLBOOK"},
+    PortalRow{"FRMROLLBOOK", Make<FRMROLLBOOK>},
     PortalRow{"frmMgrade", Make<frmMgrade>},
     PortalRow{"frmweights", Make<frmweights>},
     PortalRow{"frmdropgrade", Make<frmdropgrade>},
@@ -87,10 +94,12 @@ constexpr std::array kPortals{
     PortalRow{"frmprintpre", Make<frmprintpre>},
     PortalRow{"printmsg", Make<printmsg>},
     PortalRow{"frmmargins", Make<frmmargins>},
-    PortalRow{"frmstatistic"},
-    PortalRow{"frmgraph"},
+    PortalRow{"frmstatistic", Make<frmstatistic>},
+    PortalRow{"frmgraph", Make<frmgraph>},
+    PortalRow{"frmgrone", Make<frmgrone>},
+    PortalRow{"frmcompare", Make<frmcompare>},
     PortalRow{"frmwrdproc"},
-    PortalRow{"frmseating"},
+    PortalRow{"frmseating", Make<frmseating>},
     PortalRow{"frmtxt", Make<frmtxt>},
 };
 

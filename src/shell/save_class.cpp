@@ -12,7 +12,7 @@ namespace {
 
 constexpr int kClosingRefused = -20;
 constexpr int kSaveHelp = 120;
-constexpr std::string_view kNewClass = "NewClass ";
+constexpr std::string_view kNewClassCaption = "NewClass ";
 
 bool HasClassExtension(std::string_view path) {
   return path.size() >= 4 && UpperCase(path.substr(path.size() - 4)) == ".TYR";
@@ -63,6 +63,8 @@ bool Form1::Save() {
   WriteClassFile();
   if (FileErrorCode != 0) return false;
   Current().Changed = kFalse;
+  AddRecentFile(Current().FileName);
+  FrameForm->RebuildRecentMenu();
   return true;
 }
 
@@ -72,16 +74,14 @@ void Form1::saveas() {
     FileErrorCode = 0;
     if (!Current().FileName.empty())
       Caption = UpperCase(FileNameOf(PathForDisplay(Current().FileName)));
-    else if (!Caption.starts_with(kNewClass))
-      Caption = std::string(kNewClass) + Caption;
+    else if (!Caption.starts_with(kNewClassCaption))
+      Caption = std::string(kNewClassCaption) + Caption;
     return;
   }
   Current().FileName = path;
   Caption = UpperCase(FileNameOf(PathForDisplay(path)));
   LastFolder = FolderOf(path);
-  if (!Save()) return;
-  AddRecentFile(path);
-  Frame->RebuildRecentMenu();
+  Save();
 }
 
 // A class on its first save may replace a file of the same name; as "ty7" it makes the writer keep
@@ -113,17 +113,20 @@ void Form1::AskToSave() {
     Save();
 }
 
+// Only a save of this closing counts: an earlier one that failed has been told, and the class that
+// it failed for is Changed.
 bool Form1::QueryUnload() {
   if (Tag.empty()) return true;
   CurrentClass = static_cast<i16>(Slot());
   SaveCancelled = false;
   SaveAnswer = BoxAnswer::kOk;
+  FileErrorCode = 0;
   AskToSave();
   OpenState = 0;
   const bool not_saved = SaveAnswer == BoxAnswer::kYes && SaveCancelled;
   if (SaveAnswer == BoxAnswer::kCancel || FileErrorCode != 0 || not_saved) {
     Screen->BringToFront(*this);
-    if (FileErrorCode != 0) ShowStatus("The class stays open, because it could not be saved.");
+    if (FileErrorCode != 0) ShowStatus("The class stays open, because it was not saved.");
     OpenState = kClosingRefused;
     SaveAnswer = BoxAnswer::kCancel;
     FileErrorCode = 0;

@@ -20,14 +20,14 @@ FrameScreen no_screen;
 int PendingAction = 0;
 std::string RecentPick;
 std::array<std::unique_ptr<Form1>, kClassSlots> ClassWindows;
-std::unique_ptr<MDIForm1> Frame;
+std::unique_ptr<MDIForm1> FrameForm;
 FrameScreen* Screen = &no_screen;
 
 void ResetShell() {
   PendingAction = 0;
   RecentPick.clear();
   for (auto& window : ClassWindows) window.reset();
-  Frame.reset();
+  FrameForm.reset();
   Screen = &no_screen;
   SetClassWindow(&CurrentWindow());
   MakePortal = &MakePortalByName;

@@ -18,8 +18,8 @@ extern std::string RecentPick;  // the path chosen from mnuFileList or the comma
 // By slot, from open to close. Slot 0, which is never handed out, holds a window that loads and has
 // no slot yet.
 extern std::array<std::unique_ptr<Form1>, kClassSlots> ClassWindows;
-extern std::unique_ptr<MDIForm1> Frame;  // from start to end of the program
-extern FrameScreen* Screen;              // never null
+extern std::unique_ptr<MDIForm1> FrameForm;  // from start to end of the program
+extern FrameScreen* Screen;                  // never null
 
 // Puts everything above to its start value.
 void ResetShell();

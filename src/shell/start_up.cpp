@@ -7,7 +7,6 @@
 #include "shell/data_folder.h"
 #include "shell/mdi_form1.h"
 #include "shell/shell_state.h"
-#include "store/class_file.h"
 #include "store/settings.h"
 
 namespace tallyroll {
@@ -25,10 +24,7 @@ std::string WholePath(std::string_view path) {
 
 void GoToDataFolder() {
   if (DataFolder.empty()) MakeDataFolder();
-  const int error = EnterDataFolder();
-  if (error == 0) return;
-  ReportReadError(error);
-  EnterDataFolder();
+  if (!EnterDataFolder()) EnterDataFolder();
 }
 
 }  // namespace

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Text files from and to a class window, and a new class from the students of an old one.
+#include <optional>
 #include <utility>
 
 #include "base/code_page.h"
@@ -11,6 +12,7 @@
 #include "store/frmtxt.h"
 #include "store/grade_file.h"
 #include "store/safe_file.h"
+#include "store/saved_text.h"
 #include "store/settings.h"
 #include "store/sort_students.h"
 #include "store/text_export.h"
@@ -39,21 +41,22 @@ FileDialogRequest TextFileRequest() {
   return request;
 }
 
-// The chosen path; empty when the dialog was cancelled.
-std::string AskPath(const FileDialogRequest& request) {
-  std::string path = Platform().FileDialog(request).value_or("");
-  if (!path.empty()) LastFolder = FolderOf(path);
-  return path;
+// The chosen path, in whose folder the next dialog begins; empty when it was cancelled.
+std::string TakeFolder(const std::optional<std::string>& chosen) {
+  if (chosen && !chosen->empty()) LastFolder = FolderOf(*chosen);
+  return chosen.value_or("");
 }
 
 // Asks for ImportFile, and for its columns where a spreadsheet wrote it.
-bool PickImportFile(int request) {
+bool PickImportFile(int request, int where) {
   FileDialogRequest dialog = TextFileRequest();
   if (TextMode != kCsvText) dialog.filter = "DATA FILES (*.txt)|*.TXT";
   dialog.file_must_exist = true;
-  ImportFile = AskPath(dialog);
+  ImportFile = TakeFolder(Platform().FileDialog(dialog));
   if (ImportFile.empty()) return false;
-  return TextMode != kCsvText || AskTextFilePortal(kAskColumns + request) == kThisClass;
+  if (TextMode != kCsvText) return true;
+  const int into = where == kNewClass ? kIntoNewClass : 0;
+  return AskTextFilePortal(kAskColumns + into + request) == kThisClass;
 }
 
 std::string Counted(std::int64_t count, std::string_view what) {
@@ -76,23 +79,24 @@ Student ForNewClass(const Student& from) {
 void Form1::ImportText() {
   const int where = AskTextFilePortal(kImportNames);
   if (where != kThisClass && where != kNewClass) return;
-  if (!PickImportFile(kImportNames)) return;
+  if (!PickImportFile(kImportNames, where)) return;
   if (where == kThisClass)
     AppendStudents();
   else if (Tag.empty())
     StartFromText();
   else
-    Frame->NewClass(kStartFromText);
+    FrameForm->NewClass(kStartFromText);
 }
 
 void Form1::AppendStudents() {
   TextRoster roster;
   if (!ReadImportFile(roster)) return;
   const int before = Current().NumStudents;
-  AddImportedStudents(roster);
+  const ImportOutcome outcome = AddImportedStudents(roster);
   EnableClassMenus(true);
   showform3();
   ShowStatus(Counted(Current().NumStudents - before, "student") + " added.");
+  TellGivenIds(outcome);
 }
 
 void Form1::StartFromText() {
@@ -104,17 +108,18 @@ void Form1::StartFromText() {
     CurrentClass = before;
     return;
   }
-  ResetClassSlot();
+  StartNewClass();
   SetNewClassDefaults();
-  AddImportedStudents(roster);
+  const ImportOutcome outcome = AddImportedStudents(roster);
   ShowNewClass();
+  TellGivenIds(outcome);
 }
 
 void Form1::TransferRoster() {
   const i16 source = CurrentClass;
   if (!TakeSlot()) return;
   CurrentClass = static_cast<i16>(SlotIndex);
-  ResetClassSlot();
+  StartNewClass();
   SetNewClassDefaults();
   const Class& from = Classes[static_cast<std::size_t>(source)];
   Class& to = Current();
@@ -129,7 +134,6 @@ void Form1::TransferRoster() {
 }
 
 void Form1::SetNewClassDefaults() {
-  Current().Magic = "ty8";
   SetDefaultRoundScale();
   SetDefaultLetterValues();
   LoadLetterString();
@@ -138,7 +142,7 @@ void Form1::SetNewClassDefaults() {
 void Form1::ShowNewClass() {
   Caption = "NewClass " + PlainNumberText(SlotIndex);
   Tag = PlainNumberText(SlotIndex);
-  Frame->RebuildRecentMenu();
+  FrameForm->RebuildRecentMenu();
   EnableClassMenus(true);
   showform3();
   CheckNameMode();
@@ -148,11 +152,11 @@ void Form1::mnuTransfer_Click() {
   if (Ask("This option TRANSFERS Name, Id, Comments and Supplementary Information to a new file. "
           "Continue?",
           BoxButtons::kYesNo) == BoxAnswer::kYes)
-    Frame->NewClass(kTransferRoster);
+    FrameForm->NewClass(kTransferRoster);
 }
 
 void Form1::ImportGrades(int by) {
-  if (AskTextFilePortal(by) != kThisClass || !PickImportFile(by)) return;
+  if (AskTextFilePortal(by) != kThisClass || !PickImportFile(by, kThisClass)) return;
   RunPortal("frmMarks", by, AfterPortal::kRefill);
 }
 
@@ -161,10 +165,10 @@ void Form1::ExportStudents(int what) {
   FileDialogRequest dialog = TextFileRequest();
   dialog.save = true;
   dialog.overwrite_prompt = true;
-  const std::string path = AskPath(dialog);
+  const std::string path = TakeFolder(AskForText(dialog));
   if (path.empty()) return;
   if (readyopen(path)) return void(ShowMessage(" The file is already open "));
-  const TextOfClass text = ExportText(Current(), what, TextMode);
+  const TextOfClass text = ExportText(Current(), what, TextMode, SavedTextEncoding);
   if (const int error = ReplaceFile(path, text.bytes, OldTail::kDrop))
     return ShowTextFileError(error);
   std::string told = Counted(Current().NumStudents, "student") + " written to " +

@@ -52,9 +52,17 @@ class Checker {
   // A list of records: its length, and the texts of each record.
   template <typename Record>
   void CheckRecords(const char* name, const List<Record>& list, i16 count, const char* count_name) {
-    if (count < 0) Say(std::string(count_name) + " is " + PlainNumberText(count));
+    if (count < 0) {
+      std::string line(count_name);
+      line += " is ";
+      Say(line += PlainNumberText(count));
+    }
     CheckList(name, list, count, count_name);
-    for (std::size_t i = 1; i < list.size(); ++i) CheckTexts(Indexed(name, i) + ".", list[i]);
+    for (std::size_t i = 1; i < list.size(); ++i) {
+      std::string at = Indexed(name, i);
+      at += '.';
+      CheckTexts(at, list[i]);
+    }
   }
 
   void CheckStudentLists(std::size_t index) {

@@ -4,8 +4,10 @@
 #include <unistd.h>
 
 #include <cerrno>
+#include <vector>
 
 #include "base/code_page.h"
+#include "base/number_text.h"
 #include "base/run_time_error.h"
 #include "platform/surroundings.h"
 #include "store/safe_file.h"
@@ -22,6 +24,22 @@ bool IsMiddleOfCharacter(char byte) {
 bool IsKeptUnder(const std::string& path, const std::string& name) {
   const FileStamp stamp = StampOf(path);
   return stamp.size >= 0 && stamp == StampOf(name) && CanonicalPath(path) != CanonicalPath(name);
+}
+
+// Keeps the file under the first of these names that is free. `kept` is the name under which it
+// stands, `backup` tells whether this call made it.
+int KeepUnderFirstFree(const std::string& path, const std::vector<std::string>& endings,
+                       std::string& kept, Backup& backup) {
+  int error = EEXIST;
+  for (const std::string& ending : endings) {
+    kept = BackupName(path, ending);
+    if (IsKeptUnder(path, kept)) return 0;
+    error = KeepUnderName(path, kept);
+    if (error != EEXIST) break;
+  }
+  if (error == EEXIST) return kErrorPathAccess;
+  if (error == 0) backup = {true, kept};
+  return error == 0 ? 0 : RunTimeErrorOf(error);
 }
 
 }  // namespace
@@ -55,16 +73,15 @@ void TakeBack(const Backup& backup) {
 }
 
 int BackUpUnreadFile(const std::string& path, std::string& kept, Backup& backup) {
-  int error = EEXIST;
-  for (const char* ending : {"bad", "ba2", "ba3", "ba4", "ba5", "ba6", "ba7", "ba8", "ba9"}) {
-    kept = BackupName(path, ending);
-    if (IsKeptUnder(path, kept)) return 0;
-    error = KeepUnderName(path, kept);
-    if (error != EEXIST) break;
-  }
-  if (error == EEXIST) return kErrorPathAccess;
-  if (error == 0) backup = {true, kept};
-  return error == 0 ? 0 : RunTimeErrorOf(error);
+  return KeepUnderFirstFree(path, {"bad", "ba2", "ba3", "ba4", "ba5", "ba6", "ba7", "ba8", "ba9"},
+                            kept, backup);
+}
+
+int BackUpReplacedFile(const std::string& path, Backup& backup) {
+  std::vector<std::string> endings = {"old", "ol6", "ol7", "ol8", "ol9"};
+  for (int i = 10; i <= 99; ++i) endings.push_back("o" + PlainNumberText(i));
+  std::string kept;
+  return KeepUnderFirstFree(path, endings, kept, backup);
 }
 
 }  // namespace tallyroll

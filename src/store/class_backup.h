@@ -16,6 +16,10 @@ struct Backup {
   std::string made_now;  // that name, if this call made it: a save that fails takes it back
 };
 
+// Before a file is replaced by another class: keeps it as ".old", or where that is taken as ".ol6"
+// to ".ol9" or ".o10" to ".o99". Returns 0, or the error number for which it must not be replaced.
+int BackUpReplacedFile(const std::string& path, Backup& backup);
+
 // Before the first save of a converted class, or of a new class over some file: keeps the file as
 // ".old", or ".ol6" with a word to the teacher when there is an ".old" already. When that name is
 // taken too, nothing is kept and nothing said.

@@ -9,6 +9,9 @@
 #include "store/program_state.h"
 
 namespace tallyroll {
+
+std::array<i16, kClassSlots> SkippedScale{};
+
 namespace {
 
 constexpr std::array<int, 14> kDefaultLetterValues = {100, 99, 95, 90, 88, 85, 80,
@@ -80,8 +83,18 @@ void ResetRecord(Class& c) {
 void ResetClassSlot() {
   ResetRecord(Current());
   CurrentClassFile() = ClassFile();
+  SkippedScale[static_cast<std::size_t>(CurrentClass)] = 0;
   DefaultMethod = 5;
   FileErrorCode = 0;
+}
+
+void StartNewClass() {
+  Class& c = Current();
+  const i16 slot_state = c.SlotState;
+  c = Class();
+  c.SlotState = slot_state;
+  ResetClassSlot();
+  c.Magic = "ty8";
 }
 
 void SetDefaultLetterValues() {
@@ -103,7 +116,10 @@ void SetDefaultRoundScale(Class& c) {
 }
 
 void UseLetterValuesAsScale() {
-  Class& c = Current();
+  UseLetterValuesAsScale(Current());
+}
+
+void UseLetterValuesAsScale(Class& c) {
   c.RoundScale = 4;
   c.RoundTable[4][0] = 100;
   for (std::size_t k = 1; k < c.LetterValues.size(); ++k) {

@@ -2,9 +2,10 @@
 // Fresh values of a class, and what is rebuilt from a class after it was read.
 #pragma once
 
+#include <array>
 #include <string_view>
 
-#include "store/records.h"
+#include "store/program_state.h"
 
 namespace tallyroll {
 
@@ -14,11 +15,18 @@ inline constexpr std::string_view kNewSummaryCount = "0";
 inline constexpr std::string_view kNewSummaryDetail = " 0/ 0/ 0/ 0/";
 inline constexpr i16 kNotSeated = -1;
 
+// By slot: the rounding scale that was in force when Skip Rounding was pressed, and comes back when
+// rounding is enabled again. Set by frmroundoff, forgotten by ResetClassSlot.
+extern std::array<i16, kClassSlots> SkippedScale;
+
 // Empties Classes[CurrentClass] for a new or about-to-be-read class, and clears FileErrorCode.
 // ChartRows, ChartColumns, Categories, Magic and SlotState are not touched.
 void ResetClassSlot();
 // The same for any record, without the globals.
 void ResetRecord(Class& c);
+
+// Makes Classes[CurrentClass] a new class, which holds nothing of the one that had the slot before.
+void StartNewClass();
 
 // The 14 default letter values: [0] = 100 says that the defaults were loaded.
 void SetDefaultLetterValues();
@@ -28,6 +36,7 @@ void SetDefaultRoundScale();
 void SetDefaultRoundScale(Class& c);
 // Scale 4 from the letter values, put in force: how Skip Rounding finds its letters.
 void UseLetterValuesAsScale();
+void UseLetterValuesAsScale(Class& c);
 
 // Gives the last student, whose count was just raised, its lists: marks "NEW", summaries "0",
 // seats -1. DailyMarks is left alone: the text import relies on that.

@@ -2,6 +2,8 @@
 // The two routines that every open and every save go through.
 #include "store/class_file.h"
 
+#include <algorithm>
+
 #include "base/code_page.h"
 #include "base/number_text.h"
 #include "base/run_time_error.h"
@@ -11,11 +13,11 @@
 #include "platform/surroundings.h"
 #include "store/class_backup.h"
 #include "store/class_defaults.h"
+#include "store/derived_values.h"
 #include "store/mend_class.h"
 #include "store/older_class_file.h"
 #include "store/read_records.h"
 #include "store/side_files.h"
-#include "store/sort_students.h"
 
 namespace tallyroll {
 
@@ -84,7 +86,7 @@ void SettleReadClass(std::size_t file_size, bool older, int error) {
   const int settings = ParseAverageSettings();
   const int derived = PrepareWeights();
   if (settings != 0 || derived != 0) ReportReadError(settings != 0 ? settings : derived);
-  SortStudents();
+  MakeDerivedValues(c);
   Platform().SetWaitCursor(false);
 }
 
@@ -99,20 +101,15 @@ bool MaySaveOver(const std::string& path) {
              BoxButtons::kYesNo, BoxIcon::kExclamation) == BoxAnswer::kYes;
 }
 
-int KeepUnreadOriginal(const std::string& path, Backup& backup) {
+// `kept` is the name that it is kept under; empty when there was nothing to keep.
+int KeepUnreadOriginal(const std::string& path, std::string& kept, Backup& backup) {
   const ClassFile& known = CurrentClassFile();
   if (!known.read_failed || known.path != CanonicalPath(path) || !PathExists(path)) return 0;
-  std::string kept;
-  const int error = BackUpUnreadFile(path, kept, backup);
-  if (error == 0) {
-    ClassWindow().ShowStatus("The file that could not be read whole is kept as " +
-                             PathForDisplay(kept));
-  }
-  return error;
+  return BackUpUnreadFile(path, kept, backup);
 }
 
 // Bytes first, backup second, the file last: a failure at any point leaves the file as it was.
-int SaveCurrentClass() {
+int SaveCurrentClass(std::string& kept) {
   Class& c = Current();
   const FixedText<3> old_mark = c.Magic;
   const bool first_save = old_mark == "ty5" || old_mark == "ty7";
@@ -121,7 +118,7 @@ int SaveCurrentClass() {
   Backup unread;
   Backup backup;
   int error = SerializeClass(c, bytes);
-  if (error == 0) error = KeepUnreadOriginal(c.FileName, unread);
+  if (error == 0) error = KeepUnreadOriginal(c.FileName, kept, unread);
   if (error == 0 && first_save) backup = BackUpConvertedFile(c.FileName);
   // The file that became the backup leaves no tail behind: it would have been moved out of the way.
   const OldTail tail = backup.stands ? OldTail::kDrop : OldTail::kKeep;
@@ -131,6 +128,13 @@ int SaveCurrentClass() {
   TakeBack(unread);
   c.Magic = old_mark;
   return error;
+}
+
+void ConfirmSave(const std::string& path, const std::string& kept) {
+  std::string told = SavedText(path);
+  if (!kept.empty())
+    told += " The file that could not be read whole is kept as " + PathForDisplay(kept);
+  ClassWindow().ShowStatus(told);
 }
 
 void FailSave(int error) {
@@ -145,6 +149,16 @@ void ReportFailedSave(int error) {
 }
 
 }  // namespace
+
+std::string SavedText(std::string_view path) {
+  return PathForDisplay(path.substr(path.rfind('/') + 1)) + " saved.";
+}
+
+bool IsOpenClassFile(const std::string& path) {
+  return std::any_of(Classes.begin(), Classes.end(), [&](const Class& c) {
+    return !c.FileName.empty() && CanonicalPath(c.FileName) == CanonicalPath(path);
+  });
+}
 
 void ReportReadError(int error) {
   ShowMessage("File Error: " + PlainNumberText(error), BoxIcon::kExclamation);
@@ -179,7 +193,8 @@ void WriteClassFile() {
   FileErrorCode = 0;
   if (!MaySaveOver(c.FileName)) return FailSave(kErrorPermission);
   Platform().SetWaitCursor(true);
-  const int error = SaveCurrentClass();
+  std::string kept;
+  const int error = SaveCurrentClass(kept);
   Platform().SetWaitCursor(false);
   if (error != 0) {
     FailSave(error);
@@ -187,6 +202,7 @@ void WriteClassFile() {
   }
   CurrentClassFile() = {CanonicalPath(c.FileName), StampOf(c.FileName), false};
   ClassWindow().EnableEntry("mnusave", true);
+  ConfirmSave(c.FileName, kept);
 }
 
 }  // namespace tallyroll

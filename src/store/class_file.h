@@ -34,6 +34,12 @@ void ReadClassFile();
 // is left to the caller.
 void WriteClassFile();
 
+// "math.tyr saved.": what the status bar tells of a file that was written.
+std::string SavedText(std::string_view path);
+
+// Whether a class that is open in the program lies in this file.
+bool IsOpenClassFile(const std::string& path);
+
 // "File Error: " and the number; 76 also takes DataFolder back to the program's folder.
 void ReportReadError(int error);
 

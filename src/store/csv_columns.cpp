@@ -9,8 +9,8 @@
 namespace tallyroll {
 namespace {
 
-constexpr std::size_t kLongestMark = 5;
-constexpr std::size_t kRecordsLookedAt = 20;
+constexpr std::size_t kLongestMarkCell = 5;
+constexpr std::size_t kRecordsForColumns = 20;
 
 struct UseRow {
   CsvUse use;
@@ -105,11 +105,11 @@ bool Offered(CsvUse use, CsvPurpose purpose) {
 // No text in the first records is too long for a mark, and some are there.
 bool LooksLikeMarks(const CsvTable& table, std::size_t column, bool heading) {
   bool any = false;
-  const std::size_t end = std::min(table.records.size(), kRecordsLookedAt);
+  const std::size_t end = std::min(table.records.size(), kRecordsForColumns);
   for (std::size_t i = heading ? 1 : 0; i < end; ++i) {
     const auto& cells = table.records[i].cells;
     const std::string_view text = column < cells.size() ? Trim(cells[column].text) : "";
-    if (text.size() > kLongestMark) return false;
+    if (text.size() > kLongestMarkCell) return false;
     any = any || !text.empty();
   }
   return any;

@@ -36,6 +36,7 @@ enum class CsvPurpose { kStudents, kGradesById, kGradesByName };
 struct CsvColumns {
   std::vector<CsvUse> uses;  // one a column; those behind are not used
   bool heading = false;      // the first record holds titles
+  bool capitals = false;     // the letters of grades are taken as capitals
 
   int Find(CsvUse use) const;  // the first such column from 0; -1 is none
 };

@@ -9,7 +9,9 @@
 #include "platform/surroundings.h"
 #include "store/grade_file.h"
 #include "store/program_state.h"
+#include "store/roster_text.h"
 #include "store/safe_file.h"
+#include "store/taken_ids.h"
 #include "store/text_import.h"
 #include "store/text_layout.h"
 
@@ -60,6 +62,7 @@ frmtxt::frmtxt() : Portal("frmtxt") {
   csv.Caption = "Spreadsheet (CSV)";
   columnframe.Caption = "Columns of the File";
   heading.Caption = "First line holds &titles";
+  capitals.Caption = "&Letters in capitals";
   okbt.Caption = "&OK";
   cancelbt.Caption = "&Cancel";
 }
@@ -80,6 +83,7 @@ void frmtxt::Declare(ControlTable& table) {
   table.Add("example", example);
   table.Add("columnframe", columnframe);
   table.Add("heading", heading).Change([this] { heading_Change(); });
+  table.Add("capitals", capitals);
   table.Add("preview", preview).Change([this] { preview_Change(); });
   table.Add("field", field).Change([this] { field_Change(); });
   table.Add("counted", counted);
@@ -93,6 +97,8 @@ void frmtxt::Load() {
   append.Value = true;
   for (const Method& method : kMethods) (this->*method.option).Value = method.mode == TextMode;
   method_Click();
+  new_class_ = mode_ >= kAskColumns + kIntoNewClass;
+  if (new_class_) mode_ -= kIntoNewClass;
   if (mode_ >= kAskColumns) return LoadColumns();
   if (mode_ != kImportNames) return GoTo(kMethodPage);
   if (AnyClassOpen()) return GoTo(kWherePage);
@@ -121,6 +127,7 @@ void frmtxt::okbt_Click() {
     return SetFocus(preview);
   } else {
     ImportColumns = chosen_;
+    ImportColumns.capitals = capitals.Value;
   }
   OpenState = where_;
   Unload();
@@ -160,6 +167,7 @@ void frmtxt::LoadColumns() {
   chosen_ = GuessColumns(table_, Purpose());
   for (const CsvUse use : CsvUsesFor(Purpose())) field.List.emplace_back(CsvUseCaption(use));
   heading.Value = chosen_.heading;
+  capitals.Visible = Purpose() != CsvPurpose::kStudents;
   preview.FixedCols = preview.Col = preview.LeftCol = 0;
   ShowColumns();
   GoTo(kColumnsPage);
@@ -185,10 +193,41 @@ void frmtxt::ShowColumns() {
       if (row == 1 && chosen_.heading) preview.SetStyle(row, col, CellStyle::kShaded);
     }
   }
+  ShowCounts();
   preview.SetRedraw(true);
-  const std::size_t students = table_.records.size() - (chosen_.heading ? 1 : 0);
-  counted.Caption = "Students: " + PlainNumberText(static_cast<std::int64_t>(students));
   ShowColumn();
+}
+
+// How many students there are, and which of them cannot keep the ID of the file.
+void frmtxt::ShowCounts() {
+  const std::size_t first = chosen_.heading ? 1 : 0;
+  const auto students = static_cast<std::int64_t>(table_.records.size() - first);
+  counted.Caption = "Students: " + PlainNumberText(students);
+  const int column = chosen_.Find(CsvUse::kId);
+  if (Purpose() != CsvPurpose::kStudents || column < 0) return;
+  TakenIds ids = new_class_ ? TakenIds() : TakenIds(Current());
+  int clashes = 0;
+  int blanks = 0;
+  int first_line = 0;
+  for (std::size_t i = first; i < table_.records.size(); ++i) {
+    const std::string id = IdOf(table_.records[i], column);
+    if (ids.Take(id)) continue;
+    ++(id.empty() ? blanks : clashes);
+    if (i < kRowsShown && !id.empty())
+      preview.SetStyle(static_cast<int>(i) + 1, column, CellStyle::kFailing);
+    if (clashes == 1 && first_line == 0) first_line = table_.records[i].line;
+  }
+  if (clashes > 0)
+    counted.Caption += ", IDs taken already: " + PlainNumberText(clashes) + " (first in line " +
+                       PlainNumberText(first_line) + ")";
+  if (blanks > 0) counted.Caption += ", without an ID: " + PlainNumberText(blanks);
+}
+
+// As the student would get it.
+std::string frmtxt::IdOf(const CsvRecord& record, int column) const {
+  const auto index = static_cast<std::size_t>(column);
+  if (index >= record.cells.size() || !source_.Holds(record.cells[index].raw)) return {};
+  return OnOneLine(record.cells[index].text);
 }
 
 // What the column of the current cell is.

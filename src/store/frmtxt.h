@@ -16,6 +16,7 @@ namespace tallyroll {
 // or one of the exports of text_export.h. Added to an import it asks for the columns of ImportFile.
 inline constexpr int kImportNames = 501;
 inline constexpr int kAskColumns = 1000;
+inline constexpr int kIntoNewClass = 1000;  // added to that when the students go into a new class
 // What the Portal answers.
 inline constexpr int kOperationCancelled = 10;
 inline constexpr int kThisClass = 35;
@@ -35,7 +36,8 @@ struct frmtxt : Portal {
   Label example;  // a line in the chosen layout
   struct Frame columnframe;
   CheckBox heading;
-  Grid preview;  // the first rows, and above them what each column is
+  CheckBox capitals;  // the letters of grades are taken as capitals
+  Grid preview;       // the first rows, and above them what each column is
   ComboBox field;
   Label counted;
   CommandButton okbt, cancelbt;
@@ -53,9 +55,12 @@ struct frmtxt : Portal {
   void LoadColumns();
   void ShowColumns();
   void ShowColumn();
+  void ShowCounts();
+  std::string IdOf(const CsvRecord& record, int column) const;
   CsvPurpose Purpose() const;
 
   int mode_ = 0;  // what OpenState was
+  bool new_class_ = false;
   int where_ = kThisClass;
   CsvTable table_;
   SourceText source_;

@@ -12,6 +12,11 @@ constexpr std::size_t kLongestMark = 5;
 
 }  // namespace
 
+void CountLine(int student, GradeFile& file) {
+  ++(student > 0 ? file.matched : file.skipped);
+  if (student > 0) file.found[static_cast<std::size_t>(student)] = true;
+}
+
 bool GradeCollector::Title(std::size_t column, const GradePiece& piece) {
   return Take("title", column, piece, At(column).title);
 }

@@ -9,6 +9,9 @@
 
 namespace tallyroll {
 
+// A line of the file that names this student, or none.
+void CountLine(int student, GradeFile& file);
+
 // A text of the file: its line, its place there, and what it comes to.
 struct GradePiece {
   int line = 0;

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "store/grade_file.h"
 
+#include <algorithm>
 #include <optional>
 #include <string>
 #include <vector>
@@ -68,7 +69,7 @@ void ReadRecords(const SourceText& source, const CsvColumns& chosen, int open_st
     const CsvRecord& record = table.records[i];
     const bool heading = i == 0 && columns.heading;
     const int student = heading ? 0 : matcher.Take(KeyOfRecord(record, columns, matcher.by_name()));
-    if (!heading) ++(student > 0 ? file.matched : file.skipped);
+    if (!heading) CountLine(student, file);
     for (std::size_t k = 0; k < grades.size(); ++k) {
       const GradePiece piece = PieceAt(record, grades[k]);
       if (heading) TakeTitle(piece, k, collector);
@@ -91,12 +92,15 @@ GradeFile ReadGradeText(std::string_view bytes, i16 mode, const CsvColumns& colu
     file.refusal = "is not a text file";
     return file;
   }
-  const std::size_t name_room = mode == kColumnsText ? kTextFields[1].length : std::string::npos;
-  StudentMatcher matcher(open_state == kGradesByName, name_room);
+  file.found.resize(static_cast<std::size_t>(Current().NumStudents) + 1);
+  StudentMatcher matcher(open_state == kGradesByName, mode);
   if (mode == kCsvText)
     ReadRecords(*source, columns, open_state, matcher, file);
   else
     ReadGradeLines(*source, mode, matcher, file);
+  if (mode == kCsvText && columns.capitals)
+    for (GradeColumn& column : file.columns)
+      std::ranges::transform(column.marks, column.marks.begin(), UpperCase);
   if (file.refusal.empty() && file.matched == 0) file.refusal = "holds no student of this class";
   if (!file.refusal.empty()) {
     file.columns.clear();

@@ -25,16 +25,18 @@ struct GradeColumn {
 struct GradeFile {
   std::string refusal;  // why nothing can be taken, as the end of a sentence
   std::vector<GradeColumn> columns;
-  int matched = 0;  // lines with a student of the class
-  int skipped = 0;  // lines without
-  int cut = 0;      // marks with more letters than a class holds
+  std::vector<bool> found;  // 1..NumStudents: a line names the student
+  int matched = 0;          // lines with a student of the class
+  int skipped = 0;          // lines without
+  int cut = 0;              // marks with more letters than a class holds
   // Texts that the code page cannot hold, a line each; they are left out.
   std::vector<std::string> lacking;
 };
 
 // The marks for the students of the current class. Beside the key a line may also hold the other
 // one, id or name, as exported files do. A name is "Ng, Ada" or "Ng Ada". Of several students with
-// one key each gets one line.
+// one key each gets one line. Marks stay as the file has them, letters of either case, unless the
+// columns ask for capitals.
 GradeFile ReadGradeText(std::string_view bytes, i16 mode, const CsvColumns& columns,
                         int open_state);
 

@@ -137,11 +137,8 @@ class LinesOfMarks {
   void TakeLine(std::string_view text) {
     const MarkLine line = CutLine(text, mode_, matcher_, named_);
     const int student = matcher_.Take(line.key);
-    if (student == 0) {
-      ++file_.skipped;
-      return;
-    }
-    ++file_.matched;
+    CountLine(student, file_);
+    if (student == 0) return;
     for (std::size_t i = 0; i < line.marks.size(); ++i)
       collector_.Mark(i, student, Piece(line.marks[i]));
   }

@@ -15,7 +15,7 @@ namespace {
 
 constexpr std::size_t kLeastOldStudent = 194;
 constexpr std::size_t kLeastOldInstrument = 96;
-constexpr std::size_t kLeastDay = 11;
+constexpr std::size_t kLeastOlderDay = 11;
 constexpr std::size_t kLeastOldSummary = 79;
 
 std::string TakeTrimmed(FieldReader& in, std::size_t length) {
@@ -66,7 +66,7 @@ class OldReader {
                 [&](Student& s) { ReadStudent(s); });
     ReadRecords(in_, c.Instruments, c.NumInstruments, kLeastOldInstrument,
                 [&](Instrument& i) { ReadInstrument(i); });
-    ReadRecords(in_, c.AttendanceDays, c.NumDays, kLeastDay,
+    ReadRecords(in_, c.AttendanceDays, c.NumDays, kLeastOlderDay,
                 [&](AttendanceDay& day) { ReadDay(day); });
     ReadRecords(in_, c.Summaries, c.NumSummaries, kLeastOldSummary,
                 [&](AttendanceSummary& s) { ReadSummary(s); });

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "store/program_state.h"
 
+#include "store/class_defaults.h"
 #include "store/class_file.h"
 #include "store/csv_columns.h"
 #include "store/settings.h"
@@ -29,6 +30,7 @@ Class& Current() {
 void ResetStore() {
   for (Class& each : Classes) each = Class();
   ClassFiles.fill(ClassFile());
+  SkippedScale.fill(0);
   MaxClassSlots = 6;
   CurrentClass = 1;
   CurrentStudent = 0;

@@ -81,14 +81,6 @@ void ReadLines(const SourceText& source, i16 mode, TextRoster& roster) {
   }
 }
 
-// A field of a student stands on one line.
-std::string OnOneLine(std::string_view text) {
-  std::string line;
-  LineReader lines(Trim(text));
-  while (const auto part = lines.Next()) line += (line.empty() ? "" : " ") + std::string(*part);
-  return line;
-}
-
 Student StudentOfRecord(const CsvRecord& record, const CsvColumns& columns, Taker& taker) {
   Student student;
   std::string full_name;
@@ -123,7 +115,6 @@ void ReadRecords(const SourceText& source, const CsvColumns& chosen, TextRoster&
       chosen.uses.empty() ? GuessColumns(table, CsvPurpose::kStudents) : chosen;
   if (!WhatIsMissing(columns, CsvPurpose::kStudents).empty())
     return taker.Refuse("has no column with the names of students");
-  roster.numbered = columns.Find(CsvUse::kId) >= 0;
   for (std::size_t i = columns.heading ? 1 : 0; i < table.records.size(); ++i) {
     roster.students.push_back(StudentOfRecord(table.records[i], columns, taker));
     if (!roster.refusal.empty() || roster.students.size() == kStudentsRead) return;
@@ -131,6 +122,13 @@ void ReadRecords(const SourceText& source, const CsvColumns& chosen, TextRoster&
 }
 
 }  // namespace
+
+std::string OnOneLine(std::string_view text) {
+  std::string line;
+  LineReader lines(Trim(text));
+  while (const auto part = lines.Next()) line += (line.empty() ? "" : " ") + std::string(*part);
+  return line;
+}
 
 void SplitStudentName(std::string_view name, Student& student) {
   name = Trim(name);

@@ -15,10 +15,12 @@ namespace tallyroll {
 // have together; an empty one becomes "-".
 void SplitStudentName(std::string_view name, Student& student);
 
+// A field of a student stands on one line.
+std::string OnOneLine(std::string_view text);
+
 struct TextRoster {
   std::string refusal;            // why nothing can be taken, as the end of a sentence
   std::vector<Student> students;  // the eleven fields of each
-  bool numbered = true;           // false when the file has no ids at all
   // Values that the code page cannot hold, a line each; their fields stay empty.
   std::vector<std::string> lacking;
 };

@@ -11,6 +11,7 @@
 namespace tallyroll {
 
 std::array<std::string, 5> RecentFiles;
+std::string RememberedFolder;
 std::string PrinterFontName = "Times New Roman";
 float PrinterFontSize = 10;
 std::string SenderAddress;
@@ -19,10 +20,12 @@ std::string MarginTop = "-500";
 std::string MarginLeft = "-500";
 std::string MarginBottom = "-500";
 std::string MarginRight = "-500";
+TextEncoding SavedTextEncoding = TextEncoding::kUtf8;
 
 namespace {
 
 constexpr std::string_view kStartup = "startup";
+constexpr std::string_view kWindows1252 = "windows-1252";
 constexpr std::string_view kFileUsed = "FileUsed";
 constexpr i16 kDefaultNameMode = 68;
 
@@ -68,6 +71,7 @@ void LoadProgramSettings() {
   const bool first_run = Setting("VERSION").empty();
   DataFolder = Setting("DIRFILE");
   if (first_run && DataFolder.empty()) DataFolder = FolderOfEarlierVersion();
+  RememberedFolder = DataFolder;
   PrinterFontName = Setting("FONT", "Times New Roman");
   PrinterFontSize = FontSizeFrom(Setting("SIZE", "10"));
   SenderAddress = Setting("EMAIL");
@@ -77,6 +81,8 @@ void LoadProgramSettings() {
   MarginLeft = Setting("MARGINLEFT", "-500");
   MarginBottom = Setting("MARGINBOTTOM", "-500");
   MarginRight = Setting("MARGINRIGHT", "-500");
+  SavedTextEncoding =
+      Setting("ENCODING") == kWindows1252 ? TextEncoding::kWindows1252 : TextEncoding::kUtf8;
   for (std::size_t i = 0; i < RecentFiles.size(); ++i) {
     RecentFiles[i] =
         RecentFileOf(Platform().ReadSetting(kApplicationKey, kFileUsed, RecentKey(i), ""));
@@ -87,7 +93,7 @@ void SaveProgramSettings() {
   for (std::size_t i = 0; i < RecentFiles.size(); ++i) {
     Platform().WriteSetting(kApplicationKey, kFileUsed, RecentKey(i), RecentFiles[i]);
   }
-  WriteStartup("DIRFILE", DataFolder);
+  WriteStartup("DIRFILE", RememberedFolder);
   WriteStartup("FONT", PrinterFontName);
   WriteStartup("SIZE", PlainNumberText(PrinterFontSize));
   WriteStartup("VERSION", "8");
@@ -98,6 +104,11 @@ void SaveProgramSettings() {
   WriteStartup("EMAIL", SenderAddress);
   WriteStartup("POP", MailServer);
   WriteStartup("NAMEID", PlainNumberText(NameMode));
+}
+
+void SaveTextEncoding() {
+  const bool utf8 = SavedTextEncoding == TextEncoding::kUtf8;
+  WriteStartup("ENCODING", utf8 ? "utf-8" : kWindows1252);
 }
 
 void LoadLetterString() {
@@ -125,11 +136,13 @@ std::string RecentFileOf(std::string_view stored) {
 
 void ResetSettings() {
   RecentFiles.fill("");
+  RememberedFolder.clear();
   PrinterFontName = "Times New Roman";
   PrinterFontSize = 10;
   SenderAddress.clear();
   MailServer.clear();
   MarginTop = MarginLeft = MarginBottom = MarginRight = "-500";
+  SavedTextEncoding = TextEncoding::kUtf8;
 }
 
 }  // namespace tallyroll

@@ -90,7 +90,10 @@ void Rearrange(List<Student>& students, std::vector<SortEntry>& entries) {
 }  // namespace
 
 void SortStudents() {
-  Class& c = Current();
+  SortStudents(Current());
+}
+
+void SortStudents(Class& c) {
   const bool by_id = NameMode >= kFirstIdMode;
   std::vector<SortEntry> entries(static_cast<std::size_t>(std::max<i16>(c.NumStudents, 0)));
   for (std::size_t i = 0; i < entries.size(); ++i) {

@@ -4,6 +4,7 @@
 #include "base/text.h"
 #include "store/program_state.h"
 #include "store/student_names.h"
+#include "store/text_layout.h"
 
 namespace tallyroll {
 namespace {
@@ -37,13 +38,23 @@ std::string NameKey(std::string_view name) {
 
 }  // namespace
 
-StudentMatcher::StudentMatcher(bool by_name, std::size_t name_length)
-    : by_name_(by_name), name_length_(name_length) {
-  const Class& c = Current();
-  for (int i = c.NumStudents; i >= 1; --i) {
-    const Student& student = c.Students[static_cast<std::size_t>(i)];
-    places_[by_name ? NameKeyOf(i) : KeyOf(student.id)].push_back(i);
+StudentMatcher::StudentMatcher(bool by_name, i16 mode)
+    : by_name_(by_name),
+      mode_(mode),
+      name_length_(mode == kColumnsText ? kTextFields[1].length : std::string::npos) {
+  for (int i = Current().NumStudents; i >= 1; --i) {
+    places_[KeyOfStudent(i)].push_back(i);
+    if (by_name_ || mode_ == kCsvText) continue;
+    std::string written = WrittenIn(mode_, Trim(KeyOfStudent(i)));
+    if (mode_ == kColumnsText) written = Left(written, kTextFields[0].length);
+    const auto [place, first] = written_.try_emplace(std::string(Trim(written)), i);
+    if (!first) place->second = 0;
   }
+}
+
+std::string StudentMatcher::KeyOfStudent(int student) const {
+  if (by_name_) return NameKeyOf(student);
+  return KeyOf(Current().Students[static_cast<std::size_t>(student)].id);
 }
 
 std::string StudentMatcher::NameKeyOf(int student) const {
@@ -63,12 +74,20 @@ std::string StudentMatcher::KeyOf(std::string_view text) const {
 int StudentMatcher::Find(std::string_view key) const {
   const std::string wanted = KeyOf(key);
   const auto found = wanted.empty() ? places_.end() : places_.find(wanted);
-  return found == places_.end() || found->second.empty() ? 0 : found->second.back();
+  if (found == places_.end()) return FindWritten(wanted);
+  return found->second.empty() ? 0 : found->second.back();
+}
+
+int StudentMatcher::FindWritten(const std::string& id) const {
+  const auto found = written_.find(id);
+  if (id.empty() || found == written_.end() || found->second == 0) return 0;
+  const auto place = places_.find(KeyOfStudent(found->second));
+  return place->second.empty() ? 0 : found->second;
 }
 
 int StudentMatcher::Take(std::string_view key) {
   const int student = Find(key);
-  if (student > 0) places_[KeyOf(key)].pop_back();
+  if (student > 0) places_[KeyOfStudent(student)].pop_back();
   return student;
 }
 

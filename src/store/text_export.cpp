@@ -4,9 +4,9 @@
 #include <algorithm>
 #include <vector>
 
-#include "base/code_page.h"
 #include "base/text.h"
 #include "store/csv_columns.h"
+#include "store/saved_text.h"
 #include "store/student_names.h"
 #include "store/text_layout.h"
 
@@ -14,15 +14,6 @@ namespace tallyroll {
 namespace {
 
 constexpr std::string_view kLineEnd = "\r\n";
-constexpr std::string_view kUtf8Mark = "\xEF\xBB\xBF";
-constexpr char kRightQuote = '\x92';  // the apostrophe that is no field mark
-
-// What is written for a field mark inside a value.
-char Nearest(char separator) {
-  if (separator == '\'') return kRightQuote;
-  return separator == '"' ? '\'' : ' ';
-}
-
 // No text file holds them: a reader would end the line there, or take the file for no text.
 bool IsControl(char c) {
   return c >= '\0' && c < ' ' && c != '\t';
@@ -51,11 +42,7 @@ class LineWriter {
  private:
   // The value as it can stand in a line.
   std::string Kept(std::string_view value) {
-    std::string kept(value);
-    for (char& c : kept) {
-      if (IsControl(c)) c = ' ';
-      if (separator_ != 0 && c == separator_) c = Nearest(separator_);
-    }
+    std::string kept = WrittenIn(mode_, value);
     if (kept != value) ++out_.changed;
     return kept;
   }
@@ -142,7 +129,7 @@ std::string WithoutControls(std::string value, TextOfClass& out) {
 void AddCsvRecord(const std::vector<std::string>& values, TextOfClass& out) {
   for (std::size_t i = 0; i < values.size(); ++i) {
     if (i > 0) out.bytes += ',';
-    out.bytes += Utf8FromCodePage(CsvField(WithoutControls(values[i], out)));
+    out.bytes += CsvField(WithoutControls(values[i], out));
   }
   out.bytes += kLineEnd;
 }
@@ -172,7 +159,6 @@ std::vector<std::string> CsvValues(const Student& student, int what, std::size_t
 
 TextOfClass ExportCsv(const Class& c, int what) {
   TextOfClass out;
-  out.bytes = kUtf8Mark;
   if (what != kExportGradesPlain) AddCsvRecord(CsvTitles(c, what), out);
   const auto grades = static_cast<std::size_t>(UpperBound(c.Instruments));
   for (std::size_t i = 1; i < c.Students.size(); ++i)
@@ -180,10 +166,7 @@ TextOfClass ExportCsv(const Class& c, int what) {
   return out;
 }
 
-}  // namespace
-
-TextOfClass ExportText(const Class& c, int what, i16 mode) {
-  if (mode == kCsvText) return ExportCsv(c, what);
+TextOfClass ExportLines(const Class& c, int what, i16 mode) {
   TextOfClass out;
   LineWriter line(mode, out);
   if (what == kExportGrades) AddHeaders(c, mode, line);
@@ -191,6 +174,19 @@ TextOfClass ExportText(const Class& c, int what, i16 mode) {
   for (std::size_t i = 1; i < c.Students.size(); ++i)
     AddLine(c.Students[i], what, mode, grades, line);
   return out;
+}
+
+}  // namespace
+
+TextOfClass ExportText(const Class& c, int what, i16 mode, TextEncoding encoding) {
+  TextOfClass out = mode == kCsvText ? ExportCsv(c, what) : ExportLines(c, what, mode);
+  out.bytes = EncodedText(out.bytes, encoding);
+  return out;
+}
+
+TextOfClass ExportText(const Class& c, int what, i16 mode) {
+  return ExportText(c, what, mode,
+                    mode == kCsvText ? TextEncoding::kUtf8 : TextEncoding::kWindows1252);
 }
 
 }  // namespace tallyroll

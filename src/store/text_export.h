@@ -4,6 +4,7 @@
 
 #include <string>
 
+#include "platform/surroundings.h"
 #include "store/records.h"
 
 namespace tallyroll {
@@ -19,9 +20,10 @@ struct TextOfClass {
   int changed = 0;  // values that the layout could not carry as they are
 };
 
-// Each line ends with CR LF. Comma-separated values are UTF-8 with a mark at the beginning, the
-// other layouts code page 1252. A value is cut to its column; a mark of the layout or a line end
+// Each line ends with CR LF. A value is cut to its column; a mark of the layout or a line end
 // inside a value is written as what comes nearest to it.
+TextOfClass ExportText(const Class& c, int what, i16 mode, TextEncoding encoding);
+// As scripts expect it: comma-separated values in UTF-8, the other layouts in code page 1252.
 TextOfClass ExportText(const Class& c, int what, i16 mode);
 
 }  // namespace tallyroll

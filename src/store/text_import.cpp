@@ -3,66 +3,31 @@
 
 #include <algorithm>
 #include <limits>
-#include <unordered_set>
 
 #include "base/code_page.h"
 #include "base/number_text.h"
 #include "base/run_time_error.h"
 #include "base/text.h"
 #include "platform/surroundings.h"
+#include "store/box_list.h"
 #include "store/class_defaults.h"
 #include "store/program_state.h"
 #include "store/safe_file.h"
 #include "store/sort_students.h"
+#include "store/student_names.h"
+#include "store/taken_ids.h"
 #include "store/text_layout.h"
 
 namespace tallyroll {
 namespace {
-
-constexpr std::size_t kLinesInBox = 10;
-constexpr int kDraws = 100;  // after that the numbers behind those that can be drawn serve
-constexpr int kBeyondDraws = 1529;
-
-using Ids = std::unordered_set<std::string>;
-
-Ids IdsOf(const Class& c) {
-  Ids ids;
-  for (int i = 1; i <= c.NumStudents; ++i)
-    ids.emplace(Trim(c.Students[static_cast<std::size_t>(i)].id));
-  return ids;
-}
-
-int DrawNumber() {
-  const double r1 = Platform().Random();
-  const double r2 = Platform().Random();
-  const double r3 = Platform().Random();
-  const double r4 = Platform().Random();
-  return static_cast<int>(r2 * 32) + static_cast<int>(r1 * 100) + static_cast<int>(r3 * 500) +
-         static_cast<int>(r4 * 900);
-}
-
-std::string MakeUniqueId(const Ids& taken) {
-  for (int i = 0; i < kDraws; ++i) {
-    std::string id = PlainNumberText(DrawNumber());
-    if (!taken.contains(id)) return id;
-  }
-  // A full roster without ids leaves hardly a number that can be drawn.
-  int number = kBeyondDraws + static_cast<int>(taken.size());
-  while (taken.contains(PlainNumberText(number))) ++number;
-  return PlainNumberText(number);
-}
 
 void RaiseTo(i16& width, const std::string& name) {
   constexpr std::size_t kWidest = std::numeric_limits<i16>::max();
   width = std::max(width, static_cast<i16>(std::min(name.size(), kWidest)));
 }
 
-void AddStudent(Student& imported, bool numbered, Ids& ids) {
+void AddStudent(Student& imported) {
   Class& c = Current();
-  if (c.NumStudents == std::numeric_limits<i16>::max()) throw RunTimeError{kErrorOverflow};
-  const bool clash = ids.contains(std::string(Trim(imported.id)));
-  if (clash || !numbered) imported.id = MakeUniqueId(ids);
-  ids.emplace(Trim(imported.id));
   RaiseTo(c.LastNameWidth, imported.lastname);
   RaiseTo(c.FirstNameWidth, imported.firstname);
   ++c.NumStudents;
@@ -71,35 +36,57 @@ void AddStudent(Student& imported, bool numbered, Ids& ids) {
   AddStudentDefaults();
 }
 
-std::string LackingBox(const std::vector<std::string>& lacking) {
-  std::string text =
-      "A class file cannot hold these values. They will be left empty, and you can enter them in "
-      "another spelling afterwards.\n";
-  for (std::size_t i = 0; i < std::min(lacking.size(), kLinesInBox); ++i) text += "\n" + lacking[i];
-  if (lacking.size() > kLinesInBox)
-    text += "\n... and " +
-            PlainNumberText(static_cast<std::int64_t>(lacking.size() - kLinesInBox)) + " more";
-  return text + "\n\nContinue?";
+std::string Count(std::size_t count, std::string_view what) {
+  return PlainNumberText(static_cast<std::int64_t>(count)) + " " + std::string(what);
 }
 
 }  // namespace
 
-std::string MakeUniqueId(const Class& c) {
-  return MakeUniqueId(IdsOf(c));
-}
-
-int AddStudents(TextRoster& roster) {
+ImportOutcome AddStudents(TextRoster& roster) {
   Class& c = Current();
-  int error = 0;
-  try {
-    Ids ids = IdsOf(c);
-    for (Student& student : roster.students) AddStudent(student, roster.numbered, ids);
-  } catch (const RunTimeError& fault) {
-    error = fault.number;
+  ImportOutcome outcome;
+  TakenIds ids(c);
+  for (const Student& student : roster.students) ids.Reserve(student.id);
+  for (Student& student : roster.students) {
+    if (c.NumStudents == std::numeric_limits<i16>::max()) {
+      outcome.error = kErrorOverflow;
+      break;
+    }
+    if (!ids.Take(student.id)) {
+      const std::string before(Trim(student.id));
+      student.id = ids.MakeUniqueId();
+      outcome.given.push_back({PlainName(student), before, student.id});
+    }
+    AddStudent(student);
   }
   c.Changed = kTrue;
   SortStudents();
-  return error;
+  return outcome;
+}
+
+std::string GivenIdsSentence(const ImportOutcome& outcome) {
+  const std::size_t all = outcome.given.size();
+  const auto blank = static_cast<std::size_t>(
+      std::ranges::count_if(outcome.given, [](const GivenId& g) { return g.before.empty(); }));
+  std::string text = "New IDs were given to " + Count(all, all == 1 ? "student: " : "students: ");
+  if (all > blank) text += Count(all - blank, "whose ID was taken already");
+  if (all > blank && blank > 0) text += ", ";
+  if (blank > 0) text += Count(blank, "without an ID");
+  return text + ".";
+}
+
+std::vector<std::string> GivenIdLines(const ImportOutcome& outcome) {
+  std::vector<std::string> lines;
+  for (const GivenId& given : outcome.given) {
+    lines.push_back(given.name + ": " + given.id);
+    if (!given.before.empty()) lines.back() += " instead of " + given.before;
+  }
+  return lines;
+}
+
+void TellGivenIds(const ImportOutcome& outcome) {
+  if (outcome.given.empty()) return;
+  ShowMessage(GivenIdsSentence(outcome) + BoxList(GivenIdLines(outcome)), BoxIcon::kInformation);
 }
 
 bool ReadImportFile(TextRoster& roster) {
@@ -117,12 +104,18 @@ bool ReadImportFile(TextRoster& roster) {
 }
 
 bool AcceptsLacking(const std::vector<std::string>& lacking) {
-  return lacking.empty() ||
-         Ask(LackingBox(lacking), BoxButtons::kYesNo, BoxIcon::kExclamation) == BoxAnswer::kYes;
+  if (lacking.empty()) return true;
+  const std::string box =
+      "A class file cannot hold these values. They will be left empty, and you can enter them in "
+      "another spelling afterwards." +
+      BoxList(lacking) + "\n\nContinue?";
+  return Ask(box, BoxButtons::kYesNo, BoxIcon::kExclamation) == BoxAnswer::kYes;
 }
 
-void AddImportedStudents(TextRoster& roster) {
-  if (const int error = AddStudents(roster)) ShowTextFileError(error);
+ImportOutcome AddImportedStudents(TextRoster& roster) {
+  ImportOutcome outcome = AddStudents(roster);
+  if (outcome.error != 0) ShowTextFileError(outcome.error);
+  return outcome;
 }
 
 void ShowTextFileError(int error) {

@@ -20,6 +20,14 @@ std::string_view TakeQuoted(char quote, std::string_view& rest) {
   return Trim(TakeUpTo(quote, rest));
 }
 
+constexpr char kRightQuote = '\x92';  // the apostrophe that is no field mark
+
+// What is written for a field mark inside a value.
+char Nearest(char separator) {
+  if (separator == '\'') return kRightQuote;
+  return separator == '"' ? '\'' : ' ';
+}
+
 }  // namespace
 
 char SeparatorOf(i16 mode) {
@@ -36,6 +44,16 @@ char SeparatorOf(i16 mode) {
     default:
       return 0;
   }
+}
+
+std::string WrittenIn(i16 mode, std::string_view value) {
+  const char separator = SeparatorOf(mode);
+  std::string written(value);
+  for (char& c : written) {
+    if (c >= '\0' && c < ' ' && c != '\t') c = ' ';
+    if (separator != 0 && c == separator) c = Nearest(separator);
+  }
+  return written;
 }
 
 std::vector<std::string_view> CutFields(std::string_view line, i16 mode, std::size_t most) {

@@ -56,6 +56,10 @@ inline constexpr std::string_view kNameTitle = "NAME";
 // The mark between fields; 0 for formatted columns.
 char SeparatorOf(i16 mode);
 
+// A value as it can stand in a line of the layout: a mark of the layout as what comes nearest to
+// it, and a control character, which no text file holds, as a blank.
+std::string WrittenIn(i16 mode, std::string_view value);
+
 // The fields of a line of a layout with a mark: at most `most` of them. What lies behind is left.
 std::vector<std::string_view> CutFields(std::string_view line, i16 mode, std::size_t most);
 // What stands at a place of a line of formatted columns, without the blanks that fill it up.

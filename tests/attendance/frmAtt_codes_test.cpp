@@ -66,25 +66,36 @@ TEST_F(FrmAttCodesTest, TheListWritesTheCodeOfItsLine) {
   EXPECT_EQ(portal->monthchanged, 1);
 }
 
-TEST_F(FrmAttCodesTest, MovingThroughTheListIsNoChoice) {
-  for (const Key key : {Key::kHome, Key::kUp, Key::kRight, Key::kDown}) {
+TEST_F(FrmAttCodesTest, AChoiceCountsWhateverKeysCameBefore) {
+  for (const Key key : {Key::kHome, Key::kUp, Key::kRight, Key::kDown, Key::kLeft}) {
     driver->PickCell("Grid1", 1, 2);
     driver->PressKey("Combo1", key);
-    EXPECT_EQ(portal->navkey, 38);
-    driver->Choose("Combo1", 2);
     EXPECT_EQ(Cell(1, 2), "");
-    EXPECT_EQ(portal->navkey, 0);
+    driver->Choose("Combo1", 2);
+    EXPECT_EQ(Cell(1, 2), "E");
+    driver->PickCell("Grid1", 1, 2);
+    driver->TypeKeys("Grid1", "\b");
   }
-  driver->PickCell("Grid1", 1, 2);
-  driver->PressKey("Combo1", Key::kLeft);
-  EXPECT_EQ(portal->navkey, 0);
 }
 
-TEST_F(FrmAttCodesTest, AKeyInTheListGoesToTheCell) {
+TEST_F(FrmAttCodesTest, TheListBeginsAtWhatTheCellHolds) {
+  Type(1, 1, "N");
+  EXPECT_EQ(portal->Combo1.ListIndex, 4);
+  EXPECT_EQ(driver->Text("Combo1"), "N");
+  driver->PickCell("Grid1", 2, 2);
+  EXPECT_EQ(portal->Combo1.ListIndex, -1);
   driver->PickCell("Grid1", 1, 2);
-  driver->TypeKeys("Combo1", "n");
-  EXPECT_EQ(Cell(1, 2), "N");
-  EXPECT_EQ(driver->Focused(), "Grid1");
+  EXPECT_EQ(portal->Combo1.ListIndex, 4);
+}
+
+TEST_F(FrmAttCodesTest, TheKeyForTheListBringsItBackAfterAChoice) {
+  driver->PickCell("Grid1", 1, 2);
+  driver->Choose("Combo1", 0);
+  EXPECT_FALSE(driver->Visible("Combo1"));
+  driver->PressKey("Grid1", Key::kF4);
+  EXPECT_TRUE(driver->Visible("Combo1"));
+  EXPECT_EQ(portal->Combo1.ListIndex, 0);
+  EXPECT_EQ(Cell(1, 2), "A");
 }
 
 TEST_F(FrmAttCodesTest, TheListStandsOverTheCurrentCellAndShowsItsCode) {

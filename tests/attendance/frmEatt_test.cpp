@@ -6,7 +6,7 @@
 namespace tallyroll {
 namespace {
 
-const std::string kReminder =
+const std::string kDayReminder =
     "You must fill in the TITLE and CODE of the attendance period, and the ATTENDANCE for each "
     "student.\nUse TAB to move from one entry to the next.\nUse ARROW KEYS to move between student "
     "names.";
@@ -126,10 +126,10 @@ TEST_F(FrmEattTest, ExitStoresThePeriodShownEvenWithoutAnEdit) {
 TEST_F(FrmEattTest, ExitThatWasRefusedKeepsTheReminderComingUntilTheFiguresAreFilled) {
   EnrolStudent("Zoe", "Zed", "9");  // as a text import adds one, without figures
   OpenPeriod(0);
-  screen.ExpectBox(kReminder);
+  screen.ExpectBox(kDayReminder);
   driver->Press("exit");
   for (int i = 0; i < 2; ++i) {
-    screen.ExpectBox(kReminder);
+    screen.ExpectBox(kDayReminder);
     driver->Focus("list1");
     EXPECT_EQ(driver->Focused(), "Grid1");
   }
@@ -168,7 +168,7 @@ TEST_F(FrmEattTest, ComingBackToTheListWithAnEmptyFieldIsRefusedUntilItIsFilled)
   OpenPeriod(0);
   driver->Type("code", "");
   for (int i = 0; i < 2; ++i) {
-    screen.ExpectBox(kReminder);
+    screen.ExpectBox(kDayReminder);
     driver->Focus("list1");
     EXPECT_EQ(driver->Focused(), "code");
     EXPECT_TRUE(portal.check_failed);
@@ -183,7 +183,7 @@ TEST_F(FrmEattTest, ComingBackToTheListWithAnEmptyFieldIsRefusedUntilItIsFilled)
 TEST_F(FrmEattTest, ExitWithAnEmptyFigureLeadsToTheFirstStudent) {
   OpenPeriod(0);
   Figure(2, 2, "\b");
-  screen.ExpectBox(kReminder);
+  screen.ExpectBox(kDayReminder);
   driver->Press("exit");
   ExpectLastBox("Note to the Teacher", BoxButtons::kOk, BoxIcon::kCritical);
   EXPECT_FALSE(portal.Unloaded());

@@ -74,7 +74,6 @@ class AveragePropertiesTest : public AverageTest {
       c.TypePercents[t] = Money("25");
       if (t != kExtra) c.TypeWeights[t] = Money(UpTo(1) == 0 ? "2" : "0");
     }
-    MakeTotalPossible();
   }
 
   Currency AverageOf(std::size_t student) {
@@ -129,7 +128,6 @@ TEST_F(AveragePropertiesTest, UnderPointsAnExcusedGradeIsAsIfItWereNotThere) {
     c.InstrumentUse.erase(c.InstrumentUse.begin() + excused);
     c.Students[1].Marks.erase(c.Students[1].Marks.begin() + excused);
     --c.NumInstruments;
-    MakeTotalPossible();
     EXPECT_EQ(AverageOf(1), with);
   }
 }
@@ -169,7 +167,6 @@ TEST_F(AveragePropertiesTest, SwappingTwoGradesChangesNothingWithoutATie) {
       c.Instruments[i].mvalue = 100;
       c.Students[1].Marks[i] = PlainNumberText(static_cast<int>(30 + 3 * i));
     }
-    MakeTotalPossible();
     c.AverageFlag2 = UpTo(1) == 0 ? kTrue : kFalse;
     if (c.NumInstruments < 2) continue;
     ++tried;

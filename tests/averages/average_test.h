@@ -65,7 +65,6 @@ class AverageTest : public ::testing::Test {
     const auto percents = c.TypePercents;
     PrepareWeights();
     c.TypePercents = percents;
-    MakeTotalPossible();
   }
 
   static void Weigh(std::size_t type, const char* percent) {

@@ -172,6 +172,22 @@ TEST_F(FrmDropGradeTest, AChoiceSurvivesASumThatIsRefused) {
   EXPECT_EQ(Current().TypeWeights[10], Money("2"));
 }
 
+TEST_F(FrmDropGradeTest, AChoiceSurvivesASecondTick) {
+  Open(portal);
+  driver->Tick("droptype");
+  FlipRow(2);
+  driver->Tick("droptype", false);
+  EXPECT_EQ(Drop(), nullptr);
+  driver->Tick("droptype");
+  EXPECT_EQ(Column(Drop()->grdgrade, 3), (Texts{"N", "Y"}));
+  driver->Tick("dropyn");
+  driver->Tick("droptype");
+  EXPECT_EQ(Column(Drop()->grdgrade, 3), (Texts{"N", "Y"}));
+  Accept();
+  EXPECT_EQ(Current().TypeWeights[10], Money("0"));
+  EXPECT_EQ(Current().TypeWeights[12], Money("2"));
+}
+
 TEST_F(FrmDropGradeTest, WhatWasChosenLastIsOfferedAgain) {
   Class& c = Current();
   c.AverageFlag1 = c.AverageFlag4 = kTrue;

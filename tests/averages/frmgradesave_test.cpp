@@ -47,6 +47,12 @@ TEST_F(FrmGradeSaveTest, BothFieldsAreAsked) {
   EXPECT_EQ(portal.title.MaxLength, 65535);
 }
 
+TEST_F(FrmGradeSaveTest, TheSavedAveragesAreConfirmedWithTheNameOfTheFile) {
+  Current().FileName = "/classes/math.tyr";
+  Save();
+  EXPECT_EQ(window.status, "The averages stand as Term 1. math.tyr saved.");
+}
+
 TEST_F(FrmGradeSaveTest, AddsAGradeOfFinalGrades) {
   Save();
   const Class& c = Current();
@@ -143,7 +149,6 @@ TEST_F(FrmGradeSaveTest, WorkStillToBeSavedStays) {
 TEST_F(FrmGradeSaveTest, UnderPointsTheNewGradeDoesNotCount) {
   Current().Method = 2;
   Current().InstrumentUse = {Currency(), Money("1")};
-  TotalPossible[1] = 100;
   Save();
   EXPECT_EQ(Current().InstrumentUse[2], Money("2"));
   EXPECT_EQ(Current().Students[1].Marks[2], "95");

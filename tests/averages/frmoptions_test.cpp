@@ -95,6 +95,22 @@ TEST_F(FrmOptionsTest, ShowsThatRoundingIsSkipped) {
   EXPECT_EQ(Row(portal.grdgrade, 2), (Texts{"A+", "100", "100"}));
 }
 
+TEST_F(FrmOptionsTest, PointsDropNothingWhateverTheWeightsPortalsLeft) {
+  Class& c = Current();
+  c.AverageFlag1 = c.AverageFlag2 = c.AverageFlag3 = c.AverageFlag4 = kTrue;
+  c.TypeWeights.fill(Money("2"));
+  for (const i16 method : {i16{2}, i16{3}}) {
+    c.Method = method;
+    frmoptions fresh;
+    fresh.Load();
+    PortalDriver each(fresh);
+    for (const char* label : {"dropabs", "dsl", "dis", "dlt"})
+      EXPECT_EQ(each.Text(label), "Not Selected") << label << method;
+    for (int row = 1; row < fresh.typegrid.Rows(); ++row)
+      EXPECT_EQ(fresh.typegrid.TextMatrix(row, 4), "N");
+  }
+}
+
 TEST_F(FrmOptionsTest, ShowsTheFourStatesEachOfItsOwnFlag) {
   Class& c = Current();
   const std::vector<std::pair<i16 Class::*, const char*>> states = {

@@ -24,6 +24,33 @@ TEST_F(FrmRoundOffSetsTest, ZeroInTheSecondRowEmptiesTheSet) {
   EXPECT_EQ(Current().RoundScale, 0);
 }
 
+TEST_F(FrmRoundOffSetsTest, TheScaleThatSkipRoundingReplacedOutlivesThePortal) {
+  FillScale(2, 70);
+  Current().RoundScale = 2;
+  Open(portal);
+  driver->Press("skip");
+  driver->Press("continue");
+  EXPECT_EQ(Current().RoundScale, 4);
+  // Another class has its own.
+  CurrentClass = 2;
+  Current().Method = 0;
+  Current().RoundMode = 1;
+  frmroundoff other;
+  Open(other);
+  driver->Press("noskip");
+  EXPECT_EQ(Current().RoundScale, 0);
+  CurrentClass = 1;
+  frmroundoff again;
+  Open(again);
+  driver->Press("noskip");
+  EXPECT_EQ(Current().RoundScale, 2);
+  EXPECT_EQ(again.grdgrade.TextMatrix(1, kMin), "70");
+  // What has the slot next knows nothing of it.
+  driver->Press("skip");
+  ResetClassSlot();
+  EXPECT_EQ(SkippedScale[1], 0);
+}
+
 TEST_F(FrmRoundOffSetsTest, OverwritingMayBeCancelled) {
   FillScale(3, 70);
   Open(portal);

@@ -109,7 +109,6 @@ TEST_F(FrmScrnAvgTest, UnderTypesTheTypesRule) {
 TEST_F(FrmScrnAvgTest, UnderPointsThePointsStandBesideTheAverage) {
   Current().Method = 2;
   Current().InstrumentUse = {Currency(), Money("1"), Money("1")};
-  TotalPossible[1] = 200;
   Open(portal);
   EXPECT_EQ(driver->Text("avg_label"), "Exact Average");
   driver->Choose("lstName", 0);

@@ -6,7 +6,7 @@
 namespace tallyroll {
 namespace {
 
-constexpr int kNew = 3;
+constexpr int kNewWeight = 3;
 
 class FrmWeightsTest : public AveragePortalTest {
  protected:
@@ -17,9 +17,9 @@ class FrmWeightsTest : public AveragePortalTest {
   }
   void TypeWeights(const Texts& weights) {
     for (std::size_t i = 0; i < weights.size(); ++i)
-      TypeCell("grdgrade", static_cast<int>(i) + 1, kNew, weights[i]);
+      TypeCell("grdgrade", static_cast<int>(i) + 1, kNewWeight, weights[i]);
   }
-  Texts NewWeights() const { return Column(portal.grdgrade, kNew); }
+  Texts NewWeights() const { return Column(portal.grdgrade, kNewWeight); }
 
   frmweights portal;
 };
@@ -52,19 +52,19 @@ TEST_F(FrmWeightsTest, WeightsInForceAreOfferedAgain) {
 
 TEST_F(FrmWeightsTest, TheFirstKeyReplacesAndTheOthersAreAdded) {
   Open(portal);
-  TypeCell("grdgrade", 1, kNew, "33.333");
+  TypeCell("grdgrade", 1, kNewWeight, "33.333");
   EXPECT_EQ(NewWeights().at(0), "33.333");
   driver->TypeKeys("grdgrade", "\b\b");
   EXPECT_EQ(NewWeights().at(0), "33.3");
-  driver->PickCell("grdgrade", 1, kNew);
+  driver->PickCell("grdgrade", 1, kNewWeight);
   driver->TypeKeys("grdgrade", "4");
   EXPECT_EQ(NewWeights().at(0), "4");
 }
 
 TEST_F(FrmWeightsTest, BackspaceAsFirstKeyEmptiesTheCell) {
   Open(portal);
-  TypeCell("grdgrade", 1, kNew, "12");
-  driver->PickCell("grdgrade", 1, kNew);
+  TypeCell("grdgrade", 1, kNewWeight, "12");
+  driver->PickCell("grdgrade", 1, kNewWeight);
   driver->TypeKeys("grdgrade", "\b");
   EXPECT_EQ(NewWeights().at(0), "");
   driver->TypeKeys("grdgrade", "\b");
@@ -73,9 +73,9 @@ TEST_F(FrmWeightsTest, BackspaceAsFirstKeyEmptiesTheCell) {
 
 TEST_F(FrmWeightsTest, EachKeyCountsAnewWithExtraCreditApart) {
   Open(portal);
-  TypeCell("grdgrade", 1, kNew, "33.3");
-  TypeCell("grdgrade", 2, kNew, "66.7x");
-  TypeCell("grdgrade", 3, kNew, "7");
+  TypeCell("grdgrade", 1, kNewWeight, "33.3");
+  TypeCell("grdgrade", 2, kNewWeight, "66.7x");
+  TypeCell("grdgrade", 3, kNewWeight, "7");
   EXPECT_EQ(driver->Text("totals"), "100");
   EXPECT_EQ(driver->Text("extra"), "7");
   EXPECT_EQ(Current().AverageWork1, 1);
@@ -94,7 +94,7 @@ TEST_F(FrmWeightsTest, EnterGoesOnToTheNextWeight) {
 
 TEST_F(FrmWeightsTest, NewGoesToTheFirstRow) {
   Open(portal);
-  TypeCell("grdgrade", 2, kNew, "80");
+  TypeCell("grdgrade", 2, kNewWeight, "80");
   driver->Press("newwt");
   EXPECT_EQ(portal.grdgrade.Row, 1);
   EXPECT_EQ(driver->Focused(), "grdgrade");
@@ -113,7 +113,7 @@ TEST_F(FrmWeightsTest, EqualOfThreeItemsGivesTheLastWhatRemains) {
 
 TEST_F(FrmWeightsTest, EqualLeavesExtraCreditOut) {
   Open(portal);
-  TypeCell("grdgrade", 3, kNew, "7");
+  TypeCell("grdgrade", 3, kNewWeight, "7");
   driver->Press("equal");
   EXPECT_EQ(NewWeights(), (Texts{"50", "50", "0"}));
   EXPECT_EQ(driver->Text("totals"), "100");
@@ -131,7 +131,7 @@ TEST_F(FrmWeightsTest, EqualOfSixRoundsToThreeDecimals) {
 TEST_F(FrmWeightsTest, EqualWithExtraCreditAloneChangesNothing) {
   Current().Instruments[1].typecode = Current().Instruments[2].typecode = "X ";
   Open(portal);
-  TypeCell("grdgrade", 1, kNew, "7");
+  TypeCell("grdgrade", 1, kNewWeight, "7");
   driver->Press("equal");
   EXPECT_EQ(NewWeights(), (Texts{"7", "0", "0"}));
   EXPECT_EQ(driver->Text("totals"), "0");
@@ -166,7 +166,7 @@ TEST_F(FrmWeightsTest, CopyToPutsTheColumnOnTheClipboard) {
 TEST_F(FrmWeightsTest, PasteFromFillsTheColumnInOrder) {
   Open(portal);
   screen.clipboard = "5z\r40\r60\r";
-  TypeCell("grdgrade", 3, kNew, "9");
+  TypeCell("grdgrade", 3, kNewWeight, "9");
   driver->Press("frombd");
   EXPECT_EQ(NewWeights(), (Texts{"40", "60", "9"}));
   EXPECT_EQ(driver->Text("totals"), "100");
@@ -205,7 +205,7 @@ TEST_F(FrmWeightsTest, TypesShowsTheSumsBesideAndFollowsTheKeys) {
   EXPECT_EQ(totals->grdgrade.TextMatrix(10, 2), "20");
   EXPECT_EQ(totals->grdgrade.TextMatrix(10, 3), "100");
   EXPECT_EQ(totals->grdgrade.TextMatrix(13, 2), "5");
-  TypeCell("grdgrade", 1, kNew, "25");
+  TypeCell("grdgrade", 1, kNewWeight, "25");
   EXPECT_EQ(totals->grdgrade.TextMatrix(10, 2), "25");
 }
 
@@ -237,7 +237,7 @@ TEST_F(FrmWeightsTest, ANumberTooLargeIsRefusedAndMayBeMended) {
   EXPECT_EQ(driver->Text("totals"), "?");
   screen.ExpectBox(kMustBeHundred);
   driver->Press("exit");
-  TypeCell("grdgrade", 1, kNew, "20");
+  TypeCell("grdgrade", 1, kNewWeight, "20");
   EXPECT_EQ(driver->Text("totals"), "100");
 }
 

@@ -54,7 +54,6 @@ TEST_F(OrderOfGradesTest, EachMoveLeavesEveryAverageAsItIs) {
       c.AverageFlag2 = single;
       c.TypeWeights.fill(Currency());
       c.TypeWeights[10] = Money("2");
-      TotalPossible[1] = 300;
       const Texts before = Averages();
       for (int row = 1; row < 4; ++row) {
         Move(row, "down");

@@ -21,7 +21,6 @@ class SmallClassesTest : public AveragePortalTest {
     c.Weights = {Currency(), Money("100")};
     c.InstrumentUse = {Currency(), Money("1")};
     c.TypePercents[10] = Money("100");
-    TotalPossible[1] = 50;
   }
   // Opens the Grades Portal and goes on to the first student.
   void ShowFirst(frmscrnavg& portal, i16 method) {
@@ -91,7 +90,7 @@ TEST_F(SmallClassesTest, PointsWithoutGradesSumToNothing) {
   screen.ExpectBox("Do you want to save these points", BoxAnswer::kNo);
   driver->Press("exit");
   EXPECT_EQ(Current().Method, 2);
-  EXPECT_EQ(TotalPossible[1], 0);
+  EXPECT_EQ(TotalPossible(), 0);
 }
 
 TEST_F(SmallClassesTest, PointsOfOneGradeNeedNoStudent) {

@@ -102,11 +102,21 @@ TEST_F(AttendanceCommandTest, AClassWithoutAttendanceHasNothingToCount) {
             "id,lastname,firstname,A,C,E,S,N,L,T\n5,Abe,Bo,0,0,0,0,0,0,0\n");
   EXPECT_EQ(RunCli({"attendance", "--csv", "--months", "2026-09..2026-09", file}).out,
             "id,lastname,firstname,A,C,E,S,N,L,T\n5,Abe,Bo,0,0,0,0,0,0,0\n");
-  EXPECT_EQ(RunCli({"attendance", "--json", "--consecutive", "1", file}).out, "[]\n");
 }
 
-TEST_F(AttendanceCommandTest, AClassWithoutStudentsGivesAnEmptyList) {
-  EXPECT_EQ(RunCli({"attendance", "--json", Build("{}")}).out, "[]\n");
+TEST_F(AttendanceCommandTest, NobodyAbsentSoOftenIsSaid) {
+  const std::string file =
+      Build(R"({"Students": [{"lastname": "Abe", "firstname": "Bo", "id": "5"}]})");
+  for (const char* form : {"--json", "--csv"})
+    ExpectRefused(RunCli({"attendance", form, "--consecutive", "3", file}),
+                  file + ": no student was absent on 3 or more marked days in a row");
+}
+
+TEST_F(AttendanceCommandTest, AClassWithoutStudentsIsRefused) {
+  const std::string file = Build("{}");
+  ExpectRefused(RunCli({"attendance", file}), file + ": the class has no students");
+  ExpectRefused(RunCli({"attendance", "--json", "--consecutive", "1", file}),
+                file + ": the class has no students");
 }
 
 TEST_F(AttendanceCommandTest, MonthsThatAreNoneAreRefused) {

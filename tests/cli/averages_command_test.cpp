@@ -102,10 +102,11 @@ TEST_F(AveragesCommandTest, TheNameModeSorts) {
   EXPECT_EQ(other[0]["id"], "7");
 }
 
-TEST_F(AveragesCommandTest, AClassWithoutAnything) {
+TEST_F(AveragesCommandTest, AClassWithoutStudentsIsRefused) {
   const std::string file = Build("{}");
-  EXPECT_EQ(RunCli({"averages", file}).out, "NAME  ID  AVERAGE  GRADE\n");
-  EXPECT_EQ(RunCli({"averages", "--json", file}).out, "[]\n");
+  ExpectRefused(RunCli({"averages", file}), file + ": the class has no students");
+  ExpectRefused(RunCli({"averages", "--json", file}), file + ": the class has no students");
+  ExpectRefused(RunCli({"averages", "--csv", file}), file + ": the class has no students");
 }
 
 TEST_F(AveragesCommandTest, AStudentWithoutGrades) {

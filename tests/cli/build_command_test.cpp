@@ -86,6 +86,48 @@ TEST_F(BuildCommandTest, ARefusalKeepsTheFileThatIsThere) {
   EXPECT_EQ(Get(file), "before");
 }
 
+TEST_F(BuildCommandTest, AFileThatIsThereIsReplacedByForceAlone) {
+  const std::string file = Put("a.TYR", "before");
+  ExpectRefused(RunCli({"build", "-", file}, "{}"),
+                file + ": exists already (--force replaces it and keeps a backup)");
+  EXPECT_EQ(Get(file), "before");
+  EXPECT_EQ(RunCli({"build", "--force", "-", file}, "{}").status, 0);
+  EXPECT_EQ(Get(file), Get(Build("{}", "b.TYR")));
+  EXPECT_EQ(Get(Path("a.old")), "before");
+}
+
+// Not the bytes of any of eight classes are lost, the one kept before under that name least of all.
+TEST_F(BuildCommandTest, EachReplacedFileStaysUnderANameOfItsOwn) {
+  const std::string file = Put("a.TYR", "0");
+  Put("a.old", "kept");
+  for (int i = 1; i <= 7; ++i) {
+    ASSERT_EQ(RunCli({"build", "--force", "-", file}, "{}").status, 0);
+    Put("a.TYR", std::to_string(i));
+  }
+  EXPECT_EQ(Get(Path("a.old")), "kept");
+  const char* const kept[] = {"a.ol6", "a.ol7", "a.ol8", "a.ol9", "a.o10", "a.o11", "a.o12"};
+  for (int i = 0; i < 7; ++i) EXPECT_EQ(Get(Path(kept[i])), std::to_string(i)) << kept[i];
+}
+
+TEST_F(BuildCommandTest, WithoutRoomForABackupNothingIsReplaced) {
+  const std::string file = Put("a.TYR", "before");
+  Put("a.old", "");
+  for (int i = 6; i <= 9; ++i) Put("a.ol" + std::to_string(i), "");
+  for (int i = 10; i <= 99; ++i) Put("a.o" + std::to_string(i), "");
+  ExpectRefused(RunCli({"build", "--force", "-", file}, "{}"),
+                file + ": File Error: 75 (the path cannot be used)");
+  EXPECT_EQ(Get(file), "before");
+}
+
+TEST_F(BuildCommandTest, AForcedWriteThatFailsTakesItsBackupBack) {
+  const std::string file = Put("a.TYR", "before");
+  std::filesystem::permissions(file, std::filesystem::perms::owner_read);
+  ExpectRefused(RunCli({"build", "--force", "-", file}, "{}"),
+                file + ": File Error: 70 (permission denied)");
+  EXPECT_EQ(Get(file), "before");
+  EXPECT_FALSE(std::filesystem::exists(Path("a.old")));
+}
+
 TEST_F(BuildCommandTest, NeverWritesOverTheJsonItself) {
   const std::string file = Put("a.json", "{}");
   ExpectRefused(RunCli({"build", file, file}), file + ": is the JSON file itself");

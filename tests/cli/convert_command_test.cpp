@@ -124,6 +124,18 @@ TEST_P(ConvertCommandTest, TheOldFileIsNeverTheNewOne) {
   EXPECT_EQ(Get(old), OlderClass(GetParam()));
 }
 
+TEST_P(ConvertCommandTest, AClassThatIsThereIsReplacedByForceAlone) {
+  const std::string old = Put("old.TYR", OlderClass(GetParam()));
+  const std::string file = Build("{}", "new.TYR");
+  const std::string before = Get(file);
+  ExpectRefused(RunCli({"convert", old, file}),
+                file + ": exists already (--force replaces it and keeps a backup)");
+  EXPECT_EQ(Get(file), before);
+  EXPECT_EQ(RunCli({"convert", old, file, "--force"}).status, 0);
+  EXPECT_EQ(Get(Path("new.old")), before);
+  EXPECT_EQ(json::parse(RunCli({"dump", file}).out)["teacher"], "Mr B");
+}
+
 TEST_P(ConvertCommandTest, AFileThatIsCutIsRefused) {
   const std::string bytes = OlderClass(GetParam());
   const std::string old = Put("old.TYR", bytes.substr(0, bytes.size() - 1));

@@ -175,6 +175,7 @@ TEST_F(DumpCommandTest, BuildOfDumpGivesTheSameBytes) {
     ASSERT_EQ(SerializeClass(RandomClass(random), bytes), 0);
     const CliRun dump = RunCli({"dump", Put("a.TYR", bytes)});
     ASSERT_EQ(dump.status, 0) << "seed " << seed << ": " << dump.err;
+    std::filesystem::remove(Path("b.TYR"));
     const CliRun build = RunCli({"build", "-", Path("b.TYR")}, dump.out);
     ASSERT_EQ(build.status, 0) << "seed " << seed << ": " << build.err;
     ASSERT_EQ(Get(Path("b.TYR")), bytes) << "seed " << seed;

@@ -283,13 +283,41 @@ TEST_F(ReportCommandTest, AFileThatIsMissingIsRefused) {
                 Path("none.TYR") + ": File Error: 53");
 }
 
-TEST_F(ReportCommandTest, AClassWithoutAnything) {
+TEST_F(ReportCommandTest, AReportOfStudentsForAClassWithoutAnyIsRefused) {
   const std::string file = Build("{}");
-  EXPECT_EQ(RunCli({"report", "--code", "1", file}).out,
-            "                    Full Grades Printout\r\n\r\n");
-  EXPECT_EQ(RunCli({"report", "--code", "13", file}).out, "");
-  EXPECT_TRUE(
-      RunCli({"report", "--code", "13", "--format", "html", file}).out.ends_with("</html>"));
+  for (const char* code : {"1", "2", "3", "8", "9", "10", "11", "12", "13", "14", "15", "16", "17",
+                           "18", "19", "20", "21", "23", "24"}) {
+    for (const char* format : {"text", "html"})
+      ExpectRefused(RunCli({"report", "--code", code, "--format", format, file}),
+                    file + ": the class has no students");
+    ExpectRefused(RunCli({"report", "--code", code, "--out", Path("out.txt"), file}),
+                  file + ": the class has no students");
+  }
+  EXPECT_FALSE(std::filesystem::exists(Path("out.txt")));
+  EXPECT_EQ(RunCli({"report", "--code", "22", file}).status, 0);
+}
+
+TEST_F(ReportCommandTest, NoReportGoesOverAClassFile) {
+  const std::string file =
+      Build(R"({"Students": [{"lastname": "Abe", "firstname": "Bo", "id": "5"}]})");
+  const std::string older = Put("older.TYR", "ty5 and so on");
+  for (const std::string& out : {file, older}) {
+    const std::string before = Get(out);
+    for (const char* format : {"text", "html", "pdf"})
+      ExpectRefused(RunCli({"report", "--code", "19", "--format", format, "--out", out, file}),
+                    out + ": is a class file, which is left as it is");
+    EXPECT_EQ(Get(out), before);
+  }
+}
+
+TEST_F(ReportCommandTest, AReportOfNothingSaysSo) {
+  const std::string file =
+      Build(R"({"Instruments": [{"title": "Quiz", "code": "Q", "typecode": "Q ", "mvalue": 9}],
+                "Students": [{"lastname": "Ng", "firstname": "Ada", "id": "1", "Marks": ["", "9"]}]})");
+  ExpectRefused(RunCli({"report", "--code", "2", file}),
+                file + ": No student of this class is missing any Grades.");
+  ExpectRefused(RunCli({"report", "--code", "3", "--sort", "types=T", file}),
+                file + ": None of the grades is of the types or dates you chose.");
 }
 
 }  // namespace

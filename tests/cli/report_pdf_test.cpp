@@ -4,7 +4,7 @@
 
 #include <algorithm>
 
-#include "tests/cli/run_cli.h"
+#include "tests/cli/graded_class.h"
 #include "tests/support/pdf_words.h"
 #include "tests/support/refusing_disk.h"
 
@@ -142,6 +142,26 @@ TEST_F(ReportPdfTest, ANewFileReplacesTheOldOneAndLeavesNothingBeside) {
   const std::filesystem::path folder = std::filesystem::path(pdf).parent_path();
   const auto files = std::distance(std::filesystem::directory_iterator(folder), {});
   EXPECT_EQ(files, 2);  // the class and the report
+}
+
+// The words of each line in turn, for a page's text has its blanks anywhere.
+TEST_F(ReportPdfTest, PdfTellsTheAveragesOfTheClass) {
+  GradedClass graded(20261123);
+  for (int n = 0; n < 16; ++n) {
+    const std::string json = graded.Make(n % 4);
+    const std::string file = Build(json);
+    for (const char* code : {"11", "12", "18"}) {
+      ASSERT_EQ(Report(code, file).status, 0) << json;
+      const Words words = WordsOf(PdfText(pdf));
+      auto at = words.begin();
+      for (const std::string& line : LinesOnAverages(file)) {
+        const Words wanted = WordsOf(line);
+        at = std::search(at, words.end(), wanted.begin(), wanted.end());
+        ASSERT_NE(at, words.end()) << line << " in code " << code << " of " << json;
+        ++at;
+      }
+    }
+  }
 }
 
 TEST_F(ReportPdfTest, TwoRunsDifferInNothingButTheTime) {

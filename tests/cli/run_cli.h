@@ -54,8 +54,9 @@ class CliTest : public ::testing::Test {
     return std::string(std::istreambuf_iterator<char>(file), {});
   }
 
-  // The class file that a JSON text describes.
+  // The class file that a JSON text describes, in the place of an earlier one.
   std::string Build(const std::string& json, const std::string& name = "class.TYR") const {
+    std::filesystem::remove(Path(name));
     const CliRun run = RunCli({"build", "-", Path(name)}, json);
     EXPECT_EQ(run.status, 0) << run.err;
     return Path(name);

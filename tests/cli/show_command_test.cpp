@@ -4,7 +4,7 @@
 namespace tallyroll {
 namespace {
 
-constexpr const char* kClass = R"({"description": "Algebra", "teacher": "Ms. Ó",
+constexpr const char* kShownClass = R"({"description": "Algebra", "teacher": "Ms. Ó",
   "Instruments": [{"code": "QZ1"}, {"code": "T1"}],
   "Students": [
     {"lastname": "Muñoz", "firstname": "Zoé", "id": "7", "Marks": ["", "18.5", "A-"]},
@@ -12,15 +12,15 @@ constexpr const char* kClass = R"({"description": "Algebra", "teacher": "Ms. Ó"
 
 class ShowCommandTest : public CliTest {
  protected:
-  std::string Shown(const char* mode) {
-    const CliRun run = RunCli({"show", "--name-mode", mode, Build(kClass)});
+  std::string CellText(const char* mode) {
+    const CliRun run = RunCli({"show", "--name-mode", mode, Build(kShownClass)});
     EXPECT_EQ(run.status, 0) << run.err;
     return run.out;
   }
 };
 
 TEST_F(ShowCommandTest, NamesIdsAndMarksStandInColumns) {
-  EXPECT_EQ(RunCli({"show", Build(kClass)}).out,
+  EXPECT_EQ(RunCli({"show", Build(kShownClass)}).out,
             "Algebra, Ms. Ó\n"
             "\n"
             "NAME           ID   QZ1   T1\n"
@@ -29,7 +29,7 @@ TEST_F(ShowCommandTest, NamesIdsAndMarksStandInColumns) {
 }
 
 TEST_F(ShowCommandTest, NamesAlone) {
-  EXPECT_EQ(Shown("57"),
+  EXPECT_EQ(CellText("57"),
             "Algebra, Ms. Ó\n"
             "\n"
             "NAME           QZ1   T1\n"
@@ -38,7 +38,7 @@ TEST_F(ShowCommandTest, NamesAlone) {
 }
 
 TEST_F(ShowCommandTest, ByIdWithNames) {
-  EXPECT_EQ(Shown("82"),
+  EXPECT_EQ(CellText("82"),
             "Algebra, Ms. Ó\n"
             "\n"
             "ID   NAME        QZ1   T1\n"
@@ -47,7 +47,7 @@ TEST_F(ShowCommandTest, ByIdWithNames) {
 }
 
 TEST_F(ShowCommandTest, IdsAlone) {
-  EXPECT_EQ(Shown("73"),
+  EXPECT_EQ(CellText("73"),
             "Algebra, Ms. Ó\n"
             "\n"
             "ID   QZ1   T1\n"
@@ -55,8 +55,9 @@ TEST_F(ShowCommandTest, IdsAlone) {
             "7    18.5  A-\n");
 }
 
-TEST_F(ShowCommandTest, AClassWithoutAnything) {
-  EXPECT_EQ(RunCli({"show", Build("{}")}).out, "NAME  ID\n");
+TEST_F(ShowCommandTest, AClassWithoutStudentsIsRefused) {
+  const std::string file = Build("{}");
+  ExpectRefused(RunCli({"show", file}), file + ": the class has no students");
 }
 
 TEST_F(ShowCommandTest, ANameModeThatIsNoneIsAWrongCommandLine) {

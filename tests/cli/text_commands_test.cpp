@@ -8,7 +8,7 @@ namespace {
 
 using Json = nlohmann::ordered_json;
 
-constexpr const char* kClass = R"({"Instruments": [{"title": "Rivers", "code": "RIV"}],
+constexpr const char* kExportedClass = R"({"Instruments": [{"title": "Rivers", "code": "RIV"}],
   "Students": [
     {"lastname": "Ng", "firstname": "Zoé", "id": "7", "city": "Köln", "Marks": ["", "A-"]},
     {"lastname": "Abel", "firstname": "Bo", "id": "512", "Marks": ["", "91"]}]})";
@@ -16,16 +16,19 @@ constexpr const char* kClass = R"({"Instruments": [{"title": "Rivers", "code": "
 class TextCommandTest : public CliTest {
  protected:
   Json Import(const std::string& text, const std::string& layout) {
+    std::filesystem::remove(Path("out.TYR"));
     const CliRun run = RunCli({"import", Put("in.txt", text), Path("out.TYR"), "--layout", layout});
     EXPECT_EQ(run.status, 0) << run.err;
-    EXPECT_EQ(run.out, "");
+    import_told = run.out;
     const CliRun dump = RunCli({"dump", Path("out.TYR")});
     EXPECT_EQ(dump.status, 0) << dump.err;
     return Json::parse(dump.out);
   }
+  std::string import_told;  // what the last import put out
+
   std::string Exported(const std::string& what, const std::string& layout) {
-    const CliRun run = RunCli(
-        {"export", Build(kClass), "--what", what, "--layout", layout, "--out", Path("out.txt")});
+    const CliRun run = RunCli({"export", Build(kExportedClass), "--what", what, "--layout", layout,
+                               "--out", Path("out.txt")});
     EXPECT_EQ(run.status, 0) << run.err;
     EXPECT_EQ(run.out, "");
     return Get(Path("out.txt"));
@@ -69,6 +72,51 @@ TEST_F(TextCommandTest, ASecondStudentWithAnIdGetsAnother) {
   EXPECT_TRUE(ids.contains("7"));
 }
 
+TEST_F(TextCommandTest, ImportTellsWhoWasGivenAnId) {
+  Import("7,Ng Ada\n8,Orr Cy\n", "comma");
+  EXPECT_EQ(import_told, "");
+  const Json c = Import("7,Ng Zo\xC3\xA9\n7,Orr Cy\n,Poe Di\n", "comma");
+  EXPECT_EQ(import_told,
+            "New IDs were given to 2 students: 1 whose ID was taken already, 1 "
+            "without an ID.\nOrr, Cy: " +
+                c["Students"][1]["id"].get<std::string>() +
+                " instead of 7\nPoe, Di: " + c["Students"][2]["id"].get<std::string>() + "\n");
+}
+
+TEST_F(TextCommandTest, ImportReplacesAClassByForceAloneAndKeepsTheOldOne) {
+  const std::string old = Get(Build(kExportedClass, "out.TYR"));
+  const std::string text = Put("in.txt", "8,Orr Cy\n");
+  ExpectRefused(RunCli({"import", text, Path("out.TYR"), "--layout", "comma"}),
+                Path("out.TYR") + ": exists already (--force replaces it and keeps a backup)");
+  EXPECT_EQ(Get(Path("out.TYR")), old);
+  EXPECT_FALSE(std::filesystem::exists(Path("out.old")));
+  EXPECT_EQ(RunCli({"import", text, Path("out.TYR"), "--layout", "comma", "--force"}).status, 0);
+  EXPECT_EQ(Get(Path("out.old")), old);
+  const std::string second = Get(Path("out.TYR"));
+  EXPECT_NE(second, old);
+  EXPECT_EQ(RunCli({"import", text, Path("out.TYR"), "--layout", "comma", "--force"}).status, 0);
+  EXPECT_EQ(Get(Path("out.old")), old);
+  EXPECT_EQ(Get(Path("out.ol6")), second);
+}
+
+TEST_F(TextCommandTest, ExportNeverGoesOverAnotherClassFile) {
+  const std::string other = Build("{}", "other.TYR");
+  const std::string before = Get(other);
+  ExpectRefused(
+      RunCli({"export", Build(kExportedClass), "--what", "names", "--layout", "tabs", "--out", other}),
+      other + ": is a class file, which is left as it is");
+  EXPECT_EQ(Get(other), before);
+}
+
+TEST_F(TextCommandTest, ExportOfAClassWithoutStudentsIsRefused) {
+  const std::string file = Build("{}");
+  for (const char* what : {"names", "info", "grades", "grades-plain"})
+    ExpectRefused(
+        RunCli({"export", file, "--what", what, "--layout", "csv", "--out", Path("out.txt")}),
+        file + ": the class has no students");
+  EXPECT_FALSE(std::filesystem::exists(Path("out.txt")));
+}
+
 TEST_F(TextCommandTest, ImportRefusesWhatIsNoText) {
   const std::string text = Put("in.txt", std::string("a\0b", 3));
   ExpectRefused(RunCli({"import", text, Path("out.TYR"), "--layout", "comma"}),
@@ -95,7 +143,7 @@ TEST_F(TextCommandTest, TheLayoutIsNeededAndKnown) {
   const std::string text = Put("in.txt", "7,Ng Ada\n");
   EXPECT_EQ(RunCli({"import", text, Path("out.TYR")}).status, 2);
   EXPECT_EQ(RunCli({"import", text, Path("out.TYR"), "--layout", "pipes"}).status, 2);
-  EXPECT_EQ(RunCli({"export", Build(kClass), "--what", "all", "--layout", "tabs", "--out",
+  EXPECT_EQ(RunCli({"export", Build(kExportedClass), "--what", "all", "--layout", "tabs", "--out",
                     Path("out.txt")})
                 .status,
             2);
@@ -111,6 +159,22 @@ TEST_F(TextCommandTest, ExportWritesEachContent) {
   EXPECT_EQ(Exported("names", "columns"), "512          Abel, Bo\r\n7            Ng, Zo\xE9\r\n");
   EXPECT_EQ(Exported("names", "csv"),
             "\xEF\xBB\xBFID,Last name,First name\r\n512,Abel,Bo\r\n7,Ng,Zoé\r\n");
+}
+
+TEST_F(TextCommandTest, ExportWritesTheEncodingAskedFor) {
+  const auto exported = [&](const std::string& layout, const std::string& encoding) {
+    EXPECT_EQ(RunCli({"export", Build(kExportedClass), "--what", "names", "--layout", layout, "--encoding",
+                      encoding, "--out", Path("out.txt")})
+                  .status,
+              0);
+    return Get(Path("out.txt"));
+  };
+  EXPECT_EQ(exported("comma", "utf-8"),
+            "\xEF\xBB\xBF"
+            "512,Abel Bo\r\n7,Ng Zo\xC3\xA9\r\n");
+  EXPECT_EQ(exported("comma", "windows-1252"), "512,Abel Bo\r\n7,Ng Zo\xE9\r\n");
+  EXPECT_EQ(exported("csv", "windows-1252"),
+            "ID,Last name,First name\r\n512,Abel,Bo\r\n7,Ng,Zo\xE9\r\n");
 }
 
 TEST_F(TextCommandTest, ExportByIdSortsById) {
@@ -138,7 +202,7 @@ TEST_F(TextCommandTest, ExportTellsWhatTheLayoutCouldNotCarry) {
 }
 
 TEST_F(TextCommandTest, ExportLeavesTheClassFileAlone) {
-  const std::string file = Build(kClass);
+  const std::string file = Build(kExportedClass);
   const std::string before = Get(file);
   ExpectRefused(RunCli({"export", file, "--what", "names", "--layout", "tabs", "--out", file}),
                 file + ": is the class file itself, which is left as it is");

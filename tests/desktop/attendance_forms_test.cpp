@@ -1,26 +1,18 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The forms of attendance: their texts word for word, the list of codes over the current cell, and
 // dates that keep within their bounds.
-#include <gtest/gtest.h>
-
 #include <QAction>
 #include <QComboBox>
 #include <QDateEdit>
 #include <QMenu>
 #include <QScrollBar>
-#include <QTest>
 
-#include "attendance/attendance_range.h"
 #include "attendance/frmAtsum.h"
 #include "attendance/frmAtt.h"
-#include "base/date_serial.h"
 #include "desktop/grid_painter.h"
 #include "desktop/grid_widget.h"
-#include "desktop/portal_dialog.h"
-#include "platform/headless.h"
-#include "shell/program.h"
+#include "tests/desktop/class_dialogs.h"
 #include "tests/desktop/form_texts.h"
-#include "tests/support/enrol_student.h"
 
 namespace tallyroll {
 namespace {
@@ -61,49 +53,16 @@ TEST(AttendanceForms, frmEattAndFrmDattReadAsTeachersKnowThem) {
   EXPECT_EQ(TextsOf("frmDatt").at("list1_label"), "Choose From List of Attendance Summary Titles");
 }
 
-// Forty students in September 2026.
-class AttendanceDialogs : public testing::Test {
+class AttendanceFormsTest : public ClassDialogs {
  protected:
-  AttendanceDialogs() {
-    ResetProgram();
-    SetPlatform(&surroundings);
-    for (int i = 1; i <= 40; ++i) EnrolStudent("Student", std::string(1, char('A' + i)), "1");
-    SetUpRange(*DatesOf({{9, 2026}, {6, 2027}, 2027}));
-  }
-  ~AttendanceDialogs() override {
-    dialog.reset();
-    SetPlatform(nullptr);
-    ResetProgram();
-  }
-  void Open(Portal& portal) {
-    portal.Load();
-    dialog = std::make_unique<PortalDialog>(portal);
-    ASSERT_EQ(dialog->Complaints().join(u'\n').toStdString(), "");
-    dialog->resize(1000, 400);
-    dialog->show();
-    ASSERT_TRUE(QTest::qWaitForWindowActive(dialog.get()));
-  }
-  template <typename W>
-  W& Find(const char* name) {
-    auto* found = dialog->findChild<W*>(QString::fromLatin1(name));
-    EXPECT_NE(found, nullptr) << name;
-    return *found;
-  }
-  GridWidget& grid() { return Find<GridWidget>("Grid1"); }
+  ~AttendanceFormsTest() override { dialog.reset(); }
   QComboBox& codes() { return Find<QComboBox>("Combo1"); }
-  QRect PlaceOf(int row, int col) {
-    QRect place = grid().CellRect(row, col);
-    place.moveTopLeft(grid().viewport()->mapTo(dialog.get(), place.topLeft()));
-    return place;
-  }
 
-  HeadlessSurroundings surroundings;
   frmAtt month;
   frmAtsum summary;
-  std::unique_ptr<PortalDialog> dialog;
 };
 
-class frmAttDialog : public AttendanceDialogs {};
+class frmAttDialog : public AttendanceFormsTest {};
 
 TEST_F(frmAttDialog, AMonthIsEnteredByKeysAlone) {
   OpenState = 15;
@@ -142,17 +101,6 @@ TEST_F(frmAttDialog, TheListFollowsAScrolledCellAndLeavesWithIt) {
   EXPECT_EQ(codes().geometry().topLeft(), PlaceOf(5, 2).topLeft());
   grid().verticalScrollBar()->setValue(grid().verticalScrollBar()->maximum());
   EXPECT_FALSE(dialog->rect().intersects(codes().geometry()));
-}
-
-TEST_F(frmAttDialog, AChoiceFromTheListWritesItsCode) {
-  OpenState = 15;
-  Open(month);
-  QTest::keyClick(&grid(), Qt::Key_Down);
-  codes().setCurrentIndex(4);
-  Q_EMIT codes().activated(4);
-  EXPECT_EQ(month.Grid1.TextMatrix(1, 2), "N");
-  EXPECT_TRUE(codes().isHidden());
-  EXPECT_TRUE(grid().hasFocus());
 }
 
 TEST_F(frmAttDialog, TheMenuShowsTotals) {
@@ -202,7 +150,7 @@ TEST_F(frmAttDialog, TheViewHidesWhatChangesAnything) {
   EXPECT_EQ(Find<QAction>("mnucancel").text(), QStringLiteral("E&xit"));
 }
 
-class frmAtsumDialog : public AttendanceDialogs {};
+class frmAtsumDialog : public AttendanceFormsTest {};
 
 TEST_F(frmAtsumDialog, DatesStayWithinTheRange) {
   Open(summary);

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include <QAbstractItemView>
 #include <QCalendarWidget>
 #include <QCheckBox>
 #include <QComboBox>
@@ -170,7 +171,7 @@ TEST_F(BindChoicesTest, TheFocusChoosesNoLine) {
   EXPECT_EQ(portal.list.ListIndex, -1);
   EXPECT_EQ(list().currentRow(), -1);
   QTest::keyClick(&list(), Qt::Key_Down);
-  EXPECT_EQ(Events(), (Lines{"list change", "list click"}));
+  EXPECT_EQ(Events(), Lines{"list change"});
   EXPECT_EQ(portal.list.ListIndex, 0);
 }
 
@@ -190,13 +191,41 @@ TEST_F(BindChoicesTest, ClickingTheChosenLineIsAClickAndNoChange) {
   EXPECT_EQ(Events(), Lines{"list click"});
 }
 
-TEST_F(BindChoicesTest, ArrowKeysChooseLines) {
+TEST_F(BindChoicesTest, KeysWalkThroughTheLinesWithoutAClick) {
   portal.list.ListIndex = 0;
   Open();
   Focus("list");
   QTest::keyClick(&list(), Qt::Key_Down);
-  EXPECT_EQ(Events(), (Lines{"list change", "list click"}));
-  EXPECT_EQ(portal.list.ListIndex, 1);
+  QTest::keyClicks(&list(), QStringLiteral("c"));
+  EXPECT_EQ(Events(), (Lines{"list change", "list change"}));
+  EXPECT_EQ(portal.list.ListIndex, 2);
+  QTest::mouseClick(list().viewport(), Qt::LeftButton, {}, PlaceOf(2));
+  EXPECT_EQ(Events(), Lines{"list click"});
+}
+
+TEST_F(BindChoicesTest, AnOptionThatIsOnIsNotPressedAgain) {
+  portal.one.Value = true;
+  Open();
+  Focus("one");
+  auto& one = Find<QRadioButton>("one");
+  QTest::mouseClick(&one, Qt::LeftButton, {}, QPoint(8, one.height() / 2));
+  QTest::keyClick(&one, Qt::Key_Space);
+  EXPECT_EQ(Events(), Lines{});
+  EXPECT_TRUE(portal.one.Value);
+}
+
+TEST_F(BindChoicesTest, TheLineThatIsChosenAlreadyIsNotChosenAgain) {
+  portal.pick.ListIndex = 1;
+  portal.pick.Text = "green";
+  Open();
+  Focus("pick");
+  for (const Qt::Key key : {Qt::Key_Down, Qt::Key_Up}) {
+    pick().showPopup();
+    QTest::keyClick(pick().view(), key);
+    QTest::keyClick(pick().view(), key == Qt::Key_Down ? Qt::Key_Up : Qt::Key_Down);
+    QTest::keyClick(pick().view(), Qt::Key_Return);
+  }
+  EXPECT_EQ(Events(), Lines{});
 }
 
 TEST_F(BindChoicesTest, DoubleClickOnALine) {

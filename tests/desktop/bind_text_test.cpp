@@ -186,6 +186,24 @@ TEST_F(BindTextTest, LinesThatNobodyEditedKeepEveryByte) {
   EXPECT_EQ(portal.lines.Text, "old\nfile\rends\r\n");
 }
 
+// Each line end has the length that it has in the text: 2, 1 and 1 before the last two letters.
+TEST_F(BindTextTest, ASelectionBehindBareLineEndsIsThatOfTheText) {
+  portal.lines.Text = "a\r\nbb\ncc\rdd";
+  Open();
+  lines().setFocus();
+  QTest::keyClick(&lines(), Qt::Key_End, Qt::ControlModifier);
+  QTest::keyClick(&lines(), Qt::Key_Left, Qt::ShiftModifier);
+  QTest::keyClick(&lines(), Qt::Key_Left, Qt::ShiftModifier);
+  EXPECT_EQ(lines().textCursor().selectedText(), QStringLiteral("dd"));
+  QTest::keyClicks(&first(), QStringLiteral("x"));
+  EXPECT_EQ(portal.lines.SelStart, 9);
+  EXPECT_EQ(portal.lines.SelLength, 2);
+  portal.lines.SelStart = 6;
+  portal.lines.SelLength = 2;
+  dialog->ShowControls();
+  EXPECT_EQ(lines().textCursor().selectedText(), QStringLiteral("cc"));
+}
+
 TEST_F(BindTextTest, LinesRefuseWhatTheCodePageLacks) {
   portal.lines.Text = "a";
   Open();

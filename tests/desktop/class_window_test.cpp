@@ -5,10 +5,12 @@
 #include <gtest/gtest.h>
 
 #include <QAction>
+#include <QDialog>
 #include <QLabel>
 #include <QMenu>
 #include <QStatusTipEvent>
 #include <QTest>
+#include <QTimer>
 #include <QToolButton>
 
 #include "desktop/grid_widget.h"
@@ -53,6 +55,45 @@ TEST_F(ClassWindowTest, FollowsCaptionAndStatus) {
   view().Sync();
   EXPECT_EQ(view().windowTitle(), QStringLiteral("Caf\u00e9.TYR"));
   EXPECT_EQ(Status(), QStringLiteral("Na\u00efve"));
+}
+
+TEST_F(ClassWindowTest, AChangedClassBearsAnAsteriskUntilItIsSaved) {
+  Classes[1].Changed = kTrue;
+  Settle();
+  window->Sync();
+  EXPECT_EQ(view().windowTitle(), QStringLiteral("MATH.TYR*"));
+  EXPECT_EQ(window->windowTitle(), QStringLiteral("Tallyroll - [MATH.TYR*]"));
+  EXPECT_EQ(form.Caption, "MATH.TYR");
+  PressMenu("mnusave");
+  EXPECT_EQ(view().windowTitle(), QStringLiteral("MATH.TYR"));
+  EXPECT_EQ(window->windowTitle(), QStringLiteral("Tallyroll - [MATH.TYR]"));
+}
+
+TEST_F(ClassWindowTest, AMessageGoesAndTheHintOfThePointerComesBack) {
+  PressMenu("mnusave");
+  EXPECT_EQ(Status(), QStringLiteral("MATH.TYR saved."));
+  QTest::mouseMove(grid().viewport(), Middle(2, 0));
+  Settle();
+  EXPECT_EQ(Status(), QStringLiteral("MATH.TYR saved."));
+  auto* moment = view().findChild<QTimer*>(QStringLiteral("MessageMoment"));
+  ASSERT_TRUE(moment->isActive());
+  moment->setInterval(1);
+  EXPECT_TRUE(QTest::qWaitFor([this] { return Status() != QStringLiteral("MATH.TYR saved."); }));
+  EXPECT_FALSE(moment->isActive());
+  QTest::mouseMove(grid().viewport(), Middle(2, 2));
+  Settle();
+  EXPECT_EQ(Status(), QStringLiteral("Double Click on a Grade to Edit"));
+}
+
+TEST_F(ClassWindowTest, AMessageWaitsForThePortalInFront) {
+  form.ShowStatus("Told.");
+  view().Sync();
+  auto* moment = view().findChild<QTimer*>(QStringLiteral("MessageMoment"));
+  moment->setInterval(1);
+  QDialog portal;
+  QTimer::singleShot(200, &portal, &QDialog::reject);
+  portal.exec();
+  EXPECT_EQ(Status(), QStringLiteral("Told."));
 }
 
 TEST_F(ClassWindowTest, AToolbarButtonRunsItsCommand) {

@@ -21,6 +21,7 @@
 #include "desktop/form_loader.h"
 #include "desktop/portal_dialog.h"
 #include "desktop/text_conversion.h"
+#include "platform/chart.h"
 
 namespace tallyroll {
 namespace {
@@ -128,7 +129,7 @@ QStringList CheckAccessibleNames(Portal& portal, const Widgets& widgets) {
           using C = std::remove_cvref_t<decltype(*control)>;
           return std::is_same_v<C, TextBox> || std::is_same_v<C, ComboBox> ||
                  std::is_same_v<C, ListBox> || std::is_same_v<C, DTPicker> ||
-                 std::is_same_v<C, Grid>;
+                 std::is_same_v<C, Grid> || std::is_same_v<C, Graph>;
         },
         row->control);
     for (const QWidget* widget : widgets)

@@ -38,7 +38,7 @@ void Press(const MenuView& menu, const char* entry) {
 }
 
 FrameTest::FrameTest() {
-  Frame = std::make_unique<MDIForm1>();
+  FrameForm = std::make_unique<MDIForm1>();
   window = std::make_unique<FrameWindow>();
   Screen = window.get();
   window->resize(900, 600);
@@ -80,7 +80,7 @@ std::string FrameTest::WriteClass(std::string_view name) {
 }
 
 Form1& FrameTest::OpenClass(std::string_view name) {
-  Frame->OpenRecent(WriteClass(name));
+  FrameForm->OpenRecent(WriteClass(name));
   window->Sync();
   Settle();
   return *ClassWindows[static_cast<std::size_t>(CurrentClass)];

@@ -16,6 +16,7 @@
 #include <QTimer>
 
 #include "desktop/class_window_view.h"
+#include "desktop/grid_widget.h"
 #include "store/settings.h"
 #include "tests/desktop/frame_fixture.h"
 
@@ -31,11 +32,20 @@ class FrameWindowTest : public FrameTest {
   const std::string save_question = " Data has been changed. Save File?  ";
 };
 
+TEST_F(FrameWindowTest, FitsASmallScreenWithAndWithoutAClass) {
+  const QSize room(1024 - 16, 640 - 40);
+  EXPECT_LE(window->minimumSizeHint().width(), room.width());
+  EXPECT_LE(window->minimumSizeHint().height(), room.height());
+  OpenClass("MATH.TYR");
+  EXPECT_LE(window->minimumSizeHint().width(), room.width());
+  EXPECT_LE(window->minimumSizeHint().height(), room.height());
+}
+
 TEST_F(FrameWindowTest, ShowsItsOwnMenuUntilAClassIsOpen) {
   EXPECT_THAT(Headings(), ElementsAre("&File", "&Help"));
   Form1& form = OpenClass("MATH.TYR");
   EXPECT_EQ(Headings().size(), 10U);
-  EXPECT_TRUE(Frame->CloseWindow(form));
+  EXPECT_TRUE(FrameForm->CloseWindow(form));
   EXPECT_THAT(Headings(), ElementsAre("&File", "&Help"));
 }
 
@@ -153,10 +163,34 @@ TEST_F(FrameWindowTest, CascadeShowsEveryTitle) {
   EXPECT_NE(windows[0]->pos(), windows[1]->pos());
 }
 
+TEST_F(FrameWindowTest, ArrangingTheWindowsLeavesTheFocusOnTheGrid) {
+  OpenClass("MATH.TYR");
+  Form1& art = OpenClass("ART.TYR");
+  window->activateWindow();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(window.get()));
+  for (const char* entry : {"mnucascade", "mnhorizontal", "mnuvertical", "mnucascade"}) {
+    PressMenu(entry);
+    ASSERT_EQ(window->Current()->form(), &art) << entry;
+    EXPECT_EQ(window->focusWidget(), window->Current()->findChild<GridWidget*>()) << entry;
+    EXPECT_EQ(CurrentClass, 2);
+  }
+}
+
+TEST_F(FrameWindowTest, WhatTheFrameTellsGoesWhenItsMomentIsOver) {
+  Change(OpenClass("MATH.TYR"));
+  screen.ExpectBox("MATH.TYR" + save_question, BoxAnswer::kYes);
+  PressMenu("mnuclose");
+  const auto* status = window->findChild<QLabel*>(QStringLiteral("FrameStatus"));
+  EXPECT_EQ(status->text(), QStringLiteral("MATH.TYR saved."));
+  window->findChild<QTimer*>(QStringLiteral("MessageMoment"), Qt::FindDirectChildrenOnly)
+      ->setInterval(1);
+  EXPECT_TRUE(QTest::qWaitFor([status] { return status->text().isEmpty(); }));
+}
+
 TEST_F(FrameWindowTest, TheLastOfTwoFillsTheFrameAgain) {
   OpenClass("MATH.TYR");
   Form1& art = OpenClass("ART.TYR");
-  EXPECT_TRUE(Frame->CloseWindow(art));
+  EXPECT_TRUE(FrameForm->CloseWindow(art));
   ASSERT_NE(window->Current(), nullptr);
   EXPECT_EQ(window->Current()->form(), ClassWindows[1].get());
   EXPECT_TRUE(window->Current()->isMaximized());
@@ -167,7 +201,7 @@ TEST_F(FrameWindowTest, WithNoClassTheStatusStandsBelowTheStartPage) {
   window->CurrentMenu().Action(QStringLiteral("mnuOpen"))->showStatusText(window.get());
   const auto* status = window->findChild<QLabel*>(QStringLiteral("FrameStatus"));
   EXPECT_EQ(status->text(), QStringLiteral("Open a class file"));
-  Frame->StatusText = "Hello";
+  FrameForm->StatusText = "Hello";
   QStatusTipEvent left{QString()};
   QCoreApplication::sendEvent(window.get(), &left);
   EXPECT_EQ(status->text(), QStringLiteral("Hello"));

@@ -5,6 +5,7 @@
 #include <gtest/gtest.h>
 
 #include <QAbstractButton>
+#include <QAction>
 #include <QGroupBox>
 #include <QLabel>
 #include <string>
@@ -89,6 +90,7 @@ std::vector<std::string> TextsOf(const LoadedForm& form) {
     if (const auto* label = qobject_cast<const QLabel*>(object)) text = label->text();
     if (const auto* box = qobject_cast<const QGroupBox*>(object)) text = box->title();
     if (const auto* button = qobject_cast<const QAbstractButton*>(object)) text = button->text();
+    if (const auto* entry = qobject_cast<const QAction*>(object)) text = entry->text();
     if (!text.isEmpty()) texts.push_back(text.toStdString());
   }
   return texts;

@@ -77,6 +77,19 @@ TEST_F(GridWidgetTest, NothingLiesBehindTheLastCell) {
   EXPECT_EQ(widget.CellAt(QPoint(480, 280)).row, -1);
 }
 
+TEST_F(GridWidgetTest, TheCurrentCellStaysInSightWhenTheRoomShrinks) {
+  widget.MoveTo(10, 2);
+  ASSERT_TRUE(InView(10, 2));
+  widget.resize(500, 150);
+  EXPECT_TRUE(InView(10, 2));
+}
+
+TEST_F(GridWidgetTest, AViewScrolledAwayFromTheCurrentCellStaysWhenTheRoomShrinks) {
+  widget.verticalScrollBar()->setValue(20);
+  widget.resize(500, 200);
+  EXPECT_EQ(grid.TopRow, 22);
+}
+
 TEST_F(GridWidgetTest, AMergedHeadingIsOnePlace) {
   grid.SetMergeRow(0);
   for (int c = 2; c <= 4; ++c) grid.SetTextMatrix(0, c, "  Marks  ");

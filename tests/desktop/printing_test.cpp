@@ -128,6 +128,31 @@ TEST_F(PrinterTargetTest, TheSamePrinterPrintsAcrossAndUprightAgain) {
   EXPECT_TRUE(PdfInfo(Path("out.pdf"), "Page size").starts_with("612 x 792 pts"));
 }
 
+TEST_F(PrinterTargetTest, AJobLeavesThePrinterAsItWasSetUp) {
+  for (const auto set_up : {QPageLayout::Portrait, QPageLayout::Landscape})
+    for (const bool landscape : {false, true}) {
+      printer->setPageOrientation(set_up);
+      PrinterTarget::Open(*printer, landscape, "a report")->EndDoc();
+      EXPECT_EQ(printer->pageLayout().orientation(), set_up);
+      PrinterTarget::Open(*printer, landscape, "a dropped one")->KillDoc();
+      EXPECT_EQ(printer->pageLayout().orientation(), set_up);
+    }
+}
+
+TEST_F(PrintingTest, ThePrinterSetUpAcrossTurnsEveryReport) {
+  const auto upright = surroundings.MakePrintBox(false);
+  WithNextWindow<QPageSetupDialog>([](QPageSetupDialog& dialog) {
+    dialog.printer()->setPageOrientation(QPageLayout::Landscape);
+    dialog.reject();
+  });
+  surroundings.PrinterSetUpDialog();
+  for (const bool landscape : {false, true}) {
+    EXPECT_EQ(surroundings.MakePrintBox(landscape)->Width, upright->Height) << landscape;
+    const auto pdf = surroundings.OpenPdf(Path("a.pdf"), landscape, "Title");
+    EXPECT_EQ(pdf->ScaleWidth, upright->ScaleHeight) << landscape;
+  }
+}
+
 TEST_F(PrinterTargetTest, WhatIsDrawnLiesAtItsTwips) {
   const auto job = PrinterTarget::Open(*printer, false, "Places");
   job->ScaleLeft = -500;

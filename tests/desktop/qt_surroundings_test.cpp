@@ -5,7 +5,11 @@
 
 #include <QApplication>
 #include <QClipboard>
+#include <QComboBox>
+#include <QDir>
+#include <QFile>
 #include <QFileDialog>
+#include <QLineEdit>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QShortcut>
@@ -140,6 +144,109 @@ TEST_F(QtSurroundingsTest, ANameWithoutAnExtensionGetsTheDefaultOne) {
     QMetaObject::invokeMethod(&dialog, "accept");
   });
   EXPECT_EQ(surroundings.FileDialog(request), ToPath(folder.path()) + "/class.TYR");
+}
+
+class NameOfOtherCase : public QtSurroundingsTest {
+ protected:
+  NameOfOtherCase() {
+    QFile file(folder.filePath(QStringLiteral("b.tyr")));
+    EXPECT_TRUE(file.open(QIODevice::WriteOnly));
+    request.folder = ToPath(folder.path());
+    request.filter = "Data Files (*.tyr)|*.TYR";
+    request.default_extension = "TYR";
+  }
+  // Types the name into the dialog and presses Enter there.
+  static void Enter(QFileDialog& dialog, const QString& name) {
+    auto* field = dialog.findChild<QLineEdit*>(QStringLiteral("fileNameEdit"));
+    field->setFocus();
+    field->setText(name);
+    QTest::keyClick(field, Qt::Key_Return);
+  }
+
+  QTemporaryDir folder;
+  FileDialogRequest request;
+};
+
+TEST_F(NameOfOtherCase, IsNotReplacedWithoutAQuestion) {
+  request.save = request.overwrite_prompt = true;
+  int questions = 0;
+  WithNextWindow<QFileDialog>([&](QFileDialog& dialog) {
+    const auto answer = [&](QMessageBox::StandardButton button) {
+      WithNextWindow<QMessageBox>([&questions, button](QMessageBox& box) {
+        EXPECT_TRUE(box.text().startsWith(QStringLiteral("b.tyr already exists"))) << questions;
+        ++questions;
+        box.button(button)->click();
+      });
+    };
+    answer(QMessageBox::No);
+    Enter(dialog, QStringLiteral("b"));
+    EXPECT_TRUE(dialog.isVisible());
+    answer(QMessageBox::Yes);
+    Enter(dialog, QStringLiteral("B"));
+    if (dialog.isVisible()) dialog.reject();
+  });
+  EXPECT_EQ(surroundings.FileDialog(request), ToPath(folder.path()) + "/b.tyr");
+  EXPECT_EQ(questions, 2);
+}
+
+TEST_F(QtSurroundingsTest, AFolderThatIsAwayGivesWayToTheWorkingDirectory) {
+  const QTemporaryDir away;
+  FileDialogRequest request;
+  request.save = true;
+  request.folder = ToPath(away.filePath(QStringLiteral("stick")));
+  request.filename = request.folder + "/math.TYR";
+  WithNextWindow<QFileDialog>([](QFileDialog& dialog) {
+    EXPECT_EQ(dialog.directory().path(), QDir::currentPath());
+    EXPECT_EQ(dialog.findChild<QLineEdit*>(QStringLiteral("fileNameEdit"))->text(),
+              QStringLiteral("math.TYR"));
+    dialog.reject();
+  });
+  EXPECT_EQ(surroundings.FileDialog(request), std::nullopt);
+}
+
+TEST_F(NameOfOtherCase, IsTheFileThatOpens) {
+  request.file_must_exist = true;
+  WithNextWindow<QFileDialog>([](QFileDialog& dialog) {
+    Enter(dialog, QStringLiteral("B"));
+    if (dialog.isVisible()) dialog.reject();
+  });
+  EXPECT_EQ(surroundings.FileDialog(request), ToPath(folder.path()) + "/b.tyr");
+}
+
+TEST_F(QtSurroundingsTest, ADialogThatSavesATextAsksForItsEncoding) {
+  const QTemporaryDir folder;
+  TextEncoding encoding = TextEncoding::kUtf8;
+  FileDialogRequest request;
+  request.save = true;
+  request.folder = ToPath(folder.path());
+  request.encoding = &encoding;
+  WithNextWindow<QFileDialog>([](QFileDialog& dialog) {
+    auto* encodings = dialog.findChild<QComboBox*>(QStringLiteral("encoding"));
+    ASSERT_NE(encodings, nullptr);
+    EXPECT_TRUE(encodings->isVisible());
+    EXPECT_EQ(encodings->currentText(), QStringLiteral("UTF-8"));
+    encodings->setCurrentText(QStringLiteral("Windows-1252"));
+    dialog.reject();
+  });
+  EXPECT_EQ(surroundings.FileDialog(request), std::nullopt);
+  EXPECT_EQ(encoding, TextEncoding::kUtf8);
+  WithNextWindow<QFileDialog>([](QFileDialog& dialog) {
+    auto* encodings = dialog.findChild<QComboBox*>(QStringLiteral("encoding"));
+    encodings->setFocus();
+    QTest::keyClick(encodings, Qt::Key_Down);
+    dialog.selectFile(QStringLiteral("names.txt"));
+    QMetaObject::invokeMethod(&dialog, "accept");
+  });
+  EXPECT_EQ(surroundings.FileDialog(request), ToPath(folder.path()) + "/names.txt");
+  EXPECT_EQ(encoding, TextEncoding::kWindows1252);
+}
+
+TEST_F(QtSurroundingsTest, ADialogWithoutATextAsksForNoEncoding) {
+  WithNextWindow<QFileDialog>([](QFileDialog& dialog) {
+    EXPECT_EQ(dialog.findChild<QComboBox*>(QStringLiteral("encoding")), nullptr);
+    dialog.reject();
+  });
+  surroundings.FileDialog({});
 }
 
 TEST_F(QtSurroundingsTest, F1InAFileDialogShowsItsHelp) {

@@ -30,7 +30,7 @@ TEST_F(StartPageTest, IsThereWhileNoClassIsOpen) {
   EXPECT_TRUE(page()->isVisible());
   Form1& form = OpenClass("MATH.TYR");
   EXPECT_FALSE(page()->isVisible());
-  EXPECT_TRUE(Frame->CloseWindow(form));
+  EXPECT_TRUE(FrameForm->CloseWindow(form));
   Settle();
   EXPECT_TRUE(page()->isVisible());
 }
@@ -44,6 +44,18 @@ TEST_F(StartPageTest, EachWayToBeginHasALetterOfItsOwn) {
   EXPECT_GE(letters.size(), 5);
   EXPECT_FALSE(letters.contains(QKeySequence()));
   EXPECT_EQ(QSet<QKeySequence>(letters.begin(), letters.end()).size(), letters.size());
+}
+
+TEST_F(StartPageTest, EnterPressesTheButtonWithTheFocus) {
+  QSignalSpy pressed(page(), &StartPage::Pressed);
+  RecordPortals();
+  DataFolder = folder;
+  for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Enter}) {
+    Button("mnuown")->setFocus(Qt::TabFocusReason);
+    QTest::keyClick(Button("mnuown"), key);
+    Settle();
+  }
+  EXPECT_EQ(portals_asked_for, (std::vector<std::string>{"frmAdd", "frmAdd"}));
 }
 
 TEST_F(StartPageTest, EachWayToBeginPressesItsMenuEntry) {
@@ -64,7 +76,7 @@ TEST_F(StartPageTest, EachWayToBeginPressesItsMenuEntry) {
 
 TEST_F(StartPageTest, ListsRecentClassesByNameAndFolder) {
   RecentFiles[0] = Path("MATH & MORE.TYR");
-  Frame->RebuildRecentMenu();
+  FrameForm->RebuildRecentMenu();
   window->Sync();
   EXPECT_TRUE(Button("mnuFileList0")->isVisible());
   EXPECT_EQ(Button("mnuFileList0")->text(), QStringLiteral("MATH && MORE.TYR"));
@@ -75,7 +87,7 @@ TEST_F(StartPageTest, ListsRecentClassesByNameAndFolder) {
 
 TEST_F(StartPageTest, OpensARecentClass) {
   RecentFiles[0] = WriteClass("MATH.TYR");
-  Frame->RebuildRecentMenu();
+  FrameForm->RebuildRecentMenu();
   window->Sync();
   Button("mnuFileList0")->click();
   Settle();

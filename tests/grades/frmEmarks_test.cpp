@@ -48,6 +48,22 @@ TEST_F(FrmEmarksTest, TheGradeHandedOverIsShown) {
   EXPECT_EQ(Cell(2), "A+");
 }
 
+TEST_F(FrmEmarksTest, AMarkOfZeroBytesIsShownAsNoneAndIsNone) {
+  Current().Students[1].Marks[2] = std::string_view("\0\0", 2);
+  Current().Students[2].Marks[2] = std::string_view("A+\0", 3);
+  OpenAt(2);
+  EXPECT_EQ(Cell(1), "");
+  EXPECT_EQ(Cell(2), "A+");
+  driver->Type("Title", "Lakes and seas");
+  screen.ExpectBox(kReminder);
+  driver->Press("Exitt");
+  EXPECT_FALSE(portal.Unloaded());
+  TypeMark(1, "75");
+  driver->Press("Exitt");
+  EXPECT_EQ(Current().Students[1].Marks[2], "75");
+  EXPECT_EQ(Current().Students[2].Marks[2].view(), std::string_view("A+\0", 3));
+}
+
 TEST_F(FrmEmarksTest, WithoutAGradeTheFieldsWaitForAPick) {
   OpenAt(0);
   EXPECT_EQ(portal.list1.ListIndex, -1);
@@ -65,6 +81,30 @@ TEST_F(FrmEmarksTest, WithoutAGradeExitClosesAtOnce) {
   driver->Press("Exitt");
   EXPECT_TRUE(portal.Unloaded());
   EXPECT_EQ(Current().Changed, kFalse);
+}
+
+TEST_F(FrmEmarksTest, TheStudentHandedOverIsInWork) {
+  OpenState = 2;
+  OpenAt(1);
+  EXPECT_EQ(portal.Grid1.Row, 2);
+  driver->TypeKeys("Grid1", "55");
+  driver->Press("Exitt");
+  EXPECT_EQ(Mark(1, 1), "81");
+  EXPECT_EQ(Mark(2, 1), "55");
+}
+
+TEST_F(FrmEmarksTest, AClickOnTheHeadingGoesBackToTheStudentHandedOver) {
+  OpenState = 2;
+  OpenAt(1);
+  portal.marks.GoTo(1);
+  driver->PickCell("Grid1", 0, kMarkColumn);
+  EXPECT_EQ(portal.Grid1.Row, 2);
+}
+
+TEST_F(FrmEmarksTest, AStudentBeyondTheClassIsTheFirst) {
+  OpenState = 3;
+  OpenAt(1);
+  EXPECT_EQ(portal.Grid1.Row, 1);
 }
 
 TEST_F(FrmEmarksTest, AGradeBeyondTheClassIsNone) {

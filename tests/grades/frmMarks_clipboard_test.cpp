@@ -133,6 +133,42 @@ TEST_F(FrmMarksTest, TwoStudentsOfOneIdTheFirstTakesTheMark) {
   EXPECT_EQ(Cell(3), "NEW");
 }
 
+TEST_F(FrmMarksTest, AnIdWithCommasKeepsItsMark) {
+  Current().Students[1].id = "7";
+  Current().Students[2].id = " 7,12 ";
+  Current().Students[3].id = "7,12,B";
+  screen.clipboard =
+      "8z\rRivers\rRIV\r50\r30\r9/10/2026\rN\rHW\r4\r7,41\r 7,12 ,42\r7,12,B,43\r8,12,44\r";
+  OpenMarks();
+  driver->Press("pastegrade");
+  EXPECT_EQ(Cell(1), "41");
+  EXPECT_EQ(Cell(2), "42");
+  EXPECT_EQ(Cell(3), "43");
+}
+
+// "7,8,5" may be the mark "8,5" of 7 as well: what stands before the last comma is an ID, and wins.
+TEST_F(FrmMarksTest, TheLongestIdThatALineBeginsWithTakesItsMark) {
+  Current().Students[1].id = "7";
+  Current().Students[2].id = "7,8";
+  screen.clipboard = "8z\rRivers\rRIV\r50\r30\r9/10/2026\rN\rHW\r2\r7,8,5\r7,9,5\r";
+  OpenMarks();
+  driver->Press("pastegrade");
+  EXPECT_EQ(Cell(1), "9,5");
+  EXPECT_EQ(Cell(2), "5");
+}
+
+TEST_F(FrmMarksTest, AGradeComesToTheSameStudentsWhateverTheirIdsHold) {
+  const std::vector<std::string> ids = {"O'Hara, \"Bo\"", ",", "a  b"};
+  for (std::size_t i = 0; i < ids.size(); ++i) Current().Students[i + 1].id = ids[i];
+  Give("Rivers", "RIV", "HW", {"B+", "8,5", "EXC"});
+  screen.clipboard = GradeOnClipboard(1);
+  OpenMarks();
+  driver->Press("pastegrade");
+  EXPECT_EQ(Cell(1), "B+");
+  EXPECT_EQ(Cell(2), "8,5");
+  EXPECT_EQ(Cell(3), "EXC");
+}
+
 TEST_F(FrmMarksTest, ATypeOfTwoCodesIsFoundByTheCodeOfOneCharacter) {
   screen.clipboard = "8z\rRivers\rRIV\r50\r30\r9/10/2026\rN\rQ \r0\r";
   OpenMarks();

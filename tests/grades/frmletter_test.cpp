@@ -8,10 +8,10 @@
 namespace tallyroll {
 namespace {
 
-const std::string kResetQuestion =
+const std::string kLettersResetQuestion =
     "This will reset ALL values to the original defaults. You will lose ANY changes you have made. "
     "Continue?";
-const std::string kChanged = "Data has been changed. Are you sure you want to CANCEL?";
+const std::string kLettersChanged = "Data has been changed. Are you sure you want to CANCEL?";
 const std::string kLetterSetting = "TALLYRLG8/startup/LetterString";
 
 class FrmletterTest : public GradePortalTest {
@@ -152,7 +152,7 @@ TEST_F(FrmletterTest, AValueBeyondWhatAClassHoldsIsRefused) {
 TEST_F(FrmletterTest, DefaultsAskFirst) {
   Value(1) = Currency::FromWhole(97);
   OpenPortal();
-  screen.ExpectBox(kResetQuestion, BoxAnswer::kNo);
+  screen.ExpectBox(kLettersResetQuestion, BoxAnswer::kNo);
   driver->Press("default");
   EXPECT_EQ(screen.boxes.at(0).title, "Note to the Teacher.");
   EXPECT_EQ(screen.boxes.at(0).icon, BoxIcon::kCritical);
@@ -165,7 +165,7 @@ TEST_F(FrmletterTest, DefaultsBringBackTheProgramsValues) {
   Value(0) = Currency::FromWhole(343);
   Value(1) = Currency::FromWhole(97);
   OpenPortal();
-  screen.ExpectBox(kResetQuestion, BoxAnswer::kYes);
+  screen.ExpectBox(kLettersResetQuestion, BoxAnswer::kYes);
   driver->Press("default");
   EXPECT_EQ(Cell(1), "99");
   EXPECT_FALSE(driver->Enabled("default"));
@@ -181,11 +181,11 @@ TEST_F(FrmletterTest, CancelAfterAnEditAsksAndDiscards) {
   Value(0) = Currency::FromWhole(243);
   OpenPortal();
   TypeValue(1, "1");
-  screen.ExpectBox(kChanged, BoxAnswer::kNo);
+  screen.ExpectBox(kLettersChanged, BoxAnswer::kNo);
   driver->CloseWindow();
   EXPECT_FALSE(portal.Unloaded());
   EXPECT_EQ(screen.boxes.at(0).title, "CANCEL");
-  screen.ExpectBox(kChanged, BoxAnswer::kYes);
+  screen.ExpectBox(kLettersChanged, BoxAnswer::kYes);
   driver->Press("cancel");
   EXPECT_TRUE(portal.Unloaded());
   EXPECT_EQ(ValueText(1), "99");
@@ -197,9 +197,9 @@ TEST_F(FrmletterTest, CancelDiscardsTheDefaultsToo) {
   Value(0) = Currency::FromWhole(243);
   Value(1) = Currency::FromWhole(97);
   OpenPortal();
-  screen.ExpectBox(kResetQuestion, BoxAnswer::kYes);
+  screen.ExpectBox(kLettersResetQuestion, BoxAnswer::kYes);
   driver->Press("default");
-  screen.ExpectBox(kChanged, BoxAnswer::kYes);
+  screen.ExpectBox(kLettersChanged, BoxAnswer::kYes);
   driver->Press("cancel");
   EXPECT_EQ(ValueText(1), "97");
   EXPECT_EQ(ValueText(0), "243");

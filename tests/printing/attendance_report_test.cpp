@@ -54,9 +54,19 @@ TEST_F(MonthsReportTest, TheStudentColumnByNameOrById) {
 TEST_F(MonthsReportTest, ALongNameLeavesTheDaysInTheirColumns) {
   Current().Students[1].lastname = std::string(60, 'n');
   Current().Students[1].id = std::string(60, '1');
-  EXPECT_EQ(TextOf(8)[5].substr(0, 36), Row(23, 'n') + "|" + Row(10, '1') + "|A");
+  EXPECT_EQ(TextOf(8)[5].substr(0, 36), Row(11, 'n') + "|\x85" + Row(21, '1') + "|A");
   Choice.shown = Shown::kName;
   EXPECT_EQ(TextOf(8)[5].substr(0, 36), Row(34, 'n') + "|A");
+}
+
+TEST_F(MonthsReportTest, IdsThatDifferAtTheirEndStayApart) {
+  Current().Students[1].id = "2026-000000001";
+  Current().Students[2].id = "2026-000000002";
+  EXPECT_EQ(TextOf(8)[3].substr(0, 36), Line({{1, "Name"}, {20, "|ID"}, {35, "|1"}}));
+  EXPECT_EQ(TextOf(8)[5].substr(0, 36), Line({{1, "Ng, Ada"}, {20, "|2026-000000001|A"}}));
+  EXPECT_EQ(TextOf(8)[6].substr(0, 36), Line({{1, "O'Hara, Bo"}, {20, "|2026-000000002| "}}));
+  LayOut(8);
+  EXPECT_NE(Find(Page(1), "|2026-000000001").x, 0);
 }
 
 TEST_F(MonthsReportTest, EachMonthCountsItsOwnMarksAlone) {

@@ -660,5 +660,34 @@ TEST_F(CancelTest, ASecondRunWaitsForTheFirst) {
   EXPECT_EQ(screen.print_jobs.size(), 1u);
 }
 
+TEST_F(FrmPrintAllTest, AGradeSavedFromThePreviewCanBeChosen) {
+  OpenAt(1);
+  Choose("onegrade");
+  driver->Choose("lsttitle", 1);
+  driver->PickTab("TabStrip1", 3);
+  Choose("onestudent");
+  Choose("sort3");
+  driver->Check("List3", 1);
+  Choose("fullclass");
+  ExpectTitle();
+  screen.ExpectPortal("frmprintpre", [](PortalDriver& work) {
+    AddGrade("Average", "A ");
+    for (std::size_t s = 1; s <= 3; ++s) Current().Students[s].Marks.emplace_back("90");
+    work.portal().Unload();
+  });
+  driver->Press("preview");
+  EXPECT_EQ(portal.lsttitle.List, (Rows{"Quiz 1", "Test 1", "Average"}));
+  EXPECT_EQ(portal.lsttitle.ListIndex, 1);
+  EXPECT_EQ(portal.onetypes.some.List,
+            (Rows{"A    -  Averaged Grade", "Q    -  Quiz", "T    -  Test"}));
+  EXPECT_EQ(portal.onetypes.Ticked(), (Rows{"T"}));
+  driver->PickTab("TabStrip1", 0);
+  driver->Choose("lsttitle", 2);
+  ExpectTitle();
+  driver->Press("prints");
+  EXPECT_EQ(Job.PrintTitle, "");
+  EXPECT_EQ(Choice.grade, 3);
+}
+
 }  // namespace
 }  // namespace tallyroll

@@ -4,6 +4,7 @@
 #include <filesystem>
 #include <map>
 
+#include "base/code_page.h"
 #include "platform/class_window.h"
 #include "printing/html_report.h"
 #include "printing/printmsg.h"
@@ -250,7 +251,7 @@ TEST_F(FrmPrintPreTest, ASaveHoldsOffAnother) {
   EXPECT_EQ(screen.file_dialogs.size(), 1u);
   EXPECT_TRUE(screen.print_dialogs.empty());
   EXPECT_FALSE(portal.Unloaded());
-  EXPECT_EQ(FileBytes(Path("grades.txt")), whole);
+  EXPECT_EQ(FileBytes(Path("grades.txt")), "\xEF\xBB\xBF" + whole);
 }
 
 // A printer that leaves 240 twips at each edge of the sheet.
@@ -280,6 +281,70 @@ TEST_F(FrmPrintPreTest, ThePageIsDrawnForWhatThePrinterReaches) {
   const PrintedText& date = whole_sheet.job->pages.back().texts.front();
   EXPECT_EQ(date.text, "9/1/2026");
   EXPECT_EQ(date.x, 10760 - 960);
+}
+
+// The teacher sets the printer up across the sheet while the print dialog is open.
+class TurnedScreen : public HeadlessSurroundings {
+ public:
+  std::unique_ptr<PrintTarget> MakePrintBox(bool landscape) override {
+    return HeadlessSurroundings::MakePrintBox(landscape || across);
+  }
+  std::unique_ptr<PrintTarget> OpenPrinter(bool landscape, std::string_view title) override {
+    return HeadlessSurroundings::OpenPrinter(landscape || across, title);
+  }
+  std::optional<PrintRange> PrintDialog(const PrintRange& offered) override {
+    across = true;
+    print_answer = offered;
+    return HeadlessSurroundings::PrintDialog(offered);
+  }
+  bool across = false;
+};
+
+TEST_F(FrmPrintPreTest, ASheetTurnedInThePrintDialogIsLaidOutAgainAndPrintedWhole) {
+  TurnedScreen turned;
+  turned.now = screen.now;
+  SetPlatform(&turned);
+  OpenReport(19, 120);
+  const int upright = Job.PageCount;
+  driver->Press("seven");
+  SetPlatform(&screen);
+  EXPECT_GT(Job.PageCount, upright);
+  ASSERT_EQ(turned.print_jobs.size(), 1u);
+  EXPECT_EQ(turned.print_jobs[0]->pages.size(), static_cast<std::size_t>(Job.PageCount));
+  EXPECT_TRUE(turned.print_jobs[0]->landscape);
+  EXPECT_EQ(portal.picture1.SheetWidth, 15840);
+  EXPECT_EQ(portal.pagenum.List.size(), static_cast<std::size_t>(Job.PageCount));
+  // The sheet across is 12240 high: nothing stands below.
+  for (const PrintedPage& page : turned.print_jobs[0]->pages)
+    for (const PrintedText& text : page.texts) EXPECT_LE(text.y + 240, 12240 - 1000) << text.text;
+}
+
+TEST_F(FrmPrintPreTest, KeysTurnPagesAndZoom) {
+  OpenReport(19, 120);
+  driver->Press("page_on");
+  EXPECT_EQ(driver->Text("Pagen"), " 2");
+  driver->Press("page_back");
+  driver->Press("page_back");
+  EXPECT_EQ(driver->Text("Pagen"), " 1");
+  driver->Press("zoom_in");
+  driver->Press("zoom_in_unshifted");
+  EXPECT_EQ(driver->Text("size"), "150 %");
+  driver->Press("zoom_out");
+  EXPECT_EQ(driver->Text("size"), "125 %");
+}
+
+TEST_F(FrmPrintPreTest, APdfIsCalledAsThePrintoutOrTheClass) {
+  OpenReport(19, 3);
+  const auto offered = [this] {
+    screen.ExpectFileDialog(std::nullopt);
+    driver->Press("pdf");
+    return screen.file_dialogs.back().filename;
+  };
+  Job.PrintTitle = " Term 1/2 \xe9 ";
+  EXPECT_EQ(offered(), "Term 1-2 \xc3\xa9.pdf");
+  Job.PrintTitle = "";
+  Current().FileName = "/x/Math 5.TYR";
+  EXPECT_EQ(offered(), "Math 5.pdf");
 }
 
 TEST_F(FrmPrintPreTest, APrintHoldsOffAnotherAndTheExit) {
@@ -340,8 +405,43 @@ TEST_F(FrmPrintPreTest, SavesTheReportAsText) {
   EXPECT_EQ(request.default_extension, "TXT");
   EXPECT_EQ(request.folder, folder);
   EXPECT_EQ(request.help_context, 120);
-  EXPECT_EQ(FileBytes(Path("roster.txt")), ReportText());
+  EXPECT_EQ(window.status, "roster.txt saved.");
+  EXPECT_EQ(FileBytes(Path("roster.txt")), "\xEF\xBB\xBF" + ReportText());
   EXPECT_NE(ReportText().find("Class Roster"), std::string::npos);
+}
+
+TEST_F(FrmPrintPreTest, TextIsSavedInTheEncodingThatTheDialogAnswers) {
+  OpenReport(19, 3);
+  Current().Students[1].lastname = "Mu\xF1oz";
+  const std::string text = ReportText();
+  ASSERT_NE(text.find("Mu\xF1oz"), std::string::npos);
+  screen.ExpectFileDialog(Path("roster.txt"));
+  driver->Press("nine");
+  EXPECT_EQ(FileBytes(Path("roster.txt")), "\xEF\xBB\xBF" + Utf8FromCodePage(text));
+  screen.encoding_answer = TextEncoding::kWindows1252;
+  screen.ExpectFileDialog(Path("roster.txt"));
+  driver->Press("nine");
+  EXPECT_EQ(FileBytes(Path("roster.txt")), text);
+  screen.encoding_answer.reset();
+  screen.ExpectFileDialog(Path("roster.txt"));
+  driver->Press("nine");
+  EXPECT_EQ(FileBytes(Path("roster.txt")), text);
+  EXPECT_EQ(screen.settings["TALLYRLG8/startup/ENCODING"], "windows-1252");
+}
+
+TEST_F(FrmPrintPreTest, NoReportGoesOverAnOpenClass) {
+  OpenReport(19, 3);
+  Current().FileName = Path("class.TYR");
+  ASSERT_EQ(ReplaceFile(Path("class.TYR"), "ty8 and so on", OldTail::kDrop), 0);
+  std::filesystem::create_symlink(Path("class.TYR"), Path("link.txt"));
+  for (const char* button : {"nine", "ten", "pdf"}) {
+    for (const char* name : {"class.TYR", "link.txt"}) {
+      screen.ExpectFileDialog(Path(name));
+      screen.ExpectBox(" The file is already open ");
+      driver->Press(button);
+      EXPECT_EQ(FileBytes(Path("class.TYR")), "ty8 and so on") << button;
+    }
+  }
 }
 
 TEST_F(FrmPrintPreTest, SavesTheReportAsHtml) {
@@ -353,6 +453,7 @@ TEST_F(FrmPrintPreTest, SavesTheReportAsHtml) {
   EXPECT_EQ(request.default_extension, "HTM");
   EXPECT_TRUE(request.overwrite_prompt);
   EXPECT_EQ(request.help_context, 120);
+  EXPECT_EQ(window.status, "roster.htm saved.");
   EXPECT_EQ(FileBytes(Path("roster.htm")), ReportHtml());
   EXPECT_FALSE(std::filesystem::exists(Path("tempfile")));
 }
@@ -402,6 +503,18 @@ TEST_F(FrmPrintPreTest, SavesAllPagesAsPdf) {
   EXPECT_EQ(screen.print_jobs[0]->title, "MATH");
   EXPECT_EQ(screen.print_jobs[0]->pages.size(), 3u);
   EXPECT_TRUE(screen.print_jobs[0]->ended);
+  EXPECT_EQ(window.status, "roster.pdf saved.");
+}
+
+TEST_F(FrmPrintPreTest, APdfThatCameToNothingIsNotConfirmed) {
+  OpenReport(19, 3);
+  screen.on_pump = [this] {
+    if (!screen.print_jobs.empty()) screen.print_jobs[0]->fails = true;
+  };
+  screen.ExpectFileDialog(Path("roster.pdf"));
+  driver->Press("pdf");
+  EXPECT_TRUE(screen.print_jobs.at(0)->fails);
+  EXPECT_EQ(window.status, "");
 }
 
 TEST_F(FrmPrintPreTest, CancelInTheMiddleOfAPdfDropsItAndThePreviewGoesOn) {
@@ -435,6 +548,8 @@ TEST_F(FrmPrintPreTest, SeveralStudentsAreAskedAbout) {
   EXPECT_TRUE(driver->Visible("Frame1"));
   EXPECT_FALSE(driver->Visible("size"));
   EXPECT_FALSE(driver->Visible("pagenum"));
+  EXPECT_FALSE(driver->Visible("size_label"));
+  EXPECT_FALSE(driver->Visible("pagenum_label"));
   EXPECT_EQ(driver->Text("all"), "All selected students");
   EXPECT_EQ(driver->Text("current"), "Current student only");
   EXPECT_EQ(driver->Text("Command5"), "Con&tinue");
@@ -444,7 +559,26 @@ TEST_F(FrmPrintPreTest, SeveralStudentsAreAskedAbout) {
   EXPECT_FALSE(driver->Visible("Frame1"));
   EXPECT_TRUE(driver->Visible("size"));
   EXPECT_TRUE(driver->Visible("pagenum"));
+  EXPECT_TRUE(driver->Visible("size_label"));
+  EXPECT_TRUE(driver->Visible("pagenum_label"));
   EXPECT_TRUE(screen.file_dialogs.empty());
+}
+
+TEST_F(FrmPrintPreTest, EscapeLeavesTheFrameAndThenThePortal) {
+  OpenReport(13, 3, {1, 2, 3});
+  driver->Press("nine");
+  driver->CloseWindow();
+  EXPECT_FALSE(driver->Visible("Frame1"));
+  EXPECT_FALSE(portal.Unloaded());
+  driver->CloseWindow();
+  EXPECT_TRUE(portal.Unloaded());
+}
+
+TEST_F(FrmPrintPreTest, ExitLeavesThePortalEvenFromTheFrame) {
+  OpenReport(13, 3, {1, 2, 3});
+  driver->Press("nine");
+  driver->Press("twelve");
+  EXPECT_TRUE(portal.Unloaded());
 }
 
 TEST_F(FrmPrintPreTest, AllSelectedStudentsAreSaved) {
@@ -482,9 +616,10 @@ TEST_F(FrmPrintPreTest, HelpFollowsTheReport) {
   }
 }
 
-TEST_F(FrmPrintPreTest, LeavingTheAveragesOffersToSaveThem) {
+TEST_F(FrmPrintPreTest, LeavingNewAveragesOffersToSaveThem) {
   OpenReport(19, 3);
   Job.ReportCode = 11;
+  Current().AverageWork1 = 2;
   screen.ExpectBox(kSaveQuestion, BoxAnswer::kYes);
   driver->Press("twelve");
   EXPECT_EQ(portal.Next(), "frmgradesave");
@@ -496,10 +631,26 @@ TEST_F(FrmPrintPreTest, LeavingTheAveragesOffersToSaveThem) {
 TEST_F(FrmPrintPreTest, OnNoItLeaves) {
   OpenReport(19, 3);
   Job.ReportCode = 11;
+  Current().Method = 3;
+  Current().AverageWork2 = 1;
   screen.ExpectBox(kSaveQuestion, BoxAnswer::kNo);
   driver->CloseWindow();
   EXPECT_TRUE(portal.Unloaded());
   EXPECT_EQ(portal.Next(), "");
+}
+
+// The weights of items are not asked for under weights of types, nor the other way round.
+TEST_F(FrmPrintPreTest, AveragesThatAreKeptAlreadyAreLeftWithoutAQuestion) {
+  for (const auto& [method, work1, work2] :
+       {std::array<i16, 3>{0, 0, 0}, {0, 0, 2}, {1, 2, 0}, {2, 0, 1}, {3, 0, 0}}) {
+    OpenReport(19, 3);
+    Job.ReportCode = 11;
+    Current().Method = method;
+    Current().AverageWork1 = work1;
+    Current().AverageWork2 = work2;
+    driver->Press("twelve");
+    EXPECT_EQ(portal.Next(), "") << method;
+  }
 }
 
 TEST_F(FrmPrintPreTest, WithoutAMethodNothingIsOffered) {

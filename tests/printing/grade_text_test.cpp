@@ -102,14 +102,28 @@ TEST_F(GradeTextTest, TheReportWithAveragesEndsWithWeightsAndTheClassesPercents)
                   grade("Decimals", "Q2", "Q", "9/17/2026", "10", "25"), "",
                   kTypesHead1 + Line({{16, "MAX. SCORE"}, {28, "TYPE"}}),
                   kTypesHead2 + Line({{13, "POSSIBLE"}, {25, "AVG."}}), Row(80, '_'),
-                  Line({{1, "Quiz"}, {25, "Q"}, {33, "2"}, {54, "30"}, {66, "89"}}),
-                  Line({{1, "Test"}, {25, "T"}, {33, "1"}, {54, "50"}, {66, "86"}})}));
+                  Line({{1, "Quiz"}, {25, "Q"}, {33, "4"}, {54, "60"}, {66, "89"}}),
+                  Line({{1, "Test"}, {25, "T"}, {33, "3"}, {54, "150"}, {66, "86"}})}));
 }
 
 TEST_F(GradeTextTest, ATypeThatNobodyHasWrittenHasNoPercentInTheClass) {
   AddGrade("Poster", "P1", "P ", 40, "");
   EXPECT_EQ(TextOf(11).at(TextOf(11).size() - 3),
-            Line({{1, "Project"}, {25, "P"}, {33, "1"}, {54, "40"}, {66, ""}}));
+            Line({{1, "Project"}, {25, "P"}, {33, "0"}, {54, "0"}, {66, ""}}));
+}
+
+// The single lowest of Ng is Fractions (90 percent like the others, and the first), of O'Hara the
+// Midterm, his only one, of Quist Fractions.
+TEST_F(GradeTextTest, TheClassesTableCountsNoGradeThatIsDropped) {
+  Class& c = Current();
+  for (std::size_t i = 1; i < c.Instruments.size(); ++i) c.Instruments[i].dropyn = "Y";
+  c.AverageFlag2 = kTrue;
+  const Rows lines = TextOf(11);
+  // 9 of 10 and 8.8 of 10; 45 and 44 of 50.
+  EXPECT_EQ(lines.at(lines.size() - 2),
+            Line({{1, "Quiz"}, {25, "Q"}, {33, "2"}, {54, "20"}, {66, "89"}}));
+  EXPECT_EQ(lines.at(lines.size() - 1),
+            Line({{1, "Test"}, {25, "T"}, {33, "2"}, {54, "100"}, {66, "89"}}));
 }
 
 Rows AllGradesOfAda(const std::string& title) {

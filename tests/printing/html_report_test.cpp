@@ -104,6 +104,12 @@ TEST_F(HtmlReportTest, TheRollBookIsATable) {
   EXPECT_TRUE(html.ends_with("</TABLE>\r\n</BODY></html>"));
 }
 
+TEST_F(HtmlReportTest, ADateWithoutAYearToCutStaysWhole) {
+  Current().Instruments[1].testdate = "Sept. 3";
+  Current().Instruments[2].testdate = "2026-09-10";
+  ExpectPart(HtmlOf(3), "<TD COLSPAN = 5>Sept</TD><TD COLSPAN = 5>2026-09-10</TD>");
+}
+
 TEST_F(HtmlReportTest, TheRollBooksFirstHeadFollowsTheColumn) {
   Choice.shown = Shown::kName;
   ExpectPart(HtmlOf(3), "<TH>NAME<TH>");

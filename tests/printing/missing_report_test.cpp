@@ -8,7 +8,7 @@ namespace {
 using MissingReportTest = SmallClassTest;
 using Pages = std::vector<std::pair<int, int>>;
 
-const std::string kHead =
+const std::string kMissingHead =
     Line({{5, "TITLE"}, {36, "CODE"}, {43, "TYPE"}, {50, " DATE"}, {64, "GRADE"}});
 
 std::string MissingLine(const char* title, const char* code, const char* type, const char* date,
@@ -17,15 +17,16 @@ std::string MissingLine(const char* title, const char* code, const char* type, c
 }
 
 TEST_F(MissingReportTest, OnlyStudentsWithMissingGradesAreListed) {
-  EXPECT_EQ(TextOf(2), (Rows{" Missing Grades for Class Printout", "", "23 O'Hara, Bo", kHead,
-                             Row(77, '_'), MissingLine("Fractions", "Q1", "Q", "9/3/2026", "ABS"),
-                             MissingLine("Decimals", "Q2", "Q", "9/17/2026", "NEW"), "   "}));
+  EXPECT_EQ(TextOf(2),
+            (Rows{" Missing Grades for Class Printout", "", "23 O'Hara, Bo", kMissingHead,
+                  Row(77, '_'), MissingLine("Fractions", "Q1", "Q", "9/3/2026", "ABS"),
+                  MissingLine("Decimals", "Q2", "Q", "9/17/2026", "NEW"), "   "}));
 }
 
 TEST_F(MissingReportTest, CutAndNotDoneAreMissingAndExcusedIsNot) {
   SetMarks(1, {"CUT  ", "NON", "EXC"});
   SetMarks(2, {"1", "2", "3"});
-  EXPECT_EQ(TextOf(2), (Rows{" Missing Grades for Class Printout", "", "17 Ng, Ada", kHead,
+  EXPECT_EQ(TextOf(2), (Rows{" Missing Grades for Class Printout", "", "17 Ng, Ada", kMissingHead,
                              Row(77, '_'), MissingLine("Fractions", "Q1", "Q", "9/3/2026", "CUT"),
                              MissingLine("Midterm", "T1", "T", "9/10/2026", "NON"), "   "}));
 }
@@ -37,7 +38,7 @@ TEST_F(MissingReportTest, ABlankAheadOfAMarkMakesItAnother) {
 
 TEST_F(MissingReportTest, OneStudentsListStandsBetweenWiderRules) {
   Choice.students = {2};
-  EXPECT_EQ(TextOf(14), (Rows{Row(80, '='), "Missing Grades For 23 O'Hara, Bo", "", kHead,
+  EXPECT_EQ(TextOf(14), (Rows{Row(80, '='), "Missing Grades For 23 O'Hara, Bo", "", kMissingHead,
                               Row(80, '_'), MissingLine("Fractions", "Q1", "Q", "9/3/2026", "ABS"),
                               MissingLine("Decimals", "Q2", "Q", "9/17/2026", "NEW"), "   "}));
 }

@@ -164,7 +164,7 @@ TEST_F(PageFrameTest, ABlockThatFitsStaysOnItsPage) {
   pass.recording = true;
   Job.BlockLines = 2;
   target.CurrentY = 13880 - 480;
-  FitBlock(pass);
+  FitBlock(pass, CurrentStudent);
   EXPECT_EQ(Job.PageCount, 0);
   EXPECT_EQ(Job.BlockLines, 480);
 }
@@ -175,7 +175,7 @@ TEST_F(PageFrameTest, ABlockThatPassesTheBottomBreaksThePage) {
   pass.recording = true;
   Job.BlockLines = 2;
   target.CurrentY = 13880 - 479;
-  FitBlock(pass);
+  FitBlock(pass, CurrentStudent);
   EXPECT_EQ(PageTable(), (std::vector<std::pair<int, int>>{{1, 2}}));
   EXPECT_EQ(target.CurrentY, 240);
 }
@@ -190,11 +190,11 @@ TEST_F(PageFrameTest, ACommentWeighsAQuarterOfItsLines) {
   student.comments = std::string(887, 'a');
   Job.BlockLines = 1;
   target.CurrentY = 13880 - 240 - 480;
-  FitBlock(pass);
+  FitBlock(pass, CurrentStudent);
   EXPECT_EQ(Job.PageCount, 0);
   Job.BlockLines = 1;
   ++target.CurrentY;
-  FitBlock(pass);
+  FitBlock(pass, CurrentStudent);
   EXPECT_EQ(Job.PageCount, 1);
 }
 
@@ -206,11 +206,11 @@ TEST_F(PageFrameTest, LineEndsOfACommentAreLines) {
   student.comments = "a\r\nb\r\nc\r\nd";  // 10 + 9 characters: nearest to 0.17 + 3 is 3 lines
   Job.BlockLines = 1;
   target.CurrentY = 13880 - 240 - 180;
-  FitBlock(pass);
+  FitBlock(pass, CurrentStudent);
   EXPECT_EQ(Job.PageCount, 0);
   Job.BlockLines = 1;
   ++target.CurrentY;
-  FitBlock(pass);
+  FitBlock(pass, CurrentStudent);
   EXPECT_EQ(Job.PageCount, 1);
 }
 
@@ -220,8 +220,9 @@ TEST_F(PageFrameTest, ABlockTallerThanAPageEndsTheLayoutWithItsStudent) {
   pass.recording = true;
   Job.BlockLines = 100;
   target.CurrentY = 5000;
-  EXPECT_THROW(FitBlock(pass), ReportEnds);
+  EXPECT_THROW(FitBlock(pass, CurrentStudent), ReportEnds);
   EXPECT_EQ(PageTable(), (std::vector<std::pair<int, int>>{{1, 2}, {3, 3}}));
+  EXPECT_TRUE(Job.Notice.starts_with("The report ends with 103 Last103, First: "));
 }
 
 TEST_F(PageFrameTest, ACommentIsWrappedAtWords) {
@@ -246,13 +247,13 @@ TEST_F(PageFrameTest, TheEndOfACommentNeedsLessThanTheLine) {
   EXPECT_EQ(Printed(), Rows{"COMMENTS: well done!"});
 }
 
-TEST_F(PageFrameTest, AWordWiderThanALineStandsAlone) {
+TEST_F(PageFrameTest, AWordWiderThanALineIsBrokenAtTheMargin) {
   EnrolMany(1);
   CurrentStudent = 1;
   Job.PageTextWidth = 1200;
   Current().Students[1].comments = "Extraordinarily good";
   WrapComments(target);
-  EXPECT_EQ(Printed(), (Rows{"COMMENTS: ", "Extraordinarily ", "good"}));
+  EXPECT_EQ(Printed(), (Rows{"COMMENTS: ", "Extraordinar", "ily good"}));
 }
 
 TEST_F(PageFrameTest, TheLinesOfACommentStay) {
@@ -264,10 +265,33 @@ TEST_F(PageFrameTest, TheLinesOfACommentStay) {
   EXPECT_EQ(target.CurrentY, 3 * 240);
 }
 
+TEST_F(PageFrameTest, TheSchoolsLineIsAsHighAsTheSchool) {
+  Current().school = "Riverside";
+  Current().teacher = "Mrs. W";
+  Choice.school = Choice.teacher = true;
+  Job.PrintTab = 2;
+  PageHeader(pass, "Title");
+  EXPECT_EQ(Text(0), (PrintedText{0, 240, "Riverside", 12}));
+  EXPECT_EQ(Text(2), (PrintedText{0, 240 + 288, "Mrs. W", 12}));
+}
+
+TEST_F(PageFrameTest, ALongTitleIsSetSmallerAndAVeryLongOneIsCut) {
+  PageHeader(pass, std::string(100, 't'));
+  // 100 characters of 140 twips; 11240 hold them at 11.24 points, which is 224.8 twips high.
+  EXPECT_EQ(Text(1).x, 0);
+  EXPECT_NEAR(Text(1).size, 11.2, 0.01);
+  PageHeader(pass, std::string(200, 't'));
+  // At six tenths, 8.4 points, a character is 84 twips: 133 of them, the last an ellipsis.
+  EXPECT_NEAR(Text(1).size, 8.4, 0.01);
+  EXPECT_EQ(Text(1).text, std::string(132, 't') + "\x85");
+}
+
 TEST_F(PageFrameTest, ATabNeverPrintsOver) {
   target.PrintOpen("abcdef");
   target.Tab(4);
   EXPECT_EQ(target.CurrentX, 700);
+  target.Tab(8);
+  EXPECT_EQ(target.CurrentX, 800);  // the very column leaves a blank
   target.Tab(10);
   EXPECT_EQ(target.CurrentX, 900);
 }

@@ -111,7 +111,6 @@ class RandomReportClass {
     ReDim(c.InstrumentUse, c.NumInstruments, Currency::FromWhole(1));
     c.TypeWeights.fill(Currency());
     c.TypePercents.fill(Currency::FromWhole(4));
-    MakeTotalPossible();
   }
 
   std::mt19937 random_;

@@ -36,10 +36,10 @@ TEST_F(ReportPagesTest, FullGradesWithTheirCodes) {
   LayOut(1);
   // 60 grades are three rows of two lines, so a student takes 9 lines, 2160, and is fitted by 7,
   // 1680. The first five begin at 1392, 3552, 5712, 7872 and 10032, the sixth at 12192 ends at
-  // 13872 by its fit. Page 2 has the other four from 240 to 8880; heads on two lines, and 18 rows
-  // end at 13680. Page 3: heads to 720 and the other 42 to 10800. The type takes two heads and 4
-  // lines, which fit.
-  EXPECT_EQ(PageTable(), (Pages{{1, 6}, {7, 28}, {29, 71}}));
+  // 13872 by its fit. Page 2 has the other four from 240 to 8880; an empty line, heads on two
+  // lines, and 17 rows end at 13680. Page 3: heads to 720 and the other 43 to 11040. The type takes
+  // an empty line, two heads and 4 lines, which fit.
+  EXPECT_EQ(PageTable(), (Pages{{1, 6}, {7, 27}, {28, 71}}));
 }
 
 TEST_F(ReportPagesTest, FullGradesWithAverages) {
@@ -58,6 +58,9 @@ TEST_F(ReportPagesTest, ABlockTallerThanAPageEndsTheReportAtTheStudentBehindIt) 
   EnrolMany(3);
   AddGrades(28 * 30);  // 30 rows of two lines, more than the 57 of a page
   Job.ReportCode = 1;
+  screen.ExpectBox(
+      "The report ends with 102 Last102, First: what is printed of one student takes more than a "
+      "page. Choose a smaller font or narrower margins.");
   EXPECT_TRUE(LayOutReport());
   EXPECT_EQ(PageTable(), (Pages{{1, 1}, {2, 2}}));
 }
@@ -97,9 +100,10 @@ TEST_F(ReportPagesTest, TheRollBookRepeatsTheStudentsForEachBlock) {
   AddGrades(10);  // eight stand in a block
   LayOut(3);
   // Three heads from 1392, 49 rows from 2112 end at 13872. Page 2: heads to 960, the other 11 to
-  // 3600; the second block's heads to 4320, 39 rows to 13680. Page 3 has the other 21.
-  EXPECT_EQ(PageTable(), (Pages{{1, 49}, {50, 99}, {100, 120}}));
-  EXPECT_EQ(PageRows(3)[2].substr(0, 3), "140");  // the dates are empty
+  // 3600; an empty line and the second block's heads to 4560, 38 rows to 13680. Page 3 has the
+  // other 22.
+  EXPECT_EQ(PageTable(), (Pages{{1, 49}, {50, 98}, {99, 120}}));
+  EXPECT_EQ(PageRows(3)[2].substr(0, 3), "139");  // the dates are empty
 }
 
 TEST_F(ReportPagesTest, FullTitlesTakeTheirLines) {
@@ -118,8 +122,8 @@ TEST_F(ReportPagesTest, MonthsLieAcrossTheSheet) {
   LayOut(8);
   // At 9 points a line is 216. Across, the sheet is 12240 high: the bottom is 12240 - 1000 - 864,
   // 10376. The head: 216, a line of 216 for the date, 336 twice, 216: 1320. Four lines of heads to
-  // 2184, 37 rows end at 10176. Page 2: heads from 216 to 1080, 8 rows with their closing line to
-  // 3024; the second month's heads to 3888, 30 rows to 10368. Page 3 has the other 15.
+  // 2184, 37 rows end at 10176. Page 2: heads from 216 to 1080, 8 rows to 2808, an empty line and
+  // the second month's heads to 3888, 30 rows to 10368. Page 3 has the other 15.
   EXPECT_EQ(PageTable(), (Pages{{1, 37}, {38, 75}, {76, 90}}));
 }
 
@@ -196,15 +200,17 @@ TEST_F(ReportPagesTest, WhatClosesAStudentStaysTogether) {
   EXPECT_EQ(PageTable(), (Pages{{1, 1}, {2, 3}}));
 }
 
-TEST_F(ReportPagesTest, ALongCommentWeighsAQuarterAndTheNextStudentBeginsAPage) {
+TEST_F(ReportPagesTest, ALongCommentWeighsAQuarterAndGoesOnOnTheNextPage) {
   EnrolMany(3);
   AddGrades(3);
   Choice.comment1 = true;
   for (int i = 0; i < 2000; ++i) Current().Students[2].comments += "word ";
   LayOut(1);
   // 9999 characters and 9 at 112 a line are 89 lines, 5340 twips in quarters: the second student,
-  // from 2832, is fitted. His comment ends far below the page, so the third begins another.
-  EXPECT_EQ(PageTable(), (Pages{{1, 2}, {3, 3}}));
+  // from 2832, is fitted. It is printed on 91, taller than a page, so each is a row: the name, the
+  // grades and the first line end at 3792, 42 more at 13872. Page 2 has the other 48 to 11760, the
+  // lines that close the student to 12240, and the third student.
+  EXPECT_EQ(PageTable(), (Pages{{1, 44}, {45, 93}}));
 }
 
 // The full grades with a comment on the middle one of three students.

@@ -137,7 +137,7 @@ TEST_P(ReportPropertiesTest, PagesThatAreNotThereAreRefused) {
 
 TEST_P(ReportPropertiesTest, ACancelledLayoutIsShort) {
   OnRandomClasses([this] {
-    const i16 whole = Job.PageCount;
+    const int whole = Job.PageCount;
     const int before = screen.pumped;
     LayOut(Code());
     const int rows = screen.pumped - before;

@@ -77,10 +77,12 @@ TEST_F(RollBookReportTest, NoColumnBeginsAt90OrBeyond) {
 TEST_F(RollBookReportTest, EachBlockHasAllStudents) {
   AddMany(9);
   const Rows lines = TextOf(3);
-  // Two blocks of three heads, three rows, two rules between them and one below.
-  ASSERT_EQ(lines.size(), 2U + 2 * 9);
-  EXPECT_EQ(lines[14], Line({{1, "17  Ng, Ada"}, {50, "NEW"}}));
-  EXPECT_EQ(lines[19], Row(89, '='));
+  // Two blocks of three heads, three rows, two rules between them and one below; an empty line
+  // parts them.
+  ASSERT_EQ(lines.size(), 2U + 2 * 9 + 1);
+  EXPECT_EQ(lines[11], "");
+  EXPECT_EQ(lines[15], Line({{1, "17  Ng, Ada"}, {50, "NEW"}}));
+  EXPECT_EQ(lines[20], Row(89, '='));
 }
 
 TEST_F(RollBookReportTest, OrderedByType) {
@@ -157,6 +159,21 @@ TEST_F(RollBookReportTest, AClassOfOneHasARuleBelowItsRow) {
   LayOut(4);
   EXPECT_EQ(Page(1).lines,
             (std::vector<PrintedLine>{{0, 2592, 11240, 2592}, {0, 2832, 11240, 2832}}));
+}
+
+TEST_F(RollBookReportTest, OnPaperASecondBlockStandsApart) {
+  AddMany(9);
+  LayOut(3);
+  // Three heads from 1392, three rows to 2832; an empty line and the heads again.
+  EXPECT_EQ(Find(Page(1), "9"), (PrintedText{5000, 3072 + 240, "9", 10}));
+}
+
+TEST_F(RollBookReportTest, ATitleLongerThanHalfThePageIsCut) {
+  Current().Instruments[2].title = std::string(100, 'w');
+  LayOut(4);
+  // Half of 13880 in lines of 240 are 29, 6960 twips: 77 characters of 90, the last an ellipsis.
+  const std::string cut = std::string(76, 'w') + "\x85";
+  EXPECT_EQ(Find(Page(1), cut).y, 1392 + 29 * 240);
 }
 
 TEST_F(RollBookReportTest, ALongTitleStaysBelowTheHead) {

@@ -90,9 +90,10 @@ TEST_F(SummaryReportTest, APeriodBeyondTheLineGoesToAFurtherBlock) {
   const Rows lines = TextOf(16);
   EXPECT_EQ(lines[2], Line({{25, "FT"}, {35, "SEP"}, {65, "OCT"}}));
   // Three heads and three rows with their rules.
-  EXPECT_EQ(lines[2 + 9], Line({{25, "ST"}}));
-  EXPECT_EQ(lines[2 + 9 + 3], Line({{1, "17"}, {25, "0"}, {30, "0"}}));
-  EXPECT_EQ(lines.size(), 2U + 9 + 9 + 1);
+  EXPECT_EQ(lines[2 + 9], "");
+  EXPECT_EQ(lines[2 + 9 + 1], Line({{25, "ST"}}));
+  EXPECT_EQ(lines[2 + 9 + 4], Line({{1, "17"}, {25, "0"}, {30, "0"}}));
+  EXPECT_EQ(lines.size(), 2U + 9 + 1 + 9 + 1);
 }
 
 TEST_F(SummaryReportTest, WithoutPeriodsTheStudentsStandAlone) {

@@ -69,6 +69,21 @@ TEST_F(WeightPrintoutTest, ATableMayBeginAtTheLeftEdge) {
   EXPECT_EQ(columns["TOTAL PTS."], 2800);
 }
 
+TEST_F(WeightPrintoutTest, LongNamesKeepAllColumnsOnThePage) {
+  ExpectTitle();
+  PrintedTable table = Points(1);
+  table.rows[0][0] = std::string(200, 'n');
+  PrintWeights(table);
+  std::map<std::string, double> columns;
+  for (const PrintedText& text : screen.print_jobs.back()->pages[0].texts) {
+    columns[text.text] = text.x;
+    EXPECT_LE(text.x + static_cast<double>(text.text.size()) * text.size * 10, 11240) << text.text;
+  }
+  // The last head, 8 characters, ends at the margin; the others stand before it as ever.
+  EXPECT_EQ(columns["COUNT IN"], 11240 - 800);
+  EXPECT_EQ(columns["Types"], 11240 - 800 - 1100 - 800);
+}
+
 TEST_F(WeightPrintoutTest, ALongTableGoesOnWithItsHead) {
   ExpectTitle();
   PrintWeights(Points(80));

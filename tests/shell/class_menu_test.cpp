@@ -86,7 +86,7 @@ TEST_F(ClassMenuTest, NamesAndShortcutsAreUsedOnce) {
 TEST_F(ClassMenuTest, NoTwoEntriesOfAMenuShareAMnemonic) {
   Open("A.TYR");
   ExpectNoClash(Window(1)->menu);
-  ExpectNoClash(Frame->menu);
+  ExpectNoClash(FrameForm->menu);
 }
 
 TEST_F(ClassMenuTest, EveryCommandTellsTheStatusBarWhatItDoes) {
@@ -184,8 +184,8 @@ TEST_F(ClassMenuTest, GradesAreEnteredUnderRecordsEnterRecords) {
 TEST_F(ClassMenuTest, FrameHasItsSmallMenu) {
   for (const char* name : {"mnuNew", "mnuown", "mnuwizard", "mnuOpen", "mnuLoadText", "mnuExit",
                            "mnuFileList0", "mnuFileList4", "CommandsItem", "mnuAbout"})
-    EXPECT_NE(Frame->menu.Find(name), nullptr) << name;
-  EXPECT_EQ(Frame->menu.Find("mnusave"), nullptr);
+    EXPECT_NE(FrameForm->menu.Find(name), nullptr) << name;
+  EXPECT_EQ(FrameForm->menu.Find("mnusave"), nullptr);
 }
 
 TEST_F(ClassMenuTest, ToolbarHasItsButtonsInOrder) {

@@ -209,9 +209,29 @@ TEST_F(CommandsTest, GraphFollowsTheStatisticsOfAChosenGrade) {
 
 TEST_F(CommandsTest, PasswordThatWasSetIsSavedAtOnce) {
   Current().Changed = kTrue;
+  Current().PasswordSet = 1;
   answer = 50;
-  Click("mnupassenter");
+  window->ClickMenu("mnupassenter");
   EXPECT_EQ(Current().Changed, kFalse);
+  EXPECT_EQ(window->StatusText, "A.TYR saved. It opens with its password from now on.");
+}
+
+TEST_F(CommandsTest, ADeletedPasswordIsConfirmed) {
+  Current().PasswordSet = 1;
+  window->EnableClassMenus(true);
+  Current().PasswordSet = 0;
+  answer = 50;
+  window->ClickMenu("mnupassdelete");
+  EXPECT_EQ(window->StatusText, "A.TYR saved. It opens without a password from now on.");
+}
+
+TEST_F(CommandsTest, APasswordThatCouldNotBeSavedIsNotConfirmed) {
+  Current().FileName = Path("gone/A.TYR");
+  Current().Changed = kTrue;
+  answer = 50;
+  screen.ExpectBox("File Error: 76");
+  window->ClickMenu("mnupassenter");
+  EXPECT_EQ(window->StatusText, "");
 }
 
 TEST_F(CommandsTest, PasswordThatWasCancelledSavesNothing) {
@@ -261,7 +281,7 @@ TEST_F(CommandsTest, DoubleClickOpensWhatStandsUnderThePointer) {
       {0, 0, "frmAdd", 0, -1},    {0, 1, "frmAdd", 0, -1},   {0, 2, "frmMarks", 0, -1},
       {0, 10, "frmMarks", 0, -1}, {2, 0, "frmEdit", 25, 1},  {4, 1, "frmEdit", 25, 3},
       {5, 0, "frmEdit", 25, 0},   {27, 0, "frmEdit", 25, 0}, {1, 2, "frmEmarks", 0, 1},
-      {3, 3, "frmEmarks", 0, 2},  {3, 4, "frmEmarks", 0, 0}, {20, 3, "frmEmarks", 0, 2}};
+      {3, 3, "frmEmarks", 2, 2},  {3, 4, "frmEmarks", 2, 0}, {20, 3, "frmEmarks", 0, 2}};
   for (const auto& [row, col, portal, open_state, student] : clicks) {
     openings.clear();
     window->Grid1.MouseRow = row;
@@ -313,6 +333,17 @@ TEST_F(CommandsTest, GridIsFilledAgainAsMissingGradesAreLeft) {
   });
   window->ClickMenu("mnuMGrades");
   EXPECT_EQ(window->Grid1.TextMatrix(2, 2), "12");
+}
+
+TEST_F(CommandsTest, AMessageStandsBeforeTheHintsUntilItsMomentIsOver) {
+  window->ShowStatus("Told.");
+  window->Grid1.MouseRow = window->Grid1.MouseCol = 2;
+  window->Grid1_MouseMove();
+  EXPECT_EQ(window->StatusText, "Told.");
+  window->EndStatus();
+  EXPECT_EQ(window->StatusText, "");
+  window->Grid1_MouseMove();
+  EXPECT_EQ(window->StatusText, "Double Click on a Grade to Edit");
 }
 
 TEST_F(CommandsTest, StatusBarTellsWhatADoubleClickWouldDo) {

@@ -212,6 +212,47 @@ TEST_F(FrmWizardTest, PickedDatesBecomeTheTermInTheUsersOrder) {
   EXPECT_EQ(Current().termend, "01/10/2026");
 }
 
+TEST_F(FrmWizardTest, ATextThatIsNoDateIsToldOnceWhenItIsLeft) {
+  const std::string told =
+      "\"99/99/2026\" is not a date. Type one such as 9/1/2026, choose it from the calendar, or "
+      "leave the box empty.";
+  GoToStep(3);
+  driver->Type("tempstart", "99/99/2026");
+  screen.ExpectBox(told);
+  driver->Focus("school");
+  EXPECT_EQ(driver->Focused(), "tempstart");
+  driver->Focus("school");
+  EXPECT_EQ(driver->Focused(), "school");
+  screen.ExpectBox(told);
+  driver->Press("cmdNext");
+  EXPECT_EQ(portal.Step, 3);
+  EXPECT_EQ(driver->Focused(), "tempstart");
+  driver->Type("tempstart", "9/2/2026");
+  driver->Press("cmdNext");
+  EXPECT_EQ(portal.Step, 4);
+}
+
+TEST_F(FrmWizardTest, ADateThatIsNoneDoesNotBarTheWayOut) {
+  GoToStep(3);
+  driver->Type("tempend", "soon");
+  screen.ExpectBox(
+      "\"soon\" is not a date. Type one such as 9/1/2026, choose it from the calendar, or leave "
+      "the "
+      "box empty.");
+  driver->Press("cmdCancel");
+  EXPECT_FALSE(portal.Unloaded());
+  driver->Press("cmdCancel");
+  EXPECT_TRUE(portal.Unloaded());
+}
+
+TEST_F(FrmWizardTest, TheCalendarOpensAtTheDateThatWasTyped) {
+  GoToStep(3);
+  driver->Type("tempstart", "9/2/2026");
+  EXPECT_EQ(portal.termstart.Value, 46267);
+  driver->Type("tempstart", "");
+  EXPECT_EQ(portal.termstart.Value, 46266);
+}
+
 TEST_F(FrmWizardTest, ContinueMakesTheClassAndGoesOnToAddStudents) {
   MakePortal = [](std::string_view) -> std::unique_ptr<Portal> {
     return std::make_unique<frmAdd>();

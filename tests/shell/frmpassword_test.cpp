@@ -19,8 +19,8 @@ class ClassPasswordTest : public ShellTest {
     window->ClickMenu("mnupassenter");
   }
   void Reopen() {
-    EXPECT_TRUE(Frame->CloseWindow(*window));
-    Frame->OpenRecent(Path("A.TYR"));
+    EXPECT_TRUE(FrameForm->CloseWindow(*window));
+    FrameForm->OpenRecent(Path("A.TYR"));
     window = Window(1);
   }
 

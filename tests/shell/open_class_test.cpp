@@ -13,7 +13,7 @@ using OpenClassTest = ShellTest;
 TEST_F(OpenClassTest, OpenShowsTheClassInAWindowOfItsOwn) {
   const std::string path = MakeFile("maths.tyr", Sample(3));
   screen.ExpectFileDialog(path);
-  Frame->ClickMenu("mnuOpen");
+  FrameForm->ClickMenu("mnuOpen");
   ASSERT_NE(Window(1), nullptr);
   EXPECT_EQ(Window(1)->Caption, "MATHS.TYR");
   EXPECT_EQ(Window(1)->Tag, "1");
@@ -33,7 +33,7 @@ TEST_F(OpenClassTest, WhatAKilledSaveLeftIsSweptUp) {
   const std::string path = MakeFile("maths.tyr", Sample(3));
   std::ofstream(path + ".saving") << "half";
   screen.ExpectFileDialog(path);
-  Frame->ClickMenu("mnuOpen");
+  FrameForm->ClickMenu("mnuOpen");
   EXPECT_FALSE(std::filesystem::exists(path + ".saving"));
   EXPECT_TRUE(std::filesystem::exists(path));
 }
@@ -41,7 +41,7 @@ TEST_F(OpenClassTest, WhatAKilledSaveLeftIsSweptUp) {
 TEST_F(OpenClassTest, DialogAsksForClassFilesThatExist) {
   LastFolder = "/somewhere";
   screen.ExpectFileDialog(std::nullopt);
-  Frame->mnuOpen_Click();
+  FrameForm->mnuOpen_Click();
   const FileDialogRequest& request = screen.file_dialogs.at(0);
   EXPECT_FALSE(request.save);
   EXPECT_EQ(request.folder, "/somewhere");
@@ -55,7 +55,7 @@ TEST_F(OpenClassTest, DialogAsksForClassFilesThatExist) {
 
 TEST_F(OpenClassTest, CancelGivesTheSlotBackAndLeavesNoWindow) {
   screen.ExpectFileDialog(std::nullopt);
-  Frame->mnuOpen_Click();
+  FrameForm->mnuOpen_Click();
   EXPECT_EQ(WindowCount(), 0);
   EXPECT_EQ(Classes[1].SlotState, 0);
   EXPECT_EQ(OpenState, 0);
@@ -71,9 +71,9 @@ TEST_F(OpenClassTest, SixthClassIsRefused) {
   EXPECT_EQ(screen.boxes.back().icon, BoxIcon::kCritical);
   EXPECT_EQ(screen.boxes.back().title, "Note to the Teacher");
   screen.ExpectBox("You may only have 5 class(es) open at a time.");
-  Frame->OpenRecent(sixth);
+  FrameForm->OpenRecent(sixth);
   screen.ExpectBox("You may only have 5 class(es) open at a time.");
-  Frame->NewClass(10);
+  FrameForm->NewClass(10);
   EXPECT_EQ(WindowCount(), 5);
   EXPECT_EQ(CurrentClass, 2);
   EXPECT_EQ(Classes[0].SlotState, 0);
@@ -83,7 +83,7 @@ TEST_F(OpenClassTest, SixthClassIsRefused) {
 TEST_F(OpenClassTest, FreedSlotIsHandedOutAgain) {
   Open("A.TYR");
   Open("B.TYR");
-  EXPECT_TRUE(Frame->CloseWindow(*Window(1)));
+  EXPECT_TRUE(FrameForm->CloseWindow(*Window(1)));
   Open("C.TYR");
   EXPECT_EQ(Window(1)->Caption, "C.TYR");
   EXPECT_EQ(Window(2)->Caption, "B.TYR");
@@ -94,7 +94,7 @@ TEST_F(OpenClassTest, FileThatIsOpenFreesTheSlotAndOffersTheDialogAgain) {
   screen.ExpectFileDialog(Path("A.TYR"));
   screen.ExpectBox(" The file is already open ");
   screen.ExpectFileDialog(MakeFile("b.tyr"));
-  Frame->mnuOpen_Click();
+  FrameForm->mnuOpen_Click();
   EXPECT_EQ(screen.file_dialogs.size(), 2u);
   EXPECT_EQ(WindowCount(), 2);
   EXPECT_EQ(Classes[2].FileName, Path("b.tyr"));
@@ -114,15 +114,15 @@ TEST_F(OpenClassTest, RecentFileThatIsOpenIsRefusedOnce) {
 TEST_F(OpenClassTest, RecentFileThatIsGoneIsDropped) {
   const std::string kept = MakeFile("B.TYR");
   RecentFiles = {Path("GONE.TYR"), kept, "", "", ""};
-  Frame->RebuildRecentMenu();
+  FrameForm->RebuildRecentMenu();
   screen.ExpectBox("Tallyroll cannot open the file " + Path("GONE.TYR"));
-  Frame->ClickMenu("mnuFileList0");
+  FrameForm->ClickMenu("mnuFileList0");
   EXPECT_EQ(WindowCount(), 0);
   EXPECT_EQ(Classes[1].SlotState, 0);
   EXPECT_EQ(RecentFiles[0], kept);
   EXPECT_EQ(RecentFiles[1], "");
-  EXPECT_EQ(Frame->menu.Find("mnuFileList0")->caption, RecentMenuText(0));
-  EXPECT_FALSE(Frame->menu.Find("mnuFileList1")->visible);
+  EXPECT_EQ(FrameForm->menu.Find("mnuFileList0")->caption, RecentMenuText(0));
+  EXPECT_FALSE(FrameForm->menu.Find("mnuFileList1")->visible);
 }
 
 TEST_F(OpenClassTest, FileThatIsNoClassLeavesTheFrontWindowInWork) {
@@ -131,7 +131,7 @@ TEST_F(OpenClassTest, FileThatIsNoClassLeavesTheFrontWindowInWork) {
   Window(1)->Activate();
   WriteFile(Path("no.tyr"), "hello");
   screen.ExpectBox("This file is NOT in a recognized Tallyroll format");
-  Frame->OpenRecent(Path("no.tyr"));
+  FrameForm->OpenRecent(Path("no.tyr"));
   EXPECT_EQ(WindowCount(), 2);
   EXPECT_EQ(Classes[3].SlotState, 0);
   EXPECT_EQ(CurrentClass, 1);
@@ -140,7 +140,7 @@ TEST_F(OpenClassTest, FileThatIsNoClassLeavesTheFrontWindowInWork) {
 TEST_F(OpenClassTest, WithNoOtherWindowAFailedOpenLeavesASlotThatIsNeverHandedOut) {
   WriteFile(Path("no.tyr"), "hello");
   screen.ExpectBox("This file is NOT in a recognized Tallyroll format");
-  Frame->OpenRecent(Path("no.tyr"));
+  FrameForm->OpenRecent(Path("no.tyr"));
   EXPECT_EQ(CurrentClass, 0);
   EXPECT_EQ(WindowCount(), 0);
   EXPECT_EQ(Open("A.TYR").Tag, "1");
@@ -153,19 +153,20 @@ TEST_F(OpenClassTest, CancelledPasswordLeavesNoWindow) {
   const std::string path = MakeFile("A.TYR", c);
   screen.ExpectBox("Are you sure you want to cancel?", BoxAnswer::kYes);
   screen.ExpectPortal("frmpassword", [](PortalDriver& portal) { portal.Press("cancelbt"); });
-  Frame->OpenRecent(path);
+  FrameForm->OpenRecent(path);
   EXPECT_EQ(WindowCount(), 0);
   EXPECT_EQ(Classes[1].SlotState, 0);
 }
 
 TEST_F(OpenClassTest, MissingDataFolderIsReportedAndTheNextTryWorks) {
   DataFolder = Path("gone");
-  screen.ExpectBox("File Error: 76");
-  Frame->mnuOpen_Click();
+  screen.ExpectBox("File Error: 76. The folder of the class files cannot be reached: " +
+                   Path("gone"));
+  FrameForm->mnuOpen_Click();
   EXPECT_EQ(DataFolder, folder);
   EXPECT_EQ(WindowCount(), 0);
   screen.ExpectFileDialog(MakeFile("A.TYR"));
-  Frame->mnuOpen_Click();
+  FrameForm->mnuOpen_Click();
   EXPECT_EQ(WindowCount(), 1);
 }
 
@@ -198,7 +199,7 @@ void EnterStudent(PortalDriver& portal) {
 TEST_F(OpenClassTest, NewClassIsSavedUnderTheNameTheTeacherGives) {
   screen.ExpectPortal("frmAdd", EnterStudent);
   screen.ExpectFileDialog(Path("new.tyr"));
-  Frame->ClickMenu("mnuown");
+  FrameForm->ClickMenu("mnuown");
   ASSERT_NE(Window(1), nullptr);
   EXPECT_EQ(Window(1)->Caption, "NEW.TYR");
   EXPECT_EQ(Window(1)->Tag, "1");
@@ -209,8 +210,8 @@ TEST_F(OpenClassTest, NewClassIsSavedUnderTheNameTheTeacherGives) {
   EXPECT_EQ(Window(1)->Grid1.TextMatrix(2, 0), " 1 Ng, Ada");
   EXPECT_TRUE(Window(1)->menu.Find("mnusave")->enabled);
   // The letters' values are in the file already.
-  EXPECT_TRUE(Frame->CloseWindow(*Window(1)));
-  Frame->OpenRecent(Path("new.tyr"));
+  EXPECT_TRUE(FrameForm->CloseWindow(*Window(1)));
+  FrameForm->OpenRecent(Path("new.tyr"));
   EXPECT_EQ(Classes[1].LetterValues[13], Currency::FromWhole(55));
 }
 
@@ -218,7 +219,7 @@ TEST_F(OpenClassTest, NewClassWithoutANameIsCalledByItsSlot) {
   Open("A.TYR");
   screen.ExpectPortal("frmAdd", EnterStudent);
   screen.ExpectFileDialog(std::nullopt);
-  Frame->NewClass(10);
+  FrameForm->NewClass(10);
   ASSERT_NE(Window(2), nullptr);
   EXPECT_EQ(Window(2)->Caption, "NewClass 2");
   EXPECT_EQ(Classes[2].FileName, "");
@@ -229,7 +230,7 @@ TEST_F(OpenClassTest, NewClassTakesTheTeachersLetterValues) {
   screen.settings["TALLYRLG8/startup/LetterString"] = "343'98'";
   screen.ExpectPortal("frmAdd", EnterStudent);
   screen.ExpectFileDialog(std::nullopt);
-  Frame->NewClass(10);
+  FrameForm->NewClass(10);
   EXPECT_EQ(Classes[1].LetterValues[1], Currency::FromWhole(98));
   EXPECT_EQ(Classes[1].LetterValues[2], Currency::FromWhole(95));
 }

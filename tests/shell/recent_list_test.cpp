@@ -71,12 +71,12 @@ TEST_F(RecentListTest, LongPathOfOneFolderHasNothingToLeaveOut) {
 
 TEST_F(RecentListTest, FrameLeavesOutWhatIsOpenAndWindowsListAll) {
   Form1& window = Open("A.TYR");
-  EXPECT_FALSE(Frame->menu.Find("mnuFileList0")->visible);
+  EXPECT_FALSE(FrameForm->menu.Find("mnuFileList0")->visible);
   EXPECT_TRUE(window.menu.Find("mnuFileList0")->visible);
   EXPECT_FALSE(window.menu.Find("mnuFileList1")->visible);
-  Frame->CloseWindow(window);
-  EXPECT_TRUE(Frame->menu.Find("mnuFileList0")->visible);
-  EXPECT_EQ(Frame->menu.Find("mnuFileList0")->caption, RecentMenuText(0));
+  FrameForm->CloseWindow(window);
+  EXPECT_TRUE(FrameForm->menu.Find("mnuFileList0")->visible);
+  EXPECT_EQ(FrameForm->menu.Find("mnuFileList0")->caption, RecentMenuText(0));
 }
 
 }  // namespace

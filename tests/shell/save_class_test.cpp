@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "shell/recent_list.h"
 #include "store/settings.h"
 #include "tests/shell/shell_test.h"
 
@@ -17,6 +18,14 @@ class SaveClassTest : public ShellTest {
     window.Caption = "NewClass 1";
     return window;
   }
+  // Its folder is away.
+  void FailToSave(Form1& window) {
+    Current().FileName = Path("gone/A.TYR");
+    Current().Changed = kTrue;
+    screen.ExpectBox("File Error: 76");
+    window.ClickMenu("mnusave");
+    EXPECT_EQ(window.StatusText, "");
+  }
   bool Exists(std::string_view name) const { return std::filesystem::exists(Path(name)); }
 };
 
@@ -26,10 +35,56 @@ TEST_F(SaveClassTest, SaveWritesTheClassAndClearsChanged) {
   Current().Changed = kTrue;
   window.ClickMenu("mnusave");
   EXPECT_EQ(Current().Changed, kFalse);
-  EXPECT_TRUE(Frame->CloseWindow(window));
+  EXPECT_TRUE(FrameForm->CloseWindow(window));
   EXPECT_EQ(Open("B.TYR").Tag, "1");
-  Frame->OpenRecent(Path("A.TYR"));
+  FrameForm->OpenRecent(Path("A.TYR"));
   EXPECT_EQ(Classes[2].room, "12");
+}
+
+TEST_F(SaveClassTest, ASaveMovesTheClassUpInTheRecentList) {
+  Form1& first = Open("A.TYR");
+  Form1& second = Open("B.TYR");
+  ASSERT_EQ(RecentFiles[0], Path("B.TYR"));
+  first.ClickMenu("mnusave");
+  EXPECT_EQ(RecentFiles[0], Path("A.TYR"));
+  EXPECT_EQ(RecentFiles[1], Path("B.TYR"));
+  EXPECT_EQ(first.menu.Find("mnuFileList0")->caption, RecentMenuText(0));
+  Classes[2].Changed = kTrue;
+  screen.ExpectBox("B.TYR Data has been changed. Save File?  ", BoxAnswer::kYes);
+  EXPECT_TRUE(FrameForm->CloseWindow(second));
+  EXPECT_EQ(RecentFiles[0], Path("B.TYR"));
+}
+
+TEST_F(SaveClassTest, ASaveIsConfirmedWithTheNameOfTheFile) {
+  Form1& window = Open("a.tyr");
+  window.ClickMenu("mnusave");
+  EXPECT_EQ(window.StatusText, "a.tyr saved.");
+  screen.ExpectFileDialog(Path("copy.TYR"));
+  window.ClickMenu("mnusaveas");
+  EXPECT_EQ(window.StatusText, "copy.TYR saved.");
+  window.ClickMenu("mnunamefirst");
+  EXPECT_EQ(window.StatusText, "");
+}
+
+TEST_F(SaveClassTest, TheSaveOfAClosedClassIsConfirmedBehindIt) {
+  Form1& first = Open("A.TYR");
+  Classes[1].Changed = kTrue;
+  Form1& second = Open("B.TYR");
+  screen.ExpectBox(kQuestion, BoxAnswer::kYes);
+  EXPECT_TRUE(FrameForm->CloseWindow(first));
+  EXPECT_EQ(second.StatusText, "A.TYR saved.");
+  Current().Changed = kTrue;
+  screen.ExpectBox("B.TYR Data has been changed. Save File?  ", BoxAnswer::kYes);
+  EXPECT_TRUE(FrameForm->CloseWindow(second));
+  EXPECT_EQ(FrameForm->StatusText, "B.TYR saved.");
+}
+
+TEST_F(SaveClassTest, AClassThatClosesWithoutASaveConfirmsNone) {
+  Form1& first = Open("A.TYR");
+  first.ClickMenu("mnusave");
+  Form1& second = Open("B.TYR");
+  EXPECT_TRUE(FrameForm->CloseWindow(first));
+  EXPECT_EQ(second.StatusText, "");
 }
 
 TEST_F(SaveClassTest, SaveOfAClassWithoutANameAsksForOne) {
@@ -112,7 +167,7 @@ TEST_F(SaveClassTest, FirstSaveAsKeepsTheFileThatItReplaces) {
 
 TEST_F(SaveClassTest, UnchangedClassClosesWithoutAQuestion) {
   Form1& window = Open("A.TYR");
-  EXPECT_TRUE(Frame->CloseWindow(window));
+  EXPECT_TRUE(FrameForm->CloseWindow(window));
   EXPECT_EQ(WindowCount(), 0);
   EXPECT_EQ(Classes[1].SlotState, 0);
   EXPECT_EQ(Classes[1].NumStudents, 0);
@@ -130,7 +185,7 @@ TEST_F(SaveClassTest, YesSavesAndCloses) {
   EXPECT_EQ(screen.boxes[0].buttons, BoxButtons::kYesNoCancel);
   EXPECT_EQ(screen.boxes[0].icon, BoxIcon::kQuestion);
   EXPECT_EQ(screen.boxes[0].title, "Note to the Teacher");
-  Frame->OpenRecent(Path("A.TYR"));
+  FrameForm->OpenRecent(Path("A.TYR"));
   EXPECT_EQ(Current().room, "9");
 }
 
@@ -139,7 +194,7 @@ TEST_F(SaveClassTest, WindowComesToTheFrontBeforeItAsks) {
   Classes[1].Changed = kTrue;
   Open("B.TYR");
   screen.ExpectBox(kQuestion, BoxAnswer::kNo);
-  EXPECT_TRUE(Frame->CloseWindow(*Window(1)));
+  EXPECT_TRUE(FrameForm->CloseWindow(*Window(1)));
   EXPECT_EQ(frame_screen.calls.end()[-2], "front A.TYR");
 }
 
@@ -150,7 +205,7 @@ TEST_F(SaveClassTest, NoClosesWithoutSaving) {
   screen.ExpectBox(kQuestion, BoxAnswer::kNo);
   window.ClickMenu("mnuclose");
   EXPECT_EQ(WindowCount(), 0);
-  Frame->OpenRecent(Path("A.TYR"));
+  FrameForm->OpenRecent(Path("A.TYR"));
   EXPECT_EQ(Current().room, "");
 }
 
@@ -191,12 +246,44 @@ TEST_F(SaveClassTest, FailedSaveKeepsTheClassOpenAndTheNextCloseTriesAgain) {
   EXPECT_TRUE(Exists("gone/A.TYR"));
 }
 
-TEST_F(SaveClassTest, ErrorOfAnEarlierSaveRefusesToCloseOnce) {
+TEST_F(SaveClassTest, AFailedSaveOfOneClassKeepsNoOtherOpen) {
+  FailToSave(Open("A.TYR"));
+  Form1& second = Open("B.TYR");
+  EXPECT_TRUE(FrameForm->CloseWindow(second));
+  EXPECT_EQ(WindowCount(), 1);
+}
+
+TEST_F(SaveClassTest, AfterAFailedSaveNoClosesWithoutSaving) {
   Form1& window = Open("A.TYR");
-  FileErrorCode = 61;
-  EXPECT_FALSE(Frame->CloseWindow(window));
-  EXPECT_EQ(FileErrorCode, 0);
-  EXPECT_TRUE(Frame->CloseWindow(window));
+  FailToSave(window);
+  screen.ExpectBox(kQuestion, BoxAnswer::kNo);
+  window.ClickMenu("mnuclose");
+  EXPECT_EQ(WindowCount(), 0);
+}
+
+TEST_F(SaveClassTest, AfterAFailedSaveOneExitIsEnough) {
+  FailToSave(Open("A.TYR"));
+  Open("B.TYR");
+  screen.ExpectBox(kQuestion, BoxAnswer::kNo);
+  Window(2)->ClickMenu("mnuExit");
+  EXPECT_EQ(frame_screen.calls.back(), "frame closed");
+}
+
+TEST_F(SaveClassTest, CloseAllWithTwoFailedSavesClosesTheThird) {
+  for (const char* name : {"A.TYR", "B.TYR"}) {
+    Open(name);
+    Current().FileName = Path("gone/") + name;
+    Current().Changed = kTrue;
+  }
+  Form1& third = Open("C.TYR");
+  for (const char* name : {"A.TYR", "B.TYR"}) {
+    screen.ExpectBox(std::string(name) + " Data has been changed. Save File?  ", BoxAnswer::kYes);
+    screen.ExpectBox("File Error: 76");
+  }
+  third.ClickMenu("mnucloseall");
+  EXPECT_EQ(WindowCount(), 2);
+  for (int slot : {1, 2})
+    EXPECT_EQ(Window(slot)->StatusText, "The class stays open, because it was not saved.");
 }
 
 TEST_F(SaveClassTest, CloseAllAsksEachWindowAlsoBehindOneThatStays) {
@@ -236,7 +323,7 @@ TEST_F(SaveClassTest, AFailedNameKeepsTheClassOpenAndTellsWhy) {
   window.ClickMenu("mnuclose");
   EXPECT_EQ(Window(1), &window);
   EXPECT_EQ(Current().Changed, kTrue);
-  EXPECT_EQ(window.StatusText, "The class stays open, because it could not be saved.");
+  EXPECT_EQ(window.StatusText, "The class stays open, because it was not saved.");
 }
 
 TEST_F(SaveClassTest, AClassKeptByCloseAllIsTheOneThatTheNextCommandMeans) {
@@ -256,7 +343,7 @@ TEST_F(SaveClassTest, ARefusedFrameCloseLeavesTheKeptClassInWork) {
   Open("B.TYR");
   Classes[1].Changed = kTrue;
   screen.ExpectBox(kQuestion, BoxAnswer::kCancel);
-  EXPECT_FALSE(Frame->QueryUnload());
+  EXPECT_FALSE(FrameForm->QueryUnload());
   EXPECT_EQ(CurrentClass, 1);
   EXPECT_EQ(frame_screen.calls.back(), "front A.TYR");
 }
@@ -264,12 +351,12 @@ TEST_F(SaveClassTest, ARefusedFrameCloseLeavesTheKeptClassInWork) {
 TEST_F(SaveClassTest, ClosingAWindowBehindLeavesTheFrontOneInWork) {
   Open("A.TYR");
   Form1& second = Open("B.TYR");
-  EXPECT_TRUE(Frame->CloseWindow(*Window(1)));
+  EXPECT_TRUE(FrameForm->CloseWindow(*Window(1)));
   EXPECT_EQ(CurrentClass, 2);
   Current().room = "7";
   second.ClickMenu("mnusave");
-  EXPECT_TRUE(Frame->CloseWindow(second));
-  Frame->OpenRecent(Path("B.TYR"));
+  EXPECT_TRUE(FrameForm->CloseWindow(second));
+  FrameForm->OpenRecent(Path("B.TYR"));
   EXPECT_EQ(Current().room, "7");
 }
 
@@ -279,8 +366,8 @@ TEST_F(SaveClassTest, ACommandMeansTheClassOfItsWindow) {
   Classes[1].room = "5";
   first.ClickMenu("mnusave");
   EXPECT_EQ(CurrentClass, 1);
-  EXPECT_TRUE(Frame->CloseWindow(first));
-  Frame->OpenRecent(Path("A.TYR"));
+  EXPECT_TRUE(FrameForm->CloseWindow(first));
+  FrameForm->OpenRecent(Path("A.TYR"));
   EXPECT_EQ(Current().room, "5");
 }
 

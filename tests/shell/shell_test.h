@@ -40,7 +40,7 @@ class ShellTest : public PortalTest {
     Screen = &frame_screen;
     DataFolder = folder;
     ProgramFolder = folder;
-    Frame = std::make_unique<MDIForm1>();
+    FrameForm = std::make_unique<MDIForm1>();
   }
   // The windows go before their screen, and nothing works in the folder when it goes.
   ~ShellTest() override {
@@ -86,7 +86,7 @@ class ShellTest : public PortalTest {
   }
 
   Form1& Open(std::string_view name, const Class& c = Sample(2)) {
-    Frame->OpenRecent(MakeFile(name, c));
+    FrameForm->OpenRecent(MakeFile(name, c));
     return *ClassWindows[static_cast<std::size_t>(CurrentClass)];
   }
 

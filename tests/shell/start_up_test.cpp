@@ -13,6 +13,13 @@ class StartUpTest : public ShellTest {
     DataFolder.clear();
     ProgramFolder.clear();
   }
+  void StartWithout(const std::string& away, int error) {
+    screen.settings["TALLYRLG8/startup/DIRFILE"] = Path(away);
+    screen.ExpectBox("File Error: " + PlainNumberText(error) +
+                     ". The folder of the class files cannot be reached: " + Path(away));
+    ExpectGreeting();
+    FrameForm->Load("");
+  }
   void ExpectGreeting() {
     screen.ExpectPortal("frmstartup", [this](PortalDriver& portal) {
       EXPECT_TRUE(frame_screen.calls.empty()) << "the greeting comes before the frame";
@@ -24,7 +31,7 @@ class StartUpTest : public ShellTest {
 TEST_F(StartUpTest, FirstRunMakesTheDataFolderWithTheSample) {
   WriteFile(Path("Sample8.TYR"), "sample");
   ExpectGreeting();
-  Frame->Load("");
+  FrameForm->Load("");
   EXPECT_EQ(DataFolder, Path("Tallyroll"));
   EXPECT_EQ(screen.settings.at("TALLYRLG8/startup/DIRFILE"), Path("Tallyroll"));
   EXPECT_TRUE(std::filesystem::exists(Path("Tallyroll/Sample8.TYR")));
@@ -40,7 +47,7 @@ TEST_F(StartUpTest, SampleThatTheTeacherWorkedOnIsKept) {
   std::filesystem::create_directory(Path("Tallyroll"));
   WriteFile(Path("Tallyroll/Sample8.TYR"), "mine");
   ExpectGreeting();
-  Frame->Load("");
+  FrameForm->Load("");
   EXPECT_EQ(std::filesystem::file_size(Path("Tallyroll/Sample8.TYR")), 4u);
 }
 
@@ -48,7 +55,7 @@ TEST_F(StartUpTest, WhereNoFolderCanBeMadeTheProgramsOwnServes) {
   WriteFile(Path("file"), "");
   screen.profile_folder = Path("file");
   ExpectGreeting();
-  Frame->Load("");
+  FrameForm->Load("");
   EXPECT_EQ(DataFolder, folder);
   EXPECT_EQ(screen.settings.at("TALLYRLG8/startup/DIRFILE"), folder);
 }
@@ -57,34 +64,64 @@ TEST_F(StartUpTest, KnownFolderIsUsedAsItIs) {
   std::filesystem::create_directory(Path("classes"));
   screen.settings["TALLYRLG8/startup/DIRFILE"] = Path("classes");
   ExpectGreeting();
-  Frame->Load("");
+  FrameForm->Load("");
   EXPECT_EQ(DataFolder, Path("classes"));
   EXPECT_FALSE(std::filesystem::exists(Path("Tallyroll")));
 }
 
-TEST_F(StartUpTest, KnownFolderThatIsGoneIsReported) {
-  screen.settings["TALLYRLG8/startup/DIRFILE"] = Path("gone");
-  screen.ExpectBox("File Error: 76");
-  ExpectGreeting();
-  Frame->Load("");
+TEST_F(StartUpTest, KnownFolderThatIsAwayIsReportedByItsName) {
+  StartWithout("gone", 76);
   EXPECT_EQ(DataFolder, folder);
   EXPECT_EQ(std::filesystem::current_path(), folder);
+}
+
+TEST_F(StartUpTest, WhatCannotBeEnteredIsAwayToo) {
+  WriteFile(Path("gone"), "");
+  StartWithout("gone", 76);
+  EXPECT_EQ(DataFolder, folder);
+}
+
+TEST_F(StartUpTest, AFolderThatIsAwayStaysRemembered) {
+  StartWithout("gone", 76);
+  FrameForm->Unload();
+  EXPECT_EQ(screen.settings.at("TALLYRLG8/startup/DIRFILE"), Path("gone"));
+}
+
+TEST_F(StartUpTest, AFolderThatIsBackIsUsedAgain) {
+  StartWithout("gone", 76);
+  std::filesystem::create_directory(Path("gone"));
+  screen.ExpectFileDialog(std::nullopt);
+  FrameForm->mnuOpen_Click();
+  EXPECT_EQ(DataFolder, Path("gone"));
+  EXPECT_EQ(std::filesystem::current_path(), Path("gone"));
+}
+
+TEST_F(StartUpTest, AClassWhoseFolderIsAwayLeavesTheDataFolderRemembered) {
+  std::filesystem::create_directory(Path("classes"));
+  screen.settings["TALLYRLG8/startup/DIRFILE"] = Path("classes");
+  ExpectGreeting();
+  FrameForm->Load("");
+  screen.ExpectFileDialog(Path("gone/A.TYR"));
+  screen.ExpectBox("File Error: 76");
+  FrameForm->mnuOpen_Click();
+  FrameForm->Unload();
+  EXPECT_EQ(screen.settings.at("TALLYRLG8/startup/DIRFILE"), Path("classes"));
 }
 
 TEST_F(StartUpTest, RecentFilesStandInTheMenu) {
   screen.settings["TALLYRLG8/fileused/File0"] = "/a/A.TYR";
   screen.settings["TALLYRLG8/startup/NAMEID"] = "73";
   ExpectGreeting();
-  Frame->Load("");
-  EXPECT_EQ(Frame->menu.Find("mnuFileList0")->caption, "&1. /a/A.TYR");
-  EXPECT_FALSE(Frame->menu.Find("mnuFileList1")->visible);
+  FrameForm->Load("");
+  EXPECT_EQ(FrameForm->menu.Find("mnuFileList0")->caption, "&1. /a/A.TYR");
+  EXPECT_FALSE(FrameForm->menu.Find("mnuFileList1")->visible);
   EXPECT_EQ(NameMode, 73);
 }
 
 TEST_F(StartUpTest, FileOfTheCommandLineOpensWithoutAGreeting) {
   const std::string path = MakeFile("maths.tyr");
-  Frame->Load(path);
-  EXPECT_EQ(Frame->CommandFile, path);
+  FrameForm->Load(path);
+  EXPECT_EQ(FrameForm->CommandFile, path);
   EXPECT_EQ(frame_screen.calls, (std::vector<std::string>{"frame shown", "shown MATHS.TYR"}));
   EXPECT_EQ(Classes[1].FileName, path);
 }
@@ -92,13 +129,13 @@ TEST_F(StartUpTest, FileOfTheCommandLineOpensWithoutAGreeting) {
 TEST_F(StartUpTest, FileOfTheCommandLineIsFoundFromWhereTheProgramStarted) {
   MakeFile("maths.tyr");
   std::filesystem::current_path(folder);
-  Frame->Load("./maths.tyr");
+  FrameForm->Load("./maths.tyr");
   EXPECT_EQ(Classes[1].FileName, Path("maths.tyr"));
 }
 
 TEST_F(StartUpTest, FileOfTheCommandLineThatIsGoneLeavesTheFrame) {
   screen.ExpectBox("Tallyroll cannot open the file " + Path("gone.tyr"));
-  Frame->Load(Path("gone.tyr"));
+  FrameForm->Load(Path("gone.tyr"));
   EXPECT_EQ(WindowCount(), 0);
   EXPECT_EQ(frame_screen.calls, std::vector<std::string>{"frame shown"});
 }

@@ -64,6 +64,18 @@ TEST_F(TextCommandsTest, NamesAreAppendedToTheClass) {
   EXPECT_EQ(OpenState, 0);
 }
 
+TEST_F(TextCommandsTest, WhoCouldNotKeepHisIdIsToldBehindTheTable) {
+  Form1& window = Open("A.TYR");
+  ExpectChoice("append", "commas");
+  screen.ExpectFileDialog(Put("new.txt", "101,Abel Bo\n,Ng Ada\n"));
+  screen.random_numbers = {0.25, 0.5, 0.1, 0.01, 0.26, 0.5, 0.1, 0.01, 0.27, 0.5, 0.1, 0.01};
+  screen.ExpectBox(
+      "New IDs were given to 2 students: 1 whose ID was taken already, 1 without an ID.\n\n"
+      "Abel, Bo: 100 instead of 101\nNg, Ada: 102");
+  window.ClickMenu("mnuimportnames");
+  EXPECT_EQ(Current().NumStudents, 4);
+}
+
 TEST_F(TextCommandsTest, CancelOperationAsksNothingMore) {
   Form1& window = Open("A.TYR");
   ExpectChoice("cncel", "");
@@ -102,7 +114,7 @@ TEST_F(TextCommandsTest, AFileThatIsGoneChangesNothing) {
 TEST_F(TextCommandsTest, TheFrameStartsAClassFromATextFile) {
   ExpectChoice("", "Tabs");
   screen.ExpectFileDialog(Put("new.txt", "8\tNg, Ada\n7\tAbel, Bo\n"));
-  Frame->ClickMenu("mnuLoadText");
+  FrameForm->ClickMenu("mnuLoadText");
   ASSERT_EQ(WindowCount(), 1);
   Form1& window = *Window(1);
   EXPECT_EQ(window.Caption, "NewClass 1");
@@ -123,7 +135,7 @@ TEST_F(TextCommandsTest, TheLetterValuesOfNewClassesAreTheTeachersOwn) {
       "343'99.5'95'90'88'85'80'78'75'70'68'65'60'54'";
   ExpectChoice("", "Tabs");
   screen.ExpectFileDialog(Put("new.txt", "8\tNg, Ada\n"));
-  Frame->ClickMenu("mnuLoadText");
+  FrameForm->ClickMenu("mnuLoadText");
   EXPECT_EQ(Current().LetterValues[13], Currency::FromWhole(54));
 }
 
@@ -185,10 +197,16 @@ TEST_F(TextCommandsTest, LeavingTheColumnsChangesNothing) {
 TEST_F(TextCommandsTest, EachExportWritesItsFile) {
   Form1& window = Open("A.TYR", Sample(1, 1));
   const std::pair<const char*, const char*> exports[] = {
-      {"mnuNametext", "101,Last01 First01\r\n"},
-      {"mnuBio", "101,Last01 First01,,,,,,,,,\r\n"},
-      {"mnutestingInst", "ID,NAME,Quiz\r\n,,Q1\r\n101,Last01 First01,80\r\n"},
-      {"mnutestingInstwithout", "101,Last01 First01,80\r\n"}};
+      {"mnuNametext",
+       "\xEF\xBB\xBF"
+       "101,Last01 First01\r\n"},
+      {"mnuBio",
+       "\xEF\xBB\xBF"
+       "101,Last01 First01,,,,,,,,,\r\n"},
+      {"mnutestingInst", "\xEF\xBB\xBFID,NAME,Quiz\r\n,,Q1\r\n101,Last01 First01,80\r\n"},
+      {"mnutestingInstwithout",
+       "\xEF\xBB\xBF"
+       "101,Last01 First01,80\r\n"}};
   for (const auto& [entry, text] : exports) {
     ExpectChoice("", "commas");
     screen.ExpectFileDialog(Path("out.txt"));
@@ -200,6 +218,27 @@ TEST_F(TextCommandsTest, EachExportWritesItsFile) {
     EXPECT_EQ(dialog.filter, "Text Files (*.txt)|*.TXT");
   }
   EXPECT_EQ(Current().Changed, kFalse);
+}
+
+// Zoe with an accent: two bytes behind the mark of UTF-8, one byte of the code page.
+TEST_F(TextCommandsTest, AnExportIsWrittenInTheEncodingThatTheDialogAnswers) {
+  Class c = Sample(1);
+  c.Students[1].firstname = "Zo\xE9";
+  Form1& window = Open("A.TYR", c);
+  const auto exported = [&](const char* method) {
+    ExpectChoice("", method);
+    screen.ExpectFileDialog(Path("out.txt"));
+    window.ClickMenu("mnuNametext");
+    return Read(Path("out.txt"));
+  };
+  EXPECT_EQ(exported("commas"),
+            "\xEF\xBB\xBF"
+            "101,Last01 Zo\xC3\xA9\r\n");
+  EXPECT_EQ(exported("csv"), "\xEF\xBB\xBFID,Last name,First name\r\n101,Last01,Zo\xC3\xA9\r\n");
+  screen.encoding_answer = TextEncoding::kWindows1252;
+  EXPECT_EQ(exported("commas"), "101,Last01 Zo\xE9\r\n");
+  screen.encoding_answer.reset();
+  EXPECT_EQ(exported("csv"), "ID,Last name,First name\r\n101,Last01,Zo\xE9\r\n");
 }
 
 TEST_F(TextCommandsTest, AnExportTellsWhatTheLayoutCouldNotCarry) {
@@ -233,7 +272,7 @@ TEST_F(TextCommandsTest, AnExportNeverGoesOverAnOpenClass) {
 TEST_F(TextCommandsTest, GradesGoByTheEnterGradesPortal) {
   Form1& window = Open("A.TYR");
   ExpectChoice("", "commas");
-  screen.ExpectFileDialog(Put("marks.txt", "102,71\n101,a-\n999,5\n"));
+  screen.ExpectFileDialog(Put("marks.txt", "102,71\n101,A-\n999,5\n"));
   screen.ExpectPortal("frmMarks", [](PortalDriver& portal) {
     portal.Type("title", "Rivers");
     portal.Type("code", "RIV");

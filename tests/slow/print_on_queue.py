@@ -64,7 +64,6 @@ def print_from_preview(this, program, printer):
     expect("the averages", words(printer.next_job()), made(this, "11"))
     program.window("Print Preview Portal")
     program.keys("Escape")
-    program.box("Save Rounded Averaged Grades? (Recommended)", "alt+n", title="Save File")
     program.window("Printer Portal")
 
 

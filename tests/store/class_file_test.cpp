@@ -437,7 +437,8 @@ TEST_F(ClassFileTest, AnUnreadOriginalIsKeptOnceBesideTheSavedClass) {
   Open(broken);
   WriteClassFile();
   EXPECT_EQ(Get(Path("math.bad")), broken);
-  EXPECT_EQ(window.status, "The file that could not be read whole is kept as " + Path("math.bad"));
+  EXPECT_EQ(window.status,
+            "math.TYR saved. The file that could not be read whole is kept as " + Path("math.bad"));
   WriteClassFile();
   EXPECT_EQ(Files(), 2);
 }

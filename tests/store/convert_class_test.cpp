@@ -13,13 +13,13 @@
 namespace tallyroll {
 namespace {
 
-constexpr const char* kConverting =
+constexpr const char* kConvertingBox =
     "This file is being CONVERTED to the new Tallyroll format. When you save, the file will be "
     "written in the new format, which CAN NOT be read by versions of Tallyroll prior to version 8. "
     "(Upon saving of the converted file, a backup of the pre-converted file will be saved with the "
     "extension of '.OLD'.)";
 
-class SeenWindow : public ClassWindowCalls {
+class ConvertedWindow : public ClassWindowCalls {
  public:
   void EnableClassMenus(bool on) override { seen += on ? "menus+ " : "menus- "; }
   void EnableEntry(std::string_view entry, bool on) override {
@@ -28,7 +28,7 @@ class SeenWindow : public ClassWindowCalls {
   std::string seen;
 };
 
-void AddStudent(FileBytes& f, bool seven, const char* last, const char* id, const char* mark) {
+void AddOldStudent(FileBytes& f, bool seven, const char* last, const char* id, const char* mark) {
   f.Fixed(last, 12).Fixed("X", 10).Fixed(id, 9).Fixed("", 30).Fixed("", 14).Fixed("", 14);
   f.Fixed("", 50).Fixed("", 15).Fixed("", 2).Fixed("", 10).Fixed("", 14);
   const std::size_t width = seven ? 5 : 3;
@@ -37,14 +37,14 @@ void AddStudent(FileBytes& f, bool seven, const char* last, const char* id, cons
 }
 
 // Two students out of order and one grade of weight 40; a "ty7" has settings of an average too.
-std::string OldFile(bool seven, const char* settings) {
+std::string FileOfFormat(bool seven, const char* settings) {
   FileBytes f;
   f.Raw(seven ? "ty7" : "ty5").Fixed("", 10).I16(2).I16(1).I16(0).I16(0).I16(0);
   f.NoList().NoList().I16(0).Fixed("Mr B", 20).Fixed("", 15).Fixed("", 15).Fixed("", 15);
   f.Fixed("Algebra", 30).Fixed("7", 6).Text("");
   if (seven) f.NoList().Text(settings);
-  AddStudent(f, seven, "Young", "11", "85");
-  AddStudent(f, seven, "Abe", "22", "ABS");
+  AddOldStudent(f, seven, "Young", "11", "85");
+  AddOldStudent(f, seven, "Abe", "22", "ABS");
   f.Fixed("Quiz", 50).Fixed("Q1", 5).Money(400000).I16(20).Fixed("Y", 1).Fixed("", 10);
   f.Fixed("", 4).Text("").Fixed("Q", 2).Fixed("", 2).Fixed("", 8).Text("");
   return f.bytes;
@@ -60,14 +60,14 @@ class ConvertClassTest : public PortalTest, public testing::WithParamInterface<b
     std::ofstream(Path(name), std::ios::binary) << bytes;
   }
   void Open(const char* settings = "") {
-    Put("math.TYR", OldFile(GetParam(), settings));
-    screen.ExpectBox(kConverting);
+    Put("math.TYR", FileOfFormat(GetParam(), settings));
+    screen.ExpectBox(kConvertingBox);
     ReadClassFile();
   }
   // The program whose settings steer the side files of this format.
   std::string Application() const { return GetParam() ? "TALLYRLP7" : "TALLYRLW6"; }
 
-  SeenWindow window;
+  ConvertedWindow window;
 };
 
 INSTANTIATE_TEST_SUITE_P(BothMarks, ConvertClassTest, testing::Bool(),

@@ -31,6 +31,12 @@ class FrmTxtTest : public PortalTest {
     ASSERT_EQ(ReplaceFile(ImportFile, text, OldTail::kDrop), 0);
     Open(kAskColumns + request);
   }
+  static void Enrol(const std::string& id) {
+    Class& c = Current();
+    ReDimPreserve(c.Students, ++c.NumStudents);
+    c.Students.back().id = id;
+  }
+  CellStyle StyleOfId(int row) const { return portal.preview.Style(row, 0); }
   int Page() const { return portal.framecontrol.Current; }
   std::string Use(int col) const { return std::string(portal.preview.TextMatrix(0, col)); }
   void Pick(const char* option) {
@@ -54,6 +60,50 @@ TEST_F(FrmTxtTest, CaptionsStandAsTeachersKnowThem) {
   EXPECT_EQ(portal.doubles.Caption, "Double Quote");
   EXPECT_EQ(portal.Tabs.Caption, "Tabs");
   EXPECT_EQ(portal.commas.Caption, "Comma");
+}
+
+TEST_F(FrmTxtTest, IdsThatAreTakenAreFlaggedAndCounted) {
+  Enrol("9");
+  OpenColumns(kImportNames, "ID,Name\n7,Ng Ada\n 7 ,Orr Bo\n9,Poe Di\n,Ray Ed\n8,Sun Fay\n");
+  EXPECT_EQ(portal.counted.Caption,
+            "Students: 5, IDs taken already: 2 (first in line 3), without an ID: 1");
+  EXPECT_EQ(StyleOfId(2), CellStyle::kPlain);
+  EXPECT_EQ(StyleOfId(3), CellStyle::kFailing);
+  EXPECT_EQ(StyleOfId(4), CellStyle::kFailing);
+  EXPECT_EQ(StyleOfId(5), CellStyle::kPlain);
+  EXPECT_EQ(StyleOfId(6), CellStyle::kPlain);
+}
+
+TEST_F(FrmTxtTest, IntoANewClassOnlyTheFilesOwnIdsClash) {
+  Enrol("9");
+  OpenColumns(kIntoNewClass + kImportNames, "ID,Name\n9,Poe Di\n7,Ng Ada\n7,Orr Bo\n");
+  EXPECT_EQ(portal.counted.Caption, "Students: 3, IDs taken already: 1 (first in line 4)");
+  EXPECT_EQ(StyleOfId(2), CellStyle::kPlain);
+  EXPECT_EQ(StyleOfId(4), CellStyle::kFailing);
+}
+
+TEST_F(FrmTxtTest, AnotherColumnOfIdsIsLookedAtAnew) {
+  OpenColumns(kImportNames, "ID,Name,Locker\n7,Ng Ada,3\n7,Orr Bo,4\n");
+  EXPECT_EQ(portal.counted.Caption, "Students: 2, IDs taken already: 1 (first in line 3)");
+  driver->PickCell("preview", 1, 2);
+  driver->Choose("field", 1);
+  EXPECT_EQ(portal.counted.Caption, "Students: 2");
+  EXPECT_EQ(StyleOfId(3), CellStyle::kPlain);
+}
+
+TEST_F(FrmTxtTest, CapitalsAreOfferedForGradesAlone) {
+  OpenColumns(kGradesById, "ID,Quiz\n7,b+\n");
+  EXPECT_TRUE(portal.capitals.Visible);
+  EXPECT_FALSE(portal.capitals.Value);
+  driver->Tick("capitals");
+  driver->Tick("heading", false);
+  driver->Tick("heading");
+  driver->Press("okbt");
+  EXPECT_TRUE(ImportColumns.capitals);
+  frmtxt names;
+  OpenState = kAskColumns + kImportNames;
+  names.Load();
+  EXPECT_FALSE(names.capitals.Visible);
 }
 
 TEST_F(FrmTxtTest, EachMethodSetsItsMode) {

@@ -160,6 +160,38 @@ TEST_F(GradeFileTest, NamesThatALayoutCannotCarryStillFindTheirStudent) {
     }
 }
 
+TEST_F(GradeFileTest, IdsThatALayoutCannotCarryStillFindTheirStudent) {
+  Class& c = Current();
+  Enrol("7,12", "Poe", "Di");
+  Enrol("O'7", "Ray", "Ed");
+  Enrol("\"8\"", "Sun", "Fay");
+  Enrol("4711-0815-2026", "Tor", "Gus");
+  c.NumInstruments = 1;
+  ReDim(c.Instruments, 1);
+  for (std::size_t i = 1; i <= 7; ++i)
+    ReDim(c.Students[i].Marks, 1, ShortText(std::string(1, static_cast<char>('0' + i))));
+  const Marks all = {"1", "2", "3", "4", "5", "6", "7"};
+  for (const i16 mode :
+       {kColumnsText, kSinglesText, kDoublesText, kTabsText, kCommasText, kCsvText})
+    EXPECT_EQ(Read(ExportText(c, kExportGrades, mode).bytes, mode, kGradesById), all) << mode;
+}
+
+// Cut to twelve letters the two are one: neither takes the mark of the other.
+TEST_F(GradeFileTest, IdsThatALayoutMakesEqualFindNobody) {
+  Enrol("4711-0815-2026", "Poe", "Di");
+  Enrol("4711-0815-2027", "Ray", "Ed");
+  const char* text = "1            91\n4711-0815-20 55\n4711-0815-20 66\n";
+  EXPECT_EQ(Read(text, kColumnsText, kGradesById), (Marks{"", "91", "", "", ""}));
+  EXPECT_EQ(ReadGradeText(text, kColumnsText, {}, kGradesById).skipped, 2);
+}
+
+// "7 12" is an ID of its own, so the comma's is not looked for there.
+TEST_F(GradeFileTest, AWholeIdGoesBeforeOneThatALayoutChanged) {
+  Enrol("7,12", "Poe", "Di");
+  Enrol("7 12", "Ray", "Ed");
+  EXPECT_EQ(Read("7 12,55\n", kCommasText, kGradesById), (Marks{"", "", "", "", "55"}));
+}
+
 TEST_F(GradeFileTest, AStudentWithoutAFirstNameIsFoundByTheLastName) {
   Enrol("5", "Poe", "-");
   EXPECT_EQ(Read("Poe,70\n", kCommasText, kGradesByName), (Marks{"", "", "", "70"}));

@@ -328,12 +328,6 @@ TEST(ReadRosterText, ASpreadsheetWithoutNamesIsRefused) {
   EXPECT_EQ(Refusal("ID,City\n1,Oslo\n", kCsvText), "has no column with the names of students");
 }
 
-TEST(ReadRosterText, ASpreadsheetWithoutIdsSaysSo) {
-  EXPECT_FALSE(ReadRosterText("Last name,First name\nNg,Ada\n", kCsvText).numbered);
-  EXPECT_TRUE(ReadRosterText("ID,Name\n1,Ng\n", kCsvText).numbered);
-  EXPECT_TRUE(ReadRosterText(",Ng Ada\n", kCommasText).numbered);
-}
-
 // Saved by LibreOffice Calc 7.4 from a sheet of text cells, with semicolons and UTF-8.
 TEST(ReadRosterText, AFileThatASpreadsheetProgramSavedIsReadWhole) {
   const FileContents file = ReadWholeFile(SourceDir() + "/tests/store/data/spreadsheet.csv");

@@ -32,7 +32,7 @@ TEST_F(SettingsTest, WithoutSettingsTheDefaultsStand) {
 }
 
 TEST_F(SettingsTest, WhatIsSavedIsLoadedAgain) {
-  DataFolder = "/classes";
+  RememberedFolder = "/classes";
   PrinterFontName = "Courier";
   PrinterFontSize = 9.5f;
   SenderAddress = "a@b.c";
@@ -42,15 +42,19 @@ TEST_F(SettingsTest, WhatIsSavedIsLoadedAgain) {
   MarginLeft = "2";
   MarginBottom = "3";
   MarginRight = "4";
+  SavedTextEncoding = TextEncoding::kWindows1252;
   RecentFiles = {"/a.TYR", "/b.TYR", "", "", "/e.TYR"};
   SaveProgramSettings();
+  SaveTextEncoding();
   EXPECT_EQ(screen.settings["TALLYRLG8/startup/VERSION"], "8");
   EXPECT_EQ(screen.settings["TALLYRLG8/startup/SIZE"], "9.5");
   EXPECT_EQ(screen.settings["TALLYRLG8/startup/NAMEID"], "73");
   EXPECT_EQ(screen.settings["TALLYRLG8/fileused/File4"], "/e.TYR");
   ResetStore();
   EXPECT_EQ(PrinterFontName, "Times New Roman");
+  EXPECT_EQ(SavedTextEncoding, TextEncoding::kUtf8);
   LoadProgramSettings();
+  EXPECT_EQ(SavedTextEncoding, TextEncoding::kWindows1252);
   EXPECT_EQ(DataFolder + PrinterFontName + SenderAddress + MailServer,
             "/classesCouriera@b.cmail.b.c");
   EXPECT_EQ(PrinterFontSize, 9.5f);

@@ -8,6 +8,7 @@
 #include "store/class_defaults.h"
 #include "store/program_state.h"
 #include "store/safe_file.h"
+#include "store/taken_ids.h"
 #include "store/text_layout.h"
 #include "tests/support/portal_test.h"
 
@@ -16,10 +17,11 @@ namespace {
 
 class TextImportTest : public PortalTest {
  protected:
-  static int Add(std::string_view text, i16 mode = kCommasText) {
+  int Add(std::string_view text, i16 mode = kCommasText) {
     TextRoster roster = ReadRosterText(text, mode);
     EXPECT_EQ(roster.refusal, "");
-    return AddStudents(roster);
+    outcome = AddStudents(roster);
+    return outcome.error;
   }
   static std::vector<std::string> Ids() {
     std::vector<std::string> ids;
@@ -27,6 +29,8 @@ class TextImportTest : public PortalTest {
     return ids;
   }
   static const Student& Of(int i) { return Current().Students.at(static_cast<std::size_t>(i)); }
+  ImportOutcome outcome;  // of the last Add
+
   void Put(std::string_view bytes) {
     ImportFile = Path("names.txt");
     ASSERT_EQ(ReplaceFile(ImportFile, bytes, OldTail::kDrop), 0);
@@ -73,13 +77,13 @@ TEST_F(TextImportTest, WidthsRiseWithLongerNamesOnly) {
 // place: 16 + 25 + 50 + 9 = 100.
 TEST_F(TextImportTest, ANewIdComesFromFourRandomNumbers) {
   screen.random_numbers = {0.25, 0.5, 0.1, 0.01};
-  EXPECT_EQ(MakeUniqueId(Current()), "100");
+  EXPECT_EQ(TakenIds(Current()).MakeUniqueId(), "100");
 }
 
 // Each product loses what stands behind its point: 31 + 99 + 499 + 899 = 1528.
 TEST_F(TextImportTest, TheLargestNumberIsThatOfTheLargestDraws) {
   screen.random_numbers = {0.9999, 0.9999, 0.9999, 0.9999};
-  EXPECT_EQ(MakeUniqueId(Current()), "1528");
+  EXPECT_EQ(TakenIds(Current()).MakeUniqueId(), "1528");
 }
 
 TEST_F(TextImportTest, AnIdThatAnEarlierStudentHasIsReplaced) {
@@ -114,6 +118,53 @@ TEST_F(TextImportTest, ASpreadsheetWithoutIdsGivesEachStudentOne) {
   screen.random_numbers = {0.25, 0.5, 0.1, 0.01, 0.26, 0.5, 0.1, 0.01};
   Add("Last name,First name\nNg,Ada\nOrr,Bo\n", kCsvText);
   EXPECT_EQ(Ids(), (std::vector<std::string>{"100", "101"}));
+}
+
+// 100 stands later in the file and 101 in the class, so the third draw serves: 16 + 27 + 50 + 9.
+TEST_F(TextImportTest, ADrawnIdNeverTakesOneThatStandsLaterInTheFileOrInTheClass) {
+  Add("101,Abel Cy\n");
+  screen.random_numbers = {0.25, 0.5, 0.1, 0.01, 0.26, 0.5, 0.1, 0.01, 0.27, 0.5, 0.1, 0.01};
+  Add(",Ng Ada\n100,Orr Bo\n");
+  EXPECT_EQ(Ids(), (std::vector<std::string>{"101", "102", "100"}));
+}
+
+TEST_F(TextImportTest, EveryBlankIdGetsOneInEveryLayout) {
+  const std::pair<i16, const char*> files[] = {
+      {kColumnsText, "             Ng, Ada\n7            Orr, Bo\n"},
+      {kSinglesText, "'Ng, Ada'\n7'Orr, Bo'\n"},
+      {kDoublesText, "\"\",\"Ng, Ada\"\n\"7\",\"Orr, Bo\"\n"},
+      {kTabsText, " \tNg, Ada\n7\tOrr, Bo\n"},
+      {kCommasText, ",Ng Ada\n7,Orr Bo\n"},
+      {kCsvText, "ID,Name\n,Ng Ada\n7,Orr Bo\n"}};
+  for (const auto& [mode, text] : files) {
+    ResetClassSlot();
+    screen.random_numbers = {0.25, 0.5, 0.1, 0.01};
+    Add(text, mode);
+    EXPECT_EQ(Ids(), (std::vector<std::string>{"100", "7"})) << mode;
+    ASSERT_EQ(outcome.given.size(), 1u) << mode;
+    EXPECT_EQ(GivenIdLines(outcome), (std::vector<std::string>{"Ng, Ada: 100"})) << mode;
+  }
+}
+
+TEST_F(TextImportTest, TheResultSaysHowManyIdsWereGivenAndToWhom) {
+  screen.random_numbers = {0.25, 0.5, 0.1, 0.01, 0.26, 0.5, 0.1, 0.01, 0.27, 0.5, 0.1, 0.01};
+  Add("7,Ng Ada\n 7 ,Orr Bo\n,Poe Di\n7,Ray Ed\n");
+  EXPECT_EQ(GivenIdsSentence(outcome),
+            "New IDs were given to 3 students: 2 whose ID was taken already, 1 without an ID.");
+  screen.ExpectBox(GivenIdsSentence(outcome) +
+                   "\n\nOrr, Bo: 100 instead of 7\nPoe, Di: 101\nRay, Ed: 102 instead of 7");
+  TellGivenIds(outcome);
+  Add("8,Sun Fay\n");
+  TellGivenIds(outcome);
+}
+
+// The same file again: each of its students is there a second time, and is told.
+TEST_F(TextImportTest, AFileThatIsImportedTwiceGivesEachStudentASecondId) {
+  Add("7,Ng Ada\n8,Orr Bo\n");
+  Add("7,Ng Ada\n8,Orr Bo\n");
+  EXPECT_EQ(outcome.given.size(), 2u);
+  const std::vector<std::string> ids = Ids();
+  EXPECT_EQ(std::set<std::string>(ids.begin(), ids.end()).size(), 4u);
 }
 
 TEST_F(TextImportTest, AClassThatIsFullKeepsWhatItTook) {

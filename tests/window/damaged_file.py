@@ -25,7 +25,9 @@ def tell(this):
 
     change_first_phone(program, "TORN.TYR", "555-0103")
     program.keys("ctrl+s")
-    program.await_label(f"The file that could not be read whole is kept as {path.with_suffix('.bad')}")
+    program.await_label(
+        f"{path.name} saved. The file that could not be read whole is kept as "
+        f"{path.with_suffix('.bad')}")
     program.keys("ctrl+q")
     program.ended()
 

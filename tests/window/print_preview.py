@@ -53,13 +53,12 @@ def averages_of_the_class(this, program):
     save(program, "s", text)
     save(program, "h", html)
     save(program, "d", pdf)
-    expect("the text", read(text), made(this, ".txt", "--code", "11"))
+    expect("the text", read(text), made(this, ".txt", "--code", "11", "--encoding", "utf-8"))
     expect("the HTML", read(html), made(this, ".htm", "--code", "11"))
     words = subprocess.run(["pdftotext", "-layout", pdf, "-"], capture_output=True, text=True, check=True).stdout
     expect("pages of the PDF", words.count("\f"), 4)
     expect("the title in the PDF", "First Term" in words, True)
-    program.keys("Escape")
-    program.box("Save Rounded Averaged Grades? (Recommended)", "alt+n", title="Save File")
+    program.keys("Escape")  # the averages are as they were saved: nothing is asked
     program.window("Printer Portal")
 
 
@@ -88,7 +87,8 @@ def two_students(this, program):
     program.keys("alt+t")
     program.choose_file("Save As", path)
     program.window("Print Preview Portal")
-    expect("the second student alone", read(path), made(this, ".txt", "--code", "13", "--student", "8153"))
+    expect("the second student alone", read(path),
+           made(this, ".txt", "--code", "13", "--student", "8153", "--encoding", "utf-8"))
     program.keys("Escape")
     program.window("Printer Portal")
 

@@ -37,13 +37,15 @@ def tell(this):
     program.window("Text File Portal")
     program.keys("Up", "Return")  # the comma
     program.choose_file("Open", marks)
+    program.box("These marks of the file are no grades as they stand. Of each only the number that it "
+                "begins with counts, otherwise 0; letters count in capitals.\n\nAbel; Jr., Bo: b+", "Return")
     program.window("Enter  Grades  Portal")
     program.type("Rivers\tRIV")
     program.await_text("Up to 3 Character Code", "RIV")
     program.keys("alt+x")
     program.gone("Enter  Grades  Portal")
     program.frame("NewClass 1")
-    expect("the marks", program.column(2, 2), ["B+", "91"])
+    expect("the marks", program.column(2, 2), ["b+", "91"])
 
     program.keys("alt+f", "l", "e", "Down", "Down", "Down", "Return")  # without headers
     program.window("Text File Portal")
@@ -57,7 +59,7 @@ def tell(this):
     program.ended()
 
     with open(out, "rb") as file:
-        expect("the text file", file.read(), b"11,Abel; Jr. Bo,B+\r\n12,Ng Zo\xeb,91\r\n")
+        expect("the text file", file.read(), "\ufeff11,Abel; Jr. Bo,b+\r\n12,Ng Zoë,91\r\n".encode())
     students = dump(saved)["Students"]
     expect("the fields", [[student[field] for field in ("id", "lastname", "firstname", "city")]
                           for student in students],

@@ -12,12 +12,6 @@ bool IsInUse(int grade) {
   return ItemOf(Current().InstrumentUse, grade) == kInUse;
 }
 
-Currency PointsPossible() {
-  const std::optional<i16> total = TotalPossible[static_cast<std::size_t>(CurrentClass)];
-  if (!total) throw RunTimeError{kErrorOverflow};
-  return Currency::FromWhole(*total);
-}
-
 void Count(TypeTotals& totals, std::size_t t, Currency value, Currency max) {
   ++totals.counts[t];
   totals.maxes[t] += max;
@@ -76,7 +70,7 @@ AverageError AverageByPoints(Points& points, TypeTotals& totals) {
   points = Points();
   const AverageError error = Computed(totals, [&](int& grade) {
     const MarkSheet sheet(MarkSheet::Blanks::kLeadingKept);
-    points.possible = PointsPossible();
+    points.possible = Currency::FromWhole(TotalPossible());
     for (grade = 1; grade <= sheet.Count(); ++grade) {
       if (IsInUse(grade)) TakeByPoints(sheet.Row(grade), points, totals);
     }

@@ -17,11 +17,12 @@ void PagedTarget::NewPage() {
   if (painter_.isActive() && !device_->newPage()) NoteError(kErrorDevice);
 }
 
-void PagedTarget::EndDoc() {
-  if (!painter_.isActive()) return;
+bool PagedTarget::EndDoc() {
+  if (!painter_.isActive()) return error_ == 0;
   painter_.end();
   NoteError(Finish(error_ == 0));
   if (error_ != 0 && failed) failed(error_);
+  return error_ == 0;
 }
 
 void PagedTarget::KillDoc() {

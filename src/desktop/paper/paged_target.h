@@ -19,7 +19,7 @@ class PagedTarget : public QtPrintTarget {
   void NewPage() override;
   void Cls() override {}
   // A job ends or is dropped once; what comes after that goes nowhere.
-  void EndDoc() override;
+  bool EndDoc() override;
   void KillDoc() override;
   // Of a job that has ended: 0, or the run-time error number that kept it from going out.
   int Error() const { return error_; }

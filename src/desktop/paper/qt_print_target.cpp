@@ -13,7 +13,6 @@ namespace {
 
 constexpr double kTwipsPerInch = 1440;
 constexpr double kTwipsPerPoint = 20;
-constexpr double kRuleWidth = 10;
 
 QString PaperText(std::string_view text) {
   return QString::fromStdString(Utf8FromCodePage(text));
@@ -56,8 +55,17 @@ double QtPrintTarget::AverageCharWidth() const {
 
 void QtPrintTarget::Line(double x1, double y1, double x2, double y2) {
   if (!Draws()) return;
-  painter_->setPen(QPen(Qt::black, kRuleWidth));
+  painter_->setPen(QPen(QColor(ForeColor), LineWidth));
   painter_->drawLine(PlaceOnSheet(x1, y1), PlaceOnSheet(x2, y2));
+}
+
+void QtPrintTarget::FillPolygon(const std::vector<PrintPoint>& corners, PrintColor color) {
+  if (!Draws()) return;
+  QPolygonF polygon;
+  for (const PrintPoint& corner : corners) polygon << PlaceOnSheet(corner.x, corner.y);
+  painter_->setPen(Qt::NoPen);
+  painter_->setBrush(QColor(color));
+  painter_->drawPolygon(polygon);
 }
 
 void QtPrintTarget::PrintUpwards(std::string_view text, double x, double y) {
@@ -67,7 +75,7 @@ void QtPrintTarget::PrintUpwards(std::string_view text, double x, double y) {
   painter_->translate(PlaceOnSheet(x, y));
   painter_->rotate(-90);
   painter_->setFont(font_);
-  painter_->setPen(Qt::black);
+  painter_->setPen(QColor(ForeColor));
   painter_->drawText(QPointF(0, ascent), PaperText(text));
   painter_->restore();
 }
@@ -77,11 +85,11 @@ void QtPrintTarget::Cls() {
   CurrentX = CurrentY = 0;
 }
 
-void QtPrintTarget::DrawTextAt(double x, double y, std::string_view text) {
+void QtPrintTarget::DrawTextAt(double x, double y, std::string_view text, double size) {
   if (!Draws()) return;
   const double ascent = Metrics().ascent();
-  painter_->setFont(font_);
-  painter_->setPen(Qt::black);
+  painter_->setFont(size == FontSize ? font_ : PaperFont(FontName, size, FontBold));
+  painter_->setPen(QColor(ForeColor));
   painter_->drawText(PlaceOnSheet(x, y + ascent), PaperText(text));
 }
 

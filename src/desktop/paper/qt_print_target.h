@@ -27,11 +27,12 @@ class QtPrintTarget : public PrintTarget {
   double TextHeight(std::string_view text) const override;
   double AverageCharWidth() const override;
   void Line(double x1, double y1, double x2, double y2) override;
+  void FillPolygon(const std::vector<PrintPoint>& corners, PrintColor color) override;
   void PrintUpwards(std::string_view text, double x, double y) override;
   void Cls() override;
 
  protected:
-  void DrawTextAt(double x, double y, std::string_view text) override;
+  void DrawTextAt(double x, double y, std::string_view text, double size) override;
 
  private:
   bool Draws() const;

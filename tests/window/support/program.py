@@ -92,6 +92,14 @@ def walk(node):
         yield from walk(child)
 
 
+def stands_within(node, room):
+    """Whether all of the node can be seen in the other one's place."""
+    inner, outer = (Atspi.Component.get_extents(each, Atspi.CoordType.SCREEN)
+                    for each in (node, room))
+    return (inner.height > 0 and outer.y <= inner.y
+            and inner.y + inner.height <= outer.y + outer.height)
+
+
 def text_of(node):
     return Atspi.Text.get_text(node, 0, -1)
 
@@ -122,19 +130,24 @@ class Program:
         """The title of the window that gets the keys."""
         return xdotool("getactivewindow", "getwindowname")
 
-    def window(self, title):
-        """Waits until the window of this title gets the keys."""
+    def window(self, *titles):
+        """Waits until the window of one of these titles gets the keys."""
         def ready():
             if self.process.poll() is not None:
-                raise Failure(f"the program has ended while {title!r} was awaited")
-            if self.front() != title:
+                raise Failure(f"the program has ended while {titles} was awaited")
+            front = self.front()
+            if front not in titles:
                 return None
-            return next((w for w in self.windows() if w.get_name() == title), None)
-        return wait_for(f"the window {title!r}, in front is {self.front()!r}", ready)
+            return next((w for w in self.windows() if w.get_name() == front), None)
+        return wait_for(f"the window {titles}, in front is {self.front()!r}", ready)
 
-    def frame(self, caption=None):
-        """The main window with this class in front and maximised, or with none."""
-        return self.window(f"Tallyroll - [{caption}]" if caption else "Tallyroll")
+    def frame(self, caption=None, changed=None):
+        """The main window with this class in front and maximised, or with none. A changed class
+        bears an asterisk; None takes both."""
+        if caption is None:
+            return self.window("Tallyroll")
+        titles = {False: f"Tallyroll - [{caption}]", True: f"Tallyroll - [{caption}*]"}
+        return self.window(*(titles.values() if changed is None else [titles[changed]]))
 
     def gone(self, title):
         wait_for(f"{title!r} to close", lambda: title not in self.titles())
@@ -200,6 +213,9 @@ class Program:
     def await_label(self, text):
         return self.widget(Atspi.Role.LABEL, text)
 
+    def find_label(self, text):
+        return self.find(Atspi.Role.LABEL, text)
+
     def await_labels(self, *texts):
         """Waits until all of these stand on the screen together."""
         def shown():
@@ -234,6 +250,14 @@ class Program:
 
     def table(self):
         return self.widget(Atspi.Role.TABLE, "Students and grades")
+
+    def tables(self):
+        return [node for top in self.windows() for node in walk(top)
+                if node.get_role() == Atspi.Role.TABLE and is_shown(node)]
+
+    def in_sight(self, row, col):
+        """Whether the cell of the class window stands whole within its table."""
+        return stands_within(self.cell(row, col), self.table())
 
     def cell(self, row, col):
         return Atspi.Table.get_accessible_at(self.table(), row, col)

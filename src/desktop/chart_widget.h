@@ -1,0 +1,65 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// A chart on the screen, drawn as on paper in the colours of the palette. The pointer and the
+// arrow keys tell what its points say; its context menu copies and saves the picture.
+#pragma once
+
+#include <QPixmap>
+#include <QWidget>
+#include <vector>
+
+#include "analysis/chart_drawing.h"
+
+namespace tallyroll {
+
+class ChartWidget : public QWidget {
+  Q_OBJECT
+
+ public:
+  explicit ChartWidget(QWidget* parent = nullptr);
+
+  // The chart is read in place and drawn anew when the revision has moved; null is no chart.
+  void ShowChart(const Chart* chart, unsigned revision);
+  // The spot that is told at the moment; null when none is.
+  const ChartSpot* CurrentSpot() const;
+  const std::vector<ChartSpot>& Spots();
+  // The middle of a spot, in pixels of the widget.
+  QPoint PlaceOf(const ChartSpot& spot) const;
+  QSize sizeHint() const override;
+  QSize minimumSizeHint() const override { return {160, 120}; }
+
+  void CopyPicture();
+  void SavePicture();
+
+ Q_SIGNALS:
+  void spotClicked();
+  void spotDoubleClicked();
+
+ protected:
+  bool event(QEvent* event) override;
+  void paintEvent(QPaintEvent* event) override;
+  void mouseMoveEvent(QMouseEvent* event) override;
+  void mousePressEvent(QMouseEvent* event) override;
+  void mouseDoubleClickEvent(QMouseEvent* event) override;
+  void leaveEvent(QEvent* event) override;
+  void keyPressEvent(QKeyEvent* event) override;
+  void contextMenuEvent(QContextMenuEvent* event) override;
+
+ private:
+  const ChartColors& Colors() const;
+  ChartFrame FrameInTwips() const;
+  void DrawIfChanged();
+  int SpotAt(QPointF pixels) const;
+  void GoTo(int spot, bool tell_beside);
+  // The next spot of the same kind, or the first or last of another kind.
+  int Beside(int step) const;
+  int InOtherRow(int step) const;
+
+  const Chart* chart_ = nullptr;
+  unsigned revision_ = 0;
+  bool stale_ = true;
+  QPixmap picture_;
+  std::vector<ChartSpot> spots_;
+  int current_ = -1;
+};
+
+}  // namespace tallyroll

@@ -1,0 +1,48 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "desktop/date_field.h"
+
+#include <QKeyEvent>
+#include <QLineEdit>
+#include <QMouseEvent>
+
+#include "desktop/key_mapping.h"
+
+namespace tallyroll {
+namespace {
+
+constexpr int kWidth = 24;
+
+}  // namespace
+
+DateArrow::DateArrow(QWidget* parent) : DateField(parent) {
+  setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+}
+
+QSize DateArrow::sizeHint() const {
+  return {kWidth, DateField::sizeHint().height()};
+}
+
+// The day that it would show is nobody's choice.
+void DateArrow::resizeEvent(QResizeEvent* event) {
+  DateField::resizeEvent(event);
+  lineEdit()->hide();
+}
+
+void DateArrow::keyPressEvent(QKeyEvent* event) {
+  if (event->key() != Qt::Key_Space && KeyOf(*event) != Key::kF4) return event->ignore();
+  const QPointF middle = rect().center();
+  PressArrow(QMouseEvent(QEvent::MouseButtonPress, middle, mapToGlobal(middle), Qt::LeftButton,
+                         Qt::LeftButton, Qt::NoModifier));
+}
+
+void DateArrow::mousePressEvent(QMouseEvent* event) {
+  PressArrow(*event);
+}
+
+void DateArrow::PressArrow(const QMouseEvent& press) {
+  QMouseEvent on_arrow(press.type(), QPointF(width() - 4, height() / 2.0), press.globalPosition(),
+                       press.button(), press.buttons(), press.modifiers());
+  DateField::mousePressEvent(&on_arrow);
+}
+
+}  // namespace tallyroll

@@ -1,0 +1,32 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// ScrollingBody: what stands between the menu and the buttons at the foot of a form. It is as large
+// as it wants to be where there is room; on a small screen it scrolls, and the foot stays in sight.
+#pragma once
+
+#include <QScrollArea>
+
+class QDialog;
+
+namespace tallyroll {
+
+class ScrollingBody : public QScrollArea {
+  Q_OBJECT
+
+ public:
+  // Moves the body of a form into one; null when the form has no foot that must stay.
+  static ScrollingBody* Of(QDialog& dialog);
+
+  QSize sizeHint() const override;
+  QSize minimumSizeHint() const override;
+  // What gets the focus otherwise than by a press is scrolled to.
+  void BringIntoSight(QWidget* widget);
+
+ private:
+  explicit ScrollingBody(QDialog& dialog);
+};
+
+// Makes the form large enough that its body (null: it has none) need not scroll, where the screen
+// has room for that.
+void TakeRoom(QDialog& dialog, const ScrollingBody* body);
+
+}  // namespace tallyroll

@@ -1,0 +1,127 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "desktop/seats_widget.h"
+
+#include <QPaintEvent>
+#include <QPainter>
+#include <algorithm>
+
+#include "desktop/text_conversion.h"
+
+namespace tallyroll {
+namespace {
+
+constexpr int kGap = 3;     // pixels round a seat
+constexpr int kMargin = 4;  // from the edge of a card to its text
+constexpr int kRadius = 5;
+constexpr int kPadding = 4;        // above and below the words of the head
+constexpr double kSmallest = 0.6;  // of the font, before a text is cut
+
+// A font in which a text is no wider than the room, as far as it can still be read.
+QFont Fitting(QFont font, const QString& text, int room) {
+  const double points = font.pointSizeF();
+  for (double size = points; size > points * kSmallest; size -= 0.5) {
+    font.setPointSizeF(size);
+    if (QFontMetrics(font).horizontalAdvance(text) <= room) break;
+  }
+  return font;
+}
+
+QColor Mixed(const QColor& one, const QColor& other, double share) {
+  const auto mix = [share](int a, int b) { return static_cast<int>(a + (b - a) * share); };
+  return {mix(one.red(), other.red()), mix(one.green(), other.green()),
+          mix(one.blue(), other.blue())};
+}
+
+}  // namespace
+
+// Stands over the viewport and scrolls along with it.
+class SeatsWidget::Head : public QWidget {
+ public:
+  explicit Head(SeatsWidget& seats) : QWidget(&seats), seats_(seats) {}
+
+  int Height() const { return 2 * (fontMetrics().height() + 2 * kPadding); }
+
+ protected:
+  void paintEvent(QPaintEvent* /*event*/) override {
+    const Grid* grid = seats_.grid();
+    if (!grid || grid->Rows() == 0) return;
+    QPainter painter(this);
+    const int half = height() / 2;
+    const QRect board(0, 0, width(), half - kPadding);
+    painter.fillRect(board, palette().color(QPalette::WindowText));
+    painter.setPen(palette().color(QPalette::Window));
+    painter.drawText(board, Qt::AlignCenter, QStringLiteral("Front of the room"));
+    painter.setPen(palette().color(QPalette::WindowText));
+    for (int col = 0; col < grid->Cols(); ++col) {
+      const QRect cell = seats_.CellRect(std::max(grid->TopRow, 0), col);
+      if (cell.isEmpty()) continue;
+      painter.drawText(QRect(cell.left(), half, cell.width(), half), Qt::AlignCenter,
+                       QStringLiteral("Row %1").arg(col + 1));
+    }
+  }
+
+ private:
+  SeatsWidget& seats_;
+};
+
+SeatsWidget::SeatsWidget(QWidget* parent) : GridWidget(parent), head_(new Head(*this)) {
+  setViewportMargins(0, static_cast<Head*>(head_)->Height(), 0, 0);
+}
+
+void SeatsWidget::resizeEvent(QResizeEvent* event) {
+  GridWidget::resizeEvent(event);
+  const QRect inside = viewport()->geometry();
+  const int height = static_cast<Head*>(head_)->Height();
+  head_->setGeometry(inside.left(), inside.top() - height, inside.width(), height);
+}
+
+void SeatsWidget::paintEvent(QPaintEvent* event) {
+  QPainter painter(viewport());
+  painter.fillRect(event->rect(), palette().color(QPalette::Window));
+  painter.setRenderHint(QPainter::Antialiasing);
+  if (!grid()) return;
+  for (int row = 0; row < grid()->Rows(); ++row)
+    for (int col = 0; col < grid()->Cols(); ++col)
+      if (CellRect(row, col).intersects(event->rect())) PaintSeat(painter, row, col);
+  head_->update();
+}
+
+void SeatsWidget::PaintSeat(QPainter& painter, int row, int col) const {
+  const QRect seat = CellRect(row, col).adjusted(kGap, kGap, -kGap, -kGap);
+  const bool taken = !grid()->TextMatrix(row, col).empty();
+  const bool lifted = grid()->Style(row, col) == CellStyle::kInWork;
+  const bool current = row == grid()->Row && col == grid()->Col;
+  const QColor ground = palette().color(taken ? QPalette::Base : QPalette::Window);
+  const QColor ink = palette().color(QPalette::Text);
+  painter.setBrush(lifted ? Mixed(ground, palette().color(QPalette::Highlight), 0.3) : ground);
+  QPen pen(Mixed(ground, ink, 0.55), 1, taken && !lifted ? Qt::SolidLine : Qt::DashLine);
+  if (current) pen = QPen(palette().color(hasFocus() ? QPalette::Highlight : QPalette::Mid), 3);
+  painter.setPen(pen);
+  painter.drawRoundedRect(QRectF(seat).adjusted(0.5, 0.5, -0.5, -0.5), kRadius, kRadius);
+  if (taken) PaintCard(painter, seat.adjusted(kMargin, kMargin, -kMargin, -kMargin), row, col);
+}
+
+// The name breaks behind its comma; the small line follows.
+void SeatsWidget::PaintCard(QPainter& painter, const QRect& card, int row, int col) const {
+  const QString label = FromText(grid()->TextMatrix(row, col));
+  const QString small = grid()->SmallLine ? FromText(grid()->SmallLine(row, col)) : QString();
+  const auto comma = label.indexOf(QLatin1String(", "));
+  const QString above = comma < 0 ? label : label.left(comma + 1);
+  const QString below = comma < 0 ? QString() : label.mid(comma + 2);
+  QFont bold = font();
+  bold.setBold(true);
+  const int line = card.height() / 3;
+  const auto write = [&](const QFont& with, const QString& text, int place) {
+    painter.setFont(Fitting(with, text, card.width()));
+    const QString shown = painter.fontMetrics().elidedText(text, Qt::ElideRight, card.width());
+    painter.drawText(QRect(card.left(), card.top() + place * line, card.width(), line),
+                     Qt::AlignCenter, shown);
+  };
+  painter.setPen(palette().color(QPalette::Text));
+  write(bold, above, 0);
+  write(font(), below, 1);
+  painter.setPen(Mixed(palette().color(QPalette::Base), palette().color(QPalette::Text), 0.75));
+  write(font(), small, 2);
+}
+
+}  // namespace tallyroll

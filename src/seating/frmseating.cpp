@@ -1,0 +1,332 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "seating/frmseating.h"
+
+#include "base/number_text.h"
+#include "platform/class_window.h"
+#include "platform/surroundings.h"
+#include "seating/chart_records.h"
+#include "seating/fill_chart.h"
+#include "seating/print_chart.h"
+#include "seating/seat_by_wishes.h"
+#include "store/program_state.h"
+
+namespace tallyroll {
+namespace {
+
+// Twips: a name breaks behind its comma, so a card holds twelve characters and three lines.
+constexpr int kCardWidth = 1750, kCardHeight = 1000;
+
+constexpr const char* kNumberNames[] = {
+    " 1  - One",    " 2  - Two",    " 3  - Three",    " 4  - Four",     " 5  - Five",
+    " 6  - Six",    " 7  - Seven",  " 8  - Eight",    " 9  - Nine",     "10  - Ten",
+    "11  - Eleven", "12  - Twelve", "13  - Thirteen", "14  - Fourteen", "15  - Fifteen"};
+
+std::vector<std::string> NumberNames(int count) {
+  return {kNumberNames, kNumberNames + count};
+}
+
+// The leading two characters of a choice as a number; 0 where nothing is chosen.
+int NumberChosen(const ListBox& list) {
+  return list.ListIndex + 1;
+}
+
+std::string ChartName(int chart) {
+  return "Chart " + PlainNumberText(chart);
+}
+
+}  // namespace
+
+frmseating::frmseating() : Portal("frmseating") {
+  Caption = "Seating Chart Portal";
+  HelpContext = 580;
+  unmetlabel.Caption = "Wishes not met";
+  newchart.Caption = "&New";
+  show.Caption = "Se&lect";
+  delete_.Caption = "&Delete";
+  undo.Caption = "&Undo";
+  redo.Caption = "&Redo";
+  save.Caption = "&Save";
+  prints.Caption = "&Print";
+  exit.Caption = "E&xit";
+  details.Caption = "&Absences and last mark on the cards";
+  columnlabel.Caption =
+      "Enter number of rows (horizontal). The maximum number of rows for this chart is 13";
+  seatslabel.Caption = "Enter number of seats per row (vertical).";
+  okinfo.Caption = chartok.Caption = wishok.Caption = "C&ontinue";
+  sizeback.Caption = optionsback.Caption = wishback.Caption = "&Back";
+  alpha.Caption = "As Sorted";
+  randord.Caption = "Random Order";
+  indiv.Caption = "Individual Method";
+  bywishes.Caption = "By Wishes";
+  column.List = NumberNames(kMostSeatColumns);
+  seatsrow.List = NumberNames(kMostSeatsInWide);
+  Grid1.FixedRows = Grid1.FixedCols = 0;
+  Grid1.SmallLine = [this](int row, int col) { return CardLine(row, col); };
+}
+
+void frmseating::Declare(ControlTable& table) {
+  table.Add("step", step);
+  table.Add("chartlabel", chartlabel);
+  table.Add("Listchart", Listchart).DblClick([this] { show_Click(); });
+  table.Add("Label3", Label3);
+  table.Add("Grid1", Grid1)
+      .KeyPress([this](unsigned char key) { return Grid1_KeyPress(key); })
+      .DragDrop([this](std::string_view source) { Grid1_DragDrop(source); });
+  table.Add("students", students)
+      .KeyPress([this](unsigned char key) { return students_KeyPress(key); })
+      .DragDrop([this](std::string_view source) { students_DragDrop(source); });
+  table.Add("unmetlabel", unmetlabel);
+  table.Add("unmet", unmet);
+  table.Add("details", details).Click([this] { details_Click(); });
+  table.Add("said", said);
+  table.Add("newchart", newchart).Click([this] { newchart_Click(); });
+  table.Add("show", show).Click([this] { show_Click(); });
+  table.Add("delete", delete_).Click([this] { delete_Click(); });
+  table.Add("undo", undo).Click([this] { undo_Click(); });
+  table.Add("redo", redo).Click([this] { redo_Click(); });
+  table.Add("save", save).Click([this] { save_Click(); });
+  table.Add("prints", prints).Click([this] { prints_Click(); });
+  table.Add("exit", exit).Click([this] { exit_Click(); });
+
+  table.Add("columnlabel", columnlabel);
+  table.Add("column", column).Change([this] { column_Change(); });
+  table.Add("seatslabel", seatslabel);
+  table.Add("seatsrow", seatsrow);
+  table.Add("okinfo", okinfo).Click([this] { okinfo_Click(); });
+  table.Add("sizeback", sizeback).Click([this] { step.Current = kChart; });
+
+  table.Add("chartmethod", chartmethod);
+  table.Add("alpha", alpha);
+  table.Add("randord", randord);
+  table.Add("indiv", indiv);
+  table.Add("bywishes", bywishes);
+  table.Add("chartok", chartok).Click([this] { chartok_Click(); });
+  table.Add("optionsback", optionsback).Click([this] { step.Current = kSize; });
+
+  wishes.Declare(table);
+  table.Add("wishok", wishok).Click([this] { wishok_Click(); });
+  table.Add("wishback", wishback).Click([this] { step.Current = kOptions; });
+}
+
+void frmseating::Load() {
+  ListCharts();
+  if (Current().NumCharts > 0) {
+    Begin(LoadChart(1), 1, false);
+    SetFocus(Grid1);
+  } else {
+    Begin({}, 0, false);
+    said.Caption = "No charts yet: press New to make one.";
+    SetFocus(newchart);
+  }
+}
+
+void frmseating::ListCharts() {
+  chartlabel.Caption = "Charts of this class";
+  Listchart.List.clear();
+  for (int chart = 1; chart <= Current().NumCharts; ++chart)
+    Listchart.List.push_back(ChartName(chart));
+  Listchart.ListIndex = -1;
+}
+
+// Puts a chart on the table; what was done to another one can't be taken back there.
+void frmseating::Begin(SeatPlan plan, int chart, bool is_new) {
+  plan_ = std::move(plan);
+  CurrentChart = static_cast<i16>(chart);
+  ChartIsNew = is_new ? kTrue : kFalse;
+  ChartDirty = is_new ? kTrue : kFalse;
+  carried_ = Carried::kNothing;
+  done_.clear();
+  undone_.clear();
+  unmet.List.clear();
+  unmet.Visible = unmetlabel.Visible = false;
+  said.Caption.clear();
+  Label3.Caption = chart == 0 ? "" : ChartName(chart);
+  step.Current = kChart;
+  Grid1.Row = Grid1.Col = Grid1.TopRow = Grid1.LeftCol = 0;
+  students.ListIndex = -1;
+  ShowPlan();
+}
+
+void frmseating::ShowPlan() {
+  ShowSeats();
+  students.List = plan_.unseated;
+  if (students.ListIndex >= static_cast<int>(students.List.size())) students.ListIndex = -1;
+  Grid1.Enabled = students.Enabled = CurrentChart != 0;
+  save.Enabled = prints.Enabled = CurrentChart != 0;
+  show.Enabled = delete_.Enabled = Current().NumCharts > 0;
+  undo.Enabled = !done_.empty();
+  redo.Enabled = !undone_.empty();
+}
+
+void frmseating::ShowSeats() {
+  Grid1.SetRedraw(false);
+  Grid1.SetSize(plan_.rows, plan_.columns);
+  Grid1.Clear();
+  for (int col = 0; col < plan_.columns; ++col) {
+    Grid1.SetColWidth(col, kCardWidth);
+    for (int row = 0; row < plan_.rows; ++row) Grid1.SetTextMatrix(row, col, plan_.At({row, col}));
+  }
+  for (int row = 0; row < plan_.rows; ++row) Grid1.SetRowHeight(row, kCardHeight);
+  if (carried_ == Carried::kCard)
+    Grid1.SetStyle(carried_seat_.row, carried_seat_.column, CellStyle::kInWork);
+  Grid1.SetRedraw(true);
+}
+
+bool frmseating::MayLoseChanges() {
+  return ChartDirty == kFalse ||
+         Ask("If you continue without first saving you will lose changes to current chart",
+             BoxButtons::kOkCancel, BoxIcon::kExclamation, "Note to the teacher") == BoxAnswer::kOk;
+}
+
+void frmseating::newchart_Click() {
+  if (!MayLoseChanges()) return;
+  column.ListIndex = seatsrow.ListIndex = -1;
+  seatsrow.List = NumberNames(kMostSeatsInWide);
+  alpha.Value = true;
+  randord.Value = indiv.Value = bywishes.Value = false;
+  step.Current = kSize;
+  SetFocus(column);
+}
+
+// The widest charts have shorter rows.
+void frmseating::column_Change() {
+  const int columns = NumberChosen(column);
+  seatsrow.List = NumberNames(columns == 0 ? kMostSeatsInWide : MostSeatsPerRow(columns));
+  if (seatsrow.ListIndex >= static_cast<int>(seatsrow.List.size())) seatsrow.ListIndex = -1;
+}
+
+void frmseating::okinfo_Click() {
+  if (NumberChosen(column) == 0) return SetFocus(column);
+  if (NumberChosen(seatsrow) == 0) return SetFocus(seatsrow);
+  step.Current = kOptions;
+  SetFocus(chartok);
+}
+
+void frmseating::chartok_Click() {
+  if (alpha.Value) return FillNew(FillAsSorted);
+  if (randord.Value) return FillNew(FillAtRandom);
+  if (indiv.Value) return FillNew(FillByHand);
+  wishes.Begin(NumberChosen(seatsrow), NumberChosen(column));
+  step.Current = kWishes;
+  SetFocus(wishes.wisher);
+}
+
+void frmseating::FillNew(void (*fill)(SeatPlan& plan)) {
+  SeatPlan plan = EmptyPlan(NumberChosen(seatsrow), NumberChosen(column));
+  fill(plan);
+  Begin(std::move(plan), Current().NumCharts + 1, true);
+  SetFocus(Grid1);
+}
+
+void frmseating::wishok_Click() {
+  const auto number = wishes.Number();
+  if (!number) {
+    wishes.wishsaid.Caption = "The number has digits only.";
+    return SetFocusAndSelect(wishes.wishnumber);
+  }
+  const WishedSeating seating = SeatByWishes(wishes.Room(), wishes.Wishes(), *number);
+  SeatPlan plan = EmptyPlan(wishes.Room().rows, wishes.Room().columns);
+  for (int i = 1; i <= wishes.Room().Students(); ++i) {
+    const Seat seat = seating.seats[static_cast<std::size_t>(i)];
+    const std::string label = SeatLabel(Current().Students[static_cast<std::size_t>(i)]);
+    if (seat.taken())
+      plan.At(seat) = label;
+    else
+      plan.unseated.push_back(label);
+  }
+  Begin(std::move(plan), Current().NumCharts + 1, true);
+  for (const Wish& wish : seating.unmet) unmet.List.push_back("Not met: " + WishText(wish));
+  unmet.Visible = unmetlabel.Visible = !unmet.List.empty();
+  said.Caption = "Seated by wishes, number " + PlainNumberText(std::int64_t{*number}) + ": " +
+                 (unmet.List.empty() ? "all wishes are met."
+                                     : PlainNumberText(static_cast<int>(unmet.List.size())) +
+                                           " wishes could not be met.");
+  SetFocus(Grid1);
+}
+
+void frmseating::show_Click() {
+  if (Listchart.ListIndex < 0) {
+    chartlabel.Caption = "Choose a Chart to Select";
+    return SetFocus(Listchart);
+  }
+  const int chart = Listchart.ListIndex + 1;
+  if (!MayLoseChanges()) return;
+  ListCharts();
+  Begin(LoadChart(chart), chart, false);
+  SetFocus(Grid1);
+}
+
+void frmseating::delete_Click() {
+  chartlabel.Caption = "Choose a Chart to Delete";
+  if (Listchart.ListIndex < 0) return SetFocus(Listchart);
+  const int chart = Listchart.ListIndex + 1;
+  const MessageRequest question{
+      .text = "You have chosen to Delete Chart " + PlainNumberText(chart) + ".  Are you sure?",
+      .title = "Delete Portal",
+      .buttons = BoxButtons::kYesNo,
+      .icon = BoxIcon::kQuestion,
+      .second_is_default = true};
+  if (Platform().MessageBox(question) != BoxAnswer::kYes) return ListCharts();
+  DeleteChart(chart);
+  ListCharts();
+  if (CurrentChart == chart && ChartIsNew == kFalse) return Begin({}, 0, false);
+  if (CurrentChart > chart) Label3.Caption = ChartName(--CurrentChart);
+  ShowPlan();
+}
+
+void frmseating::save_Click() {
+  if (ChartDirty == kFalse) {
+    said.Caption = "There are no changes to save.";
+    return;
+  }
+  if (Ask("Do you wish to save these changes to your seating chart?", BoxButtons::kYesNo,
+          BoxIcon::kQuestion) == BoxAnswer::kYes) {
+    Store();
+  }
+}
+
+void frmseating::Store() {
+  const int added = ChartIsNew == kTrue ? AddChart(plan_.rows, plan_.columns) : CurrentChart;
+  if (added == 0) {
+    ShowMessage("You may only have 32767 charts in a class.", BoxIcon::kCritical);
+    return;
+  }
+  CurrentChart = static_cast<i16>(added);
+  StoreChart(CurrentChart, plan_);
+  ChartIsNew = ChartDirty = kFalse;
+  ListCharts();
+  Label3.Caption = ChartName(CurrentChart);
+  const int without = StudentsWithoutLabel();
+  said.Caption = Label3.Caption + " is kept." +
+                 (without == 0 ? ""
+                               : " Students whose card reads like another's have no seat: " +
+                                     PlainNumberText(without) + ".");
+  if (Current().FileName.empty()) ClassWindow().mnusave();
+  ShowPlan();
+}
+
+void frmseating::prints_Click() {
+  PrintChart(plan_, Label3.Caption);
+}
+
+void frmseating::exit_Click() {
+  if (ChartDirty == kTrue && Ask("Do you want to save your changes?", BoxButtons::kYesNo,
+                                 BoxIcon::kQuestion) == BoxAnswer::kYes) {
+    Store();
+    if (ChartDirty == kTrue) return;
+  }
+  Unload();
+}
+
+// Escape lets go of a card first.
+void frmseating::QueryUnload() {
+  if (carried_ != Carried::kNothing) return LetGo("The card is back in its place.");
+  if (ChartDirty == kTrue &&
+      Ask("Data has been modified. Are you sure you want to CANCEL?", BoxButtons::kYesNo,
+          BoxIcon::kQuestion, "CANCEL") != BoxAnswer::kYes) {
+    return;
+  }
+  Unload();
+}
+
+}  // namespace tallyroll

@@ -1,0 +1,44 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The page of frmseating on which wishes are written down before a chart is filled by them.
+#pragma once
+
+#include <cstdint>
+#include <optional>
+
+#include "platform/portal.h"
+#include "seating/wishes.h"
+
+namespace tallyroll {
+
+class WishStep {
+ public:
+  WishStep();
+  void Declare(ControlTable& table);
+  // Fills the page for a chart of that size.
+  void Begin(int rows, int columns);
+
+  const std::vector<Wish>& Wishes() const { return wishes_; }
+  const Classroom& Room() const { return room_; }
+  // The number by which the seating can be made again; nothing when the box holds none.
+  std::optional<std::uint32_t> Number() const;
+
+  ListBox wisher, wishkind, wishother;
+  CommandButton addwish, takewish;
+  ListBox wishlist;
+  ListBox contradictions;
+  TextBox wishnumber;
+  Label wishsaid;
+
+ private:
+  void wishkind_Change();
+  void addwish_Click();
+  void takewish_Click();
+  void Store();
+  void TellWhetherKept(const std::string& fault);
+  void Show();
+
+  Classroom room_;
+  std::vector<Wish> wishes_;
+};
+
+}  // namespace tallyroll
