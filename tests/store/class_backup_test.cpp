@@ -6,6 +6,7 @@
 #include <cerrno>
 #include <fstream>
 
+#include "base/number_text.h"
 #include "base/run_time_error.h"
 #include "store/safe_file.h"
 #include "tests/support/portal_test.h"
@@ -143,6 +144,25 @@ TEST_F(ClassBackupTest, AnEmptyFileThatIsKeptAlreadyIsNotKeptTwice) {
   EXPECT_TRUE(backup.stands);
   EXPECT_EQ(backup.made_now, "");
   EXPECT_EQ(Files(), 2);
+}
+
+TEST_F(ClassBackupTest, AReplacedFileTakesTheFirstFreeOfNinetyFiveNames) {
+  std::vector<std::string> endings = {"old", "ol6", "ol7", "ol8", "ol9"};
+  for (int i = 10; i <= 99; ++i) endings.push_back("o" + PlainNumberText(i));
+  Backup backup;
+  for (const std::string& ending : endings) {
+    fs::remove(Path("a.TYR"));
+    const std::string path = Put("a.TYR", ending);
+    EXPECT_EQ(BackUpReplacedFile(path, backup), 0);
+    EXPECT_TRUE(backup.stands);
+    EXPECT_EQ(backup.made_now, Path("a." + ending));
+  }
+  for (const std::string& ending : endings) EXPECT_EQ(Get("a." + ending), ending);
+  fs::remove(Path("a.TYR"));
+  backup = Backup();
+  EXPECT_EQ(BackUpReplacedFile(Put("a.TYR", "last"), backup), kErrorPathAccess);
+  EXPECT_FALSE(backup.stands);
+  EXPECT_EQ(Get("a.TYR"), "last");
 }
 
 TEST_F(ClassBackupTest, AnUnreadFileThatCannotBeKeptStopsTheSave) {
