@@ -18,6 +18,7 @@ namespace tallyroll {
 namespace {
 
 constexpr int kArrowWidth = 6, kArrowHeight = 3;
+constexpr int kIntoArrow = 10;  // from the right, where the style has its arrow
 
 }  // namespace
 
@@ -70,7 +71,7 @@ void CellList::keyPressEvent(QKeyEvent* event) {
 
 // The whole cell is the arrow: there is no room for a field beside it.
 void CellList::mousePressEvent(QMouseEvent* event) {
-  QMouseEvent on_arrow(event->type(), QPointF(width() - 2, height() / 2.0), event->globalPosition(),
+  QMouseEvent on_arrow(event->type(), QPointF(width() - kIntoArrow, height() / 2.0), event->globalPosition(),
                        event->button(), event->buttons(), event->modifiers());
   QComboBox::mousePressEvent(&on_arrow);
 }

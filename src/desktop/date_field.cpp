@@ -11,6 +11,7 @@ namespace tallyroll {
 namespace {
 
 constexpr int kWidth = 24;
+constexpr int kIntoArrow = 10;  // from the right, where the style has its arrow
 
 }  // namespace
 
@@ -40,7 +41,7 @@ void DateArrow::mousePressEvent(QMouseEvent* event) {
 }
 
 void DateArrow::PressArrow(const QMouseEvent& press) {
-  QMouseEvent on_arrow(press.type(), QPointF(width() - 4, height() / 2.0), press.globalPosition(),
+  QMouseEvent on_arrow(press.type(), QPointF(width() - kIntoArrow, height() / 2.0), press.globalPosition(),
                        press.button(), press.buttons(), press.modifiers());
   DateField::mousePressEvent(&on_arrow);
 }

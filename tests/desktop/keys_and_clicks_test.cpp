@@ -4,6 +4,7 @@
 #include <QLineEdit>
 #include <QListWidget>
 #include <QRadioButton>
+#include <functional>
 
 #include "attendance/frmAtsum.h"
 #include "attendance/frmEatt.h"
@@ -37,11 +38,23 @@ class KeysAndClicks : public ClassDialogs {
     AddGrade("First", "T");
     AddGrade("Second", "Q");
   }
-  ~KeysAndClicks() override { EXPECT_TRUE(boxes.Complaints().empty()); }
+  ~KeysAndClicks() override {
+    dialog.reset();
+    EXPECT_TRUE(boxes.Complaints().empty());
+  }
 
-  void Show(Portal& portal) {
+  // The one Portal on the screen.
+  template <typename P>
+  P& Show(const std::function<void(P&)>& prepare = [](P&) {}) {
+    dialog.reset();
+    auto made = std::make_unique<P>();
+    P& portal = *made;
+    portal_ = std::move(made);
+    prepare(portal);
     Open(portal);
+    dialog->resize(1000, 740);  // nothing scrolls
     boxes.window = dialog->windowHandle();
+    return portal;
   }
   void Key(Qt::Key key) { QTest::keyClick(dialog->focusWidget(), key); }
   void Type(const char* text) {
@@ -58,11 +71,13 @@ class KeysAndClicks : public ClassDialogs {
                                     widget.visualItemRect(widget.item(line)).center());
   }
   BoxesInFront boxes;
+
+ private:
+  std::unique_ptr<Portal> portal_;
 };
 
 TEST_F(KeysAndClicks, ReturnGoesThroughTheHeaderDownToTheMarks) {
-  frmMarks marks;
-  Show(marks);
+  auto& marks = Show<frmMarks>();
   Type("Essay");
   const char* const boxes_in_order[] = {"title",    "code",    "mvalue",    "dropyn",
                                         "testdate", "lowpass", "ttypelist", "Grid1"};
@@ -74,14 +89,11 @@ TEST_F(KeysAndClicks, ReturnGoesThroughTheHeaderDownToTheMarks) {
   EXPECT_EQ(marks.dropyn.Text, "N");
   EXPECT_EQ(marks.Grid1.Row, 2) << "in the marks Return goes on downward";
   EXPECT_FALSE(marks.Unloaded());
-  dialog.reset();
 }
 
 TEST_F(KeysAndClicks, EnterInTheFillFills) {
-  frmMarks marks;
-  Show(marks);
-  marks.fill_Click();
-  dialog->ShowControls();
+  auto& marks = Show<frmMarks>();
+  Find<QAbstractButton>("fill").click();
   Find<QRadioButton>("Option5").setFocus(Qt::TabFocusReason);
   Key(Qt::Key_Space);
   Key(Qt::Key_Tab);
@@ -91,26 +103,22 @@ TEST_F(KeysAndClicks, EnterInTheFillFills) {
   EXPECT_EQ(marks.Grid1.TextMatrix(40, 2), "77");
   EXPECT_FALSE(marks.fillframe.Visible);
   EXPECT_EQ(Focused(), "Grid1");
-  dialog.reset();
 }
 
 TEST_F(KeysAndClicks, AClickBelowTheLastStudentKeepsTheCellInWork) {
   Current().NumStudents = 3;
-  frmMarks marks;
-  Show(marks);
+  auto& marks = Show<frmMarks>();
   ClickAt(PlaceOf(2, 2).center());
   Type("8");
   ClickAt(PlaceOf(3, 2).center() + QPoint(0, 3 * PlaceOf(3, 2).height()));
   EXPECT_EQ(marks.Grid1.Row, 2);
   Type("5");
   EXPECT_EQ(marks.Grid1.TextMatrix(2, 2), "85");
-  dialog.reset();
 }
 
 TEST_F(KeysAndClicks, AClickedTitleLeadsToItsMarksAndAWalkedOneDoesNot) {
   CurrentStudent = 0;
-  frmEmarks edit;
-  Show(edit);
+  auto& edit = Show<frmEmarks>();
   ASSERT_EQ(Focused(), "list1");
   Key(Qt::Key_Down);
   Key(Qt::Key_Down);
@@ -121,13 +129,11 @@ TEST_F(KeysAndClicks, AClickedTitleLeadsToItsMarksAndAWalkedOneDoesNot) {
   EXPECT_EQ(Focused(), "Grid1");
   Type("9");
   EXPECT_EQ(edit.Grid1.TextMatrix(1, 2), "9");
-  dialog.reset();
 }
 
 TEST_F(KeysAndClicks, ARefusedTitleLeadsToWhatIsMissing) {
   CurrentStudent = 1;
-  frmEmarks edit;
-  Show(edit);
+  auto& edit = Show<frmEmarks>();
   Find<QLineEdit>("Title").setFocus(Qt::TabFocusReason);
   Find<QLineEdit>("Title").selectAll();
   Key(Qt::Key_Delete);
@@ -138,12 +144,10 @@ TEST_F(KeysAndClicks, ARefusedTitleLeadsToWhatIsMissing) {
   ClickAt(LinePlace("list1", 1));
   EXPECT_EQ(Focused(), "Title");
   EXPECT_EQ(edit.list1.ListIndex, 0);
-  dialog.reset();
 }
 
 TEST_F(KeysAndClicks, KeysWalkThroughTheCategoriesAndReturnOrAClickTakesOne) {
-  frmcategories categories;
-  Show(categories);
+  auto& categories = Show<frmcategories>();
   Key(Qt::Key_Up);
   Key(Qt::Key_Down);
   Key(Qt::Key_Down);
@@ -152,12 +156,10 @@ TEST_F(KeysAndClicks, KeysWalkThroughTheCategoriesAndReturnOrAClickTakesOne) {
   Key(Qt::Key_Up);
   ClickAt(LinePlace("listcat", 0));
   EXPECT_EQ(Focused(), "catdesc");
-  dialog.reset();
 }
 
 TEST_F(KeysAndClicks, EnterInAGridOfYesAndNoGoesOnDownward) {
-  frmdropgrade drop;
-  Show(drop);
+  auto& drop = Show<frmdropgrade>();
   Find<GridWidget>("grdgrade").setFocus();
   Type("x");
   Key(Qt::Key_Return);
@@ -167,42 +169,34 @@ TEST_F(KeysAndClicks, EnterInAGridOfYesAndNoGoesOnDownward) {
   EXPECT_EQ(drop.grdgrade.TextMatrix(2, 3), "Y");
   EXPECT_EQ(drop.grdgrade.Row, 2);
   EXPECT_FALSE(drop.Unloaded());
-  dialog.reset();
-  frmpoints points;
-  Show(points);
+  auto& points = Show<frmpoints>();
   Find<GridWidget>("grdgrade").setFocus();
   Key(Qt::Key_Return);
   EXPECT_EQ(points.grdgrade.Row, 2);
   EXPECT_FALSE(points.Unloaded());
-  dialog.reset();
 }
 
 TEST_F(KeysAndClicks, DigitsAfterARefusedTotalReplaceTheCell) {
-  frmweights weights;
-  Show(weights);
+  auto& weights = Show<frmweights>();
   Type("5");
   boxes.ExpectBox("The weights, excluding 'Extra Credit', must equal 100");
   Find<QAbstractButton>("exit").click();
   EXPECT_EQ(Focused(), "grdgrade");
   Type("40");
   EXPECT_EQ(weights.grdgrade.TextMatrix(1, 3), "40");
-  dialog.reset();
 }
 
 TEST_F(KeysAndClicks, DigitsReplaceAWeightThatAButtonWrote) {
-  frmweights weights;
-  Show(weights);
+  auto& weights = Show<frmweights>();
   Type("5");
   Find<QAbstractButton>("equal").click();
   Find<GridWidget>("grdgrade").setFocus(Qt::TabFocusReason);
   Type("4");
   EXPECT_EQ(weights.grdgrade.TextMatrix(1, 3), "4");
-  dialog.reset();
 }
 
 TEST_F(KeysAndClicks, TheOptionThatIsOnKeepsWhatWasTyped) {
-  frmAtsum summary;
-  Show(summary);
+  auto& summary = Show<frmAtsum>();
   Click<QRadioButton>("Hand");
   Find<QLineEdit>("Title").setFocus(Qt::TabFocusReason);
   Type("Quarter");
@@ -216,7 +210,6 @@ TEST_F(KeysAndClicks, TheOptionThatIsOnKeepsWhatWasTyped) {
   ASSERT_EQ(summary.Grid1.TextMatrix(1, 2), "0");
   Click<QRadioButton>("Summary");
   EXPECT_EQ(summary.Grid1.TextMatrix(1, 2), "0");
-  dialog.reset();
 }
 
 TEST_F(KeysAndClicks, OneClickRemindsOnceOfAPeriod) {
@@ -235,8 +228,7 @@ TEST_F(KeysAndClicks, OneClickRemindsOnceOfAPeriod) {
       s.SummaryLate[k] = "1";
     }
   }
-  frmEatt edit;
-  Show(edit);
+  auto& edit = Show<frmEatt>();
   ClickAt(LinePlace("list1", 0));
   Find<QLineEdit>("Title").setFocus(Qt::TabFocusReason);
   Find<QLineEdit>("Title").selectAll();
@@ -250,13 +242,10 @@ TEST_F(KeysAndClicks, OneClickRemindsOnceOfAPeriod) {
   EXPECT_EQ(Focused(), "Title");
   EXPECT_EQ(edit.list1.ListIndex, 0);
   EXPECT_EQ(Find<QListWidget>("list1").currentRow(), 0);
-  dialog.reset();
 }
 
 TEST_F(KeysAndClicks, ATermDateIsOneFieldWithAnArrowThatShowsNoDay) {
-  frmWizard wizard;
-  wizard.Step = 3;
-  Show(wizard);
+  auto& wizard = Show<frmWizard>([](frmWizard& made) { made.Step = 3; });
   auto& arrow = Find<QDateEdit>("termstart");
   ASSERT_TRUE(arrow.isVisible());
   EXPECT_FALSE(arrow.findChild<QLineEdit*>()->isVisible());
@@ -272,7 +261,6 @@ TEST_F(KeysAndClicks, ATermDateIsOneFieldWithAnArrowThatShowsNoDay) {
   ASSERT_NE(QApplication::activePopupWidget(), nullptr);
   QTest::keyClick(QApplication::activePopupWidget()->focusWidget(), Qt::Key_Return);
   EXPECT_EQ(wizard.tempstart.Text, "10/5/2026");
-  dialog.reset();
 }
 
 }  // namespace

@@ -100,6 +100,7 @@ TEST_F(SmallScreen, WhatGetsTheFocusByKeysComesIntoSight) {
   CurrentStudent = 1;
   Open(*portal);
   dialog->resize(dialog->minimumSizeHint());
+  dialog->focusWidget()->clearFocus();
   auto* body = dialog->findChild<QScrollArea*>();
   ASSERT_NE(body, nullptr);
   for (QLineEdit* field : dialog->findChildren<QLineEdit*>()) {
