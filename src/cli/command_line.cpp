@@ -73,6 +73,7 @@ int RunCommandLine(int argc, const char* const* argv, std::istream& in, std::ost
   AddCompareCommand(app, chosen);
   AddImportCommand(app, chosen);
   AddExportCommand(app, chosen);
+  AddSeatingCommand(app, chosen);
   std::string reason;
   const ParsedLine parsed = parser.Parse(argc, argv, out, reason);
   if (parsed == ParsedLine::kWrong) return RefuseCommandLine(reason, err);

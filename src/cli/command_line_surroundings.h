@@ -2,6 +2,7 @@
 // Surroundings for a run without a teacher: nothing is shown, nothing is remembered.
 #pragma once
 
+#include <cstdint>
 #include <optional>
 #include <random>
 #include <string>
@@ -39,6 +40,8 @@ class CommandLineSurroundings : public Surroundings {
   double Now() override;
   std::optional<double> today;  // instead of the clock's day
   double Random() override;
+  // From now on the same numbers come for the same seed.
+  void SeedRandom(std::uint32_t seed) { random_.seed(seed); }
   DateOrder ShortDateOrder() override { return date_order_; }
   std::string ProfileFolder() override { return {}; }
   std::string ProgramFolder() override { return {}; }

@@ -48,5 +48,6 @@ void AddStatisticsCommand(Command& app, ChosenCommand& chosen);
 void AddCompareCommand(Command& app, ChosenCommand& chosen);
 void AddImportCommand(Command& app, ChosenCommand& chosen);
 void AddExportCommand(Command& app, ChosenCommand& chosen);
+void AddSeatingCommand(Command& app, ChosenCommand& chosen);
 
 }  // namespace tallyroll

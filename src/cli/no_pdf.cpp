@@ -8,7 +8,7 @@ PdfOutcome WritePdf(const std::string& /*path*/, const std::string& /*title*/) {
 }
 
 PdfOutcome WritePdfPage(const std::string& /*path*/, const std::string& /*title*/,
-                        const std::function<void(PrintTarget&)>& /*draw*/) {
+                        const std::function<void(PrintTarget&)>& /*draw*/, bool /*landscape*/) {
   return {"PDF is not available here"};
 }
 

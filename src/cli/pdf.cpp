@@ -25,11 +25,12 @@ PdfOutcome WritePdf(const std::string& path, const std::string& title) {
 }
 
 PdfOutcome WritePdfPage(const std::string& path, const std::string& title,
-                        const std::function<void(PrintTarget&)>& draw) {
+                        const std::function<void(PrintTarget&)>& draw, bool landscape) {
   constexpr double kInch = 1440;
   const OffscreenApplication application;
   PdfOutcome outcome;
-  const auto pdf = PdfTarget::Open(path, WholeSheet(UsualPageSize()), false, title, outcome.error);
+  const Sheet sheet = WholeSheet(UsualPageSize());
+  const auto pdf = PdfTarget::Open(path, sheet, landscape, title, outcome.error);
   if (!pdf) return outcome;
   pdf->ScaleLeft = pdf->ScaleTop = -kInch;
   draw(*pdf);

@@ -23,7 +23,7 @@ PdfOutcome WritePdf(const std::string& path, const std::string& title);
 
 // A picture on a sheet of its own, an inch from its corner.
 PdfOutcome WritePdfPage(const std::string& path, const std::string& title,
-                        const std::function<void(PrintTarget&)>& draw);
+                        const std::function<void(PrintTarget&)>& draw, bool landscape = false);
 // A picture as the bytes of a PNG file, its size in twips; empty without Qt.
 std::string PngOf(double width, double height, int dots_per_inch,
                   const std::function<void(PrintTarget&)>& draw);

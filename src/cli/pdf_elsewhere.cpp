@@ -47,7 +47,7 @@ PdfOutcome WritePdf(const std::string& /*path*/, const std::string& /*title*/) {
 }
 
 PdfOutcome WritePdfPage(const std::string& path, const std::string& title,
-                        const std::function<void(PrintTarget&)>& /*draw*/) {
+                        const std::function<void(PrintTarget&)>& /*draw*/, bool /*landscape*/) {
   return WritePdf(path, title);
 }
 

@@ -225,15 +225,7 @@ void frmseating::wishok_Click() {
     return SetFocusAndSelect(wishes.wishnumber);
   }
   const WishedSeating seating = SeatByWishes(wishes.Room(), wishes.Wishes(), *number);
-  SeatPlan plan = EmptyPlan(wishes.Room().rows, wishes.Room().columns);
-  for (int i = 1; i <= wishes.Room().Students(); ++i) {
-    const Seat seat = seating.seats[static_cast<std::size_t>(i)];
-    const std::string label = SeatLabel(Current().Students[static_cast<std::size_t>(i)]);
-    if (seat.taken())
-      plan.At(seat) = label;
-    else
-      plan.unseated.push_back(label);
-  }
+  SeatPlan plan = PlanOf(wishes.Room(), seating);
   Begin(std::move(plan), Current().NumCharts + 1, true);
   for (const Wish& wish : seating.unmet) unmet.List.push_back("Not met: " + WishText(wish));
   unmet.Visible = unmetlabel.Visible = !unmet.List.empty();

@@ -27,8 +27,8 @@ struct frmseating : Portal {
   ListBox students;   // who has no seat
   Label said;         // what the last move did
   Label unmetlabel;
-  ListBox unmet;  // after a filling by wishes: what could not be met
-  CheckBox details;   // absences and the last mark on the cards
+  ListBox unmet;     // after a filling by wishes: what could not be met
+  CheckBox details;  // absences and the last mark on the cards
   CommandButton newchart, show, delete_, undo, redo, save, prints, exit;
 
   // The size of a new chart.

@@ -6,6 +6,8 @@
 #include <algorithm>
 #include <numeric>
 
+#include "store/program_state.h"
+
 namespace tallyroll {
 namespace {
 
@@ -177,6 +179,19 @@ class Repair {
 WishedSeating SeatByWishes(const Classroom& room, const std::vector<Wish>& wishes,
                            std::uint32_t number) {
   return Repair(room, wishes, number).Run();
+}
+
+SeatPlan PlanOf(const Classroom& room, const WishedSeating& seating) {
+  SeatPlan plan = EmptyPlan(room.rows, room.columns);
+  for (int i = 1; i <= room.Students(); ++i) {
+    const auto at = static_cast<std::size_t>(i);
+    const std::string label = SeatLabel(Current().Students[at]);
+    if (seating.seats[at].taken())
+      plan.At(seating.seats[at]) = label;
+    else
+      plan.unseated.push_back(label);
+  }
+  return plan;
 }
 
 }  // namespace tallyroll

@@ -16,4 +16,7 @@ struct WishedSeating {
 WishedSeating SeatByWishes(const Classroom& room, const std::vector<Wish>& wishes,
                            std::uint32_t number);
 
+// The cards of the class in work on their seats.
+SeatPlan PlanOf(const Classroom& room, const WishedSeating& seating);
+
 }  // namespace tallyroll

@@ -2,68 +2,20 @@
 #include "seating/wish_step.h"
 
 #include <algorithm>
-#include <array>
 
 #include "base/number_text.h"
 #include "base/text.h"
 #include "companion/seat_wishes.h"
 #include "platform/surroundings.h"
+#include "seating/kept_wishes.h"
 #include "store/program_state.h"
 
 namespace tallyroll {
-namespace {
-
-struct KindRow {
-  WishKind kind;
-  const char* kept;     // in the companion file, for good
-  const char* caption;  // on the screen
-};
-
-constexpr std::array kKinds{
-    KindRow{WishKind::kFront, "front", "at the front"},
-    KindRow{WishKind::kBack, "back", "at the back"},
-    KindRow{WishKind::kApart, "apart", "apart from"},
-    KindRow{WishKind::kBeside, "beside", "beside"},
-    KindRow{WishKind::kKeepSeat, "keep", "keeps the seat of the last chart"},
-    KindRow{WishKind::kNewNeighbours, "new neighbours", "not the last neighbour again"},
-};
-
-bool NeedsOther(WishKind kind) {
-  return kind == WishKind::kApart || kind == WishKind::kBeside;
-}
-
-std::string IdOf(int student) {
-  if (student == 0) return {};
-  return std::string(Trim(Current().Students[static_cast<std::size_t>(student)].id));
-}
-
-int StudentOfId(std::string_view id) {
-  const Class& c = Current();
-  for (int i = 1; i <= c.NumStudents; ++i)
-    if (!id.empty() && Trim(c.Students[static_cast<std::size_t>(i)].id) == id) return i;
-  return 0;
-}
-
-// Wishes about students who have left the class are let go.
-std::vector<Wish> KeptWishes() {
-  std::vector<Wish> wishes;
-  for (const SeatWish& kept : SeatWishes(Current().FileName)) {
-    const auto* row = std::ranges::find(kKinds, kept.kind, &KindRow::kept);
-    if (row == kKinds.end()) continue;
-    const Wish wish{row->kind, StudentOfId(kept.student), StudentOfId(kept.other)};
-    if (wish.student == 0 || (NeedsOther(wish.kind) && wish.other == 0)) continue;
-    wishes.push_back(wish);
-  }
-  return wishes;
-}
-
-}  // namespace
-
 WishStep::WishStep() {
   addwish.Caption = "&Add";
   takewish.Caption = "&Take Away";
   wishnumber.MaxLength = 9;
-  for (const KindRow& row : kKinds) wishkind.List.emplace_back(row.caption);
+  for (const WishKindRow& row : WishKinds()) wishkind.List.emplace_back(row.caption);
 }
 
 void WishStep::Declare(ControlTable& table) {
@@ -104,9 +56,12 @@ std::optional<std::uint32_t> WishStep::Number() const {
   return number;
 }
 
+const WishKindRow& WishStep::KindChosen() const {
+  return WishKinds()[static_cast<std::size_t>(wishkind.ListIndex)];
+}
+
 void WishStep::wishkind_Change() {
-  wishother.Enabled = wishkind.ListIndex >= 0 &&
-                      NeedsOther(kKinds[static_cast<std::size_t>(wishkind.ListIndex)].kind);
+  wishother.Enabled = wishkind.ListIndex >= 0 && KindChosen().needs_other;
   if (!wishother.Enabled) wishother.ListIndex = -1;
 }
 
@@ -115,9 +70,8 @@ void WishStep::addwish_Click() {
     wishsaid.Caption = "Choose a student and a wish first.";
     return;
   }
-  const Wish wish{kKinds[static_cast<std::size_t>(wishkind.ListIndex)].kind, wisher.ListIndex + 1,
-                  wishother.ListIndex + 1};
-  if (NeedsOther(wish.kind) && wish.other == 0) {
+  const Wish wish{KindChosen().kind, wisher.ListIndex + 1, wishother.ListIndex + 1};
+  if (KindChosen().needs_other && wish.other == 0) {
     wishsaid.Caption = "Choose the other student, too.";
     return;
   }
@@ -141,12 +95,7 @@ void WishStep::takewish_Click() {
 }
 
 void WishStep::Store() {
-  std::vector<SeatWish> kept;
-  for (const Wish& wish : wishes_) {
-    const auto* row = std::ranges::find(kKinds, wish.kind, &KindRow::kind);
-    kept.push_back({row->kept, IdOf(wish.student), IdOf(wish.other)});
-  }
-  TellWhetherKept(KeepSeatWishes(Current().FileName, kept));
+  TellWhetherKept(KeepWishes(wishes_));
   Show();
 }
 

@@ -6,7 +6,7 @@
 #include <optional>
 
 #include "platform/portal.h"
-#include "seating/wishes.h"
+#include "seating/kept_wishes.h"
 
 namespace tallyroll {
 
@@ -30,6 +30,7 @@ class WishStep {
   Label wishsaid;
 
  private:
+  const WishKindRow& KindChosen() const;  // there must be a choice
   void wishkind_Change();
   void addwish_Click();
   void takewish_Click();

@@ -1,0 +1,195 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include <algorithm>
+#include <memory>
+#include <optional>
+
+#include "base/code_page.h"
+#include "base/number_text.h"
+#include "base/text.h"
+#include "cli/class_in_file.h"
+#include "cli/command_line_surroundings.h"
+#include "cli/commands.h"
+#include "cli/date_order.h"
+#include "cli/json_text.h"
+#include "cli/pdf.h"
+#include "cli/table_text.h"
+#include "printing/print_job.h"
+#include "seating/chart_records.h"
+#include "seating/fill_chart.h"
+#include "seating/kept_wishes.h"
+#include "seating/print_chart.h"
+#include "seating/seat_by_wishes.h"
+#include "store/program_state.h"
+#include "store/settings.h"
+
+namespace tallyroll {
+namespace {
+
+struct SeatingOptions {
+  std::string file;
+  int chart = 0;  // 0: the last one
+  bool json = false;
+  bool text = false;
+  std::string out;
+  std::string size, fill, out_class;
+  int seed = -1;
+  bool force = false;
+  i16 name_mode = 68;
+  OpenOptions opening;
+};
+
+// ---- A chart as text and JSON ----
+
+std::string ChartText(const SeatPlan& plan) {
+  Table table = {{""}};
+  for (int column = 0; column < plan.columns; ++column)
+    table[0].push_back("Row " + PlainNumberText(column + 1));
+  for (int row = 0; row < plan.rows; ++row) {
+    std::vector<std::string> cells = {"Seat " + PlainNumberText(row + 1)};
+    for (int column = 0; column < plan.columns; ++column)
+      cells.push_back(CellText(plan.At({row, column})));
+    table.push_back(std::move(cells));
+  }
+  std::string text = ClassHeading(Current()) + AlignedText(table);
+  if (!plan.unseated.empty()) text += "\nWithout a seat:\n";
+  for (const std::string& label : plan.unseated) text += label + "\n";
+  return Utf8FromCodePage(text);
+}
+
+std::string IdOfStudent(const Student& student) {
+  return Utf8FromCodePage(Trim(student.id));
+}
+
+// By the records, so that students whose cards read alike are told apart.
+std::string ChartJson(int chart, const SeatPlan& plan) {
+  Json seats = Json::array(), unseated = Json::array();
+  for (int i = 1; i <= Current().NumStudents; ++i) {
+    const Student& student = Current().Students[static_cast<std::size_t>(i)];
+    const Seat seat = SeatOf(student, chart);
+    if (plan.Holds(seat))
+      seats.push_back({{"row", seat.row}, {"column", seat.column}, {"id", IdOfStudent(student)}});
+    else
+      unseated.push_back(IdOfStudent(student));
+  }
+  return JsonText({{"rows", plan.rows},
+                   {"columns", plan.columns},
+                   {"seats", std::move(seats)},
+                   {"unseated", std::move(unseated)}});
+}
+
+// ---- On paper ----
+
+std::string WriteChartPdf(const SeatingOptions& options, const SeatPlan& plan, int chart) {
+  const std::string name = "Chart " + PlainNumberText(chart);
+  const auto draw = [&](PrintTarget& target) {
+    Job.PrintTab = 1;
+    Job.PrintFlag = kPrintRuns;
+    target.FontName = PrinterFontName;
+    target.FontSize = static_cast<double>(PrinterFontSize);
+    SetupPage(target);
+    DrawChartPage(target, plan, name);
+  };
+  if (!LowerCase(options.out).ends_with(".pdf")) return "a chart's file must end in .pdf";
+  if (const std::string reason = WhyNotOver(options.out); !reason.empty()) return reason;
+  const PdfOutcome outcome =
+      WritePdfPage(options.out, name, draw, plan.columns >= kLandscapeColumns);
+  return outcome.error == 0 ? outcome.refusal : FileErrorText(outcome.error);
+}
+
+CommandResult ShowChart(const SeatingOptions& options) {
+  const int chart = options.chart == 0 ? Current().NumCharts : options.chart;
+  if (Current().NumCharts == 0) return Refused(options.file, "the class has no seating charts");
+  if (chart > Current().NumCharts)
+    return Refused(options.file, "there is no chart " + PlainNumberText(chart));
+  const SeatPlan plan = LoadChart(chart);
+  if (!options.out.empty()) {
+    const std::string reason = WriteChartPdf(options, plan, chart);
+    if (!reason.empty()) return Refused(options.out, reason);
+    if (!options.json && !options.text) return Done();
+  }
+  return Done(options.json ? ChartJson(chart, plan) : ChartText(plan));
+}
+
+// ---- A new chart ----
+
+// "5x6": seats in a row of the classroom, and rows.
+std::optional<Seat> SizeOf(const std::string& size) {
+  const std::size_t x = size.find('x');
+  if (x == std::string::npos) return std::nullopt;
+  const auto rows = WholeNumberText(size.substr(0, x));
+  const auto columns = WholeNumberText(size.substr(x + 1));
+  if (!rows || !columns || *columns < 1 || *columns > kMostSeatColumns || *rows < 1)
+    return std::nullopt;
+  const int most = MostSeatsPerRow(static_cast<int>(*columns));
+  if (*rows > most) return std::nullopt;
+  return Seat{static_cast<int>(*rows), static_cast<int>(*columns)};
+}
+
+std::string CheckSize(const std::string& size) {
+  return SizeOf(size) ? "" : "must be RxC, at most 15x11 or 11x13";
+}
+
+SeatPlan FilledPlan(const SeatingOptions& options, Seat size) {
+  SeatPlan plan = EmptyPlan(size.row, size.column);
+  if (options.fill == "wishes") {
+    const Classroom room = RoomOfNewChart(size.row, size.column);
+    const auto number = static_cast<std::uint32_t>(std::max(options.seed, 0));
+    return PlanOf(room, SeatByWishes(room, KeptWishes(), number));
+  }
+  options.fill == "random" ? FillAtRandom(plan) : FillAsSorted(plan);
+  return plan;
+}
+
+CommandResult MakeChart(const SeatingOptions& options) {
+  const SeatPlan plan = FilledPlan(options, *SizeOf(options.size));
+  const int chart = AddChart(plan.rows, plan.columns);
+  if (chart == 0) return Refused(options.file, "the class holds no more charts");
+  StoreChart(chart, plan);
+  Class written = Current();
+  written.Magic = "ty8";
+  const std::string reason = WriteClassTo(options.out_class, written, options.force);
+  return reason.empty() ? Done() : Refused(options.out_class, reason);
+}
+
+CommandResult Seating(const SeatingOptions& options) {
+  NameMode = options.name_mode;
+  const std::string reason = OpenClassFile(options.file, options.opening);
+  if (!reason.empty()) return Refused(options.file, reason);
+  if (Current().NumStudents == 0) return Refused(options.file, kNoStudents);
+  CommandLineSurroundings surroundings(options.opening.password,
+                                       DateOrderOfOption(options.opening.date_order));
+  if (options.seed >= 0) surroundings.SeedRandom(static_cast<std::uint32_t>(options.seed));
+  return options.size.empty() ? ShowChart(options) : MakeChart(options);
+}
+
+}  // namespace
+
+void AddSeatingCommand(Command& app, ChosenCommand& chosen) {
+  Command command = app.AddCommand("seating", "Shows a seating chart, or makes a new one");
+  const auto options = std::make_shared<SeatingOptions>();
+  command.AddOption("FILE", options->file, "the class file").Required();
+  command.AddOption("--chart", options->chart, "the chart's number; otherwise the last one")
+      .Between(1, 32767);
+  command.AddFlag("--json", options->json, "as JSON");
+  command.AddFlag("--text", options->text, "as a table");
+  command.AddOption("--out", options->out, "the page to write: .pdf");
+  CommandOption size =
+      command.AddOption("--new", options->size, "RxC: a chart of C rows with R seats each")
+          .Check(CheckSize);
+  CommandOption fill = command.AddOption("--fill", options->fill, "how the new chart is filled")
+                           .OneOf({"sorted", "random", "wishes"});
+  command.AddOption("--seed", options->seed, "the same number gives the same chart")
+      .Between(0, 999999999);
+  CommandOption out_class =
+      command.AddOption("--out-class", options->out_class, "the class file to write");
+  size.Needs(fill).Needs(out_class);
+  fill.Needs(size);
+  out_class.Needs(size);
+  AddForce(command, options->force);
+  AddNameMode(command, options->name_mode);
+  AddOpenOptions(command, options->opening);
+  command.WhenChosen(
+      [&chosen, options] { chosen = [options](std::istream&) { return Seating(*options); }; });
+}
+
+}  // namespace tallyroll
