@@ -15,10 +15,11 @@
 #include "store/student_names.h"
 
 namespace tallyroll {
-namespace {
 
 // What a report is about. A class that has none of it is not offered the report.
 enum class Needs { kNothing, kGrades, kDays, kSummaries, kAverages };
+
+namespace {
 
 bool Has(Needs needs) {
   const Class& c = Current();
