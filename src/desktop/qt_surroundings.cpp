@@ -200,9 +200,12 @@ bool QtSurroundings::FontDialog(std::string& name, float& points) {
   return ShowFontDialog(name, points, QApplication::activeWindow());
 }
 
+// Keys and clicks come in the middle of a work only where a window beside offers to cancel it.
+// Otherwise they wait for its end: what a Portal is shown meanwhile would lose them.
 void QtSurroundings::PumpEvents() {
   ShowOpenPortals();
-  QApplication::processEvents();
+  QApplication::processEvents(beside_.empty() ? QEventLoop::ExcludeUserInputEvents
+                                              : QEventLoop::AllEvents);
 }
 
 void QtSurroundings::SetWaitCursor(bool on) {
