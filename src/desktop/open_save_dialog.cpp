@@ -108,7 +108,11 @@ std::optional<std::string> ShowFileDialog(const FileDialogRequest& request, QWid
   const QComboBox* encodings = request.encoding ? AddEncodings(dialog, *request.encoding) : nullptr;
   QObject::connect(new QShortcut(Qt::Key_F1, &dialog), &QShortcut::activated, &dialog,
                    [&request] { Platform().ShowHelp(request.help_context); });
-  if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return std::nullopt;
+  const bool accepted = dialog.exec() == QDialog::Accepted;
+  // A window manager may lose the focus when the question of a file to replace and the dialog below
+  // it go at the same moment.
+  if (parent != nullptr) parent->activateWindow();
+  if (!accepted || dialog.selectedFiles().isEmpty()) return std::nullopt;
   if (encodings)
     *request.encoding =
         encodings->currentIndex() == 0 ? TextEncoding::kUtf8 : TextEncoding::kWindows1252;

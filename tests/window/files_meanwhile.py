@@ -70,6 +70,7 @@ def another_program_saves(this, program, path):
 def folder_goes(this, program):
     """Two classes whose folder is away, and one that is well: closing all keeps the two."""
     folder = pathlib.Path(this.path("stick"))
+    before = phone_of(dump(str(folder / "B.TYR"), "--opened"))
     for name in ("B.TYR", "C.TYR"):
         open_file(program, str(folder / name), name)
         change_first_phone(program, name, "5")
@@ -91,7 +92,7 @@ def folder_goes(this, program):
     program.box(prompt("B.TYR"), "alt+n")
     program.ended()
     expect("the phones", [phone_of(dump(str(away / name), "--opened")) for name in
-                          ("B.TYR", "C.TYR")], ["", "5"])
+                          ("B.TYR", "C.TYR")], [before, "5"])
 
 
 def tell(this):

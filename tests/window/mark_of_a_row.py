@@ -25,7 +25,7 @@ def tell(this):
         cell = Atspi.Table.get_accessible_at(table, student, 2)
         expect("the row in sight", stands_within(cell, table), True)
 
-    program.keys("ctrl+End", "Return")
+    program.keys("ctrl+Down", "Return")
     shown_in_portal(STUDENTS)
     program.keys("5", "5", "alt+x")
     program.gone("Edit Grades by Title Portal")
