@@ -257,6 +257,8 @@ TEST_F(FrmPrintAllTest, EveryReportOnStudentsHasItsCode) {
 
 TEST_F(FrmPrintAllTest, TheWholeClassesAveragesAreShownButNotPrinted) {
   OpenAt(4);
+  screen.ExpectBox(
+      "The averages of the full class are printed from the preview. Choose Preview, then Print.");
   Print();
   EXPECT_TRUE(screen.print_jobs.empty());
   EXPECT_EQ(Job.PageCount, 0);
