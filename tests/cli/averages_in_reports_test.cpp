@@ -48,7 +48,7 @@ TEST_F(AveragesInReportsTest, PointsArePossibleWhoeverOpensTheClass) {
   for (const char* code : {"11", "12", "18"})
     EXPECT_EQ(LinesWithAverages(Report(code, file, "text")),
               (Lines{"TOTAL POINTS: 15.00/20  AVERAGE = 75",
-                     "ROUNDED AVERAGE/GRADE:  75 (C/SAT/2.0)      "}))
+                     "ROUNDED AVERAGE/GRADE:  75 (C/SAT/2.0)     "}))
         << code;
 }
 

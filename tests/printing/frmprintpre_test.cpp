@@ -641,15 +641,18 @@ TEST_F(FrmPrintPreTest, OnNoItLeaves) {
 
 // The weights of items are not asked for under weights of types, nor the other way round.
 TEST_F(FrmPrintPreTest, AveragesThatAreKeptAlreadyAreLeftWithoutAQuestion) {
+  OpenReport(19, 3);
+  Job.ReportCode = 11;
   for (const auto& [method, work1, work2] :
        {std::array<i16, 3>{0, 0, 0}, {0, 0, 2}, {1, 2, 0}, {2, 0, 1}, {3, 0, 0}}) {
-    OpenReport(19, 3);
-    Job.ReportCode = 11;
     Current().Method = method;
     Current().AverageWork1 = work1;
     Current().AverageWork2 = work2;
-    driver->Press("twelve");
-    EXPECT_EQ(portal.Next(), "") << method;
+    frmprintpre fresh;
+    fresh.Load();
+    PortalDriver(fresh).Press("twelve");
+    EXPECT_TRUE(fresh.Unloaded());
+    EXPECT_EQ(fresh.Next(), "") << method;
   }
 }
 

@@ -116,6 +116,7 @@ TEST_F(AveragePathTest, ForThePrinterTheAveragesArePreviewedAndSaved) {
   c.AverageSettings = "0,0,0,0,0,0,0,0,0,0,0,0,0,0,0,0,0,0,0,0,0,0,0,0,0,0,0,0,0,0,0";
   c.Instruments[1].weight = Currency::FromWhole(100);
   Form1& window = Open("A.TYR", c);
+  Current().AverageWork1 = 2;  // no grade keeps the averages yet
   screen.ExpectPortal("frmoptions", [](PortalDriver& work) { work.Press("continue"); });
   screen.ExpectPortal("frmprintall", [this](PortalDriver& work) {
     EXPECT_TRUE(work.Visible("studentboxes"));  // of the averages

@@ -109,10 +109,11 @@ TEST_F(RowAndStudentTest, AChangedIdGoesToItsRowWhereIdsSort) {
 // The Portals that show students change none, but whatever reordered them before is mended here.
 TEST_F(RowAndStudentTest, EveryPortalEndsInAFilledGrid) {
   Form1& window = Open("A.TYR", Roster());
+  int round = 0;
   for (const auto& [entry, portal] :
        {std::pair{"mnuVScreen", "frminfo"}, std::pair{"mnuclassinfo", "frmclassinfo"},
         std::pair{"mnuLetter", "frmletter"}}) {
-    const std::string name = std::string("Zuk") + entry;
+    const std::string name = "Zuk" + PlainNumberText(++round);
     screen.ExpectPortal(portal, [name](PortalDriver& work) {
       Current().Students[1].lastname = name;
       work.CloseWindow();
