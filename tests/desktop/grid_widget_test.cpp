@@ -55,6 +55,23 @@ class GridWidgetTest : public testing::Test {
   CountingGridWidget widget;
 };
 
+TEST_F(GridWidgetTest, ATextIsNotCutBesideEmptyRoom) {
+  Grid titles;
+  titles.SetSize(3, 2);
+  titles.SetTextMatrix(1, 0, "The causes of the war, chapter seventeen, with a map of the country");
+  titles.SetTextMatrix(1, 1, "80");
+  widget.SetGrid(&titles);
+  widget.resize(900, 300);
+  Settle();
+  EXPECT_FALSE(widget.IsCut(1, 0));
+  const int hint = widget.sizeHint().width();
+  widget.resize(200, 300);
+  Settle();
+  EXPECT_TRUE(widget.IsCut(1, 0));
+  EXPECT_EQ(widget.sizeHint().width(), hint) << "the window need not be wider";
+  widget.SetGrid(&grid);
+}
+
 TEST_F(GridWidgetTest, FindsTheCellUnderThePointer) {
   for (const At& at : {At{0, 0}, At{1, 3}, At{5, 1}, At{4, 4}}) {
     const auto cell = widget.CellAt(widget.CellRect(at.first, at.second).center());

@@ -147,7 +147,7 @@ TEST_F(KeysAndClicks, ARefusedTitleLeadsToWhatIsMissing) {
 }
 
 TEST_F(KeysAndClicks, KeysWalkThroughTheCategoriesAndReturnOrAClickTakesOne) {
-  auto& categories = Show<frmcategories>();
+  Show<frmcategories>();
   Key(Qt::Key_Up);
   Key(Qt::Key_Down);
   Key(Qt::Key_Down);

@@ -52,15 +52,10 @@ def pick_on_the_next_day(program):
 
 def type_while_dropped(program):
     program.click(day(program, 3, 7))
-    program.keys("F4")
-    dropped_lines(program)
-    program.keys("e")
+    program.keys("F4", "e")
     await_mark(program, 3, 7, "E")
-    program.keys("alt+Down")
-    lines = dropped_lines(program)
-    wait_for("the line of the code", lambda: lines.get_child_at_index(2).get_state_set().contains(
-        Atspi.StateType.SELECTED))
-    program.keys("Down", "Down", "Return")
+    # From the line of E two lines on stands N.
+    program.keys("alt+Down", "Down", "Down", "Return")
     await_mark(program, 3, 7, "N")
     program.keys("Down", "c")
     await_mark(program, 4, 7, "C")
