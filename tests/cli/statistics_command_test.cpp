@@ -2,6 +2,7 @@
 #include <nlohmann/json.hpp>
 
 #include "tests/cli/run_cli.h"
+#include "tests/support/source_dir.h"
 
 namespace tallyroll {
 namespace {
@@ -113,6 +114,22 @@ TEST_F(StatisticsCommandTest, DrawsAChart) {
     EXPECT_TRUE(svg.ends_with("</svg>\n")) << kind;
     EXPECT_NE(svg.find(">QUIZ 1</text>"), std::string::npos) << kind;
     EXPECT_NE(svg.find(">90-94</text>"), std::string::npos) << kind;
+  }
+}
+
+// The pictures in tests/cli/golden, byte for byte: what they show was looked at.
+TEST_F(StatisticsCommandTest, DrawsTheSamePicturesAlways) {
+  std::string students;
+  for (const char* mark : {"49", "48", "44", "43", "42.5", "40", "36", "31", "20", "ABS"})
+    students += std::string(students.empty() ? "" : ", ") + R"({"Marks": ["", ")" + mark + "\"]}";
+  const std::string file = Build(
+      R"({"Instruments": [{"title": "Unit 1: Ratios & Rates", "code": "U1", "mvalue": 50}],
+          "Students": [)" +
+      students + "]}");
+  for (const std::string kind : {"bar", "line", "pie"}) {
+    const std::string out = Path(kind + ".svg");
+    EXPECT_EQ(RunCli({"statistics", file, "--chart", kind, "--out", out}).status, 0);
+    EXPECT_EQ(Get(out), Get(SourceDir() + "/tests/cli/golden/chart-" + kind + ".svg")) << kind;
   }
 }
 
