@@ -70,6 +70,7 @@ void ScrollingBody::BringIntoSight(QWidget* focused) {
 }
 
 void TakeRoom(QDialog& dialog, const ScrollingBody* body) {
+  if (!dialog.layout()) return;  // of a form that could not be read
   const QLayout& layout = *dialog.layout();
   QSize least = layout.totalMinimumSize();
   if (body) {

@@ -40,6 +40,11 @@ TEST_F(FrmMarginsTest, ShowsTheMarginsInInches) {
   driver.reset();
 }
 
+TEST_F(FrmMarginsTest, TheHundredthsAreNotShownBesideTheInches) {
+  for (const char* box : {"topmargin", "bottommargin", "leftmargin", "rightmargin"})
+    EXPECT_FALSE(driver->Visible(box)) << box;
+}
+
 TEST_F(FrmMarginsTest, OkStoresThousandthsWithTheSignTurned) {
   Enter(".75");
   driver->Press("bottommore");
