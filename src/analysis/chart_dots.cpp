@@ -9,7 +9,7 @@ namespace tallyroll {
 namespace {
 
 constexpr double kUsedShare = 0.8;  // of a slot
-constexpr double kApart = 2.4;      // radii from one middle to the next
+constexpr double kDotsApart = 2.4;  // radii from one middle to the next
 
 std::vector<PrintPoint> DotAt(double x, double y, double r) {
   const double s = r * 0.4;
@@ -23,7 +23,7 @@ void DrawDots(ChartPainter& painter, const ChartFrame& strip, double slot) {
   const std::vector<ChartDot>& dots = painter.chart().dots;
   if (dots.empty()) return;
   const double r = std::clamp(slot / 24, 18.0, 40.0);
-  const int places = std::max(1, static_cast<int>(slot * kUsedShare / (kApart * r)));
+  const int places = std::max(1, static_cast<int>(slot * kUsedShare / (kDotsApart * r)));
   const auto column_of = [&](const ChartDot& dot) {
     return std::clamp(static_cast<int>(dot.place * places), 0, places - 1);
   };
@@ -34,7 +34,7 @@ void DrawDots(ChartPainter& painter, const ChartFrame& strip, double slot) {
   for (const ChartDot& dot : dots) ++stack_of(dot);
   const int highest = *std::max_element(stacked.begin(), stacked.end());
   const double room = std::max(strip.height - 2 * r, 0.0);
-  const double step = highest > 1 ? std::min(kApart * r, room / (highest - 1)) : 0;
+  const double step = highest > 1 ? std::min(kDotsApart * r, room / (highest - 1)) : 0;
   std::fill(stacked.begin(), stacked.end(), 0);
   for (std::size_t i = 0; i < dots.size(); ++i) {
     const double share = (column_of(dots[i]) + 0.5) / places * kUsedShare + (1 - kUsedShare) / 2;

@@ -20,7 +20,7 @@ namespace {
 constexpr int kLowestOf[] = {0, 95, 90, 85, 80, 75, 70, 65, 55, 0};
 constexpr int kWidthOf[] = {0, 6, 5, 5, 5, 5, 5, 5, 10, 55};
 
-const Instrument& GradeAt(int grade) {
+const Instrument& ChartedGrade(int grade) {
   return Current().Instruments[static_cast<std::size_t>(grade)];
 }
 
@@ -40,7 +40,7 @@ ClassPercents PercentsOfClass(int grade) {
     const std::string_view mark = MarkOf(c.Students[static_cast<std::size_t>(i)], grade);
     if (IsAbsence(mark)) continue;
     ++percents.present;
-    percents.sum += PercentOfMark(mark, GradeAt(grade).mvalue);
+    percents.sum += PercentOfMark(mark, ChartedGrade(grade).mvalue);
   }
   return percents;
 }
@@ -60,7 +60,7 @@ std::vector<double> RangeValues(const RangeCounts& counts) {
 void FillRanges(Chart& chart, int grade) {
   const RangeCounts counts = CountRanges(grade);
   ChartSet& set = chart.sets.front();
-  chart.title = Trim(UpperCase(GradeAt(grade).title));
+  chart.title = Trim(UpperCase(ChartedGrade(grade).title));
   set.values = RangeValues(counts);
   set.tells.clear();
   const int present = PercentsOfClass(grade).present;
@@ -90,7 +90,7 @@ std::vector<int> AddStudentDots(Chart& chart, int grade) {
   for (int i = 1; i <= c.NumStudents; ++i) {
     const Student& student = c.Students[static_cast<std::size_t>(i)];
     const std::string_view mark = MarkOf(student, grade);
-    const int percent = PercentOfMark(mark, GradeAt(grade).mvalue);
+    const int percent = PercentOfMark(mark, ChartedGrade(grade).mvalue);
     const int range = IsAbsence(mark) ? 0 : RangeOfPercent(percent);
     if (range == 0) continue;
     const double place = (percent - kLowestOf[range] + 0.5) / kWidthOf[range];
@@ -108,7 +108,7 @@ void FillProgress(Chart& chart, int student, const std::vector<int>& grades) {
   set.tells.clear();
   chart.labels.clear();
   for (const int grade : grades) {
-    const Instrument& instrument = GradeAt(grade);
+    const Instrument& instrument = ChartedGrade(grade);
     const std::string_view mark = MarkOf(shown, grade);
     const int percent = IsAbsence(mark) ? 0 : PercentOfMark(mark, instrument.mvalue);
     const ClassPercents all = PercentsOfClass(grade);

@@ -25,7 +25,7 @@ void SortByKey(std::vector<int>& grades, KeyOf key_of) {
                  [](const auto& each) { return each.second; });
 }
 
-const Instrument& GradeAt(int grade) {
+const Instrument& GradeToOrder(int grade) {
   return Current().Instruments[static_cast<std::size_t>(grade)];
 }
 
@@ -40,7 +40,7 @@ std::vector<int> GradesAsTheyStand() {
 void SortByDate(std::vector<int>& grades) {
   const DateOrder order = Platform().ShortDateOrder();
   SortByKey(grades, [order](int grade) {
-    return DateFromText(Trim(GradeAt(grade).testdate), order).value_or(0);
+    return DateFromText(Trim(GradeToOrder(grade).testdate), order).value_or(0);
   });
 }
 
@@ -49,7 +49,7 @@ void SortByType(std::vector<int>& grades) {
   MakeTypeCodes(codes);
   const TypesByCode types(codes);
   SortByKey(grades, [&types](int grade) {
-    const TypeSet found = types.Of(GradeAt(grade).typecode);
+    const TypeSet found = types.Of(GradeToOrder(grade).typecode);
     return found.empty() ? kGradeTypes + 1 : *found.begin();
   });
 }

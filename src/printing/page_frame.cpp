@@ -18,7 +18,6 @@ namespace {
 
 constexpr double kHeadSize = 12;
 constexpr double kTitleSize = 14;
-constexpr int kFootLines = 4;  // SetupPage keeps them free
 constexpr std::string_view kComments = "COMMENTS: ";
 
 // A proportional font of 12 points comes back a hair smaller, as the page breaks were found with

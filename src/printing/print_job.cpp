@@ -14,7 +14,6 @@ namespace tallyroll {
 namespace {
 
 constexpr std::string_view kUsualMargin = "-500";
-constexpr int kFootLines = 4;
 
 // Margins are negative: they narrow the page.
 double Margin(std::string& stored) {

@@ -18,6 +18,9 @@ inline constexpr i16 kPrintWaits = 0;  // the title is being asked for
 inline constexpr i16 kPrintRuns = 1;
 inline constexpr i16 kPrintCancelled = 2;
 
+// What every page keeps free below its last body line.
+inline constexpr int kFootLines = 4;
+
 struct PrintJob {
   i16 PrintFlag = kPrintWaits;  // every row loop of every writer polls it
   i16 PrintTab = 1;             // tab of the Printer Portal, 1 to 4

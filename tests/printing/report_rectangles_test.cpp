@@ -10,7 +10,6 @@
 namespace tallyroll {
 namespace {
 
-constexpr double kFootLines = 4;
 constexpr double kHair = 0.01;
 
 struct Rectangle {

@@ -47,8 +47,8 @@ class WatchedScreen : public HeadlessSurroundings {
   void Note() { seen += wait_cursor ? '!' : '.'; }
 };
 
-struct PasswordPortal : Portal {
-  PasswordPortal() : Portal("frmpassword") {}
+struct PortalOfWords : Portal {
+  PortalOfWords() : Portal("frmpassword") {}
   void Declare(ControlTable&) override {}
 };
 
@@ -57,7 +57,7 @@ class ClassFileWatchTest : public PortalTest {
   ClassFileWatchTest() {
     SetPlatform(&watched);
     MakePortal = [](std::string_view) -> std::unique_ptr<Portal> {
-      return std::make_unique<PasswordPortal>();
+      return std::make_unique<PortalOfWords>();
     };
     file = Path("math.TYR");
     Current().FileName = file;
@@ -92,7 +92,7 @@ std::string OneStudent() {
   return HeaderBytes(1, 0, 0, 0) + StudentBytes("Adams", "Ann");
 }
 
-std::string LeastOldFile() {
+std::string SmallOldFile() {
   FileBytes f;
   f.Raw("ty5").Fixed("", 10).I16(0).I16(0).I16(0).I16(0).I16(0).NoList().NoList().I16(0);
   f.Fixed("Mr B", 20).Fixed("", 15).Fixed("", 15).Fixed("", 15).Fixed("Algebra", 30).Fixed("7", 6);
@@ -141,7 +141,7 @@ TEST_F(ClassFileWatchTest, ItIsAwayBeforeAConversionIsTold) {
       "written in the new format, which CAN NOT be read by versions of Tallyroll prior to version "
       "8. (Upon saving of the converted file, a backup of the pre-converted file will be saved "
       "with the extension of '.OLD'.)");
-  Open(LeastOldFile());
+  Open(SmallOldFile());
   EXPECT_EQ(watched.Seen(), "+-.-");
 }
 
