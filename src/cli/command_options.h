@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// How a command names its options. The parser behind it stands in command_options.cpp alone: each file
-// that sees the parser's header takes five seconds longer to read and seventeen to compile.
+// How a command names its options. The parser behind it stands in command_options.cpp alone: each
+// file that sees the parser's header takes five seconds longer to read and seventeen to compile.
 #pragma once
 
 #include <functional>
@@ -12,7 +12,7 @@
 
 #include "store/records.h"
 
-namespace CLI {
+namespace CLI {  // NOLINT(readability-identifier-naming): the library has named it
 class App;
 class Option;
 }  // namespace CLI
