@@ -12,7 +12,7 @@
 
 #include "store/records.h"
 
-namespace CLI {
+namespace CLI {  // NOLINT(readability-identifier-naming): the library has named it
 class App;
 class Option;
 }  // namespace CLI

@@ -28,11 +28,11 @@ TEST_F(PdfElsewhereTest, TheProgramWithoutQtMakesAPdf) {
 }
 
 TEST_F(PdfElsewhereTest, ARefusalIsTheSame) {
-  const std::string wrong =
-      "report --code 19 --out " + Path("no-such-folder/roster.pdf") + " " + file_;
-  EXPECT_EQ(StatusOf(TALLYROLL_CLI, wrong), 1);
+  const std::string pdf = Path("no-such-folder/roster.pdf");
+  EXPECT_EQ(StatusOf(TALLYROLL_CLI, "report --code 19 --out " + pdf + " " + file_), 1);
   EXPECT_EQ(Get(Path("out")), "");
-  EXPECT_EQ(Get(Path("err")), Path("no-such-folder/roster.pdf") + ": File Error: 76\n");
+  EXPECT_TRUE(Get(Path("err")).starts_with(pdf + ": File Error: "));
+  EXPECT_EQ(Get(Path("err")), RunCli({"report", "--code", "19", "--out", pdf, file_}).err);
 }
 
 TEST_F(PdfElsewhereTest, WithoutTheOtherProgramItIsRefused) {
