@@ -8,7 +8,7 @@ namespace {
 
 using nlohmann::json;
 
-constexpr const char* kClass = R"({"description": "Algebra", "NumCharts": 2,
+constexpr const char* kSeatedClass = R"({"description": "Algebra", "NumCharts": 2,
   "ChartRows": [0, 2, 1], "ChartColumns": [0, 2, 1],
   "Students": [
     {"lastname": "Abe", "firstname": "Bo", "id": "5", "SeatRow": [0, 1, 0], "SeatColumn": [0, 0, 0]},
@@ -18,7 +18,7 @@ constexpr const char* kClass = R"({"description": "Algebra", "NumCharts": 2,
 class SeatingCommandTest : public CliTest {};
 
 TEST_F(SeatingCommandTest, JsonTellsTheSeats) {
-  const CliRun run = RunCli({"seating", "--chart", "1", "--json", Build(kClass)});
+  const CliRun run = RunCli({"seating", "--chart", "1", "--json", Build(kSeatedClass)});
   EXPECT_EQ(run.err, "");
   EXPECT_EQ(json::parse(run.out), json::parse(R"({"rows": 2, "columns": 2,
     "seats": [{"row": 1, "column": 0, "id": "5"}, {"row": 0, "column": 1, "id": "6"}],
@@ -26,7 +26,7 @@ TEST_F(SeatingCommandTest, JsonTellsTheSeats) {
 }
 
 TEST_F(SeatingCommandTest, TheLastChartIsShownAsATable) {
-  const CliRun run = RunCli({"seating", Build(kClass)});
+  const CliRun run = RunCli({"seating", Build(kSeatedClass)});
   EXPECT_EQ(run.out,
             "Algebra\n"
             "\n"
@@ -39,7 +39,7 @@ TEST_F(SeatingCommandTest, TheLastChartIsShownAsATable) {
 }
 
 TEST_F(SeatingCommandTest, AChartThatIsNotThereIsRefused) {
-  const std::string file = Build(kClass);
+  const std::string file = Build(kSeatedClass);
   ExpectRefused(RunCli({"seating", "--chart", "3", file}), file + ": there is no chart 3");
   const std::string without =
       Build(R"({"Students": [{"lastname": "Abe", "firstname": "Bo", "id": "5"}]})");
@@ -50,7 +50,7 @@ TEST_F(SeatingCommandTest, AChartThatIsNotThereIsRefused) {
 
 // The first sits at the back of the first row.
 TEST_F(SeatingCommandTest, ANewChartGoesIntoANewClassFile) {
-  const std::string file = Build(kClass), out = Path("new.TYR");
+  const std::string file = Build(kSeatedClass), out = Path("new.TYR");
   const std::string before = Get(file);
   EXPECT_EQ(RunCli({"seating", file, "--new", "2x2", "--fill", "sorted", "--out-class", out}).err,
             "");
@@ -63,7 +63,7 @@ TEST_F(SeatingCommandTest, ANewChartGoesIntoANewClassFile) {
 }
 
 TEST_F(SeatingCommandTest, AClassFileIsReplacedByForceAlone) {
-  const std::string file = Build(kClass);
+  const std::string file = Build(kSeatedClass);
   const std::vector<std::string> line = {"seating", file,     "--new",       "1x3",
                                          "--fill",  "sorted", "--out-class", file};
   EXPECT_EQ(RunCli(line).status, 1);
@@ -74,7 +74,7 @@ TEST_F(SeatingCommandTest, AClassFileIsReplacedByForceAlone) {
 }
 
 TEST_F(SeatingCommandTest, TheSameSeedGivesTheSameChart) {
-  const std::string file = Build(kClass);
+  const std::string file = Build(kSeatedClass);
   for (const char* fill : {"random", "wishes"}) {
     std::vector<std::string> charts;
     for (const char* name : {"one.TYR", "two.TYR"}) {
@@ -90,7 +90,7 @@ TEST_F(SeatingCommandTest, TheSameSeedGivesTheSameChart) {
 }
 
 TEST_F(SeatingCommandTest, SizesThatNoChartHasAreWrong) {
-  const std::string file = Build(kClass);
+  const std::string file = Build(kSeatedClass);
   for (const char* size : {"0x2", "2x0", "16x11", "12x12", "11x14", "2", "axb", "2x", ""}) {
     EXPECT_EQ(
         RunCli({"seating", file, "--new", size, "--fill", "sorted", "--out-class", "x"}).status, 2)
@@ -101,7 +101,7 @@ TEST_F(SeatingCommandTest, SizesThatNoChartHasAreWrong) {
 }
 
 TEST_F(SeatingCommandTest, OnlyAPdfIsWritten) {
-  const std::string file = Build(kClass), out = Path("chart.txt");
+  const std::string file = Build(kSeatedClass), out = Path("chart.txt");
   ExpectRefused(RunCli({"seating", file, "--out", out}), out + ": a chart's file must end in .pdf");
 }
 

@@ -10,7 +10,7 @@ namespace {
 using nlohmann::json;
 
 // Quiz: 80 and 90 are counted, as two grades are whose deviation is 5. Nobody wrote the test.
-constexpr const char* kClass = R"({"description": "Algebra",
+constexpr const char* kQuizClass = R"({"description": "Algebra",
   "Instruments": [{"title": "Quiz 1 ", "code": "Q1 ", "typecode": "Q ", "mvalue": 100},
                   {"title": "Test, 1", "code": "T1", "typecode": "T ", "mvalue": 30}],
   "Students": [
@@ -21,7 +21,7 @@ constexpr const char* kClass = R"({"description": "Algebra",
 class StatisticsCommandTest : public CliTest {};
 
 TEST_F(StatisticsCommandTest, JsonHoldsWhatThePortalShows) {
-  const CliRun run = RunCli({"statistics", "--json", Build(kClass)});
+  const CliRun run = RunCli({"statistics", "--json", Build(kQuizClass)});
   EXPECT_EQ(run.err, "");
   const json all = json::parse(run.out);
   ASSERT_EQ(all.size(), 2u);
@@ -40,7 +40,7 @@ TEST_F(StatisticsCommandTest, JsonHoldsWhatThePortalShows) {
 
 TEST_F(StatisticsCommandTest, FiguresThatCannotBeMadeAreNull) {
   const json test =
-      json::parse(RunCli({"statistics", "--json", "--grade", "T1", Build(kClass)}).out)[0];
+      json::parse(RunCli({"statistics", "--json", "--grade", "T1", Build(kQuizClass)}).out)[0];
   EXPECT_EQ(test["title"], "Test, 1");
   EXPECT_EQ(test["lpassv"], "19.5");
   for (const char* name : {"present", "absent", "std", "average", "lowest", "median", "quartiles"})
@@ -49,7 +49,7 @@ TEST_F(StatisticsCommandTest, FiguresThatCannotBeMadeAreNull) {
 }
 
 TEST_F(StatisticsCommandTest, TextNamesEachFigure) {
-  const CliRun run = RunCli({"statistics", "--grade", "1", Build(kClass)});
+  const CliRun run = RunCli({"statistics", "--grade", "1", Build(kQuizClass)});
   EXPECT_EQ(run.out,
             "Algebra\n"
             "\n"
@@ -81,7 +81,7 @@ TEST_F(StatisticsCommandTest, TextNamesEachFigure) {
 }
 
 TEST_F(StatisticsCommandTest, CsvHasALineAGrade) {
-  const CliRun run = RunCli({"statistics", "--csv", Build(kClass)});
+  const CliRun run = RunCli({"statistics", "--csv", Build(kQuizClass)});
   EXPECT_EQ(
       run.out,
       "title,code,present,absent,passed,perpassed,failed,perfailed,lowest,highest,std,average,"
@@ -92,7 +92,7 @@ TEST_F(StatisticsCommandTest, CsvHasALineAGrade) {
 }
 
 TEST_F(StatisticsCommandTest, AGradeThatIsNotThereIsRefused) {
-  const std::string file = Build(kClass);
+  const std::string file = Build(kQuizClass);
   for (const char* wanted : {"3", "0", "X9", "1.5"})
     ExpectRefused(RunCli({"statistics", "--grade", wanted, file}),
                   file + ": no grade has the number or code " + wanted);
@@ -104,7 +104,7 @@ TEST_F(StatisticsCommandTest, AClassWithoutGradesHasNothingToShow) {
 }
 
 TEST_F(StatisticsCommandTest, DrawsAChart) {
-  const std::string file = Build(kClass);
+  const std::string file = Build(kQuizClass);
   for (const char* kind : {"bar", "line", "pie"}) {
     const std::string out = Path(std::string(kind) + ".svg");
     const CliRun run = RunCli({"statistics", file, "--grade", "1", "--chart", kind, "--out", out});
@@ -134,7 +134,7 @@ TEST_F(StatisticsCommandTest, DrawsTheSamePicturesAlways) {
 }
 
 TEST_F(StatisticsCommandTest, AChartTakesOneGradeAndAFile) {
-  const std::string file = Build(kClass);
+  const std::string file = Build(kQuizClass);
   ExpectRefused(RunCli({"statistics", file, "--chart", "bar", "--out", Path("a.svg")}),
                 file + ": a chart shows one grade: --grade says which");
   const std::string text = Path("a.txt");
