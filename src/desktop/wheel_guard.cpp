@@ -39,9 +39,15 @@ bool WheelGuard::eventFilter(QObject* watched, QEvent* event) {
   const auto type = event->type();
   const bool comes = type == QEvent::Enter || type == QEvent::MouseMove;
   const bool presses = type == QEvent::MouseButtonPress;
-  if (!comes && !presses && type != QEvent::Wheel) return false;
+  const bool opens = type == QEvent::Show;
+  if (!comes && !presses && !opens && type != QEvent::Wheel) return false;
   const auto* widget = qobject_cast<QWidget*>(watched);
   if (!widget) return false;
+  if (opens) {
+    // In a window that is new the pointer came from nowhere yet.
+    if (widget->isWindow()) came_from_grid_ = false;
+    return false;
+  }
   const bool of_grid = IsOfGrid(*widget);
   if (of_grid || presses) came_from_grid_ = of_grid;
   if (type != QEvent::Wheel || of_grid || !ChangesByWheel(*widget)) return false;
