@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// A grade in figures and pictures: the figures of 1,000 students beside one GradeValue a mark, charts
-// drawn and painted on the screen, and the roll book screen of 1,000 students and 300 grades opened
-// and moved through by a key.
+// A grade in figures and pictures: the figures of 1,000 students beside one GradeValue a mark,
+// charts drawn and painted on the screen, and the roll book screen of 1,000 students and 300 grades
+// opened and moved through by a key.
 #include <benchmark/benchmark.h>
 
 #include <QApplication>

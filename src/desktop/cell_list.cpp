@@ -71,8 +71,9 @@ void CellList::keyPressEvent(QKeyEvent* event) {
 
 // The whole cell is the arrow: there is no room for a field beside it.
 void CellList::mousePressEvent(QMouseEvent* event) {
-  QMouseEvent on_arrow(event->type(), QPointF(width() - kIntoArrow, height() / 2.0), event->globalPosition(),
-                       event->button(), event->buttons(), event->modifiers());
+  QMouseEvent on_arrow(event->type(), QPointF(width() - kIntoArrow, height() / 2.0),
+                       event->globalPosition(), event->button(), event->buttons(),
+                       event->modifiers());
   QComboBox::mousePressEvent(&on_arrow);
 }
 

@@ -41,8 +41,8 @@ void DateArrow::mousePressEvent(QMouseEvent* event) {
 }
 
 void DateArrow::PressArrow(const QMouseEvent& press) {
-  QMouseEvent on_arrow(press.type(), QPointF(width() - kIntoArrow, height() / 2.0), press.globalPosition(),
-                       press.button(), press.buttons(), press.modifiers());
+  QMouseEvent on_arrow(press.type(), QPointF(width() - kIntoArrow, height() / 2.0),
+                       press.globalPosition(), press.button(), press.buttons(), press.modifiers());
   DateField::mousePressEvent(&on_arrow);
 }
 

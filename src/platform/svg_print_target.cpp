@@ -111,7 +111,8 @@ void SvgPrintTarget::DrawTextAt(double x, double y, std::string_view text, doubl
 
 void SvgPrintTarget::PrintUpwards(std::string_view text, double x, double y) {
   const double base = x + FontSize * kTwipsPerPoint * kAscent;
-  AddText(text, FontSize, "transform=\"translate(" + Points(base) + "," + Points(y) + ") rotate(-90)\"");
+  AddText(text, FontSize,
+          "transform=\"translate(" + Points(base) + "," + Points(y) + ") rotate(-90)\"");
 }
 
 void SvgPrintTarget::Cls() {

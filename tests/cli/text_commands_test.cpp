@@ -102,9 +102,9 @@ TEST_F(TextCommandTest, ImportReplacesAClassByForceAloneAndKeepsTheOldOne) {
 TEST_F(TextCommandTest, ExportNeverGoesOverAnotherClassFile) {
   const std::string other = Build("{}", "other.TYR");
   const std::string before = Get(other);
-  ExpectRefused(
-      RunCli({"export", Build(kExportedClass), "--what", "names", "--layout", "tabs", "--out", other}),
-      other + ": is a class file, which is left as it is");
+  ExpectRefused(RunCli({"export", Build(kExportedClass), "--what", "names", "--layout", "tabs",
+                        "--out", other}),
+                other + ": is a class file, which is left as it is");
   EXPECT_EQ(Get(other), before);
 }
 
@@ -163,8 +163,8 @@ TEST_F(TextCommandTest, ExportWritesEachContent) {
 
 TEST_F(TextCommandTest, ExportWritesTheEncodingAskedFor) {
   const auto exported = [&](const std::string& layout, const std::string& encoding) {
-    EXPECT_EQ(RunCli({"export", Build(kExportedClass), "--what", "names", "--layout", layout, "--encoding",
-                      encoding, "--out", Path("out.txt")})
+    EXPECT_EQ(RunCli({"export", Build(kExportedClass), "--what", "names", "--layout", layout,
+                      "--encoding", encoding, "--out", Path("out.txt")})
                   .status,
               0);
     return Get(Path("out.txt"));

@@ -25,7 +25,9 @@ class NotingTarget : public QtPrintTarget {
   }
 
  protected:
-  void DrawTextAt(double /*x*/, double /*y*/, std::string_view text, double /*size*/) override { Note(text); }
+  void DrawTextAt(double /*x*/, double /*y*/, std::string_view text, double /*size*/) override {
+    Note(text);
+  }
 
  private:
   void Note(std::string_view text) { drawn += Utf8FromCodePage(text); }
