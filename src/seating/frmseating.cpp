@@ -14,7 +14,7 @@ namespace tallyroll {
 namespace {
 
 // Twips: a name breaks behind its comma, so a card holds twelve characters and three lines.
-constexpr int kCardWidth = 1750, kCardHeight = 1000;
+constexpr int kCardWidth = 1690, kCardHeight = 1000;
 
 constexpr const char* kNumberNames[] = {
     " 1  - One",    " 2  - Two",    " 3  - Three",    " 4  - Four",     " 5  - Five",

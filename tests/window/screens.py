@@ -214,6 +214,7 @@ def portals(this):
     attendance(program)
     reports(program)
     text_file(this, program)
+    portal(program, ["alt+t", "s"], "Seating Chart Portal", "frmseating")
     program.keys("F1")
     program.window("Tallyroll Help")
     take(program, "help")
