@@ -62,9 +62,11 @@ void MakeFigures(ComparedFigures& figures, const Instrument& grade,
   figures.highest = *std::max_element(values.begin(), values.end());
   Currency sum;
   for (const Currency value : values) sum += value;
-  const Currency mean = Currency::FromDouble(Divided(sum.ToDouble(), figures.present));
-  figures.average = Currency::FromDouble(InHundredths(mean.ToDouble()));
-  figures.deviation = InHundredths(DeviationFrom(mean, values));
+  // Rounded once, as where the grade stands alone: rounding the mean first would show another one.
+  const double mean = Divided(sum.ToDouble(), figures.present);
+  figures.average = Currency::FromDouble(InHundredths(mean));
+  const double deviation = DeviationFrom(Currency::FromDouble(mean), values);
+  figures.deviation = InHundredths(Currency::FromDouble(deviation).ToDouble());
 }
 
 template <typename Number>
@@ -72,8 +74,12 @@ std::string TextOf(const std::optional<Number>& number) {
   return number ? SignedNumberText(*number) : std::string();
 }
 
+std::string Count(const ComparedFigures& figures, int value) {
+  return figures.too_large ? std::string() : SignedNumberText(value);
+}
+
 std::string Percent(const ComparedFigures& figures, int value) {
-  return figures.present == 0 ? std::string() : SignedNumberText(value) + " %";
+  return figures.present == 0 || figures.too_large ? std::string() : SignedNumberText(value) + " %";
 }
 
 }  // namespace
@@ -90,8 +96,8 @@ ComparedFigures FiguresOf(const ComparedGrade& compared) {
   if (figures.present == 0) return figures;
   try {
     MakeFigures(figures, GradeOf(compared), CountedValues(compared.grade));
-  } catch (const RunTimeError&) {  // what was made before the number that does not fit stays
-    return figures;
+  } catch (const RunTimeError&) {  // who was present is counted; the rest can't be told
+    figures.too_large = true;
   }
   return figures;
 }
@@ -101,6 +107,7 @@ ComparedFigures TotalsOf(const std::vector<ComparedFigures>& all) {
   for (const ComparedFigures& each : all) {
     totals.present += each.present;
     totals.absent += each.absent;
+    if (each.too_large) continue;
     totals.passed += each.passed;
     totals.failed += each.failed;
   }
@@ -115,9 +122,9 @@ RangeCounts RangesOf(const ComparedGrade& compared) {
 std::array<std::string, 10> PanelTexts(const ComparedFigures& figures) {
   return {TextOf(figures.deviation),
           TextOf(figures.average),
-          SignedNumberText(figures.passed),
+          Count(figures, figures.passed),
           Percent(figures, figures.perpassed),
-          SignedNumberText(figures.failed),
+          Count(figures, figures.failed),
           Percent(figures, figures.perfailed),
           TextOf(figures.lowest),
           TextOf(figures.highest),

@@ -20,6 +20,7 @@ struct ComparedGrade {
 struct ComparedFigures {
   int present = 0, absent = 0, passed = 0, failed = 0;
   int perpassed = 0, perfailed = 0;
+  bool too_large = false;  // a mark is beyond Currency: nobody can say who passed
   // Nothing where nobody was present, or where a number is beyond Currency.
   std::optional<Currency> lowest, highest, average;
   std::optional<double> deviation;

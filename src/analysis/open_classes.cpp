@@ -12,15 +12,18 @@ namespace {
 
 constexpr i16 kTaken = 10;
 
-// As on the class's window.
-std::string CaptionOf(std::string_view path) {
-  const std::string_view name = path.substr(path.find_last_of("/\\") + 1);
-  return name == path ? std::string(path) : UpperCase(name);
+// As on the class's window: one that was never saved keeps its words, a file is in capitals.
+std::string CaptionOf(int slot) {
+  const std::string& path = Classes[static_cast<std::size_t>(slot)].FileName;
+  if (path.empty()) return "NewClass " + PlainNumberText(slot);
+  const std::string shown = PathForDisplay(path);
+  return UpperCase(shown.substr(shown.find_last_of("/\\") + 1));
 }
 
-std::string_view FolderIn(std::string_view path) {
+std::string FolderIn(int slot) {
+  const std::string path = PathForDisplay(Classes[static_cast<std::size_t>(slot)].FileName);
   const std::size_t slash = path.find_last_of("/\\");
-  return slash == std::string_view::npos ? std::string_view() : path.substr(0, slash);
+  return slash == std::string::npos ? "." : path.substr(0, slash);
 }
 
 }  // namespace
@@ -38,18 +41,12 @@ std::vector<int> OpenSlots() {
 }
 
 std::vector<std::string> ClassNames(const std::vector<int>& slots) {
-  std::vector<std::string> paths, names;
+  std::vector<std::string> names;
   for (const int slot : slots) {
-    const std::string& path = Classes[static_cast<std::size_t>(slot)].FileName;
-    paths.push_back(path.empty() ? "NewClass " + PlainNumberText(slot) : PathForDisplay(path));
-  }
-  for (const std::string& path : paths) {
-    const auto alike = std::count_if(paths.begin(), paths.end(), [&](const std::string& other) {
-      return CaptionOf(other) == CaptionOf(path);
-    });
-    std::string name = CaptionOf(path);
-    if (alike > 1) name += " (" + std::string(FolderIn(path)) + ")";
-    names.push_back(std::move(name));
+    const std::string caption = CaptionOf(slot);
+    const auto alike = std::count_if(slots.begin(), slots.end(),
+                                     [&](int other) { return CaptionOf(other) == caption; });
+    names.push_back(alike > 1 ? caption + " (" + FolderIn(slot) + ")" : caption);
   }
   return names;
 }

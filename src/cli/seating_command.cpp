@@ -129,26 +129,41 @@ std::string CheckSize(const std::string& size) {
   return SizeOf(size) ? "" : "must be RxC, at most 15x11 or 11x13";
 }
 
-SeatPlan FilledPlan(const SeatingOptions& options, Seat size) {
-  SeatPlan plan = EmptyPlan(size.row, size.column);
-  if (options.fill == "wishes") {
-    const Classroom room = RoomOfNewChart(size.row, size.column);
-    const auto number = static_cast<std::uint32_t>(std::max(options.seed, 0));
-    return PlanOf(room, SeatByWishes(room, KeptWishes(), number));
-  }
-  options.fill == "random" ? FillAtRandom(plan) : FillAsSorted(plan);
-  return plan;
+struct FilledChart {
+  SeatPlan plan;
+  std::string told;  // of the wishes
+  std::string fault;
+};
+
+FilledChart FillByWishes(const SeatingOptions& options, Seat size) {
+  const KeptWishes kept = ReadWishes();
+  const Classroom room = RoomOfNewChart(size.row, size.column);
+  const auto number = static_cast<std::uint32_t>(std::max(options.seed, 0));
+  const WishedSeating seating = SeatByWishes(room, kept.wishes, number);
+  FilledChart filled{PlanOf(room, seating), {}, kept.fault};
+  for (const Wish& wish : seating.unmet)
+    filled.told += "Not met: " + Utf8FromCodePage(WishText(wish)) + "\n";
+  return filled;
+}
+
+FilledChart FillChart(const SeatingOptions& options, Seat size) {
+  if (options.fill == "wishes") return FillByWishes(options, size);
+  FilledChart filled{EmptyPlan(size.row, size.column), {}, {}};
+  options.fill == "random" ? FillAtRandom(filled.plan) : FillAsSorted(filled.plan);
+  return filled;
 }
 
 CommandResult MakeChart(const SeatingOptions& options) {
-  const SeatPlan plan = FilledPlan(options, *SizeOf(options.size));
-  const int chart = AddChart(plan.rows, plan.columns);
+  const FilledChart filled = FillChart(options, *SizeOf(options.size));
+  if (!filled.fault.empty())
+    return Refused(options.file, "the wishes cannot be read: " + filled.fault);
+  const int chart = AddChart(filled.plan.rows, filled.plan.columns);
   if (chart == 0) return Refused(options.file, "the class holds no more charts");
-  StoreChart(chart, plan);
+  StoreChart(chart, filled.plan);
   Class written = Current();
   written.Magic = "ty8";
   const std::string reason = WriteClassTo(options.out_class, written, options.force);
-  return reason.empty() ? Done() : Refused(options.out_class, reason);
+  return reason.empty() ? Done(filled.told) : Refused(options.out_class, reason);
 }
 
 CommandResult Seating(const SeatingOptions& options) {
@@ -168,23 +183,28 @@ void AddSeatingCommand(Command& app, ChosenCommand& chosen) {
   Command command = app.AddCommand("seating", "Shows a seating chart, or makes a new one");
   const auto options = std::make_shared<SeatingOptions>();
   command.AddOption("FILE", options->file, "the class file").Required();
-  command.AddOption("--chart", options->chart, "the chart's number; otherwise the last one")
-      .Between(1, 32767);
-  command.AddFlag("--json", options->json, "as JSON");
-  command.AddFlag("--text", options->text, "as a table");
-  command.AddOption("--out", options->out, "the page to write: .pdf");
+  CommandOption chart =
+      command.AddOption("--chart", options->chart, "the chart's number; otherwise the last one")
+          .Between(1, 32767);
+  CommandOption json = command.AddFlag("--json", options->json, "as JSON");
+  CommandOption text = command.AddFlag("--text", options->text, "as a table");
+  CommandOption out = command.AddOption("--out", options->out, "the page to write: .pdf");
+  json.Excludes(text);
   CommandOption size =
       command.AddOption("--new", options->size, "RxC: a chart of C rows with R seats each")
           .Check(CheckSize);
   CommandOption fill = command.AddOption("--fill", options->fill, "how the new chart is filled")
                            .OneOf({"sorted", "random", "wishes"});
-  command.AddOption("--seed", options->seed, "the same number gives the same chart")
-      .Between(0, 999999999);
+  CommandOption seed =
+      command.AddOption("--seed", options->seed, "the same number gives the same chart")
+          .Between(0, 999999999);
   CommandOption out_class =
       command.AddOption("--out-class", options->out_class, "the class file to write");
   size.Needs(fill).Needs(out_class);
   fill.Needs(size);
   out_class.Needs(size);
+  seed.Needs(size);
+  for (CommandOption shown : {chart, json, text, out}) shown.Excludes(size);
   AddForce(command, options->force);
   AddNameMode(command, options->name_mode);
   AddOpenOptions(command, options->opening);

@@ -43,6 +43,7 @@ Companion Open(const std::string& path, Database::Mode mode) {
   if (!database->ok()) return {nullptr, database->fault()};
   if (!whole) return {nullptr, kDamaged};
   const std::int64_t layout = database->Number("PRAGMA user_version");
+  if (layout < 0) return {nullptr, kDamaged};
   if (layout > kLayout) return {nullptr, kOfNewerProgram};
   if (layout < kLayout) BringUpToDate(*database);
   if (!database->ok()) return {nullptr, database->fault()};

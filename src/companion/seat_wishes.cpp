@@ -13,19 +13,16 @@ std::string FromFile(const std::string& text) {
 
 }  // namespace
 
-std::string WhyNoSeatWishes(const std::string& class_path) {
-  if (class_path.empty()) return "the class was not saved yet";
-  return OpenCompanion(class_path).fault;
-}
-
-std::vector<SeatWish> SeatWishes(const std::string& class_path) {
-  std::vector<SeatWish> wishes;
+KeptSeatWishes SeatWishes(const std::string& class_path) {
+  if (class_path.empty()) return {{}, "the class was not saved yet"};
   const Companion companion = OpenCompanion(class_path);
-  if (!companion) return wishes;
+  if (!companion) return {{}, companion.fault};
+  KeptSeatWishes kept;
   Statement rows(*companion.database, "SELECT kind, student, other FROM seat_wish ORDER BY place");
   while (rows.Next())
-    wishes.push_back({FromFile(rows.Text(0)), FromFile(rows.Text(1)), FromFile(rows.Text(2))});
-  return wishes;
+    kept.wishes.push_back({FromFile(rows.Text(0)), FromFile(rows.Text(1)), FromFile(rows.Text(2))});
+  kept.fault = companion.database->fault();
+  return kept;
 }
 
 std::string KeepSeatWishes(const std::string& class_path, const std::vector<SeatWish>& wishes) {

@@ -16,11 +16,12 @@ struct SeatWish {
   friend bool operator==(const SeatWish&, const SeatWish&) = default;
 };
 
-// Why wishes cannot be kept beside this class; empty when they can.
-std::string WhyNoSeatWishes(const std::string& class_path);
-
-// In the order in which they were kept; none where there is no companion.
-std::vector<SeatWish> SeatWishes(const std::string& class_path);
+// What is kept, and why nothing can be; no fault where nothing was kept yet.
+struct KeptSeatWishes {
+  std::vector<SeatWish> wishes;  // in the order in which they were kept
+  std::string fault;
+};
+KeptSeatWishes SeatWishes(const std::string& class_path);
 
 // Keeps these and no others. Answers why it could not be done; empty when it was.
 std::string KeepSeatWishes(const std::string& class_path, const std::vector<SeatWish>& wishes);

@@ -100,9 +100,13 @@ bool CardDrag::eventFilter(QObject* watched, QEvent* event) {
     case QEvent::MouseButtonRelease:
       card_ = {};
       break;
-    case QEvent::MouseMove:
-      if (Moved(static_cast<const QMouseEvent&>(*event))) return true;
+    case QEvent::MouseMove: {
+      // Short of a drag the area must not choose the next line: that would be another card.
+      const auto& move = static_cast<const QMouseEvent&>(*event);
+      const bool held = !card_.isNull() && (move.buttons() & Qt::LeftButton);
+      if (Moved(move) || held) return true;
       break;
+    }
     case QEvent::DragEnter:
     case QEvent::DragMove: {
       auto& move = static_cast<QDropEvent&>(*event);

@@ -87,7 +87,7 @@ void StoreChart(int chart, const SeatPlan& plan) {
   auto seats = SeatsByLabel(plan);
   for (int i = 1; i <= c.NumStudents; ++i) {
     Student& student = c.Students[static_cast<std::size_t>(i)];
-    const auto seat = seats.find(SeatLabel(student));
+    const auto seat = seats.find(Trim(SeatLabel(student)));
     GiveSeat(student, chart, seat == seats.end() ? Seat{} : seat->second);
     if (seat != seats.end()) seats.erase(seat);
   }

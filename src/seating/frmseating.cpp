@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "seating/frmseating.h"
 
+#include <functional>
+#include <utility>
+
 #include "base/number_text.h"
 #include "platform/class_window.h"
 #include "platform/surroundings.h"
@@ -14,6 +17,7 @@ namespace tallyroll {
 namespace {
 
 // Twips: a name breaks behind its comma, so a card holds twelve characters and three lines.
+constexpr i16 kMostCharts = 32767;
 constexpr int kCardWidth = 1690, kCardHeight = 1000;
 
 constexpr const char* kNumberNames[] = {
@@ -28,6 +32,14 @@ std::vector<std::string> NumberNames(int count) {
 // The leading two characters of a choice as a number; 0 where nothing is chosen.
 int NumberChosen(const ListBox& list) {
   return list.ListIndex + 1;
+}
+
+// In a list or on a seat Enter means what stands there, and never the button of the window.
+std::function<bool(Key)> OnEnter(std::function<void()> act) {
+  return [act = std::move(act)](Key key) {
+    if (key == Key::kEnter) act();
+    return key == Key::kEnter;
+  };
 }
 
 std::string ChartName(int chart) {
@@ -67,12 +79,16 @@ frmseating::frmseating() : Portal("frmseating") {
 void frmseating::Declare(ControlTable& table) {
   table.Add("step", step);
   table.Add("chartlabel", chartlabel);
-  table.Add("Listchart", Listchart).DblClick([this] { show_Click(); });
+  table.Add("Listchart", Listchart).DblClick([this] { show_Click(); }).KeyDown(OnEnter([this] {
+    show_Click();
+  }));
   table.Add("Label3", Label3);
   table.Add("Grid1", Grid1)
+      .KeyDown(OnEnter([this] { Grid1_KeyPress(' '); }))
       .KeyPress([this](unsigned char key) { return Grid1_KeyPress(key); })
       .DragDrop([this](std::string_view source) { Grid1_DragDrop(source); });
   table.Add("students", students)
+      .KeyDown(OnEnter([this] { students_KeyPress(' '); }))
       .KeyPress([this](unsigned char key) { return students_KeyPress(key); })
       .DragDrop([this](std::string_view source) { students_DragDrop(source); });
   table.Add("unmetlabel", unmetlabel);
@@ -89,9 +105,11 @@ void frmseating::Declare(ControlTable& table) {
   table.Add("exit", exit).Click([this] { exit_Click(); });
 
   table.Add("columnlabel", columnlabel);
-  table.Add("column", column).Change([this] { column_Change(); });
+  table.Add("column", column).Change([this] { column_Change(); }).KeyDown(OnEnter([this] {
+    okinfo_Click();
+  }));
   table.Add("seatslabel", seatslabel);
-  table.Add("seatsrow", seatsrow);
+  table.Add("seatsrow", seatsrow).KeyDown(OnEnter([this] { okinfo_Click(); }));
   table.Add("okinfo", okinfo).Click([this] { okinfo_Click(); });
   table.Add("sizeback", sizeback).Click([this] { step.Current = kChart; });
 
@@ -179,7 +197,12 @@ bool frmseating::MayLoseChanges() {
 }
 
 void frmseating::newchart_Click() {
+  if (Current().NumCharts == kMostCharts) {
+    ShowMessage("You may only have 32767 charts in a class.", BoxIcon::kCritical);
+    return;
+  }
   if (!MayLoseChanges()) return;
+  LetGo("");
   column.ListIndex = seatsrow.ListIndex = -1;
   seatsrow.List = NumberNames(kMostSeatsInWide);
   alpha.Value = true;
@@ -229,10 +252,11 @@ void frmseating::wishok_Click() {
   Begin(std::move(plan), Current().NumCharts + 1, true);
   for (const Wish& wish : seating.unmet) unmet.List.push_back("Not met: " + WishText(wish));
   unmet.Visible = unmetlabel.Visible = !unmet.List.empty();
-  said.Caption = "Seated by wishes, number " + PlainNumberText(std::int64_t{*number}) + ": " +
-                 (unmet.List.empty() ? "all wishes are met."
-                                     : PlainNumberText(static_cast<int>(unmet.List.size())) +
-                                           " wishes could not be met.");
+  said.Caption =
+      "Seated by wishes, number " + PlainNumberText(std::int64_t{*number}) + ": " +
+      (unmet.List.empty() ? "all wishes are met."
+                          : "wishes that could not be met: " +
+                                PlainNumberText(static_cast<int>(unmet.List.size())) + ".");
   SetFocus(Grid1);
 }
 
@@ -278,12 +302,7 @@ void frmseating::save_Click() {
 }
 
 void frmseating::Store() {
-  const int added = ChartIsNew == kTrue ? AddChart(plan_.rows, plan_.columns) : CurrentChart;
-  if (added == 0) {
-    ShowMessage("You may only have 32767 charts in a class.", BoxIcon::kCritical);
-    return;
-  }
-  CurrentChart = static_cast<i16>(added);
+  if (ChartIsNew == kTrue) CurrentChart = static_cast<i16>(AddChart(plan_.rows, plan_.columns));
   StoreChart(CurrentChart, plan_);
   ChartIsNew = ChartDirty = kFalse;
   ListCharts();
@@ -291,9 +310,10 @@ void frmseating::Store() {
   const int without = StudentsWithoutLabel();
   said.Caption = Label3.Caption + " is kept." +
                  (without == 0 ? ""
-                               : " Students whose card reads like another's have no seat: " +
+                               : " Students whose card is empty or reads like another's have no "
+                                 "seat: " +
                                      PlainNumberText(without) + ".");
-  if (Current().FileName.empty()) ClassWindow().mnusave();
+  if (Current().FileName.empty() && Current().NumStudents > 0) ClassWindow().mnusave();
   ShowPlan();
 }
 
@@ -310,9 +330,13 @@ void frmseating::exit_Click() {
   Unload();
 }
 
-// Escape lets go of a card first.
+// Escape lets go of a card first, and goes back a step.
 void frmseating::QueryUnload() {
   if (carried_ != Carried::kNothing) return LetGo("The card is back in its place.");
+  if (step.Current != kChart) {
+    --step.Current;
+    return;
+  }
   if (ChartDirty == kTrue &&
       Ask("Data has been modified. Are you sure you want to CANCEL?", BoxButtons::kYesNo,
           BoxIcon::kQuestion, "CANCEL") != BoxAnswer::kYes) {

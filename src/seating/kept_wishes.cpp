@@ -3,9 +3,10 @@
 
 #include <algorithm>
 #include <array>
+#include <optional>
+#include <utility>
 
 #include "base/text.h"
-#include "companion/seat_wishes.h"
 #include "store/program_state.h"
 
 namespace tallyroll {
@@ -32,6 +33,20 @@ int StudentOfId(std::string_view id) {
   return 0;
 }
 
+// A wish is kept by IDs, so it finds its student again by one that nobody else has.
+bool HasOwnId(int student) {
+  return StudentOfId(IdOf(student)) == student;
+}
+
+std::optional<Wish> WishOf(const SeatWish& row) {
+  const auto* kind =
+      std::ranges::find_if(kKinds, [&](const WishKindRow& r) { return r.kept == row.kind; });
+  if (kind == kKinds.end()) return std::nullopt;
+  const Wish wish{kind->kind, StudentOfId(row.student), StudentOfId(row.other)};
+  if (wish.student == 0 || (kind->needs_other && wish.other == 0)) return std::nullopt;
+  return wish;
+}
+
 }  // namespace
 
 std::span<const WishKindRow> WishKinds() {
@@ -42,24 +57,31 @@ const WishKindRow& RowOfKind(WishKind kind) {
   return kKinds[static_cast<std::size_t>(kind)];
 }
 
-std::vector<Wish> KeptWishes() {
-  std::vector<Wish> wishes;
-  for (const SeatWish& kept : SeatWishes(Current().FileName)) {
-    const auto* row =
-        std::ranges::find_if(kKinds, [&](const WishKindRow& r) { return r.kept == kept.kind; });
-    if (row == kKinds.end()) continue;
-    const Wish wish{row->kind, StudentOfId(kept.student), StudentOfId(kept.other)};
-    if (wish.student == 0 || (row->needs_other && wish.other == 0)) continue;
-    wishes.push_back(wish);
+KeptWishes ReadWishes() {
+  KeptSeatWishes read = SeatWishes(Current().FileName);
+  KeptWishes kept{{}, {}, std::move(read.fault)};
+  for (SeatWish& row : read.wishes) {
+    const std::optional<Wish> wish = WishOf(row);
+    if (wish)
+      kept.wishes.push_back(*wish);
+    else
+      kept.others.push_back(std::move(row));
   }
-  return wishes;
+  return kept;
 }
 
-std::string KeepWishes(const std::vector<Wish>& wishes) {
-  std::vector<SeatWish> kept;
-  for (const Wish& wish : wishes)
-    kept.push_back({RowOfKind(wish.kind).kept, IdOf(wish.student), IdOf(wish.other)});
-  return KeepSeatWishes(Current().FileName, kept);
+std::string KeepWishes(const KeptWishes& kept) {
+  std::vector<SeatWish> rows;
+  bool all = true;
+  for (const Wish& wish : kept.wishes) {
+    if (HasOwnId(wish.student) && (wish.other == 0 || HasOwnId(wish.other)))
+      rows.push_back({RowOfKind(wish.kind).kept, IdOf(wish.student), IdOf(wish.other)});
+    else
+      all = false;
+  }
+  rows.insert(rows.end(), kept.others.begin(), kept.others.end());
+  const std::string fault = KeepSeatWishes(Current().FileName, rows);
+  return fault.empty() && !all ? "some students have no ID of their own" : fault;
 }
 
 }  // namespace tallyroll

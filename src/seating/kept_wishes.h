@@ -6,6 +6,7 @@
 #include <string>
 #include <vector>
 
+#include "companion/seat_wishes.h"
 #include "seating/wishes.h"
 
 namespace tallyroll {
@@ -20,9 +21,15 @@ struct WishKindRow {
 std::span<const WishKindRow> WishKinds();
 const WishKindRow& RowOfKind(WishKind kind);
 
-// Wishes about students who have left the class are let go.
-std::vector<Wish> KeptWishes();
-// Keeps these and no others. Answers why it could not be done; empty when it was.
-std::string KeepWishes(const std::vector<Wish>& wishes);
+struct KeptWishes {
+  std::vector<Wish> wishes;
+  // About students who are not in the class, or of kinds of a newer program: kept as they are.
+  std::vector<SeatWish> others;
+  std::string fault;  // why they could not be read
+};
+KeptWishes ReadWishes();
+
+// Keeps these and no others. Answers why they, or some of them, could not be kept.
+std::string KeepWishes(const KeptWishes& kept);
 
 }  // namespace tallyroll

@@ -67,6 +67,7 @@ std::vector<std::string> LinesOf(const std::string& label) {
 // One size for all cards, small enough for the widest line and the tallest card.
 double FontOfCards(PrintTarget& target, const SeatPlan& plan, double width, double height) {
   const FontKept kept(target);
+  target.FontBold = true;  // as the names are, which are the widest
   const auto fits = [&] {
     for (const std::string& label : plan.labels) {
       if (label.empty()) continue;
@@ -141,15 +142,18 @@ void DrawUnseated(PrintTarget& target, const SeatPlan& plan) {
   if (plan.unseated.empty()) return;
   target.Print();
   std::string line = "Without a seat: ";
+  std::size_t first = 0;  // on the line
   for (std::size_t i = 0; i < plan.unseated.size(); ++i) {
     const std::string next = plan.unseated[i] + (i + 1 < plan.unseated.size() ? "; " : "");
     if (target.TextWidth(line + next) > Job.PageTextWidth) {
       if (WouldPassBottom(target, 2)) {
-        line = "... and " + PlainNumberText(static_cast<int>(plan.unseated.size() - i)) + " more";
+        line =
+            "... and " + PlainNumberText(static_cast<int>(plan.unseated.size() - first)) + " more";
         break;
       }
       target.Print(line);
       line.clear();
+      first = i;
     }
     line += next;
   }

@@ -13,6 +13,7 @@ namespace {
 
 constexpr int kTries = 40;
 constexpr int kStepsATry = 250;
+constexpr int kMostLooks = 500000;  // at places: a large room is tried less often than a small one
 constexpr std::uint32_t kSidestepOneIn = 12;
 
 // A generator of its own: the standard library's distributions differ between libraries, and a
@@ -40,13 +41,16 @@ class Repair {
     for (const Wish& wish : wishes_) {
       Concern(wish.student, wish);
       if (wish.other != 0 && wish.other != wish.student) Concern(wish.other, wish);
+      if (wish.kind != WishKind::kNewNeighbours) continue;
+      for (const int neighbour : NeighboursBefore(room_, wish.student)) Concern(neighbour, wish);
     }
     places_ = std::max(room_.Seats(), room_.Students());
   }
 
   WishedSeating Run() {
     WishedSeating best;
-    for (int attempt = 0; attempt < kTries; ++attempt) {
+    const int tries = std::clamp(kMostLooks / (kStepsATry * std::max(places_, 1)), 1, kTries);
+    for (int attempt = 0; attempt < tries; ++attempt) {
       Deal();
       for (int step = 0; step < kStepsATry && !Unmet().empty(); ++step) Step();
       std::vector<Wish> unmet = Unmet();
@@ -122,14 +126,10 @@ class Repair {
     }));
   }
 
-  // How many of the wishes that a swap can touch are unmet. Whoever wishes for new neighbours is
-  // touched by every swap nearby; those are few.
+  // How many of the wishes that a swap can touch are unmet.
   int UnmetAround(int a, int b) const {
-    int unmet = UnmetOf(student_at_[static_cast<std::size_t>(a)]) +
-                UnmetOf(student_at_[static_cast<std::size_t>(b)]);
-    for (const Wish& wish : wishes_)
-      if (wish.kind == WishKind::kNewNeighbours && !IsMet(wish, room_, seats_)) ++unmet;
-    return unmet;
+    return UnmetOf(student_at_[static_cast<std::size_t>(a)]) +
+           UnmetOf(student_at_[static_cast<std::size_t>(b)]);
   }
 
   int GainOf(int a, int b) {

@@ -5,7 +5,6 @@
 
 #include "base/number_text.h"
 #include "base/text.h"
-#include "companion/seat_wishes.h"
 #include "platform/surroundings.h"
 #include "seating/kept_wishes.h"
 #include "store/program_state.h"
@@ -32,7 +31,9 @@ void WishStep::Declare(ControlTable& table) {
 
 void WishStep::Begin(int rows, int columns) {
   room_ = RoomOfNewChart(rows, columns);
-  wishes_ = KeptWishes();
+  // Once: what could not be kept stays as long as the Portal does.
+  if (!read_) kept_ = ReadWishes();
+  read_ = true;
   wisher.List.clear();
   const Class& c = Current();
   for (int i = 1; i <= c.NumStudents; ++i)
@@ -43,7 +44,7 @@ void WishStep::Begin(int rows, int columns) {
   constexpr int kNumbers = 10000;
   if (wishnumber.Text.empty())
     wishnumber.Text = PlainNumberText(static_cast<int>(Platform().Random() * kNumbers));
-  TellWhetherKept(WhyNoSeatWishes(c.FileName));
+  TellWhetherKept(kept_.fault);
   Show();
 }
 
@@ -75,13 +76,13 @@ void WishStep::addwish_Click() {
     wishsaid.Caption = "Choose the other student, too.";
     return;
   }
-  if (std::ranges::find(wishes_, wish) != wishes_.end()) {
+  if (std::ranges::find(kept_.wishes, wish) != kept_.wishes.end()) {
     wishsaid.Caption = "This wish stands in the list already.";
     return;
   }
-  wishes_.push_back(wish);
+  kept_.wishes.push_back(wish);
   Store();
-  wishlist.ListIndex = static_cast<int>(wishes_.size()) - 1;
+  wishlist.ListIndex = static_cast<int>(kept_.wishes.size()) - 1;
 }
 
 void WishStep::takewish_Click() {
@@ -89,13 +90,14 @@ void WishStep::takewish_Click() {
     wishsaid.Caption = "Choose the wish to take away.";
     return;
   }
-  wishes_.erase(wishes_.begin() + wishlist.ListIndex);
+  kept_.wishes.erase(kept_.wishes.begin() + wishlist.ListIndex);
   wishlist.ListIndex = -1;
   Store();
 }
 
 void WishStep::Store() {
-  TellWhetherKept(KeepWishes(wishes_));
+  // What could not be read must not be written over.
+  TellWhetherKept(kept_.fault.empty() ? KeepWishes(kept_) : kept_.fault);
   Show();
 }
 
@@ -105,8 +107,8 @@ void WishStep::TellWhetherKept(const std::string& fault) {
 
 void WishStep::Show() {
   wishlist.List.clear();
-  for (const Wish& wish : wishes_) wishlist.List.push_back(WishText(wish));
-  contradictions.List = Contradictions(wishes_, room_);
+  for (const Wish& wish : kept_.wishes) wishlist.List.push_back(WishText(wish));
+  contradictions.List = Contradictions(kept_.wishes, room_);
   contradictions.ListIndex = -1;
 }
 

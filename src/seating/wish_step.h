@@ -17,7 +17,7 @@ class WishStep {
   // Fills the page for a chart of that size.
   void Begin(int rows, int columns);
 
-  const std::vector<Wish>& Wishes() const { return wishes_; }
+  const std::vector<Wish>& Wishes() const { return kept_.wishes; }
   const Classroom& Room() const { return room_; }
   // The number by which the seating can be made again; nothing when the box holds none.
   std::optional<std::uint32_t> Number() const;
@@ -39,7 +39,8 @@ class WishStep {
   void Show();
 
   Classroom room_;
-  std::vector<Wish> wishes_;
+  KeptWishes kept_;
+  bool read_ = false;
 };
 
 }  // namespace tallyroll

@@ -41,6 +41,14 @@ bool HasNewNeighbours(const Classroom& room, const SeatsOfStudents& seats, std::
 
 }  // namespace
 
+std::vector<int> NeighboursBefore(const Classroom& room, int student) {
+  std::vector<int> neighbours;
+  for (int other = 1; other <= room.Students(); ++other)
+    if (SatSideBySide(room, static_cast<std::size_t>(student), static_cast<std::size_t>(other)))
+      neighbours.push_back(other);
+  return neighbours;
+}
+
 Classroom RoomOfNewChart(int rows, int columns) {
   const Class& c = Current();
   Classroom room{rows, columns, {}};

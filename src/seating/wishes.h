@@ -39,6 +39,9 @@ struct Classroom {
   int Seats() const { return rows * columns; }
 };
 
+// Who sat side by side with a student on the last chart: two at the most.
+std::vector<int> NeighboursBefore(const Classroom& room, int student);
+
 // The room of a new chart of the class in work. The last chart is the one with the highest number.
 Classroom RoomOfNewChart(int rows, int columns);
 

@@ -24,17 +24,17 @@ TEST_F(CompanionFileTest, StandsBesideTheClassFile) {
 }
 
 TEST_F(CompanionFileTest, ReadingMakesNoFile) {
-  EXPECT_EQ(SeatWishes(path), Wishes{});
-  EXPECT_EQ(WhyNoSeatWishes(path), "");
+  EXPECT_EQ(SeatWishes(path).wishes, Wishes{});
+  EXPECT_EQ(SeatWishes(path).fault, "");
   EXPECT_FALSE(std::filesystem::exists(companion));
 }
 
 TEST_F(CompanionFileTest, WhatWasKeptComesBackInItsOrder) {
   const Wishes wishes = {{"beside", "7", "3"}, {"front", "1", ""}, {"apart", "\xC9lise", "3"}};
   EXPECT_EQ(KeepSeatWishes(path, wishes), "");
-  EXPECT_EQ(SeatWishes(path), wishes);
+  EXPECT_EQ(SeatWishes(path).wishes, wishes);
   EXPECT_EQ(KeepSeatWishes(path, {{"back", "2", ""}}), "");
-  EXPECT_EQ(SeatWishes(path), (Wishes{{"back", "2", ""}}));
+  EXPECT_EQ(SeatWishes(path).wishes, (Wishes{{"back", "2", ""}}));
 }
 
 TEST_F(CompanionFileTest, NothingButTheFileItselfStaysBehind) {
@@ -48,8 +48,8 @@ TEST_F(CompanionFileTest, ADamagedOneIsLeftAloneAndToldOf) {
   std::ofstream(companion) << "this is no database, but a text of more than a hundred bytes, "
                               "which somebody has put into the place of the companion file.";
   const std::uintmax_t before = std::filesystem::file_size(companion);
-  EXPECT_EQ(SeatWishes(path), Wishes{});
-  EXPECT_NE(WhyNoSeatWishes(path), "");
+  EXPECT_EQ(SeatWishes(path).wishes, Wishes{});
+  EXPECT_NE(SeatWishes(path).fault, "");
   EXPECT_NE(KeepSeatWishes(path, {{"back", "2", ""}}), "");
   EXPECT_EQ(std::filesystem::file_size(companion), before);
 }
@@ -59,7 +59,7 @@ TEST_F(CompanionFileTest, ACompanionCutInTheMiddleIsToldOf) {
   for (int i = 0; i < 2000; ++i) wishes.push_back({"front", std::string(20, 'x'), ""});
   ASSERT_EQ(KeepSeatWishes(path, wishes), "");
   std::filesystem::resize_file(companion, std::filesystem::file_size(companion) / 2);
-  EXPECT_NE(WhyNoSeatWishes(path), "");
+  EXPECT_NE(SeatWishes(path).fault, "");
 }
 
 TEST_F(CompanionFileTest, OneOfANewerProgramIsLeftAlone) {
@@ -68,8 +68,26 @@ TEST_F(CompanionFileTest, OneOfANewerProgramIsLeftAlone) {
     Database database(companion, Database::Mode::kWrite);
     database.Run("PRAGMA user_version=99");
   }
-  EXPECT_EQ(WhyNoSeatWishes(path), "it was written by a newer version of this program");
+  EXPECT_EQ(SeatWishes(path).fault, "it was written by a newer version of this program");
   EXPECT_EQ(KeepSeatWishes(path, {}), "it was written by a newer version of this program");
+}
+
+TEST_F(CompanionFileTest, ALayoutThatNoProgramHasIsADamage) {
+  KeepSeatWishes(path, {{"back", "2", ""}});
+  {
+    Database database(companion, Database::Mode::kWrite);
+    database.Run("PRAGMA user_version=-5");
+  }
+  EXPECT_EQ(SeatWishes(path).fault, "it is damaged");
+}
+
+TEST_F(CompanionFileTest, AMissingTableIsToldOf) {
+  KeepSeatWishes(path, {{"back", "2", ""}});
+  {
+    Database database(companion, Database::Mode::kWrite);
+    database.Run("DROP TABLE seat_wish");
+  }
+  EXPECT_NE(SeatWishes(path).fault, "");
 }
 
 TEST_F(CompanionFileTest, AnotherProgramThatWritesIsNotWaitedFor) {
@@ -77,12 +95,12 @@ TEST_F(CompanionFileTest, AnotherProgramThatWritesIsNotWaitedFor) {
   Database other(companion, Database::Mode::kWrite);
   const Transaction held(other);
   EXPECT_NE(KeepSeatWishes(path, {}), "");
-  EXPECT_EQ(SeatWishes(path), (Wishes{{"back", "2", ""}}));
+  EXPECT_EQ(SeatWishes(path).wishes, (Wishes{{"back", "2", ""}}));
 }
 
 TEST_F(CompanionFileTest, AClassWithoutAFileHasNone) {
-  EXPECT_EQ(WhyNoSeatWishes(""), "the class was not saved yet");
-  EXPECT_EQ(SeatWishes(""), Wishes{});
+  EXPECT_EQ(SeatWishes("").fault, "the class was not saved yet");
+  EXPECT_EQ(SeatWishes("").wishes, Wishes{});
   EXPECT_EQ(KeepSeatWishes("", {}), "the class was not saved yet");
 }
 
@@ -97,7 +115,7 @@ TEST_F(CompanionFileTest, ATransactionThatIsNotCommittedIsNothing) {
     const Transaction transaction(database);
     database.Run("DELETE FROM seat_wish");
   }
-  EXPECT_EQ(SeatWishes(path).size(), 1u);
+  EXPECT_EQ(SeatWishes(path).wishes.size(), 1u);
 }
 
 }  // namespace
