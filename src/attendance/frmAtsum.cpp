@@ -78,8 +78,8 @@ void frmAtsum::Declare(ControlTable& table) {
   table.Add("labrange", labrange);
   table.Add("Label5", Label5);
   table.Add("summ", summ);
-  table.Add("termstart", termstart).Change([this] { datechanged = 1; });
-  table.Add("termend", termend).Change([this] { datechanged = 1; });
+  table.Add("termstart", termstart).Change([this] { PickDate(); });
+  table.Add("termend", termend).Change([this] { PickDate(); });
   table.Add("ok", ok).Click([this] { ok_Click(); });
   table.Add("ind", ind);
   table.Add("Title", Title).Change([this] { entered = 1; });
@@ -88,6 +88,12 @@ void frmAtsum::Declare(ControlTable& table) {
   table.Add("another", another).Click([this] { another_Click(); });
   table.Add("Exits", Exits).Click([this] { Exits_Click(); });
   table.Add("cancel", cancel).Click([this] { cancel_Click(); });
+}
+
+// A day picked that stood there when the days were counted changes nothing.
+void frmAtsum::PickDate() {
+  const bool counted = termstart.Value == counted_start_ && termend.Value == counted_end_;
+  datechanged = counted ? 0 : 1;
 }
 
 void frmAtsum::Load() {
@@ -99,6 +105,7 @@ void frmAtsum::Reopen() {
   const bool has_days = c.NumDays > 0;
   summkind = has_days ? 0 : kDirectSummary;
   entered = datechanged = gridtyped = 0;
+  counted_start_ = counted_end_ = 0;
   counted_ = false;
   typpe.Visible = message.Visible = has_days;
   summ.Visible = false;
@@ -166,6 +173,8 @@ bool frmAtsum::GridKey() {
 
 void frmAtsum::ok_Click() {
   datechanged = 0;
+  counted_start_ = termstart.Value;
+  counted_end_ = termend.Value;
   entered = 1;
   counted_ = false;
   if (termend.Value < termstart.Value) {

@@ -40,6 +40,8 @@ struct frmAtsum : Portal {
   void cancel_Click();
 
  private:
+  void PickDate();
+  double counted_start_ = 0, counted_end_ = 0;  // the dates of the figures shown
   void Reopen();
   void LayOutRange();
   bool GridKey();

@@ -44,8 +44,9 @@ bool WheelGuard::eventFilter(QObject* watched, QEvent* event) {
   const auto* widget = qobject_cast<QWidget*>(watched);
   if (!widget) return false;
   if (opens) {
-    // In a window that is new the pointer came from nowhere yet.
-    if (widget->isWindow()) came_from_grid_ = false;
+    // In a window that is new the pointer came from nowhere yet; a tip or a list is no such window.
+    const auto kind = widget->windowType();
+    if (kind == Qt::Window || kind == Qt::Dialog) came_from_grid_ = false;
     return false;
   }
   const bool of_grid = IsOfGrid(*widget);

@@ -36,9 +36,11 @@ class StudentBlocks {
   explicit StudentBlocks(ReportPass& pass) : target_(pass.target) {
     if (pass.recording && Job.WrapFirst.size() == 1) FindStudentRows();
     room_ = LinesBelowHead(target_);
-    for (i16 s = 1; s <= Current().NumStudents; ++s)
-      for (int line = 1, lines = RowsOf(s); line <= lines; ++line)
-        rows_.push_back({s, line, lines});
+    for (int s = 1; s <= Current().NumStudents; ++s) {
+      const auto student = static_cast<i16>(s);
+      for (int line = 1, lines = RowsOf(student); line <= lines; ++line)
+        rows_.push_back({student, line, lines});
+    }
   }
 
   int Count() const { return static_cast<int>(rows_.size()); }
@@ -165,8 +167,9 @@ void WriteFullGrades(TextReport& text) {
   text.Tab(kFullTitleColumn);
   text.Line(FullGradesTitle());
   text.End();
-  for (CurrentStudent = 1; CurrentStudent <= Current().NumStudents; ++CurrentStudent) {
+  for (int s = 1; s <= Current().NumStudents; ++s) {
     if (Cancelled()) return;
+    CurrentStudent = static_cast<i16>(s);
     WriteStudent(text);
   }
   if (!EndsWithDetails()) return;

@@ -156,7 +156,8 @@ void PrintMissingForClass(ReportPass& pass) {
 void WriteMissingForClass(TextReport& text) {
   text.Line(kClassTitle);
   text.End();
-  for (CurrentStudent = 1; CurrentStudent <= Current().NumStudents; ++CurrentStudent) {
+  for (int s = 1; s <= Current().NumStudents; ++s) {
+    CurrentStudent = static_cast<i16>(s);
     const std::vector<int> missing = MissingGrades(StudentInReport());
     if (missing.empty()) continue;
     text.Line(StudentLabel());

@@ -22,11 +22,12 @@ namespace {
 
 constexpr int kSavingTopic = 120;
 
-// A file is called as the printout is, or else as the class. What parts folders is no part of a
-// name.
+// A file is called as the printout is, or else as the class where it has a name. What parts folders
+// is no part of a name.
 std::string NameOfPrintout(std::string_view extension) {
   std::string name = Utf8FromCodePage(Trim(Job.PrintTitle));
   if (name.empty()) name = std::filesystem::path(Current().FileName).stem().string();
+  if (name.empty()) name = "Report";
   std::replace(name.begin(), name.end(), '/', '-');
   return name + "." + LowerCase(extension);
 }

@@ -49,8 +49,10 @@ RunningTotals TotalsOfAllStudents() {
   RunningTotals running;
   const i16 in_work = CurrentStudent;
   try {
-    for (CurrentStudent = 1; CurrentStudent <= Current().NumStudents; ++CurrentStudent)
+    for (int s = 1; s <= Current().NumStudents; ++s) {
+      CurrentStudent = static_cast<i16>(s);
       AddStudent(running);
+    }
   } catch (const RunTimeError& fault) {
     throw ReportEnds{AverageErrorText({fault.number, CurrentStudent, 0})};
   }

@@ -33,6 +33,21 @@ TEST_F(FrmAtsumTest, BothDaysBelongToTheRange) {
   EXPECT_EQ(Row(1), "2|0|0|0|0|0|2");
 }
 
+// The figures are those of the dates shown, so nothing is asked and they are kept.
+TEST_F(FrmAtsumTest, ADatePickedAsItWasCountedChangesNothing) {
+  SetRange({9, 2026}, {6, 2027});
+  Mark(1, Day(2026, 9, 2), "A");
+  Open(portal);
+  driver->Tick("Summary");
+  driver->PickDate("termstart", Day(2026, 9, 2));
+  driver->PickDate("termend", Day(2026, 9, 2));
+  driver->Press("ok");
+  driver->PickDate("termend", Day(2026, 9, 3));
+  EXPECT_EQ(portal.datechanged, 1);
+  driver->PickDate("termend", Day(2026, 9, 2));
+  EXPECT_EQ(portal.datechanged, 0);
+}
+
 TEST_F(FrmAtsumTest, OneDayIsARange) {
   SetRange({9, 2026}, {6, 2027});
   for (const int day : {1, 2, 3}) Mark(1, Day(2026, 9, day), "A");

@@ -69,6 +69,21 @@ TEST_P(BigClassTest, EachStudentStandsOnTheReportInOrder) {
   EXPECT_EQ(StudentsOnPages(), expected);
 }
 
+// As many students as a class can hold: counting them must end.
+class FullestClassTest : public ClassBuilder {};
+
+TEST_F(FullestClassTest, TextsEndWithTheLastStudent) {
+  constexpr int kMost = 32767;
+  for (int s = 1; s <= kMost; ++s) Enrol("L", "F", PlainNumberText(s));
+  AddGrade("Title", "g1", "Q ", 100, "9/3/2026");
+  for (int s = 1; s <= kMost; ++s) Current().Students[static_cast<std::size_t>(s)].Marks[1] = "NON";
+  for (const i16 code : {i16{1}, i16{2}}) {
+    Job.ReportCode = code;
+    Job.PrintFlag = kPrintRuns;
+    EXPECT_NE(ReportText().find("32767"), std::string::npos) << code;
+  }
+}
+
 // The information on the class names no student.
 INSTANTIATE_TEST_SUITE_P(EveryCode, BigClassTest,
                          testing::Values(1, 2, 3, 4, 8, 9, 10, 11, 12, 13, 14, 15, 16, 17, 18, 19,

@@ -61,6 +61,14 @@ TEST_F(ChartRecordsTest, AStudentWithoutIdIsNotTakenForAFreeSeat) {
   EXPECT_EQ(StudentsWithoutLabel(), 1);
 }
 
+TEST_F(ChartRecordsTest, AStudentWithoutAFirstNameKeepsTheSeat) {
+  EnrolStudent("Smith", "", "1");
+  SeatPlan plan = EmptyPlan(1, 1);
+  FillAsSorted(plan);
+  Keep(plan);
+  EXPECT_EQ(SeatOf(At(1), 1), (Seat{0, 0}));
+}
+
 TEST_F(ChartRecordsTest, ASecondChartLeavesTheFirstAsItIs) {
   Enrol(2);
   SeatPlan first = EmptyPlan(1, 2), second = EmptyPlan(2, 1);

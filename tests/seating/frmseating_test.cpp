@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "seating/frmseating.h"
 
+#include "companion/companion_file.h"
+#include "companion/seat_wishes.h"
 #include "platform/portal_driver.h"
 #include "tests/seating/seating_test.h"
 #include "tests/support/noting_window.h"
@@ -455,6 +457,49 @@ TEST_F(FrmSeatingTest, WishesAgainstOneAnotherAreNamedBeforeAndAfter) {
   ASSERT_EQ(portal.unmet.List.size(), 1u);
   EXPECT_TRUE(portal.unmet.List[0].starts_with("Not met: Aa, X: at the "));
   EXPECT_TRUE(driver->Visible("unmet"));
+}
+
+// Somebody else has the file: what it keeps must not be written over.
+TEST_F(FrmSeatingTest, WishesThatCannotBeReadStay) {
+  ASSERT_EQ(KeepSeatWishes(Current().FileName, {{"front", "3", ""}}), "");
+  const std::string companion = CompanionPath(Current().FileName);
+  Open();
+  {
+    Database other(companion, Database::Mode::kWrite);
+    other.Run("PRAGMA user_version=99");
+  }
+  New(2, 3, "bywishes");
+  driver->Choose("wisher", 0);
+  driver->Choose("wishkind", 0);
+  driver->Press("addwish");
+  EXPECT_EQ(portal.wishes.wishlist.List, Cards{"Aa, X: at the front"});
+  {
+    Database other(companion, Database::Mode::kWrite);
+    other.Run("PRAGMA user_version=1");
+  }
+  EXPECT_EQ(SeatWishes(Current().FileName).wishes, (std::vector<SeatWish>{{"front", "3", ""}}));
+}
+
+// A student who left may come back.
+TEST_F(FrmSeatingTest, WishesOfStudentsWhoAreAwayAreKept) {
+  ASSERT_EQ(KeepSeatWishes(Current().FileName, {{"front", "away", ""}}), "");
+  Open();
+  New(2, 3, "bywishes");
+  driver->Choose("wisher", 0);
+  driver->Choose("wishkind", 0);
+  driver->Press("addwish");
+  EXPECT_EQ(SeatWishes(Current().FileName).wishes,
+            (std::vector<SeatWish>{{"front", "1", ""}, {"front", "away", ""}}));
+}
+
+TEST_F(FrmSeatingTest, EscapeGoesBackAStep) {
+  Open();
+  New(2, 3, "bywishes");
+  for (const int step : {frmseating::kOptions, frmseating::kSize, frmseating::kChart}) {
+    driver->CloseWindow();
+    EXPECT_EQ(portal.step.Current, step);
+  }
+  EXPECT_FALSE(portal.Unloaded());
 }
 
 TEST_F(FrmSeatingTest, AWishIsTakenAway) {

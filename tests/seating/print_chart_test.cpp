@@ -80,6 +80,22 @@ TEST_F(PrintChartTest, WhoHasNoSeatIsNamedBelow) {
   EXPECT_TRUE(Has(Page(plan), "Without a seat: Ba, X"));
 }
 
+// Whom the page has no room to name is counted: names and count together are all of them.
+TEST_F(PrintChartTest, NobodyIsMissingBelowAFullChart) {
+  Enrol(600);
+  SeatPlan plan = EmptyPlan(15, 1);
+  FillAsSorted(plan);
+  int named = 0, counted = 0;
+  for (const PrintedText& text : Page(plan).texts) {
+    for (std::size_t at = text.text.find(", X"); at != std::string::npos;
+         at = text.text.find(", X", at + 1))
+      ++named;
+    if (text.text.starts_with("... and ")) counted = std::stoi(text.text.substr(8));
+  }
+  EXPECT_GT(counted, 0);
+  EXPECT_EQ(named + counted, 585);
+}
+
 TEST_F(PrintChartTest, FromNineRowsOnThePageLiesAcrossAndTheTeacherIsTold) {
   const auto print = [this](int columns) {
     screen.ExpectPortal("printmsg", [](PortalDriver& driver) { driver.Press("continue"); });
