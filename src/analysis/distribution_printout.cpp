@@ -1,10 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "analysis/distribution_printout.h"
 
+#include <algorithm>
+
 #include "analysis/grade_figures.h"
 #include "base/number_text.h"
 #include "base/text.h"
 #include "printing/page_frame.h"
+#include "printing/paper_line.h"
 #include "printing/print_command.h"
 #include "printing/print_message.h"
 #include "printing/print_run.h"
@@ -38,8 +41,18 @@ void AddFigures(std::vector<ColumnLine>& lines, const GradeFigures& figures) {
   AddFigure(lines, "The class average was ", SignedNumberText(figures.average));
 }
 
+// How wide a column is, so that the last one and what it holds stay on the page.
+double WidthOfColumn(const PrintTarget& target, const std::vector<ColumnLine>& lines) {
+  constexpr int kLastText = 12;
+  int columns = 1;
+  for (const ColumnLine& line : lines)
+    for (const ColumnText& text : line) columns = std::max(columns, text.column + kLastText);
+  return std::min(target.AverageCharWidth(), static_cast<double>(Job.PageTextWidth) / columns);
+}
+
 bool PrintLines(ReportPass& pass, const std::vector<ColumnLine>& lines) {
   PrintTarget& target = pass.target;
+  const double width = WidthOfColumn(target, lines);
   for (const ColumnLine& line : lines) {
     if (Cancelled()) return false;
     if (WouldPassBottom(target, 1)) {
@@ -47,11 +60,9 @@ bool PrintLines(ReportPass& pass, const std::vector<ColumnLine>& lines) {
       NewPageOn(target);
       ++pass.page;
     }
-    for (const ColumnText& text : line) {
-      target.Tab(text.column);
-      target.PrintOpen(text.text);
-    }
-    target.Print();
+    PaperLine on_paper(target);
+    for (const ColumnText& text : line) on_paper.Put((text.column - 1) * width, text.text);
+    on_paper.End();
   }
   return true;
 }

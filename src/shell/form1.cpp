@@ -154,9 +154,10 @@ void Form1::RunPortal(std::string_view portal, int open_state, AfterPortal after
 void Form1::SavePassword() {
   mnusave_Click();
   if (Current().Changed != kFalse) return;
-  ShowStatus(SavedText(Current().FileName) + (Current().PasswordSet == 1
-                                                  ? " It opens with its password from now on."
-                                                  : " It opens without a password from now on."));
+  // What the save told stays: it may name a file that was kept.
+  ShowStatus(StatusText + (Current().PasswordSet == 1
+                               ? " It opens with its password from now on."
+                               : " It opens without a password from now on."));
 }
 
 void Form1::mnuAverage_Click() {

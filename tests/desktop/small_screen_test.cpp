@@ -5,6 +5,7 @@
 #include <QApplication>
 #include <QLayout>
 #include <QLineEdit>
+#include <QPushButton>
 #include <QScreen>
 #include <QScrollArea>
 
@@ -31,7 +32,8 @@ class SmallScreen : public ClassDialogs {
     OpenState = 15;
   }
 
-  // The row of buttons at the foot, or the pages that hold it.
+  // The row of buttons at the foot, or the pages that hold it; all buttons where there is no such
+  // row.
   QList<QAbstractButton*> FootButtons() {
     QLayout& whole = *dialog->layout();
     QLayoutItem& last = *whole.itemAt(whole.count() - 1);
@@ -41,6 +43,9 @@ class SmallScreen : public ClassDialogs {
       const bool in_pages = last.widget() && last.widget()->isAncestorOf(button);
       if ((in_row || in_pages) && button->isVisible()) buttons << button;
     }
+    if (!buttons.isEmpty()) return buttons;
+    for (auto* button : dialog->findChildren<QPushButton*>())
+      if (button->isVisible()) buttons << button;
     return buttons;
   }
 };
