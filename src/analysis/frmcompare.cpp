@@ -21,6 +21,13 @@ std::string Numbered(std::string_view name, std::size_t i) {
   return std::string(name) + "_" + PlainNumberText(static_cast<std::int64_t>(i) + 1);
 }
 
+// A label takes the letter behind a single "&" for a key.
+std::string WithoutMnemonic(std::string_view name) {
+  std::string caption;
+  for (const char c : name) caption += c == '&' ? "&&" : std::string(1, c);
+  return caption;
+}
+
 int SumOf(const std::vector<RangeCounts>& ranges, std::size_t range) {
   return std::accumulate(ranges.begin(), ranges.end(), 0,
                          [range](int sum, const RangeCounts& r) { return sum + r[range]; });
@@ -108,7 +115,7 @@ void frmcompare::continue1_Click() {
     Combo1[i].List.clear();
     if (i >= slots.size()) continue;
     compared_.push_back({slots[i], 0, names[i]});
-    labelclass[i].Caption = names[i];
+    labelclass[i].Caption = WithoutMnemonic(names[i]);
     const Class& c = Classes[static_cast<std::size_t>(slots[i])];
     for (int grade = 1; grade <= GradeCount(c); ++grade)
       Combo1[i].List.emplace_back(TrimRight(c.Instruments[static_cast<std::size_t>(grade)].title));

@@ -55,6 +55,16 @@ TEST_F(FrmcompareTest, AtLeastTwoMustBeChosen) {
   EXPECT_FALSE(driver->Visible("Combo1_3"));
 }
 
+TEST_F(FrmcompareTest, AnAmpersandInAFilesNameIsNoKey) {
+  Classes[2].FileName = "/b/r&d.tyr";
+  frmcompare portal;
+  Open(portal);
+  driver->Check("Listfiles", 0);
+  driver->Check("Listfiles", 1);
+  driver->Press("continue1");
+  EXPECT_EQ(driver->Text("labelclass_2"), "R&&D.TYR");
+}
+
 TEST_F(FrmcompareTest, EachClassNeedsAGrade) {
   frmcompare portal;
   Open(portal);

@@ -102,6 +102,33 @@ TEST_F(GradeFiguresTest, AnAverageOf327And68HundredthsIsTooLarge) {
   EXPECT_FALSE(FiguresOfGrade(1).has_value());
 }
 
+// 983 / 3 = 327.667 is 327.67 and the last that fits; 1638.4 / 5 = 327.68 is the first that does
+// not.
+TEST_F(GradeFiguresTest, TheLastAverageThatFitsIs327And67Hundredths) {
+  GradeWith({"327.6", "327.6", "327.8"});
+  ASSERT_TRUE(FiguresOfGrade(1));
+  EXPECT_EQ(FiguresOfGrade(1)->average, Money("327.67"));
+}
+
+TEST_F(GradeFiguresTest, TheFirstAverageThatDoesNotIs327And68Hundredths) {
+  GradeWith({"327.6", "327.7", "327.7", "327.7", "327.7"});
+  EXPECT_FALSE(FiguresOfGrade(1));
+}
+
+// The mean of -3 and 80 is 38.5, from which both lie 41.5.
+TEST_F(GradeFiguresTest, ANegativeGradeCountsAsPresentAndFailed) {
+  GradeWith({"-3", "80"});
+  const auto figures = FiguresOfGrade(1);
+  ASSERT_TRUE(figures);
+  EXPECT_EQ(figures->present, 2);
+  EXPECT_EQ(figures->passed, 1);
+  EXPECT_EQ(figures->failed, 1);
+  EXPECT_EQ(figures->average, Money("38.5"));
+  EXPECT_EQ(figures->lowest, Money("-3"));
+  EXPECT_EQ(figures->highest, Money("80"));
+  EXPECT_EQ(figures->deviation, 41.5);
+}
+
 // Three times 33.333: the squares are 3 * 1111.0889 (1111.088889 rounded) = 3333.2667; the sum
 // 99.999 squared is 9999.80000 rounded to 9999.8, a third of which is 3333.2667. With 77.777 the
 // square is 6049.261729, rounded 6049.2617, thrice 18147.7851; 233.331 squared is 54443.355561,
