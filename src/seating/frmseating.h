@@ -67,6 +67,7 @@ struct frmseating : Portal {
   bool MayLoseChanges();
   void ListCharts();
   void Begin(SeatPlan plan, int chart, bool is_new);
+  void FillSizes();
   void FillNew(void (*fill)(SeatPlan& plan));
   void Store();
   void ShowPlan();
