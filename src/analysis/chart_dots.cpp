@@ -29,7 +29,8 @@ void DrawDots(ChartPainter& painter, const ChartFrame& strip, double slot) {
   };
   std::vector<int> stacked(painter.chart().Points() * static_cast<std::size_t>(places), 0);
   const auto stack_of = [&](const ChartDot& dot) -> int& {
-    return stacked[static_cast<std::size_t>(dot.point * places + column_of(dot))];
+    const auto first = static_cast<std::size_t>(dot.point) * static_cast<std::size_t>(places);
+    return stacked[first + static_cast<std::size_t>(column_of(dot))];
   };
   for (const ChartDot& dot : dots) ++stack_of(dot);
   const int highest = *std::max_element(stacked.begin(), stacked.end());

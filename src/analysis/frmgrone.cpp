@@ -31,8 +31,8 @@ TypesByCode TypesOfClass() {
 
 std::string ProgressLabel(int student) {
   const Student& shown = Current().Students[static_cast<std::size_t>(student)];
-  const std::string name = UpperCase(Trim(shown.firstname)) + " " + UpperCase(Trim(shown.lastname));
-  const std::string id(Trim(shown.id));
+  std::string name = UpperCase(Trim(shown.firstname)) + " " + UpperCase(Trim(shown.lastname));
+  std::string id(Trim(shown.id));
   switch (NameMode) {
     case 'D':
       return name + " " + id;

@@ -125,6 +125,7 @@ std::vector<int> frmsingles::Ranked() const {
   if (mnulowest.Value) std::stable_sort(rows.begin(), rows.end(), rises);
   if (mnuheighest.Value) std::stable_sort(rows.begin(), rows.end(), falls);
   std::vector<int> students;
+  students.reserve(rows.size());
   for (const auto& [value, student] : rows) students.push_back(student);
   return students;
 }

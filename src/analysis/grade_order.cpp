@@ -18,6 +18,7 @@ namespace {
 template <typename KeyOf>
 void SortByKey(std::vector<int>& grades, KeyOf key_of) {
   std::vector<std::pair<decltype(key_of(1)), int>> keyed;
+  keyed.reserve(grades.size());
   for (const int grade : grades) keyed.emplace_back(key_of(grade), grade);
   std::stable_sort(keyed.begin(), keyed.end(),
                    [](const auto& a, const auto& b) { return a.first < b.first; });

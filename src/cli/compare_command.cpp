@@ -48,6 +48,7 @@ CommandResult OpenAll(const CompareOptions& options, std::vector<ComparedGrade>&
     if (i > 1) std::swap(Classes[i], Classes[1]);
   }
   std::vector<int> slots;
+  slots.reserve(compared.size());
   for (const ComparedGrade& each : compared) slots.push_back(each.slot);
   const std::vector<std::string> names = ClassNames(slots);
   for (std::size_t i = 0; i < names.size(); ++i) compared[i].name = names[i];
@@ -144,7 +145,7 @@ std::string JsonOf(const std::vector<ComparedGrade>& compared) {
 
 CommandResult RunCompare(const CompareOptions& options) {
   std::vector<ComparedGrade> compared;
-  const CommandResult opened = OpenAll(options, compared);
+  CommandResult opened = OpenAll(options, compared);
   if (opened.refused) return opened;
   return Done(options.json ? JsonOf(compared) : Text(compared));
 }

@@ -90,7 +90,7 @@ std::string WriteChartPdf(const SeatingOptions& options, const SeatPlan& plan, i
     DrawChartPage(target, plan, name);
   };
   if (!LowerCase(options.out).ends_with(".pdf")) return "a chart's file must end in .pdf";
-  if (const std::string reason = WhyNotOver(options.out); !reason.empty()) return reason;
+  if (std::string reason = WhyNotOver(options.out); !reason.empty()) return reason;
   const PdfOutcome outcome =
       WritePdfPage(options.out, name, draw, plan.columns >= kLandscapeColumns);
   return outcome.error == 0 ? outcome.refusal : FileErrorText(outcome.error);

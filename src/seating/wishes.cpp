@@ -86,7 +86,7 @@ std::string WishText(const Wish& wish) {
   const auto label = [](int student) {
     return SeatLabel(Current().Students[static_cast<std::size_t>(student)]);
   };
-  const std::string who = label(wish.student) + ": ";
+  std::string who = label(wish.student) + ": ";
   switch (wish.kind) {
     case WishKind::kFront:
       return who + "at the front";

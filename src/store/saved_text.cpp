@@ -8,7 +8,7 @@ namespace tallyroll {
 
 std::optional<std::string> AskForText(FileDialogRequest request) {
   request.encoding = &SavedTextEncoding;
-  const std::optional<std::string> path = Platform().FileDialog(request);
+  std::optional<std::string> path = Platform().FileDialog(request);
   if (path) SaveTextEncoding();
   return path;
 }
