@@ -12,9 +12,9 @@
 #include "analysis/grade_figures.h"
 #include "bench/big_class.h"
 #include "bench/open_class.h"
-#include "desktop/chart_widget.h"
-#include "desktop/grid_widget.h"
-#include "desktop/portal_dialog.h"
+#include "desktop/grid/grid_widget.h"
+#include "desktop/portal/chart_widget.h"
+#include "desktop/portal/portal_dialog.h"
 #include "grades/marks.h"
 
 namespace tallyroll {

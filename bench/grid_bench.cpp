@@ -11,8 +11,8 @@
 
 #include "bench/big_class.h"
 #include "bench/open_class.h"
-#include "desktop/grid_widget.h"
-#include "desktop/text_conversion.h"
+#include "desktop/basics/text_conversion.h"
+#include "desktop/grid/grid_widget.h"
 #include "shell/shell_state.h"
 
 namespace tallyroll {

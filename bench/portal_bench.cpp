@@ -15,14 +15,14 @@
 #include <optional>
 
 #include "attendance/frmAtt.h"
-#include "averages/frmscrnavg.h"
+#include "averages/portals/frmscrnavg.h"
 #include "base/date_serial.h"
 #include "base/number_text.h"
 #include "bench/big_class.h"
 #include "bench/open_class.h"
-#include "desktop/grid_widget.h"
-#include "desktop/portal_dialog.h"
-#include "desktop/text_conversion.h"
+#include "desktop/basics/text_conversion.h"
+#include "desktop/grid/grid_widget.h"
+#include "desktop/portal/portal_dialog.h"
 #include "grades/frmMarks.h"
 #include "store/class_defaults.h"
 

@@ -17,7 +17,7 @@
 #include "bench/open_class.h"
 #include "desktop/paper/pdf_target.h"
 #include "printing/print_run.h"
-#include "printing/reports.h"
+#include "printing/reports/reports.h"
 #include "store/class_defaults.h"
 #include "store/program_state.h"
 

@@ -3,7 +3,7 @@
 #include <QApplication>
 #include <QTimer>
 
-#include "desktop/grid_widget.h"
+#include "desktop/grid/grid_widget.h"
 #include "desktop/program.h"
 
 namespace {

@@ -9,8 +9,8 @@
 #include "platform/headless.h"
 #include "store/class_defaults.h"
 #include "store/program_state.h"
-#include "store/text_export.h"
-#include "store/text_import.h"
+#include "store/text/text_export.h"
+#include "store/text/text_import.h"
 #include "store/text_layout.h"
 
 namespace tallyroll {

@@ -2,11 +2,11 @@
 // Text files of students and of grades in every layout. The first byte chooses the layout.
 #include "fuzz/fuzzing.h"
 #include "platform/headless.h"
-#include "store/grade_file.h"
 #include "store/program_state.h"
-#include "store/taken_ids.h"
-#include "store/text_export.h"
-#include "store/text_import.h"
+#include "store/text/grade_file.h"
+#include "store/text/taken_ids.h"
+#include "store/text/text_export.h"
+#include "store/text/text_import.h"
 #include "store/text_layout.h"
 
 namespace tallyroll {

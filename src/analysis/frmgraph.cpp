@@ -3,7 +3,7 @@
 
 #include "analysis/distribution_printout.h"
 #include "analysis/grade_charts.h"
-#include "averages/frminfo.h"
+#include "averages/portals/frminfo.h"
 #include "base/number_text.h"
 #include "base/text.h"
 #include "grades/marks.h"

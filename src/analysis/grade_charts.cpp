@@ -8,8 +8,8 @@
 #include "base/number_text.h"
 #include "base/text.h"
 #include "grades/marks.h"
+#include "printing/page/print_job.h"
 #include "printing/print_command.h"
-#include "printing/print_job.h"
 #include "store/program_state.h"
 #include "store/student_names.h"
 

@@ -6,7 +6,7 @@
 #include "cli/commands.h"
 #include "cli/text_layouts.h"
 #include "store/program_state.h"
-#include "store/text_export.h"
+#include "store/text/text_export.h"
 
 namespace tallyroll {
 namespace {

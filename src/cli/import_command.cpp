@@ -10,7 +10,7 @@
 #include "store/class_defaults.h"
 #include "store/program_state.h"
 #include "store/safe_file.h"
-#include "store/text_import.h"
+#include "store/text/text_import.h"
 
 namespace tallyroll {
 namespace {

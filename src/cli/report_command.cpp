@@ -15,12 +15,12 @@
 #include "cli/pdf.h"
 #include "cli/text_layouts.h"
 #include "grades/marks.h"
-#include "printing/html_report.h"
-#include "printing/report_choice.h"
-#include "printing/reports.h"
+#include "printing/page/report_choice.h"
+#include "printing/reports/html_report.h"
+#include "printing/reports/reports.h"
 #include "store/program_state.h"
-#include "store/saved_text.h"
 #include "store/sort_students.h"
+#include "store/text/saved_text.h"
 
 namespace tallyroll {
 namespace {

@@ -13,7 +13,7 @@
 #include "cli/json_text.h"
 #include "cli/pdf.h"
 #include "cli/table_text.h"
-#include "printing/print_job.h"
+#include "printing/page/print_job.h"
 #include "seating/chart_records.h"
 #include "seating/fill_chart.h"
 #include "seating/kept_wishes.h"

@@ -5,8 +5,8 @@
 #include <algorithm>
 #include <string_view>
 
+#include "desktop/basics/text_conversion.h"
 #include "desktop/program.h"
-#include "desktop/text_conversion.h"
 
 namespace {
 

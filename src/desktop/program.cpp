@@ -6,12 +6,12 @@
 #include <QTimer>
 #include <memory>
 
-#include "desktop/appearance.h"
-#include "desktop/frame_window.h"
-#include "desktop/help_window.h"
-#include "desktop/palette_icon.h"
-#include "desktop/qt_surroundings.h"
-#include "desktop/wheel_guard.h"
+#include "desktop/basics/appearance.h"
+#include "desktop/basics/palette_icon.h"
+#include "desktop/platform/qt_surroundings.h"
+#include "desktop/portal/wheel_guard.h"
+#include "desktop/window/frame_window.h"
+#include "desktop/window/help_window.h"
 #include "shell/program.h"
 #include "shell/shell_state.h"
 

@@ -7,7 +7,7 @@
 
 #include "grades/grade_clipboard.h"
 #include "grades/grade_form.h"
-#include "store/grade_file.h"
+#include "store/text/grade_file.h"
 
 namespace tallyroll {
 

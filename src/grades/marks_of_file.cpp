@@ -6,11 +6,11 @@
 #include "grades/marks.h"
 #include "platform/class_window.h"
 #include "platform/surroundings.h"
-#include "store/box_list.h"
 #include "store/class_defaults.h"
 #include "store/class_format.h"
 #include "store/program_state.h"
 #include "store/student_names.h"
+#include "store/text/box_list.h"
 
 namespace tallyroll {
 

@@ -8,9 +8,9 @@
 #include "grades/marks.h"
 #include "grades/method_reset.h"
 #include "platform/surroundings.h"
-#include "printing/report_codes.h"
-#include "printing/report_parts.h"
-#include "printing/reports.h"
+#include "printing/reports/report_codes.h"
+#include "printing/reports/report_parts.h"
+#include "printing/reports/reports.h"
 #include "store/program_state.h"
 #include "store/student_names.h"
 

@@ -10,8 +10,8 @@
 #include "platform/class_window.h"
 #include "platform/surroundings.h"
 #include "printing/print_command.h"
-#include "printing/report_codes.h"
-#include "printing/reports.h"
+#include "printing/reports/report_codes.h"
+#include "printing/reports/reports.h"
 #include "printing/running.h"
 #include "store/program_state.h"
 

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "printing/month_printout.h"
 
+#include "printing/page/report_choice.h"
 #include "printing/print_command.h"
 #include "printing/print_run.h"
-#include "printing/report_choice.h"
-#include "printing/report_codes.h"
+#include "printing/reports/report_codes.h"
 #include "store/program_state.h"
 
 namespace tallyroll {

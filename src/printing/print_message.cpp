@@ -2,7 +2,7 @@
 #include "printing/print_message.h"
 
 #include "platform/surroundings.h"
-#include "printing/print_job.h"
+#include "printing/page/print_job.h"
 
 namespace tallyroll {
 namespace {

@@ -6,10 +6,10 @@
 
 #include "platform/surroundings.h"
 #include "printing/frmprintall.h"
+#include "printing/page/report_choice.h"
 #include "printing/print_command.h"
-#include "printing/report_choice.h"
-#include "printing/report_codes.h"
-#include "printing/reports.h"
+#include "printing/reports/report_codes.h"
+#include "printing/reports/reports.h"
 #include "printing/running.h"
 #include "store/program_state.h"
 #include "store/sort_students.h"

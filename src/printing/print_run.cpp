@@ -3,9 +3,9 @@
 
 #include <algorithm>
 
-#include "printing/report_choice.h"
-#include "printing/report_codes.h"
-#include "printing/reports.h"
+#include "printing/page/report_choice.h"
+#include "printing/reports/report_codes.h"
+#include "printing/reports/reports.h"
 #include "store/program_state.h"
 #include "store/settings.h"
 

@@ -5,7 +5,7 @@
 #include <functional>
 
 #include "platform/surroundings.h"
-#include "printing/print_job.h"
+#include "printing/page/print_job.h"
 
 namespace tallyroll {
 

@@ -5,7 +5,7 @@
 
 #include "base/code_page.h"
 #include "base/number_text.h"
-#include "printing/print_job.h"
+#include "printing/page/print_job.h"
 #include "store/program_state.h"
 
 namespace tallyroll {

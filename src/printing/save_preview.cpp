@@ -8,14 +8,14 @@
 #include "base/text.h"
 #include "platform/surroundings.h"
 #include "printing/frmprintpre.h"
-#include "printing/html_report.h"
+#include "printing/page/report_choice.h"
 #include "printing/print_command.h"
-#include "printing/report_choice.h"
-#include "printing/reports.h"
+#include "printing/reports/html_report.h"
+#include "printing/reports/reports.h"
 #include "printing/running.h"
 #include "store/class_file.h"
 #include "store/program_state.h"
-#include "store/saved_text.h"
+#include "store/text/saved_text.h"
 
 namespace tallyroll {
 namespace {

@@ -4,8 +4,8 @@
 #include <algorithm>
 
 #include "platform/surroundings.h"
-#include "printing/page_frame.h"
-#include "printing/paper_line.h"
+#include "printing/page/page_frame.h"
+#include "printing/page/paper_line.h"
 #include "printing/print_command.h"
 #include "printing/print_run.h"
 

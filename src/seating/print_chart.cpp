@@ -6,7 +6,7 @@
 #include "base/number_text.h"
 #include "base/text.h"
 #include "platform/surroundings.h"
-#include "printing/page_frame.h"
+#include "printing/page/page_frame.h"
 #include "printing/print_command.h"
 #include "printing/print_message.h"
 #include "seating/card_details.h"

@@ -8,9 +8,9 @@
 #include "roster/frmEdit.h"
 #include "shell/shell_state.h"
 #include "store/frmpassword.h"
-#include "store/grade_file.h"
 #include "store/settings.h"
-#include "store/text_export.h"
+#include "store/text/grade_file.h"
+#include "store/text/text_export.h"
 
 namespace tallyroll {
 namespace {

@@ -3,7 +3,7 @@
 
 #include "attendance/term_table.h"
 #include "averages/engine/average_state.h"
-#include "printing/print_job.h"
+#include "printing/page/print_job.h"
 #include "roster/frmstudents.h"
 #include "shell/shell_state.h"
 #include "store/program_state.h"

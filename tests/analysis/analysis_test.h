@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-#include "tests/averages/portal_class.h"
+#include "tests/averages/portals/portal_class.h"
 
 namespace tallyroll {
 

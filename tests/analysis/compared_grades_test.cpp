@@ -4,7 +4,7 @@
 #include "analysis/distribution_printout.h"
 #include "analysis/grade_figures.h"
 #include "analysis/open_classes.h"
-#include "printing/print_job.h"
+#include "printing/page/print_job.h"
 #include "tests/analysis/analysis_test.h"
 
 namespace tallyroll {

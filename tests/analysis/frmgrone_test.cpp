@@ -5,7 +5,7 @@
 
 #include <cmath>
 
-#include "averages/frminfo.h"
+#include "averages/portals/frminfo.h"
 #include "tests/analysis/analysis_test.h"
 
 namespace tallyroll {

@@ -7,7 +7,7 @@
 
 #include "averages/average_lines.h"
 #include "base/run_time_error.h"
-#include "tests/averages/average_test.h"
+#include "tests/averages/engine/average_test.h"
 
 namespace tallyroll {
 namespace {

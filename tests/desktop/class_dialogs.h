@@ -9,8 +9,8 @@
 #include <memory>
 
 #include "attendance/attendance_range.h"
-#include "desktop/grid_widget.h"
-#include "desktop/portal_dialog.h"
+#include "desktop/grid/grid_widget.h"
+#include "desktop/portal/portal_dialog.h"
 #include "platform/headless.h"
 #include "shell/program.h"
 #include "store/program_state.h"

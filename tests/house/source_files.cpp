@@ -55,8 +55,8 @@ void AppendBlanked(std::string& code, std::string_view piece) {
 
 }  // namespace
 
-std::vector<SourceFile> SourceFiles() {
-  const std::filesystem::path root = std::filesystem::path(SourceDir()) / "src";
+std::vector<SourceFile> SourceFiles(std::string_view below) {
+  const std::filesystem::path root = std::filesystem::path(SourceDir()) / below;
   std::vector<SourceFile> files;
   for (const auto& entry : std::filesystem::recursive_directory_iterator(root)) {
     if (!entry.is_regular_file() || !IsSource(entry.path())) continue;
@@ -68,11 +68,8 @@ std::vector<SourceFile> SourceFiles() {
   return files;
 }
 
-// What the command line shares with the desktop is a room of its own.
 std::string_view FolderOf(std::string_view path) {
-  constexpr std::string_view kPaper = "desktop/paper";
-  if (path.starts_with(kPaper) && path.substr(kPaper.size()).starts_with('/')) return kPaper;
-  const std::size_t slash = path.find('/');
+  const std::size_t slash = path.rfind('/');
   return slash == std::string_view::npos ? std::string_view() : path.substr(0, slash);
 }
 

@@ -9,14 +9,14 @@
 namespace tallyroll {
 
 struct SourceFile {
-  std::string path;  // from the folder src on: "base/text.cpp"
+  std::string path;  // from the folder asked for on: "base/text.cpp"
   std::string text;
 };
 
-// Every .h and .cpp file under src, by path.
-std::vector<SourceFile> SourceFiles();
+// Every .h and .cpp file under a folder of the checkout, by path.
+std::vector<SourceFile> SourceFiles(std::string_view below = "src");
 
-// The folder that a path below src begins with; empty for a file in src itself.
+// The room of a file, its whole way below src: "printing/page"; empty for a file in src itself.
 std::string_view FolderOf(std::string_view path);
 
 // The text with blanks for every comment, and where asked for what stands between quotes as well.

@@ -21,14 +21,11 @@ TEST(SourceFiles, FindsTheProgram) {
   EXPECT_NE(found->text.find("namespace tallyroll"), std::string::npos);
 }
 
-TEST(FolderOf, IsTheFirstPartOfThePath) {
-  EXPECT_EQ(FolderOf("averages/engine/engine.cpp"), "averages");
-  EXPECT_EQ(FolderOf("main.cpp"), "");
-}
-
-TEST(FolderOf, PaperIsARoomOfItsOwn) {
-  EXPECT_EQ(FolderOf("desktop/paper/sheet.h"), "desktop/paper");
+TEST(FolderOf, IsTheWholeWayToTheFile) {
+  EXPECT_EQ(FolderOf("averages/engine/engine.cpp"), "averages/engine");
+  EXPECT_EQ(FolderOf("averages/rounding.h"), "averages");
   EXPECT_EQ(FolderOf("desktop/paper_tray.h"), "desktop");
+  EXPECT_EQ(FolderOf("main.cpp"), "");
 }
 
 TEST(WithoutComments, BlanksBothKinds) {

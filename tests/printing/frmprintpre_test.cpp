@@ -6,8 +6,8 @@
 
 #include "base/code_page.h"
 #include "platform/class_window.h"
-#include "printing/html_report.h"
 #include "printing/printmsg.h"
+#include "printing/reports/html_report.h"
 #include "store/safe_file.h"
 #include "tests/printing/print_portal_test.h"
 

@@ -8,10 +8,10 @@
 
 #include "base/number_text.h"
 #include "platform/fixed_print_target.h"
-#include "printing/page_frame.h"
+#include "printing/page/page_frame.h"
+#include "printing/page/report_choice.h"
 #include "printing/print_run.h"
-#include "printing/report_choice.h"
-#include "printing/reports.h"
+#include "printing/reports/reports.h"
 #include "store/class_defaults.h"
 #include "store/program_state.h"
 #include "tests/support/portal_test.h"

@@ -4,7 +4,7 @@
 #include <algorithm>
 
 #include "platform/fixed_print_target.h"
-#include "printing/print_job.h"
+#include "printing/page/print_job.h"
 #include "seating/fill_chart.h"
 #include "tests/seating/seating_test.h"
 

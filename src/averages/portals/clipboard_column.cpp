@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "averages/clipboard_column.h"
+#include "averages/portals/clipboard_column.h"
 
 #include "base/line_reader.h"
 #include "platform/surroundings.h"

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "averages/frmdropgrade.h"
+#include "averages/portals/frmdropgrade.h"
 
 #include <algorithm>
 
 #include "averages/engine/lowest.h"
-#include "averages/type_grid.h"
+#include "averages/portals/type_grid.h"
 #include "base/number_text.h"
 #include "base/text.h"
 #include "grades/marks.h"

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "averages/frmgradesave.h"
+#include "averages/portals/frmgradesave.h"
 
 #include <cmath>
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "averages/frminfo.h"
+#include "averages/portals/frminfo.h"
 
 #include "platform/class_window.h"
 #include "platform/surroundings.h"

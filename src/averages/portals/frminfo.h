@@ -2,7 +2,7 @@
 // frminfo: the Show Information Portal, a student's record without the average.
 #pragma once
 
-#include "averages/student_screen.h"
+#include "averages/portals/student_screen.h"
 
 namespace tallyroll {
 

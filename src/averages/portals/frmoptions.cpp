@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "averages/frmoptions.h"
+#include "averages/portals/frmoptions.h"
 
 #include "averages/engine/lowest.h"
+#include "averages/portals/type_grid.h"
 #include "averages/rounding.h"
-#include "averages/type_grid.h"
 #include "base/number_text.h"
 #include "base/text.h"
 #include "grades/letters.h"

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "averages/frmpercents.h"
+#include "averages/portals/frmpercents.h"
 
 #include <algorithm>
 

@@ -3,8 +3,8 @@
 // types and, after the Points Portal, that by points and types.
 #pragma once
 
-#include "averages/type_grid.h"
-#include "averages/weights_form.h"
+#include "averages/portals/type_grid.h"
+#include "averages/portals/weights_form.h"
 
 namespace tallyroll {
 

@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "averages/frmpoints.h"
+#include "averages/portals/frmpoints.h"
 
 #include <algorithm>
 
 #include "averages/average_settings.h"
-#include "averages/clipboard_column.h"
-#include "averages/type_grid.h"
+#include "averages/portals/clipboard_column.h"
+#include "averages/portals/type_grid.h"
 #include "base/number_text.h"
 #include "base/run_time_error.h"
 #include "base/text.h"

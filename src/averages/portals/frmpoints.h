@@ -2,7 +2,7 @@
 // frmpoints: the Points Portal. It says which grades count in the total possible points.
 #pragma once
 
-#include "averages/frmtotals.h"
+#include "averages/portals/frmtotals.h"
 #include "store/program_state.h"
 
 namespace tallyroll {

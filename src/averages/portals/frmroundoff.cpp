@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "averages/frmroundoff.h"
+#include "averages/portals/frmroundoff.h"
 
 #include <algorithm>
 #include <limits>
 
-#include "averages/clipboard_column.h"
+#include "averages/portals/clipboard_column.h"
 #include "averages/rounding.h"
 #include "base/number_text.h"
 #include "base/text.h"

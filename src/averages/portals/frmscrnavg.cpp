@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "averages/frmscrnavg.h"
+#include "averages/portals/frmscrnavg.h"
 
 #include "averages/average_settings.h"
 #include "averages/rounding.h"

@@ -2,7 +2,7 @@
 // frmscrnavg: the Grades Portal. It walks the students and shows each one's average.
 #pragma once
 
-#include "averages/student_screen.h"
+#include "averages/portals/student_screen.h"
 
 namespace tallyroll {
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "averages/frmtotals.h"
+#include "averages/portals/frmtotals.h"
 
-#include "averages/type_grid.h"
+#include "averages/portals/type_grid.h"
 #include "base/number_text.h"
 
 namespace tallyroll {

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "averages/frmweights.h"
+#include "averages/portals/frmweights.h"
 
 #include <cmath>
 
-#include "averages/type_grid.h"
+#include "averages/portals/type_grid.h"
 #include "base/number_text.h"
 #include "base/text.h"
 #include "grades/marks.h"

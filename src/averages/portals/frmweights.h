@@ -2,7 +2,7 @@
 // frmweights: the Weights Portal for individual items. Each grade has a weight of its own.
 #pragma once
 
-#include "averages/weights_form.h"
+#include "averages/portals/weights_form.h"
 
 namespace tallyroll {
 

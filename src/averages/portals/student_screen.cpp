@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "averages/student_screen.h"
+#include "averages/portals/student_screen.h"
 
-#include "averages/type_grid.h"
+#include "averages/portals/type_grid.h"
 #include "base/text.h"
 #include "grades/marks.h"
 #include "store/class_format.h"

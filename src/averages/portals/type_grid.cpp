@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "averages/type_grid.h"
+#include "averages/portals/type_grid.h"
 
 #include "base/text.h"
 #include "grades/marks.h"

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "averages/weights_form.h"
+#include "averages/portals/weights_form.h"
 
 #include <algorithm>
 
-#include "averages/clipboard_column.h"
-#include "averages/type_grid.h"
+#include "averages/portals/clipboard_column.h"
+#include "averages/portals/type_grid.h"
 #include "base/number_text.h"
 #include "base/run_time_error.h"
 #include "platform/surroundings.h"

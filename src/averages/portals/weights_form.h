@@ -6,8 +6,8 @@
 #include <vector>
 
 #include "averages/average_settings.h"
-#include "averages/frmdropgrade.h"
-#include "averages/frmtotals.h"
+#include "averages/portals/frmdropgrade.h"
+#include "averages/portals/frmtotals.h"
 #include "platform/cell_typing.h"
 #include "platform/table_printer.h"
 #include "store/program_state.h"

@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // How the program looks: its style and its dark palette.
-#include "desktop/appearance.h"
+#include "desktop/basics/appearance.h"
 
 #include <QApplication>
 
-#include "desktop/palette_icon.h"
-#include "desktop/program_style.h"
+#include "desktop/basics/palette_icon.h"
+#include "desktop/basics/program_style.h"
 
 namespace tallyroll {
 

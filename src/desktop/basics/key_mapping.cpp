@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "desktop/key_mapping.h"
+#include "desktop/basics/key_mapping.h"
 
 #include <QKeyEvent>
 #include <array>

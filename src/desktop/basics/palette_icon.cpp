@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Icons in the colours of a palette, drawn when and as large as they are needed.
-#include "desktop/palette_icon.h"
+#include "desktop/basics/palette_icon.h"
 
 #include <QFile>
 #include <QIconEngine>

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "desktop/program_style.h"
+#include "desktop/basics/program_style.h"
 
 #include <QApplication>
 #include <QPainter>
@@ -8,7 +8,7 @@
 #include <QStyleOptionButton>
 #include <QStyleOptionComboBox>
 
-#include "desktop/palette_icon.h"
+#include "desktop/basics/palette_icon.h"
 
 namespace tallyroll {
 namespace {

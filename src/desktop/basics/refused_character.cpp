@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "desktop/refused_character.h"
+#include "desktop/basics/refused_character.h"
 
 #include <QToolTip>
 #include <QWidget>

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "desktop/text_conversion.h"
+#include "desktop/basics/text_conversion.h"
 
 #include <QFile>
 

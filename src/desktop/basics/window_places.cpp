@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "desktop/window_places.h"
+#include "desktop/basics/window_places.h"
 
 #include <QScreen>
 #include <QSettings>

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "desktop/cell_list.h"
+#include "desktop/grid/cell_list.h"
 
 #include <QAbstractItemView>
 #include <QCoreApplication>
@@ -10,9 +10,9 @@
 #include <QScrollBar>
 #include <QWheelEvent>
 
-#include "desktop/grid_colors.h"
-#include "desktop/grid_widget.h"
-#include "desktop/key_mapping.h"
+#include "desktop/basics/key_mapping.h"
+#include "desktop/grid/grid_colors.h"
+#include "desktop/grid/grid_widget.h"
 
 namespace tallyroll {
 namespace {

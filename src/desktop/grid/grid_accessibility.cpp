@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "desktop/grid_accessibility.h"
+#include "desktop/grid/grid_accessibility.h"
 
 #include <QAccessible>
 #include <QAccessibleTableInterface>
@@ -7,8 +7,8 @@
 #include <QHash>
 #include <QPointer>
 
-#include "desktop/grid_widget.h"
-#include "desktop/text_conversion.h"
+#include "desktop/basics/text_conversion.h"
+#include "desktop/grid/grid_widget.h"
 
 namespace tallyroll {
 namespace {

@@ -7,9 +7,9 @@
 #include <QToolTip>
 #include <algorithm>
 
-#include "desktop/grid_widget.h"
-#include "desktop/key_mapping.h"
-#include "desktop/text_conversion.h"
+#include "desktop/basics/key_mapping.h"
+#include "desktop/basics/text_conversion.h"
+#include "desktop/grid/grid_widget.h"
 
 namespace tallyroll {
 

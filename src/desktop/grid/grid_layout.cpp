@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "desktop/grid_layout.h"
+#include "desktop/grid/grid_layout.h"
 
 #include <algorithm>
 #include <cmath>

@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "desktop/grid_painter.h"
+#include "desktop/grid/grid_painter.h"
 
 #include <QFontMetricsF>
 #include <algorithm>
 #include <cmath>
 
 #include "base/text.h"
-#include "desktop/text_conversion.h"
+#include "desktop/basics/text_conversion.h"
 
 namespace tallyroll {
 namespace {

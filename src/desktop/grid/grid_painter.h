@@ -8,8 +8,8 @@
 #include <string_view>
 #include <vector>
 
-#include "desktop/grid_colors.h"
-#include "desktop/grid_layout.h"
+#include "desktop/grid/grid_colors.h"
+#include "desktop/grid/grid_layout.h"
 
 namespace tallyroll {
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "desktop/grid_widget.h"
+#include "desktop/grid/grid_widget.h"
 
 #include <QAccessible>
 #include <QFontInfo>
@@ -12,8 +12,8 @@
 #include <algorithm>
 #include <utility>
 
-#include "desktop/grid_accessibility.h"
-#include "desktop/text_conversion.h"
+#include "desktop/basics/text_conversion.h"
+#include "desktop/grid/grid_accessibility.h"
 
 namespace tallyroll {
 namespace {

@@ -5,8 +5,8 @@
 #include <QAbstractScrollArea>
 #include <optional>
 
-#include "desktop/grid_layout.h"
-#include "desktop/grid_painter.h"
+#include "desktop/grid/grid_layout.h"
+#include "desktop/grid/grid_painter.h"
 #include "platform/grid.h"
 
 namespace tallyroll {

@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "desktop/seats_widget.h"
+#include "desktop/grid/seats_widget.h"
 
 #include <QPaintEvent>
 #include <QPainter>
 #include <algorithm>
 
-#include "desktop/text_conversion.h"
+#include "desktop/basics/text_conversion.h"
 
 namespace tallyroll {
 namespace {

@@ -3,7 +3,7 @@
 // nobody does. The board stands above, with the numbers of the classroom's rows below it.
 #pragma once
 
-#include "desktop/grid_widget.h"
+#include "desktop/grid/grid_widget.h"
 
 namespace tallyroll {
 

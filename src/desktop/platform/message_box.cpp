@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "desktop/message_box.h"
+#include "desktop/platform/message_box.h"
 
 #include <QCloseEvent>
 #include <QKeyEvent>
 #include <QMessageBox>
 
-#include "desktop/text_conversion.h"
+#include "desktop/basics/text_conversion.h"
 
 namespace tallyroll {
 namespace {

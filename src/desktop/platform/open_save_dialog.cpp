@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "desktop/open_save_dialog.h"
+#include "desktop/platform/open_save_dialog.h"
 
 #include <QComboBox>
 #include <QDir>
@@ -10,7 +10,7 @@
 #include <QLineEdit>
 #include <QShortcut>
 
-#include "desktop/text_conversion.h"
+#include "desktop/basics/text_conversion.h"
 
 namespace tallyroll {
 namespace {

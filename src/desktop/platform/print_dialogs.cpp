@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "desktop/print_dialogs.h"
+#include "desktop/platform/print_dialogs.h"
 
 #include <QFontDialog>
 #include <QPageSetupDialog>
@@ -8,7 +8,7 @@
 #include <algorithm>
 #include <utility>
 
-#include "desktop/text_conversion.h"
+#include "desktop/basics/text_conversion.h"
 
 namespace tallyroll {
 namespace {

@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "desktop/printer_target.h"
+#include "desktop/platform/printer_target.h"
 
 #include <QPageLayout>
 #include <QPrinterInfo>
 #include <algorithm>
 
 #include "base/run_time_error.h"
-#include "desktop/text_conversion.h"
+#include "desktop/basics/text_conversion.h"
 
 namespace tallyroll {
 namespace {

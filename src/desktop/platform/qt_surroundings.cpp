@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "desktop/qt_surroundings.h"
+#include "desktop/platform/qt_surroundings.h"
 
 #include <QApplication>
 #include <QClipboard>
@@ -10,13 +10,13 @@
 #include <QRandomGenerator>
 #include <QStandardPaths>
 
-#include "desktop/message_box.h"
-#include "desktop/open_save_dialog.h"
+#include "desktop/basics/text_conversion.h"
 #include "desktop/paper/pdf_target.h"
-#include "desktop/portal_dialog.h"
-#include "desktop/print_dialogs.h"
-#include "desktop/printer_target.h"
-#include "desktop/text_conversion.h"
+#include "desktop/platform/message_box.h"
+#include "desktop/platform/open_save_dialog.h"
+#include "desktop/platform/print_dialogs.h"
+#include "desktop/platform/printer_target.h"
+#include "desktop/portal/portal_dialog.h"
 #include "platform/class_window.h"
 
 namespace tallyroll {

@@ -4,8 +4,8 @@
 #include <QLabel>
 #include <QProgressBar>
 
-#include "desktop/control_binding.h"
-#include "desktop/text_conversion.h"
+#include "desktop/basics/text_conversion.h"
+#include "desktop/portal/control_binding.h"
 
 namespace tallyroll {
 namespace {

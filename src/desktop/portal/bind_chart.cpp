@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Charts: the widget reads the chart in place, as a grid is read.
-#include "desktop/chart_widget.h"
-#include "desktop/control_binding.h"
+#include "desktop/portal/chart_widget.h"
+#include "desktop/portal/control_binding.h"
 
 namespace tallyroll {
 namespace {

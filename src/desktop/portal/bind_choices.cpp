@@ -11,11 +11,11 @@
 #include <QTabWidget>
 #include <cmath>
 
-#include "desktop/cell_list.h"
-#include "desktop/control_binding.h"
-#include "desktop/field_validator.h"
-#include "desktop/grid_widget.h"
-#include "desktop/text_conversion.h"
+#include "desktop/basics/text_conversion.h"
+#include "desktop/grid/cell_list.h"
+#include "desktop/grid/grid_widget.h"
+#include "desktop/portal/control_binding.h"
+#include "desktop/portal/field_validator.h"
 
 namespace tallyroll {
 namespace {

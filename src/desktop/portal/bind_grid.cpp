@@ -2,9 +2,9 @@
 // Grids: the widget reads the Grid in place, so there is nothing to copy.
 #include <algorithm>
 
-#include "desktop/card_drag.h"
-#include "desktop/control_binding.h"
-#include "desktop/grid_widget.h"
+#include "desktop/grid/grid_widget.h"
+#include "desktop/portal/card_drag.h"
+#include "desktop/portal/control_binding.h"
 
 namespace tallyroll {
 namespace {

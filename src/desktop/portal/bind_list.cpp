@@ -3,10 +3,10 @@
 #include <QListWidget>
 #include <QMouseEvent>
 
-#include "desktop/card_drag.h"
-#include "desktop/control_binding.h"
-#include "desktop/list_columns.h"
-#include "desktop/text_conversion.h"
+#include "desktop/basics/text_conversion.h"
+#include "desktop/portal/card_drag.h"
+#include "desktop/portal/control_binding.h"
+#include "desktop/portal/list_columns.h"
 
 namespace tallyroll {
 namespace {

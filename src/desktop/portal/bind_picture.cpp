@@ -2,8 +2,8 @@
 // Pictures: ornaments, and sheets of paper that scroll.
 #include <QScrollArea>
 
-#include "desktop/control_binding.h"
-#include "desktop/sheet_view.h"
+#include "desktop/portal/control_binding.h"
+#include "desktop/portal/sheet_view.h"
 
 namespace tallyroll {
 namespace {

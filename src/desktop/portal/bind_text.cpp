@@ -4,10 +4,10 @@
 #include <QTextCursor>
 #include <algorithm>
 
-#include "desktop/code_page_text_edit.h"
-#include "desktop/control_binding.h"
-#include "desktop/field_validator.h"
-#include "desktop/text_conversion.h"
+#include "desktop/basics/text_conversion.h"
+#include "desktop/portal/code_page_text_edit.h"
+#include "desktop/portal/control_binding.h"
+#include "desktop/portal/field_validator.h"
 
 namespace tallyroll {
 namespace {

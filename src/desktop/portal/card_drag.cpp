@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "desktop/card_drag.h"
+#include "desktop/portal/card_drag.h"
 
 #include <QApplication>
 #include <QDrag>

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "desktop/chart_widget.h"
+#include "desktop/portal/chart_widget.h"
 
 #include <QApplication>
 #include <QClipboard>
@@ -14,9 +14,9 @@
 
 #include "base/number_text.h"
 #include "base/text.h"
+#include "desktop/basics/text_conversion.h"
 #include "desktop/paper/chart_picture.h"
 #include "desktop/paper/qt_print_target.h"
-#include "desktop/text_conversion.h"
 #include "platform/surroundings.h"
 #include "platform/svg_print_target.h"
 #include "store/safe_file.h"

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "desktop/code_page_text_edit.h"
+#include "desktop/portal/code_page_text_edit.h"
 
 #include <QInputMethodEvent>
 #include <QKeyEvent>
@@ -8,8 +8,8 @@
 #include <algorithm>
 #include <limits>
 
-#include "desktop/refused_character.h"
-#include "desktop/text_conversion.h"
+#include "desktop/basics/refused_character.h"
+#include "desktop/basics/text_conversion.h"
 
 namespace tallyroll {
 namespace {

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "desktop/control_binding.h"
+#include "desktop/portal/control_binding.h"
 
 #include <QAbstractButton>
 #include <QAbstractItemView>
@@ -18,8 +18,8 @@
 #include <QTextEdit>
 #include <QWidget>
 
-#include "desktop/chart_widget.h"
-#include "desktop/grid_widget.h"
+#include "desktop/grid/grid_widget.h"
+#include "desktop/portal/chart_widget.h"
 
 namespace tallyroll {
 namespace {

@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "desktop/date_field.h"
+#include "desktop/portal/date_field.h"
 
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QMouseEvent>
 
-#include "desktop/key_mapping.h"
+#include "desktop/basics/key_mapping.h"
 
 namespace tallyroll {
 namespace {

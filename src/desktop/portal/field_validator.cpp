@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "desktop/field_validator.h"
+#include "desktop/portal/field_validator.h"
 
 #include <algorithm>
 
-#include "desktop/refused_character.h"
-#include "desktop/text_conversion.h"
+#include "desktop/basics/refused_character.h"
+#include "desktop/basics/text_conversion.h"
 
 namespace tallyroll {
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "desktop/form_loader.h"
+#include "desktop/portal/form_loader.h"
 
 #include <QAbstractItemView>
 #include <QAction>
@@ -10,13 +10,13 @@
 #include <QLayout>
 #include <utility>
 
-#include "desktop/cell_list.h"
-#include "desktop/chart_widget.h"
-#include "desktop/code_page_text_edit.h"
-#include "desktop/date_field.h"
-#include "desktop/grid_widget.h"
-#include "desktop/seats_widget.h"
-#include "desktop/text_conversion.h"
+#include "desktop/basics/text_conversion.h"
+#include "desktop/grid/cell_list.h"
+#include "desktop/grid/grid_widget.h"
+#include "desktop/grid/seats_widget.h"
+#include "desktop/portal/chart_widget.h"
+#include "desktop/portal/code_page_text_edit.h"
+#include "desktop/portal/date_field.h"
 
 namespace tallyroll {
 namespace {

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "desktop/list_columns.h"
+#include "desktop/portal/list_columns.h"
 
 #include <QApplication>
 #include <QListWidget>

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "desktop/portal_dialog.h"
+#include "desktop/portal/portal_dialog.h"
 
 #include <QAbstractButton>
 #include <QAbstractScrollArea>
@@ -9,12 +9,12 @@
 #include <QShortcutEvent>
 #include <utility>
 
-#include "desktop/form_loader.h"
-#include "desktop/key_mapping.h"
-#include "desktop/scrolling_body.h"
-#include "desktop/text_conversion.h"
-#include "desktop/wheel_guard.h"
-#include "desktop/window_places.h"
+#include "desktop/basics/key_mapping.h"
+#include "desktop/basics/text_conversion.h"
+#include "desktop/basics/window_places.h"
+#include "desktop/portal/form_loader.h"
+#include "desktop/portal/scrolling_body.h"
+#include "desktop/portal/wheel_guard.h"
 #include "platform/surroundings.h"
 
 namespace tallyroll {

@@ -7,7 +7,7 @@
 #include <memory>
 #include <vector>
 
-#include "desktop/control_binding.h"
+#include "desktop/portal/control_binding.h"
 #include "platform/portal.h"
 
 namespace tallyroll {

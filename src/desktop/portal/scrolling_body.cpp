@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "desktop/scrolling_body.h"
+#include "desktop/portal/scrolling_body.h"
 
 #include <QApplication>
 #include <QBoxLayout>
 #include <QDialog>
 #include <algorithm>
 
-#include "desktop/window_places.h"
+#include "desktop/basics/window_places.h"
 
 namespace tallyroll {
 namespace {

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "desktop/sheet_view.h"
+#include "desktop/portal/sheet_view.h"
 
 #include <QPainter>
 

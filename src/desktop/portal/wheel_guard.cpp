@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "desktop/wheel_guard.h"
+#include "desktop/portal/wheel_guard.h"
 
 #include <QAbstractSlider>
 #include <QAbstractSpinBox>
@@ -9,8 +9,8 @@
 #include <QScrollBar>
 #include <QTabBar>
 
-#include "desktop/cell_list.h"
-#include "desktop/grid_widget.h"
+#include "desktop/grid/cell_list.h"
+#include "desktop/grid/grid_widget.h"
 
 namespace tallyroll {
 namespace {

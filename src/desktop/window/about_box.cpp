@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // What this program is.
-#include "desktop/about_box.h"
+#include "desktop/window/about_box.h"
 
 #include <QMessageBox>
 

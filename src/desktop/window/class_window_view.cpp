@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // A class window on the screen: toolbar, grid and status bar of one Form1.
-#include "desktop/class_window_view.h"
+#include "desktop/window/class_window_view.h"
 
 #include <QAction>
 #include <QCloseEvent>
@@ -11,11 +11,11 @@
 #include <QVBoxLayout>
 
 #include "base/number_text.h"
-#include "desktop/grid_widget.h"
-#include "desktop/menu_view.h"
-#include "desktop/message_moment.h"
-#include "desktop/text_conversion.h"
-#include "desktop/toolbar_view.h"
+#include "desktop/basics/text_conversion.h"
+#include "desktop/grid/grid_widget.h"
+#include "desktop/window/menu_view.h"
+#include "desktop/window/message_moment.h"
+#include "desktop/window/toolbar_view.h"
 
 namespace tallyroll {
 

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The frame on the screen: one menu bar, the start page, and the class windows.
-#include "desktop/frame_window.h"
+#include "desktop/window/frame_window.h"
 
 #include <QAbstractEventDispatcher>
 #include <QAction>
@@ -14,14 +14,14 @@
 #include <QTimer>
 #include <QVBoxLayout>
 
-#include "desktop/about_box.h"
-#include "desktop/class_window_view.h"
-#include "desktop/menu_view.h"
-#include "desktop/message_moment.h"
-#include "desktop/start_page.h"
-#include "desktop/text_conversion.h"
-#include "desktop/tile_windows.h"
-#include "desktop/window_places.h"
+#include "desktop/basics/text_conversion.h"
+#include "desktop/basics/window_places.h"
+#include "desktop/window/about_box.h"
+#include "desktop/window/class_window_view.h"
+#include "desktop/window/menu_view.h"
+#include "desktop/window/message_moment.h"
+#include "desktop/window/start_page.h"
+#include "desktop/window/tile_windows.h"
 #include "shell/shell_state.h"
 
 namespace tallyroll {

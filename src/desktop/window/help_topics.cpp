@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The topics of the help by their context numbers.
-#include "desktop/help_topics.h"
+#include "desktop/window/help_topics.h"
 
 #include <algorithm>
 #include <array>

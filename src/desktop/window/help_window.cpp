@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The help: pages to read beside the work.
-#include "desktop/help_window.h"
+#include "desktop/window/help_window.h"
 
 #include <QAction>
 #include <QApplication>
@@ -9,8 +9,8 @@
 #include <QTextBrowser>
 #include <QToolBar>
 
-#include "desktop/help_topics.h"
-#include "desktop/window_places.h"
+#include "desktop/basics/window_places.h"
+#include "desktop/window/help_topics.h"
 
 namespace tallyroll {
 

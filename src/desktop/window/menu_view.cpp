@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // A menu bar's data drawn as Qt menus.
-#include "desktop/menu_view.h"
+#include "desktop/window/menu_view.h"
 
 #include <QKeySequence>
 #include <QMenu>
 #include <QMenuBar>
 
-#include "desktop/text_conversion.h"
+#include "desktop/basics/text_conversion.h"
 
 namespace tallyroll {
 

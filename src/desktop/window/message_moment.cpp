@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "desktop/message_moment.h"
+#include "desktop/window/message_moment.h"
 
 #include <QApplication>
 #include <utility>

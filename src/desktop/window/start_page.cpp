@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // What the frame shows while no class is open: how to begin, and the recent files.
-#include "desktop/start_page.h"
+#include "desktop/window/start_page.h"
 
 #include <QCommandLinkButton>
 #include <QEvent>
@@ -10,8 +10,8 @@
 #include <QPainter>
 #include <QVBoxLayout>
 
-#include "desktop/palette_icon.h"
-#include "desktop/text_conversion.h"
+#include "desktop/basics/palette_icon.h"
+#include "desktop/basics/text_conversion.h"
 
 namespace tallyroll {
 

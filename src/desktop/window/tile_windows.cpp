@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Sets the windows of an area side by side or one below another.
-#include "desktop/tile_windows.h"
+#include "desktop/window/tile_windows.h"
 
 #include <QMdiArea>
 #include <QMdiSubWindow>

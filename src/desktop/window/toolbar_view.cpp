@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The toolbar of a class window.
-#include "desktop/toolbar_view.h"
+#include "desktop/window/toolbar_view.h"
 
 #include <QAction>
 #include <QEvent>
 
-#include "desktop/palette_icon.h"
-#include "desktop/text_conversion.h"
+#include "desktop/basics/palette_icon.h"
+#include "desktop/basics/text_conversion.h"
 
 namespace tallyroll {
 

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "printing/line_table.h"
+#include "printing/page/line_table.h"
 
 #include <algorithm>
 #include <iterator>
 
-#include "printing/paper_line.h"
+#include "printing/page/paper_line.h"
 
 namespace tallyroll {
 namespace {

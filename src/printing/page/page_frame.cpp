@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "printing/page_frame.h"
+#include "printing/page/page_frame.h"
 
 #include <algorithm>
 #include <cmath>
@@ -9,8 +9,8 @@
 #include "base/text.h"
 #include "platform/portal.h"
 #include "platform/surroundings.h"
-#include "printing/paper_line.h"
-#include "printing/report_choice.h"
+#include "printing/page/paper_line.h"
+#include "printing/page/report_choice.h"
 #include "store/program_state.h"
 
 namespace tallyroll {

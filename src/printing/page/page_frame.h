@@ -5,7 +5,7 @@
 
 #include <string_view>
 
-#include "printing/print_job.h"
+#include "printing/page/print_job.h"
 
 namespace tallyroll {
 

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "printing/paper_line.h"
+#include "printing/page/paper_line.h"
 
 #include <algorithm>
 
-#include "printing/print_job.h"
+#include "printing/page/print_job.h"
 
 namespace tallyroll {
 namespace {

@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "printing/print_job.h"
+#include "printing/page/print_job.h"
 
 #include "base/number_text.h"
 #include "base/text.h"
 #include "platform/portal.h"
 #include "platform/surroundings.h"
-#include "printing/report_choice.h"
+#include "printing/page/report_choice.h"
 #include "store/program_state.h"
 #include "store/settings.h"
 #include "store/student_names.h"

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "printing/sections.h"
+#include "printing/page/sections.h"
 
 #include <algorithm>
 

@@ -6,7 +6,7 @@
 #include <functional>
 #include <vector>
 
-#include "printing/page_frame.h"
+#include "printing/page/page_frame.h"
 
 namespace tallyroll {
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "printing/text_report.h"
+#include "printing/page/text_report.h"
 
 #include "base/line_reader.h"
 

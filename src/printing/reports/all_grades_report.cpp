@@ -8,11 +8,11 @@
 #include "base/number_text.h"
 #include "base/text.h"
 #include "grades/marks.h"
-#include "printing/grade_columns.h"
-#include "printing/report_choice.h"
-#include "printing/report_writers.h"
-#include "printing/student_tail.h"
-#include "printing/type_totals_table.h"
+#include "printing/page/report_choice.h"
+#include "printing/reports/grade_columns.h"
+#include "printing/reports/report_writers.h"
+#include "printing/reports/student_tail.h"
+#include "printing/reports/type_totals_table.h"
 #include "store/program_state.h"
 
 namespace tallyroll {

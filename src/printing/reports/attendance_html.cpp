@@ -4,9 +4,9 @@
 #include "base/date_serial.h"
 #include "base/number_text.h"
 #include "base/text.h"
-#include "printing/html_parts.h"
-#include "printing/month_table.h"
-#include "printing/report_choice.h"
+#include "printing/page/html_parts.h"
+#include "printing/page/report_choice.h"
+#include "printing/reports/month_table.h"
 #include "store/program_state.h"
 #include "store/student_names.h"
 

@@ -3,9 +3,9 @@
 #include <array>
 #include <string>
 
-#include "printing/page_frame.h"
-#include "printing/paper_line.h"
-#include "printing/report_writers.h"
+#include "printing/page/page_frame.h"
+#include "printing/page/paper_line.h"
+#include "printing/reports/report_writers.h"
 #include "store/program_state.h"
 
 namespace tallyroll {

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "printing/code_details.h"
+#include "printing/reports/code_details.h"
 
 #include <array>
 #include <string>
@@ -8,8 +8,8 @@
 #include "base/number_text.h"
 #include "base/text.h"
 #include "grades/marks.h"
-#include "printing/grade_columns.h"
-#include "printing/paper_line.h"
+#include "printing/page/paper_line.h"
+#include "printing/reports/grade_columns.h"
 #include "store/program_state.h"
 
 namespace tallyroll {

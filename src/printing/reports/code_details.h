@@ -2,8 +2,8 @@
 // The table behind the students that explains the codes: every grade of the class, then the types.
 #pragma once
 
-#include "printing/report_parts.h"
-#include "printing/sections.h"
+#include "printing/page/sections.h"
+#include "printing/reports/report_parts.h"
 
 namespace tallyroll {
 

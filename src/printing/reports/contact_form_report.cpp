@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Codes 20 and 21: a block of six lines a student, for the whole class or for one.
-#include "printing/paper_line.h"
-#include "printing/report_writers.h"
-#include "printing/sections.h"
+#include "printing/page/paper_line.h"
+#include "printing/page/sections.h"
+#include "printing/reports/report_writers.h"
 #include "store/program_state.h"
 #include "store/student_names.h"
 

@@ -5,12 +5,12 @@
 #include <vector>
 
 #include "base/text.h"
-#include "printing/code_details.h"
-#include "printing/paper_line.h"
-#include "printing/report_choice.h"
-#include "printing/report_writers.h"
-#include "printing/student_rows.h"
-#include "printing/type_totals_table.h"
+#include "printing/page/paper_line.h"
+#include "printing/page/report_choice.h"
+#include "printing/reports/code_details.h"
+#include "printing/reports/report_writers.h"
+#include "printing/reports/student_rows.h"
+#include "printing/reports/type_totals_table.h"
 #include "store/program_state.h"
 
 namespace tallyroll {

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "printing/grade_columns.h"
+#include "printing/reports/grade_columns.h"
 
-#include "printing/paper_line.h"
+#include "printing/page/paper_line.h"
 
 namespace tallyroll {
 namespace {

@@ -7,7 +7,7 @@
 #include <string>
 #include <string_view>
 
-#include "printing/report_parts.h"
+#include "printing/reports/report_parts.h"
 
 namespace tallyroll {
 

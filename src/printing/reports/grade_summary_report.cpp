@@ -2,9 +2,9 @@
 // Codes 17 and 18: one student's grades summed by type, with the average or without.
 #include <string>
 
-#include "printing/report_writers.h"
-#include "printing/student_tail.h"
-#include "printing/type_totals_table.h"
+#include "printing/reports/report_writers.h"
+#include "printing/reports/student_tail.h"
+#include "printing/reports/type_totals_table.h"
 
 namespace tallyroll {
 namespace {

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "printing/html_report.h"
+#include "printing/reports/html_report.h"
 
 #include <filesystem>
 
@@ -7,9 +7,9 @@
 #include "base/line_reader.h"
 #include "platform/class_window.h"
 #include "platform/surroundings.h"
-#include "printing/html_parts.h"
-#include "printing/report_codes.h"
-#include "printing/reports.h"
+#include "printing/page/html_parts.h"
+#include "printing/reports/report_codes.h"
+#include "printing/reports/reports.h"
 #include "store/class_file.h"
 #include "store/program_state.h"
 #include "store/safe_file.h"

@@ -7,10 +7,10 @@
 
 #include "base/text.h"
 #include "grades/marks.h"
-#include "printing/paper_line.h"
-#include "printing/report_parts.h"
-#include "printing/report_writers.h"
-#include "printing/sections.h"
+#include "printing/page/paper_line.h"
+#include "printing/page/sections.h"
+#include "printing/reports/report_parts.h"
+#include "printing/reports/report_writers.h"
 #include "store/program_state.h"
 
 namespace tallyroll {

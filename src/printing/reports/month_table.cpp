@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "printing/month_table.h"
+#include "printing/reports/month_table.h"
 
 #include <cmath>
 #include <string_view>

@@ -3,8 +3,8 @@
 
 #include "base/text.h"
 #include "grades/marks.h"
-#include "printing/reports.h"
-#include "printing/roll_book.h"
+#include "printing/reports/reports.h"
+#include "printing/reports/roll_book.h"
 #include "store/program_state.h"
 
 namespace tallyroll {

@@ -6,11 +6,11 @@
 
 #include "base/text.h"
 #include "grades/marks.h"
-#include "printing/paper_line.h"
-#include "printing/report_choice.h"
-#include "printing/report_parts.h"
-#include "printing/report_writers.h"
-#include "printing/sections.h"
+#include "printing/page/paper_line.h"
+#include "printing/page/report_choice.h"
+#include "printing/page/sections.h"
+#include "printing/reports/report_parts.h"
+#include "printing/reports/report_writers.h"
 #include "store/program_state.h"
 #include "store/student_names.h"
 

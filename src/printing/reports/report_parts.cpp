@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "printing/report_parts.h"
+#include "printing/reports/report_parts.h"
 
 #include <algorithm>
 #include <functional>
@@ -7,8 +7,8 @@
 #include "averages/average_lines.h"
 #include "base/number_text.h"
 #include "base/text.h"
-#include "printing/paper_line.h"
-#include "printing/report_choice.h"
+#include "printing/page/paper_line.h"
+#include "printing/page/report_choice.h"
 #include "store/program_state.h"
 
 namespace tallyroll {

@@ -6,10 +6,10 @@
 #include <string_view>
 #include <vector>
 
-#include "printing/line_table.h"
-#include "printing/page_frame.h"
-#include "printing/sections.h"
-#include "printing/text_report.h"
+#include "printing/page/line_table.h"
+#include "printing/page/page_frame.h"
+#include "printing/page/sections.h"
+#include "printing/page/text_report.h"
 
 namespace tallyroll {
 

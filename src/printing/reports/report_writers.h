@@ -2,8 +2,8 @@
 // Every report's two writers: Print... for paper, Write... for text files.
 #pragma once
 
-#include "printing/print_job.h"
-#include "printing/text_report.h"
+#include "printing/page/print_job.h"
+#include "printing/page/text_report.h"
 
 namespace tallyroll {
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "printing/reports.h"
+#include "printing/reports/reports.h"
 
 #include <algorithm>
 #include <array>
@@ -8,14 +8,14 @@
 #include "base/run_time_error.h"
 #include "platform/class_window.h"
 #include "platform/surroundings.h"
-#include "printing/page_frame.h"
-#include "printing/report_choice.h"
-#include "printing/report_writers.h"
+#include "printing/page/page_frame.h"
+#include "printing/page/report_choice.h"
+#include "printing/reports/report_writers.h"
 #include "store/class_file.h"
 #include "store/program_state.h"
 #include "store/safe_file.h"
-#include "store/saved_text.h"
 #include "store/settings.h"
+#include "store/text/saved_text.h"
 
 namespace tallyroll {
 namespace {

@@ -4,8 +4,8 @@
 
 #include <string>
 
-#include "printing/print_job.h"
-#include "printing/text_report.h"
+#include "printing/page/print_job.h"
+#include "printing/page/text_report.h"
 
 namespace tallyroll {
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "printing/roll_book.h"
+#include "printing/reports/roll_book.h"
 
 #include <algorithm>
 
@@ -7,8 +7,8 @@
 #include "base/text.h"
 #include "grades/marks.h"
 #include "platform/surroundings.h"
-#include "printing/report_choice.h"
-#include "printing/report_parts.h"
+#include "printing/page/report_choice.h"
+#include "printing/reports/report_parts.h"
 #include "store/program_state.h"
 
 namespace tallyroll {

@@ -4,11 +4,11 @@
 #include "base/number_text.h"
 #include "base/text.h"
 #include "grades/marks.h"
-#include "printing/html_parts.h"
-#include "printing/report_choice.h"
-#include "printing/report_parts.h"
-#include "printing/roll_book.h"
-#include "printing/student_column.h"
+#include "printing/page/html_parts.h"
+#include "printing/page/report_choice.h"
+#include "printing/reports/report_parts.h"
+#include "printing/reports/roll_book.h"
+#include "printing/reports/student_column.h"
 #include "store/program_state.h"
 
 namespace tallyroll {

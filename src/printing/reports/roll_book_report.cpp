@@ -7,13 +7,13 @@
 
 #include "base/text.h"
 #include "grades/marks.h"
-#include "printing/line_table.h"
-#include "printing/paper_line.h"
-#include "printing/report_parts.h"
-#include "printing/report_writers.h"
-#include "printing/roll_book.h"
-#include "printing/sections.h"
-#include "printing/student_column.h"
+#include "printing/page/line_table.h"
+#include "printing/page/paper_line.h"
+#include "printing/page/sections.h"
+#include "printing/reports/report_parts.h"
+#include "printing/reports/report_writers.h"
+#include "printing/reports/roll_book.h"
+#include "printing/reports/student_column.h"
 #include "store/program_state.h"
 
 namespace tallyroll {

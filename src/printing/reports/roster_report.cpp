@@ -2,9 +2,9 @@
 // Codes 19 and 23: the students with room for notes, or with a grid of empty boxes.
 #include "base/number_text.h"
 #include "base/text.h"
-#include "printing/paper_line.h"
-#include "printing/report_writers.h"
-#include "printing/sections.h"
+#include "printing/page/paper_line.h"
+#include "printing/page/sections.h"
+#include "printing/reports/report_writers.h"
 #include "store/program_state.h"
 #include "store/student_names.h"
 

@@ -8,10 +8,10 @@
 #include "base/number_text.h"
 #include "base/text.h"
 #include "platform/surroundings.h"
-#include "printing/line_table.h"
-#include "printing/report_choice.h"
-#include "printing/report_parts.h"
-#include "printing/report_writers.h"
+#include "printing/page/line_table.h"
+#include "printing/page/report_choice.h"
+#include "printing/reports/report_parts.h"
+#include "printing/reports/report_writers.h"
 #include "store/program_state.h"
 
 namespace tallyroll {

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "printing/student_column.h"
+#include "printing/reports/student_column.h"
 
 #include "base/text.h"
-#include "printing/report_choice.h"
+#include "printing/page/report_choice.h"
 #include "store/student_names.h"
 
 namespace tallyroll {

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "printing/student_rows.h"
+#include "printing/reports/student_rows.h"
 
 #include <algorithm>
 #include <functional>
@@ -7,7 +7,7 @@
 
 #include "base/text.h"
 #include "grades/marks.h"
-#include "printing/paper_line.h"
+#include "printing/page/paper_line.h"
 #include "store/program_state.h"
 
 namespace tallyroll {

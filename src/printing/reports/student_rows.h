@@ -3,7 +3,7 @@
 // marks.
 #pragma once
 
-#include "printing/report_parts.h"
+#include "printing/reports/report_parts.h"
 
 namespace tallyroll {
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "printing/student_tail.h"
+#include "printing/reports/student_tail.h"
 
 #include <algorithm>
 #include <string>
@@ -7,8 +7,8 @@
 #include <vector>
 
 #include "base/text.h"
-#include "printing/paper_line.h"
-#include "printing/report_choice.h"
+#include "printing/page/paper_line.h"
+#include "printing/page/report_choice.h"
 #include "store/program_state.h"
 
 namespace tallyroll {

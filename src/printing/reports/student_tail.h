@@ -2,8 +2,8 @@
 // What closes a report on the grades of one student: attendance, comment, average, signature.
 #pragma once
 
-#include "printing/report_parts.h"
-#include "printing/sections.h"
+#include "printing/page/sections.h"
+#include "printing/reports/report_parts.h"
 
 namespace tallyroll {
 

@@ -5,11 +5,11 @@
 #include <vector>
 
 #include "base/text.h"
-#include "printing/line_table.h"
-#include "printing/report_choice.h"
-#include "printing/report_parts.h"
-#include "printing/report_writers.h"
-#include "printing/student_column.h"
+#include "printing/page/line_table.h"
+#include "printing/page/report_choice.h"
+#include "printing/reports/report_parts.h"
+#include "printing/reports/report_writers.h"
+#include "printing/reports/student_column.h"
 #include "store/program_state.h"
 #include "store/student_names.h"
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "printing/type_totals_table.h"
+#include "printing/reports/type_totals_table.h"
 
 #include <algorithm>
 #include <array>
@@ -11,7 +11,7 @@
 #include "base/run_time_error.h"
 #include "base/text.h"
 #include "grades/type_totals.h"
-#include "printing/paper_line.h"
+#include "printing/page/paper_line.h"
 #include "store/program_state.h"
 
 namespace tallyroll {

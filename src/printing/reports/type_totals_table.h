@@ -5,8 +5,8 @@
 #include <string>
 #include <vector>
 
-#include "printing/report_parts.h"
-#include "printing/sections.h"
+#include "printing/page/sections.h"
+#include "printing/reports/report_parts.h"
 
 namespace tallyroll {
 

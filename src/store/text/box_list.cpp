@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "store/box_list.h"
+#include "store/text/box_list.h"
 
 #include <algorithm>
 

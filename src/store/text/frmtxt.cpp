@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "store/frmtxt.h"
+#include "store/text/frmtxt.h"
 
 #include <algorithm>
 #include <array>
@@ -7,12 +7,12 @@
 #include "base/code_page.h"
 #include "base/number_text.h"
 #include "platform/surroundings.h"
-#include "store/grade_file.h"
 #include "store/program_state.h"
-#include "store/roster_text.h"
 #include "store/safe_file.h"
-#include "store/taken_ids.h"
-#include "store/text_import.h"
+#include "store/text/grade_file.h"
+#include "store/text/roster_text.h"
+#include "store/text/taken_ids.h"
+#include "store/text/text_import.h"
 #include "store/text_layout.h"
 
 namespace tallyroll {

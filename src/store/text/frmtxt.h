@@ -8,7 +8,7 @@
 
 #include "platform/portal.h"
 #include "store/csv_columns.h"
-#include "store/source_text.h"
+#include "store/text/source_text.h"
 
 namespace tallyroll {
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "store/grade_collector.h"
+#include "store/text/grade_collector.h"
 
 #include "base/number_text.h"
 #include "base/text.h"

@@ -4,8 +4,8 @@
 
 #include <string_view>
 
-#include "store/grade_file.h"
-#include "store/source_text.h"
+#include "store/text/grade_file.h"
+#include "store/text/source_text.h"
 
 namespace tallyroll {
 

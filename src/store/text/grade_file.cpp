@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "store/grade_file.h"
+#include "store/text/grade_file.h"
 
 #include <algorithm>
 #include <optional>
@@ -9,13 +9,13 @@
 #include "base/code_page.h"
 #include "base/text.h"
 #include "platform/surroundings.h"
-#include "store/grade_collector.h"
-#include "store/grade_lines.h"
 #include "store/program_state.h"
 #include "store/safe_file.h"
-#include "store/source_text.h"
-#include "store/student_matcher.h"
-#include "store/text_import.h"
+#include "store/text/grade_collector.h"
+#include "store/text/grade_lines.h"
+#include "store/text/source_text.h"
+#include "store/text/student_matcher.h"
+#include "store/text/text_import.h"
 #include "store/text_layout.h"
 
 namespace tallyroll {

@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "store/grade_lines.h"
+#include "store/text/grade_lines.h"
 
 #include <string>
 #include <vector>
 
 #include "base/line_reader.h"
 #include "base/text.h"
-#include "store/grade_collector.h"
+#include "store/text/grade_collector.h"
 #include "store/text_layout.h"
 
 namespace tallyroll {

@@ -2,9 +2,9 @@
 // Grades from the lines of a text file in columns or with a mark between fields.
 #pragma once
 
-#include "store/grade_file.h"
-#include "store/source_text.h"
-#include "store/student_matcher.h"
+#include "store/text/grade_file.h"
+#include "store/text/source_text.h"
+#include "store/text/student_matcher.h"
 
 namespace tallyroll {
 

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // From the lines of a text file to students, field by field.
-#include "store/roster_text.h"
+#include "store/text/roster_text.h"
 
 #include <algorithm>
 
@@ -8,7 +8,7 @@
 #include "base/number_text.h"
 #include "base/text.h"
 #include "store/class_format.h"
-#include "store/source_text.h"
+#include "store/text/source_text.h"
 #include "store/text_layout.h"
 
 namespace tallyroll {

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "store/saved_text.h"
+#include "store/text/saved_text.h"
 
 #include "base/code_page.h"
 #include "store/settings.h"

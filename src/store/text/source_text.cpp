@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "store/source_text.h"
+#include "store/text/source_text.h"
 
 #include <algorithm>
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "store/student_matcher.h"
+#include "store/text/student_matcher.h"
 
 #include "base/text.h"
 #include "store/program_state.h"

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "store/taken_ids.h"
+#include "store/text/taken_ids.h"
 
 #include "base/number_text.h"
 #include "base/text.h"

@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "store/text_export.h"
+#include "store/text/text_export.h"
 
 #include <algorithm>
 #include <vector>
 
 #include "base/text.h"
 #include "store/csv_columns.h"
-#include "store/saved_text.h"
 #include "store/student_names.h"
+#include "store/text/saved_text.h"
 #include "store/text_layout.h"
 
 namespace tallyroll {

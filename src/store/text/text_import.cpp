@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "store/text_import.h"
+#include "store/text/text_import.h"
 
 #include <algorithm>
 #include <limits>
@@ -9,13 +9,13 @@
 #include "base/run_time_error.h"
 #include "base/text.h"
 #include "platform/surroundings.h"
-#include "store/box_list.h"
 #include "store/class_defaults.h"
 #include "store/program_state.h"
 #include "store/safe_file.h"
 #include "store/sort_students.h"
 #include "store/student_names.h"
-#include "store/taken_ids.h"
+#include "store/text/box_list.h"
+#include "store/text/taken_ids.h"
 #include "store/text_layout.h"
 
 namespace tallyroll {

@@ -6,7 +6,7 @@
 #include <vector>
 
 #include "store/records.h"
-#include "store/roster_text.h"
+#include "store/text/roster_text.h"
 
 namespace tallyroll {
 

@@ -3,7 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "base/run_time_error.h"
-#include "tests/averages/average_test.h"
+#include "tests/averages/engine/average_test.h"
 
 namespace tallyroll {
 namespace {

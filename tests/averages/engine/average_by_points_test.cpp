@@ -5,7 +5,7 @@
 #include <algorithm>
 
 #include "base/run_time_error.h"
-#include "tests/averages/average_test.h"
+#include "tests/averages/engine/average_test.h"
 
 namespace tallyroll {
 namespace {

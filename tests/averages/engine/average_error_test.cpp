@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Why there is no average: what the error holds, and its words.
 #include "base/run_time_error.h"
-#include "tests/averages/average_test.h"
+#include "tests/averages/engine/average_test.h"
 
 namespace tallyroll {
 namespace {

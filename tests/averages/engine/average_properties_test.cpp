@@ -7,7 +7,7 @@
 #include <new>
 #include <random>
 
-#include "tests/averages/average_test.h"
+#include "tests/averages/engine/average_test.h"
 
 namespace {
 std::size_t allocations = 0;

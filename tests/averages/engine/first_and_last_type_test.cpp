@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The first type, "A", and the 26th, which has no code, are types like the others.
-#include "tests/averages/average_test.h"
+#include "tests/averages/engine/average_test.h"
 
 namespace tallyroll {
 namespace {

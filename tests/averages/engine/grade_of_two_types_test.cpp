@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // A file made elsewhere may give two types one code: its grades then belong to both. By items a
 // grade stands as the lowest of one of them only, and then does not count in the other.
-#include "tests/averages/average_test.h"
+#include "tests/averages/engine/average_test.h"
 
 namespace tallyroll {
 namespace {

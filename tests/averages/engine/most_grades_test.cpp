@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // A class that holds as many grades as it can count takes no other one.
-#include "averages/frmgradesave.h"
+#include "averages/portals/frmgradesave.h"
 #include "grades/frmMarks.h"
-#include "tests/averages/portal_class.h"
+#include "tests/averages/portals/portal_class.h"
 
 namespace tallyroll {
 namespace {

@@ -2,7 +2,7 @@
 // Another order of the grades changes no average, unless two of them tie for the lowest.
 #include "averages/rounding.h"
 #include "grades/frmdGrade.h"
-#include "tests/averages/portal_class.h"
+#include "tests/averages/portals/portal_class.h"
 
 namespace tallyroll {
 namespace {

@@ -1,14 +1,14 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The Portals of the averages in a class without students, without grades, and with one of each.
 #include "averages/engine/average_state.h"
-#include "averages/frmgradesave.h"
-#include "averages/frmoptions.h"
-#include "averages/frmpercents.h"
-#include "averages/frmpoints.h"
-#include "averages/frmroundoff.h"
-#include "averages/frmscrnavg.h"
-#include "averages/frmweights.h"
-#include "tests/averages/portal_class.h"
+#include "averages/portals/frmgradesave.h"
+#include "averages/portals/frmoptions.h"
+#include "averages/portals/frmpercents.h"
+#include "averages/portals/frmpoints.h"
+#include "averages/portals/frmroundoff.h"
+#include "averages/portals/frmscrnavg.h"
+#include "averages/portals/frmweights.h"
+#include "tests/averages/portals/portal_class.h"
 
 namespace tallyroll {
 namespace {

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The boxes that drop grades, and the Portal beside them that chooses the types.
-#include "averages/frmdropgrade.h"
+#include "averages/portals/frmdropgrade.h"
 
-#include "averages/frmweights.h"
-#include "tests/averages/portal_class.h"
+#include "averages/portals/frmweights.h"
+#include "tests/averages/portals/portal_class.h"
 
 namespace tallyroll {
 namespace {

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "averages/frmgradesave.h"
+#include "averages/portals/frmgradesave.h"
 
 #include "averages/engine/average_state.h"
-#include "tests/averages/portal_class.h"
+#include "tests/averages/portals/portal_class.h"
 
 namespace tallyroll {
 namespace {

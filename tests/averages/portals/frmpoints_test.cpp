@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "averages/frmpoints.h"
+#include "averages/portals/frmpoints.h"
 
 #include "platform/table_printer.h"
 
 #include "averages/engine/engine.h"
-#include "tests/averages/portal_class.h"
+#include "tests/averages/portals/portal_class.h"
 
 namespace tallyroll {
 namespace {

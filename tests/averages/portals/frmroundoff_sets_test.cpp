@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // How the Rounding Modification Portal loads and saves its sets of values.
-#include "tests/averages/roundoff_test.h"
+#include "tests/averages/portals/roundoff_test.h"
 
 namespace tallyroll {
 namespace {

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "tests/averages/roundoff_test.h"
+#include "tests/averages/portals/roundoff_test.h"
 
 #include <limits>
 

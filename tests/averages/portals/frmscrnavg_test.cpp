@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The two screens that walk the students.
-#include "averages/frmscrnavg.h"
+#include "averages/portals/frmscrnavg.h"
 
 #include "averages/engine/average_state.h"
-#include "averages/frminfo.h"
-#include "tests/averages/portal_class.h"
+#include "averages/portals/frminfo.h"
+#include "tests/averages/portals/portal_class.h"
 
 namespace tallyroll {
 namespace {

@@ -4,10 +4,10 @@
 
 #include <string>
 
-#include "averages/frmroundoff.h"
+#include "averages/portals/frmroundoff.h"
 #include "averages/rounding.h"
 #include "base/text.h"
-#include "tests/averages/portal_class.h"
+#include "tests/averages/portals/portal_class.h"
 
 namespace tallyroll {
 

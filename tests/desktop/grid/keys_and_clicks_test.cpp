@@ -8,9 +8,9 @@
 
 #include "attendance/frmAtsum.h"
 #include "attendance/frmEatt.h"
-#include "averages/frmdropgrade.h"
-#include "averages/frmpoints.h"
-#include "averages/frmweights.h"
+#include "averages/portals/frmdropgrade.h"
+#include "averages/portals/frmpoints.h"
+#include "averages/portals/frmweights.h"
 #include "grades/frmEmarks.h"
 #include "grades/frmMarks.h"
 #include "grades/frmcategories.h"

@@ -15,9 +15,9 @@
 #include <QTimer>
 
 #include "desktop/paper/sheet.h"
-#include "desktop/print_dialogs.h"
-#include "desktop/printer_target.h"
-#include "desktop/qt_surroundings.h"
+#include "desktop/platform/print_dialogs.h"
+#include "desktop/platform/printer_target.h"
+#include "desktop/platform/qt_surroundings.h"
 #include "tests/desktop/next_window.h"
 #include "tests/support/pdf_words.h"
 #include "tests/support/refusing_disk.h"

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "desktop/qt_surroundings.h"
+#include "desktop/platform/qt_surroundings.h"
 
 #include <gtest/gtest.h>
 
@@ -17,10 +17,10 @@
 #include <QTest>
 #include <QTimer>
 
-#include "averages/frmpoints.h"
-#include "desktop/open_save_dialog.h"
-#include "desktop/portal_dialog.h"
-#include "desktop/text_conversion.h"
+#include "averages/portals/frmpoints.h"
+#include "desktop/basics/text_conversion.h"
+#include "desktop/platform/open_save_dialog.h"
+#include "desktop/portal/portal_dialog.h"
 #include "shell/program.h"
 #include "tests/desktop/next_window.h"
 

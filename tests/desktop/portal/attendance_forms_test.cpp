@@ -9,10 +9,10 @@
 
 #include "attendance/frmAtsum.h"
 #include "attendance/frmAtt.h"
-#include "desktop/grid_painter.h"
-#include "desktop/grid_widget.h"
+#include "desktop/grid/grid_painter.h"
+#include "desktop/grid/grid_widget.h"
 #include "tests/desktop/class_dialogs.h"
-#include "tests/desktop/form_texts.h"
+#include "tests/desktop/portal/form_texts.h"
 
 namespace tallyroll {
 namespace {

@@ -12,8 +12,8 @@
 #include <QTabWidget>
 #include <QTableView>
 
-#include "desktop/grid_widget.h"
-#include "tests/desktop/everything_portal.h"
+#include "desktop/grid/grid_widget.h"
+#include "tests/desktop/portal/everything_portal.h"
 
 namespace tallyroll {
 namespace {

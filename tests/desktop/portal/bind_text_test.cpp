@@ -5,8 +5,8 @@
 #include <QPlainTextEdit>
 #include <QToolTip>
 
-#include "desktop/refused_character.h"
-#include "tests/desktop/everything_portal.h"
+#include "desktop/basics/refused_character.h"
+#include "tests/desktop/portal/everything_portal.h"
 
 namespace tallyroll {
 namespace {

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // A chart in a Portal, worked by keys and mouse.
-#include "desktop/chart_widget.h"
+#include "desktop/portal/chart_widget.h"
 
 #include <gtest/gtest.h>
 
@@ -14,7 +14,7 @@
 #include <QTest>
 #include <memory>
 
-#include "desktop/portal_dialog.h"
+#include "desktop/portal/portal_dialog.h"
 #include "platform/headless.h"
 
 namespace tallyroll {

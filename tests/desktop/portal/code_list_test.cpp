@@ -5,7 +5,7 @@
 #include <QScrollBar>
 
 #include "attendance/frmAtt.h"
-#include "desktop/grid_widget.h"
+#include "desktop/grid/grid_widget.h"
 #include "tests/desktop/class_dialogs.h"
 #include "tests/desktop/turn_wheel.h"
 

@@ -11,11 +11,11 @@
 #include <QVBoxLayout>
 #include <algorithm>
 
-#include "desktop/appearance.h"
-#include "desktop/cell_list.h"
-#include "desktop/grid_colors.h"
-#include "desktop/grid_widget.h"
-#include "desktop/program_style.h"
+#include "desktop/basics/appearance.h"
+#include "desktop/basics/program_style.h"
+#include "desktop/grid/cell_list.h"
+#include "desktop/grid/grid_colors.h"
+#include "desktop/grid/grid_widget.h"
 
 namespace tallyroll {
 namespace {

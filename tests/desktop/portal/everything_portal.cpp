@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "tests/desktop/everything_portal.h"
+#include "tests/desktop/portal/everything_portal.h"
 
 #include <utility>
 

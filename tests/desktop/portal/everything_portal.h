@@ -10,7 +10,7 @@
 #include <string>
 #include <vector>
 
-#include "desktop/portal_dialog.h"
+#include "desktop/portal/portal_dialog.h"
 #include "platform/headless.h"
 #include "platform/portal.h"
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "tests/desktop/form_checks.h"
+#include "tests/desktop/portal/form_checks.h"
 
 #include <QAbstractButton>
 #include <QAction>
@@ -18,9 +18,9 @@
 #include <map>
 #include <type_traits>
 
-#include "desktop/form_loader.h"
-#include "desktop/portal_dialog.h"
-#include "desktop/text_conversion.h"
+#include "desktop/basics/text_conversion.h"
+#include "desktop/portal/form_loader.h"
+#include "desktop/portal/portal_dialog.h"
 #include "platform/chart.h"
 
 namespace tallyroll {

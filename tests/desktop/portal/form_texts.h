@@ -9,7 +9,7 @@
 #include <map>
 #include <string>
 
-#include "desktop/form_loader.h"
+#include "desktop/portal/form_loader.h"
 
 namespace tallyroll {
 

@@ -7,7 +7,7 @@
 #include <QLineEdit>
 #include <QTest>
 
-#include "desktop/portal_dialog.h"
+#include "desktop/portal/portal_dialog.h"
 #include "platform/headless.h"
 #include "shell/program.h"
 #include "store/frmpassword.h"

@@ -11,7 +11,7 @@
 #include <string>
 #include <vector>
 
-#include "desktop/form_loader.h"
+#include "desktop/portal/form_loader.h"
 
 namespace tallyroll {
 namespace {

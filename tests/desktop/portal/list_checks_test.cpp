@@ -6,7 +6,7 @@
 #include <QStyleOptionViewItem>
 #include <algorithm>
 
-#include "tests/desktop/everything_portal.h"
+#include "tests/desktop/portal/everything_portal.h"
 
 namespace tallyroll {
 namespace {

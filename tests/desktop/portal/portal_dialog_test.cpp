@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // What the binder passes on, when, and what it keeps to itself.
-#include "desktop/portal_dialog.h"
+#include "desktop/portal/portal_dialog.h"
 
 #include <QCheckBox>
 #include <QGroupBox>
@@ -13,8 +13,8 @@
 #include <QTimer>
 #include <QWindow>
 
-#include "desktop/grid_widget.h"
-#include "tests/desktop/everything_portal.h"
+#include "desktop/grid/grid_widget.h"
+#include "tests/desktop/portal/everything_portal.h"
 
 namespace tallyroll {
 namespace {

@@ -6,8 +6,8 @@
 #include <QPushButton>
 #include <QTest>
 
-#include "averages/frminfo.h"
-#include "desktop/portal_dialog.h"
+#include "averages/portals/frminfo.h"
+#include "desktop/portal/portal_dialog.h"
 #include "grades/frmMgrade.h"
 #include "platform/headless.h"
 #include "shell/program.h"

@@ -7,7 +7,7 @@
 #include <QScrollArea>
 #include <QTest>
 
-#include "desktop/portal_dialog.h"
+#include "desktop/portal/portal_dialog.h"
 #include "printing/frmprintpre.h"
 #include "tests/printing/report_test.h"
 

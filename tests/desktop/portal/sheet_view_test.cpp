@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // A sheet of paper in a Portal.
-#include "desktop/sheet_view.h"
+#include "desktop/portal/sheet_view.h"
 
 #include <gtest/gtest.h>
 
@@ -13,7 +13,7 @@
 #include <functional>
 #include <memory>
 
-#include "desktop/portal_dialog.h"
+#include "desktop/portal/portal_dialog.h"
 #include "platform/headless.h"
 #include "platform/print_target.h"
 

@@ -9,7 +9,7 @@
 #include <QScreen>
 #include <QScrollArea>
 
-#include "desktop/window_places.h"
+#include "desktop/basics/window_places.h"
 #include "shell/portal_list.h"
 #include "tests/desktop/class_dialogs.h"
 

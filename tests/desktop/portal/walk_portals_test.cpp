@@ -4,11 +4,11 @@
 
 #include <QDir>
 
-#include "desktop/form_loader.h"
-#include "desktop/text_conversion.h"
+#include "desktop/basics/text_conversion.h"
+#include "desktop/portal/form_loader.h"
 #include "shell/portal_list.h"
-#include "tests/desktop/everything_portal.h"
-#include "tests/desktop/form_checks.h"
+#include "tests/desktop/portal/everything_portal.h"
+#include "tests/desktop/portal/form_checks.h"
 
 namespace tallyroll {
 namespace {

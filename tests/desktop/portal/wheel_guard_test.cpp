@@ -6,8 +6,8 @@
 #include <QTabWidget>
 #include <QWindow>
 
-#include "desktop/grid_widget.h"
-#include "tests/desktop/everything_portal.h"
+#include "desktop/grid/grid_widget.h"
+#include "tests/desktop/portal/everything_portal.h"
 #include "tests/desktop/turn_wheel.h"
 
 namespace tallyroll {

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // A class window on the screen.
-#include "desktop/class_window_view.h"
+#include "desktop/window/class_window_view.h"
 
 #include <gtest/gtest.h>
 
@@ -13,9 +13,9 @@
 #include <QTimer>
 #include <QToolButton>
 
-#include "desktop/grid_widget.h"
-#include "desktop/toolbar_view.h"
-#include "tests/desktop/frame_fixture.h"
+#include "desktop/grid/grid_widget.h"
+#include "desktop/window/toolbar_view.h"
+#include "tests/desktop/window/frame_fixture.h"
 
 namespace tallyroll {
 namespace {

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "tests/desktop/frame_fixture.h"
+#include "tests/desktop/window/frame_fixture.h"
 
 #include <QCoreApplication>
 #include <QMenuBar>

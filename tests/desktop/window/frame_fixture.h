@@ -7,8 +7,8 @@
 #include <string_view>
 #include <vector>
 
-#include "desktop/frame_window.h"
-#include "desktop/menu_view.h"
+#include "desktop/window/frame_window.h"
+#include "desktop/window/menu_view.h"
 #include "shell/shell_state.h"
 #include "tests/support/portal_test.h"
 

@@ -15,10 +15,10 @@
 #include <QTest>
 #include <QTimer>
 
-#include "desktop/class_window_view.h"
-#include "desktop/grid_widget.h"
+#include "desktop/grid/grid_widget.h"
+#include "desktop/window/class_window_view.h"
 #include "store/settings.h"
-#include "tests/desktop/frame_fixture.h"
+#include "tests/desktop/window/frame_fixture.h"
 
 namespace tallyroll {
 namespace {

@@ -15,9 +15,9 @@
 #include <QTimer>
 #include <set>
 
-#include "desktop/help_topics.h"
-#include "desktop/help_window.h"
-#include "desktop/text_conversion.h"
+#include "desktop/basics/text_conversion.h"
+#include "desktop/window/help_topics.h"
+#include "desktop/window/help_window.h"
 #include "shell/class_menu.h"
 
 namespace tallyroll {

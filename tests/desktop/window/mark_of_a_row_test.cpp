@@ -4,8 +4,8 @@
 
 #include <QTest>
 
-#include "desktop/grid_widget.h"
-#include "desktop/portal_dialog.h"
+#include "desktop/grid/grid_widget.h"
+#include "desktop/portal/portal_dialog.h"
 #include "grades/frmEmarks.h"
 #include "grades/student_grid.h"
 #include "platform/headless.h"

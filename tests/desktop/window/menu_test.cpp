@@ -8,8 +8,8 @@
 #include <QSignalSpy>
 #include <QWidget>
 
-#include "desktop/menu_view.h"
-#include "tests/desktop/frame_fixture.h"
+#include "desktop/window/menu_view.h"
+#include "tests/desktop/window/frame_fixture.h"
 
 namespace tallyroll {
 namespace {

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // What the frame shows while no class is open.
-#include "desktop/start_page.h"
+#include "desktop/window/start_page.h"
 
 #include <gtest/gtest.h>
 
@@ -13,7 +13,7 @@
 #include <QTest>
 
 #include "store/settings.h"
-#include "tests/desktop/frame_fixture.h"
+#include "tests/desktop/window/frame_fixture.h"
 
 namespace tallyroll {
 namespace {

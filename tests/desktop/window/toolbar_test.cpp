@@ -8,10 +8,10 @@
 #include <QSvgRenderer>
 #include <QToolButton>
 
-#include "desktop/appearance.h"
-#include "desktop/palette_icon.h"
-#include "desktop/toolbar_view.h"
-#include "tests/desktop/frame_fixture.h"
+#include "desktop/basics/appearance.h"
+#include "desktop/basics/palette_icon.h"
+#include "desktop/window/toolbar_view.h"
+#include "tests/desktop/window/frame_fixture.h"
 
 namespace tallyroll {
 namespace {

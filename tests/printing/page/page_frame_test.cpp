@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "printing/page_frame.h"
+#include "printing/page/page_frame.h"
 
 #include "base/number_text.h"
 #include "store/settings.h"

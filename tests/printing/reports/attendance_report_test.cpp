@@ -2,7 +2,7 @@
 // Daily attendance: months of the class, and the days of one student.
 #include <algorithm>
 
-#include "printing/month_table.h"
+#include "printing/reports/month_table.h"
 #include "tests/printing/small_class.h"
 
 namespace tallyroll {

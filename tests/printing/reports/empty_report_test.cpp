@@ -2,7 +2,7 @@
 // Classes without students, grades, days or summaries: every report is still a page or a file.
 #include <algorithm>
 
-#include "printing/html_report.h"
+#include "printing/reports/html_report.h"
 #include "tests/printing/small_class.h"
 
 namespace tallyroll {

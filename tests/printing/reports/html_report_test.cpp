@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Reports as HTML, byte for byte, and texts that would break a page.
-#include "printing/html_report.h"
+#include "printing/reports/html_report.h"
 
 #include <fstream>
 #include <iterator>

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The roll book: blocks of columns, dates without their year, orders, and titles that run upwards.
-#include "printing/roll_book.h"
+#include "printing/reports/roll_book.h"
 #include "tests/printing/small_class.h"
 
 namespace tallyroll {

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Rosters, contact forms and class information on paper and as text.
-#include "printing/report_writers.h"
+#include "printing/reports/report_writers.h"
 #include "tests/printing/report_test.h"
 
 namespace tallyroll {

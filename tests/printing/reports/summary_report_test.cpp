@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Attendance summaries: one period, all periods, and those of one student.
-#include "printing/report_parts.h"
+#include "printing/reports/report_parts.h"
 #include "tests/printing/small_class.h"
 
 namespace tallyroll {

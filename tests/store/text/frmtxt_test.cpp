@@ -1,14 +1,14 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "store/frmtxt.h"
+#include "store/text/frmtxt.h"
 
 #include <optional>
 
 #include "base/number_text.h"
 #include "platform/portal_driver.h"
-#include "store/grade_file.h"
 #include "store/program_state.h"
 #include "store/safe_file.h"
-#include "store/text_export.h"
+#include "store/text/grade_file.h"
+#include "store/text/text_export.h"
 #include "store/text_layout.h"
 #include "tests/support/portal_test.h"
 

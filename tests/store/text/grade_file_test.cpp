@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "store/grade_file.h"
+#include "store/text/grade_file.h"
 
 #include "store/program_state.h"
 #include "store/safe_file.h"
-#include "store/text_export.h"
+#include "store/text/text_export.h"
 #include "store/text_layout.h"
 #include "tests/support/portal_test.h"
 

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The ends of the lines and rows that grades are read from.
-#include "store/grade_lines.h"
+#include "store/text/grade_lines.h"
 
-#include "store/grade_file.h"
 #include "store/program_state.h"
+#include "store/text/grade_file.h"
 #include "store/text_layout.h"
 #include "tests/support/portal_test.h"
 

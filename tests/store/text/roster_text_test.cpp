@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "store/roster_text.h"
+#include "store/text/roster_text.h"
 
 #include <gtest/gtest.h>
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "store/text_export.h"
+#include "store/text/text_export.h"
 
 #include <gtest/gtest.h>
 
@@ -8,8 +8,8 @@
 
 #include "base/number_text.h"
 #include "base/text.h"
-#include "store/roster_text.h"
 #include "store/student_names.h"
+#include "store/text/roster_text.h"
 #include "store/text_layout.h"
 #include "tests/support/random_class.h"
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "store/text_import.h"
+#include "store/text/text_import.h"
 
 #include <set>
 
@@ -8,7 +8,7 @@
 #include "store/class_defaults.h"
 #include "store/program_state.h"
 #include "store/safe_file.h"
-#include "store/taken_ids.h"
+#include "store/text/taken_ids.h"
 #include "store/text_layout.h"
 #include "tests/support/portal_test.h"
 
