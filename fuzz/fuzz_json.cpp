@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The reader of JSON. A class that it accepts can be written, and its dump gives the same bytes.
-#include "cli/class_from_json.h"
-#include "cli/class_json.h"
+#include "cli/basics/class_from_json.h"
+#include "cli/basics/class_json.h"
 #include "fuzz/fuzzing.h"
 #include "store/program_state.h"
 

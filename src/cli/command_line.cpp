@@ -5,8 +5,8 @@
 #include <iostream>
 #include <string>
 
-#include "cli/command_line_surroundings.h"
-#include "cli/commands.h"
+#include "cli/basics/command_line_surroundings.h"
+#include "cli/commands/commands.h"
 #include "shell/program.h"
 
 namespace tallyroll {
@@ -40,21 +40,6 @@ int RunChosen(const ChosenCommand& chosen, std::istream& in, std::ostream& out, 
 }
 
 }  // namespace
-
-CommandResult Done(std::string text) {
-  return {.text = std::move(text)};
-}
-
-std::string ReasonLine(const std::string& file, const std::string& reason) {
-  std::string line = file + ": " + reason;
-  std::ranges::replace_if(
-      line, [](char c) { return static_cast<unsigned char>(c) < 32; }, ' ');
-  return line;
-}
-
-CommandResult Refused(const std::string& file, const std::string& reason) {
-  return {.refused = true, .text = ReasonLine(file, reason)};
-}
 
 int RunCommandLine(int argc, const char* const* argv, std::istream& in, std::ostream& out,
                    std::ostream& err) {

@@ -42,7 +42,9 @@ const std::map<std::string, Folders, std::less<>> kStandsOn = {
     {"seating", {"printing", "roster", "companion"}},
     {"shell", {"averages/portals", "analysis", "letters", "seating"}},
     {"desktop/paper", {"platform"}},
-    {"cli", {"shell", "desktop/paper"}},
+    {"cli/basics", {"shell", "desktop/paper"}},
+    {"cli/commands", {"cli/basics"}},
+    {"cli", {"cli/commands"}},
     {"desktop/basics", {"shell"}},
     {"desktop/grid", {"desktop/basics"}},
     {"desktop/portal", {"desktop/grid", "desktop/paper"}},
@@ -53,7 +55,7 @@ const std::map<std::string, Folders, std::less<>> kStandsOn = {
 
 // The command line writes reports as PDF with Qt, but shows no window.
 bool MayUseQt(std::string_view folder) {
-  return folder == "cli" || folder == "desktop" || folder.starts_with("desktop/");
+  return folder == "cli/basics" || folder == "desktop" || folder.starts_with("desktop/");
 }
 
 // Breaches that are known and stay for now, as "file includes file". This list only shrinks.

@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "cli/chart_file.h"
+#include "cli/basics/chart_file.h"
 
 #include <filesystem>
 
 #include "analysis/chart_drawing.h"
 #include "base/text.h"
-#include "cli/class_in_file.h"
-#include "cli/pdf.h"
+#include "cli/basics/class_in_file.h"
+#include "cli/basics/pdf.h"
 #include "platform/svg_print_target.h"
 #include "store/safe_file.h"
 

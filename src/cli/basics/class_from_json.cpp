@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "cli/class_from_json.h"
+#include "cli/basics/class_from_json.h"
 
 #include <algorithm>
 #include <limits>
@@ -7,7 +7,7 @@
 
 #include "base/code_page.h"
 #include "base/number_text.h"
-#include "cli/json_values.h"
+#include "cli/basics/json_values.h"
 #include "store/check_class.h"
 #include "store/class_defaults.h"
 #include "store/fields.h"

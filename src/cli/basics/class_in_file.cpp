@@ -1,13 +1,14 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "cli/class_in_file.h"
+#include "cli/basics/class_in_file.h"
 
 #include <filesystem>
 
 #include "base/number_text.h"
 #include "base/run_time_error.h"
-#include "cli/command_line_surroundings.h"
-#include "cli/commands.h"
-#include "cli/date_order.h"
+#include "cli/basics/command_line_surroundings.h"
+#include "cli/basics/command_options.h"
+#include "cli/basics/command_result.h"
+#include "cli/basics/date_order.h"
 #include "shell/opened_class.h"
 #include "store/class_backup.h"
 #include "store/class_format.h"

@@ -6,6 +6,7 @@
 #include <string>
 #include <string_view>
 
+#include "cli/basics/command_options.h"
 #include "store/records.h"
 
 namespace tallyroll {
@@ -20,6 +21,13 @@ struct OpenOptions {
   std::optional<std::string> password;
   std::string date_order;  // "mdy", "dmy", "ymd"; empty for the order of the system
 };
+
+// Adds --password and --date-order to a command that opens a class.
+void AddOpenOptions(Command& command, OpenOptions& options);
+// Adds --force to a command that writes a class.
+void AddForce(Command& command, bool& force);
+// How names and IDs are shown and sorted.
+void AddNameMode(Command& command, i16& name_mode);
 
 // The class in slot 1 as the program holds it after every step of opening.
 std::string OpenClassFile(const std::string& path, const OpenOptions& options);

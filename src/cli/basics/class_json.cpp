@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "cli/class_json.h"
+#include "cli/basics/class_json.h"
 
 #include <cmath>
 #include <span>
 
 #include "base/code_page.h"
 #include "base/number_text.h"
-#include "cli/hex_text.h"
+#include "cli/basics/hex_text.h"
 #include "store/fields.h"
 
 namespace tallyroll {

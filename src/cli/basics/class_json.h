@@ -2,7 +2,7 @@
 // A class as JSON: the contract of the command line's `dump` and `build`.
 #pragma once
 
-#include "cli/json_text.h"
+#include "cli/basics/json_text.h"
 #include "store/records.h"
 
 namespace tallyroll {

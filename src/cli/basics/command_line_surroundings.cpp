@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "cli/command_line_surroundings.h"
+#include "cli/basics/command_line_surroundings.h"
 
 #include <ctime>
 #include <utility>

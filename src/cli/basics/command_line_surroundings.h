@@ -8,7 +8,7 @@
 #include <string>
 #include <string_view>
 
-#include "cli/pdf.h"
+#include "cli/basics/pdf.h"
 #include "platform/surroundings.h"
 
 namespace tallyroll {

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "cli/command_options.h"
+#include "cli/basics/command_options.h"
 
 #include <CLI/CLI.hpp>
 #include <utility>

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "cli/date_order.h"
+#include "cli/basics/date_order.h"
 
 #include <langinfo.h>
 #include <locale.h>

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "cli/json_text.h"
+#include "cli/basics/json_text.h"
 
 #include <cmath>
 #include <vector>

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "cli/json_values.h"
+#include "cli/basics/json_values.h"
 
 #include <bit>
 #include <cmath>
@@ -8,7 +8,7 @@
 
 #include "base/code_page.h"
 #include "base/number_text.h"
-#include "cli/hex_text.h"
+#include "cli/basics/hex_text.h"
 #include "store/class_file.h"
 
 namespace tallyroll {

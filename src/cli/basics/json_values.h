@@ -4,7 +4,7 @@
 
 #include <string>
 
-#include "cli/json_text.h"
+#include "cli/basics/json_text.h"
 #include "store/records.h"
 
 namespace tallyroll {

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "cli/months_option.h"
+#include "cli/basics/months_option.h"
 
 #include <optional>
 #include <string_view>

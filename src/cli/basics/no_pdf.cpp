@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "cli/pdf.h"
+#include "cli/basics/pdf.h"
 
 namespace tallyroll {
 

@@ -7,7 +7,7 @@
 #include <filesystem>
 #include <vector>
 
-#include "cli/pdf.h"
+#include "cli/basics/pdf.h"
 #include "store/safe_file.h"
 
 namespace tallyroll {

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "cli/table_text.h"
+#include "cli/basics/table_text.h"
 
 #include <algorithm>
 

@@ -7,10 +7,10 @@
 #include "averages/rounding.h"
 #include "base/code_page.h"
 #include "base/number_text.h"
-#include "cli/class_in_file.h"
-#include "cli/commands.h"
-#include "cli/json_text.h"
-#include "cli/table_text.h"
+#include "cli/basics/class_in_file.h"
+#include "cli/basics/json_text.h"
+#include "cli/basics/table_text.h"
+#include "cli/commands/commands.h"
 #include "store/csv.h"
 
 namespace tallyroll {

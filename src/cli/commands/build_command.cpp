@@ -3,9 +3,9 @@
 #include <iterator>
 #include <memory>
 
-#include "cli/class_from_json.h"
-#include "cli/class_in_file.h"
-#include "cli/commands.h"
+#include "cli/basics/class_from_json.h"
+#include "cli/basics/class_in_file.h"
+#include "cli/commands/commands.h"
 #include "store/program_state.h"
 #include "store/safe_file.h"
 

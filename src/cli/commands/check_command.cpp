@@ -4,8 +4,8 @@
 
 #include "base/code_page.h"
 #include "base/number_text.h"
-#include "cli/class_in_file.h"
-#include "cli/commands.h"
+#include "cli/basics/class_in_file.h"
+#include "cli/commands/commands.h"
 #include "store/check_class.h"
 
 namespace tallyroll {

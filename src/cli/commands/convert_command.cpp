@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include <memory>
 
-#include "cli/class_in_file.h"
-#include "cli/commands.h"
+#include "cli/basics/class_in_file.h"
+#include "cli/commands/commands.h"
 #include "store/program_state.h"
 
 namespace tallyroll {

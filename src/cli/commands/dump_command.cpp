@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include <memory>
 
-#include "cli/class_in_file.h"
-#include "cli/class_json.h"
-#include "cli/commands.h"
+#include "cli/basics/class_in_file.h"
+#include "cli/basics/class_json.h"
+#include "cli/commands/commands.h"
 #include "store/program_state.h"
 
 namespace tallyroll {

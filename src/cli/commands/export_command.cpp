@@ -2,9 +2,9 @@
 #include <memory>
 
 #include "base/number_text.h"
-#include "cli/class_in_file.h"
-#include "cli/commands.h"
-#include "cli/text_layouts.h"
+#include "cli/basics/class_in_file.h"
+#include "cli/basics/text_layouts.h"
+#include "cli/commands/commands.h"
 #include "store/program_state.h"
 #include "store/text/text_export.h"
 

@@ -2,11 +2,11 @@
 #include <memory>
 
 #include "base/code_page.h"
-#include "cli/class_in_file.h"
-#include "cli/command_line_surroundings.h"
-#include "cli/commands.h"
-#include "cli/date_order.h"
-#include "cli/text_layouts.h"
+#include "cli/basics/class_in_file.h"
+#include "cli/basics/command_line_surroundings.h"
+#include "cli/basics/date_order.h"
+#include "cli/basics/text_layouts.h"
+#include "cli/commands/commands.h"
 #include "store/class_defaults.h"
 #include "store/program_state.h"
 #include "store/safe_file.h"

@@ -3,9 +3,9 @@
 #include <vector>
 
 #include "base/code_page.h"
-#include "cli/class_in_file.h"
-#include "cli/commands.h"
-#include "cli/table_text.h"
+#include "cli/basics/class_in_file.h"
+#include "cli/basics/table_text.h"
+#include "cli/commands/commands.h"
 #include "store/program_state.h"
 
 namespace tallyroll {

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Reports with averages tell the figures of the command `averages`, whatever the class and the
 // form.
-#include "tests/cli/graded_class.h"
+#include "tests/cli/commands/graded_class.h"
 
 namespace tallyroll {
 namespace {

@@ -4,7 +4,7 @@
 
 #include <algorithm>
 
-#include "tests/cli/graded_class.h"
+#include "tests/cli/commands/graded_class.h"
 #include "tests/support/pdf_words.h"
 #include "tests/support/refusing_disk.h"
 

@@ -1,0 +1,22 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// What a command of tallyroll-cli answers.
+#pragma once
+
+#include <string>
+
+namespace tallyroll {
+
+// What a command gives: the whole of its output, or why it was refused.
+struct CommandResult {
+  bool refused = false;
+  std::string text;       // UTF-8
+  std::string note = {};  // a line on standard error all the same
+};
+
+// "FILE: reason" on one line, whatever the name or the message holds.
+std::string ReasonLine(const std::string& file, const std::string& reason);
+
+CommandResult Done(std::string text = {});
+CommandResult Refused(const std::string& file, const std::string& reason);
+
+}  // namespace tallyroll
