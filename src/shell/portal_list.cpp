@@ -22,6 +22,7 @@
 #include "averages/portals/frmroundoff.h"
 #include "averages/portals/frmscrnavg.h"
 #include "averages/portals/frmweights.h"
+#include "find/frmfind.h"
 #include "grades/frmEMarksS.h"
 #include "grades/frmEmarks.h"
 #include "grades/frmMarks.h"
@@ -101,6 +102,7 @@ constexpr std::array kPortals{
     PortalRow{"frmwrdproc"},
     PortalRow{"frmseating", Make<frmseating>},
     PortalRow{"frmtxt", Make<frmtxt>},
+    PortalRow{"frmfind", Make<frmfind>},
 };
 
 std::vector<std::string_view> NamesOf(bool built) {
