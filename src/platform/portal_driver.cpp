@@ -14,6 +14,12 @@ const Control& BaseOf(const ControlRow& row) {
   return *std::visit([](auto* c) -> const Control* { return c; }, row.control);
 }
 
+void MarkLines(ListBox& list, std::initializer_list<int> lines) {
+  list.Selected.assign(list.List.size(), false);
+  for (const int line : lines) list.Selected.at(static_cast<std::size_t>(line)) = true;
+  if (lines.size() > 0) list.ListIndex = *(lines.end() - 1);
+}
+
 }  // namespace
 
 PortalDriver::PortalDriver(Portal& portal) : portal_(portal) {
@@ -132,14 +138,24 @@ void PortalDriver::Choose(std::string_view list, int index) {
   const ControlRow* row = Reach(list, "choose in");
   if (!row || !MoveFocus(*row)) return;
   if (auto* box = std::get_if<ListBox*>(&row->control)) {
+    const bool same = (*box)->ListIndex == index;
+    (*box)->ListIndex = index;
+    if ((*box)->MultiSelect) MarkLines(**box, {index});
     // A click on the line that is chosen already changes nothing.
-    if (std::exchange((*box)->ListIndex, index) == index) return Raise(*row, {&ControlRow::click});
+    if (same) return Raise(*row, {&ControlRow::click});
   }
   if (auto* combo = std::get_if<ComboBox*>(&row->control)) {
     (*combo)->ListIndex = index;
     (*combo)->Text = (*combo)->List.at(static_cast<std::size_t>(index));
   }
   Raise(*row, {&ControlRow::change, &ControlRow::click});
+}
+
+void PortalDriver::Mark(std::string_view list, std::initializer_list<int> lines) {
+  ListBox* control = As<ListBox>(list, "mark lines of");
+  if (!control || !control->MultiSelect || !MoveFocus(*table_.Find(list))) return;
+  MarkLines(*control, lines);
+  Raise(*table_.Find(list), {&ControlRow::change});
 }
 
 void PortalDriver::Check(std::string_view list, int index, bool on) {

@@ -31,6 +31,8 @@ class PortalDriver {
   void Tick(std::string_view box, bool on = true);
   // Chooses a line of a list or combo box, from 0.
   void Choose(std::string_view list, int index);
+  // Marks these lines of a list and no others; the last of them is where the keys stand.
+  void Mark(std::string_view list, std::initializer_list<int> lines);
   // Ticks the box of a line, from 0, or takes the tick away.
   void Check(std::string_view list, int index, bool on = true);
   // Picks a tab, from 0.

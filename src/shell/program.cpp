@@ -4,7 +4,7 @@
 #include "attendance/term_table.h"
 #include "averages/engine/average_state.h"
 #include "printing/page/print_job.h"
-#include "roster/frmstudents.h"
+#include "roster/chosen_students.h"
 #include "shell/shell_state.h"
 #include "store/program_state.h"
 #include "store/settings.h"
@@ -14,7 +14,7 @@ namespace tallyroll {
 void ResetProgram() {
   ResetStore();
   ResetSettings();
-  ChosenStudents.clear();
+  ForgetChosenStudents();
   ResetAttendance();
   ResetAverages();
   ResetPrinting();
