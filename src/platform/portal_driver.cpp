@@ -5,6 +5,8 @@
 #include <utility>
 
 #include "platform/chart.h"
+#include "platform/rich_text_box.h"
+#include "platform/rich_text_style.h"
 #include "platform/surroundings.h"
 
 namespace tallyroll {
@@ -104,6 +106,31 @@ void PortalDriver::Type(std::string_view box, std::string_view text) {
     Raise(row, {&ControlRow::change});
     if (portal_.Unloaded()) return;
   }
+}
+
+void PortalDriver::Write(std::string_view rich_text, std::string_view text) {
+  RichTextBox* box = As<RichTextBox>(rich_text, "write into");
+  if (!box) return;
+  if (box->Locked) complaints_.push_back("write into " + std::string(rich_text) + ": it is locked");
+  if (box->Locked || !MoveFocus(*table_.Find(rich_text))) return;
+  const unsigned revision = box->Revision;
+  const auto at = static_cast<std::size_t>(box->SelStart);
+  const std::u16string typed = Utf16FromCodePage(text);
+  box->ReplaceSelection(typed);
+  box->Revision = revision;  // the user's doing
+  Restyle(box->Document, at, typed.size(), [&](TextStyle& style) { style = box->SelStyle; });
+  Raise(*table_.Find(rich_text), {&ControlRow::change, &ControlRow::click});
+}
+
+void PortalDriver::SelectIn(std::string_view rich_text, int start, int length) {
+  RichTextBox* box = As<RichTextBox>(rich_text, "select in");
+  if (!box || !MoveFocus(*table_.Find(rich_text))) return;
+  box->SelStart = start;
+  box->SelLength = length;
+  const auto at = static_cast<std::size_t>(start);
+  box->SelStyle = StylesIn(box->Document, at, static_cast<std::size_t>(length)).front();
+  box->SelAlign = AlignAt(box->Document, at);
+  Raise(*table_.Find(rich_text), {&ControlRow::click});
 }
 
 void PortalDriver::Press(std::string_view button) {
@@ -252,6 +279,8 @@ std::string PortalDriver::Text(std::string_view control) const {
       [](auto* c) -> std::string {
         if constexpr (requires { c->Text; })
           return c->Text;
+        else if constexpr (requires { c->Document; })
+          return Utf8FromUtf16(PlainText(c->Document));
         else if constexpr (requires { c->Caption; })
           return c->Caption;
         else
