@@ -17,13 +17,13 @@ enum class EditAct { kUndo, kRedo, kCut, kCopy, kPaste, kSelectAll };
 // Its events: change, the text or its look was edited; click, the caret or the selection moved.
 struct RichTextBox : Control {
   RichText Document;
-  int SelStart = 0;   // caret or start of the selection, in places of the document
-  int SelLength = 0;  // both follow the user
-  TextStyle SelStyle;                        // what is typed next looks so
-  TextAlign SelAlign = TextAlign::kLeft;     // of the caret's paragraph; follows the user
-  bool CanUndo = false, CanRedo = false;     // follow the user
-  bool Locked = false;                       // to be read alone
-  bool Spelling = false;                     // wrong words are marked, where there is a dictionary
+  int SelStart = 0;    // caret or start of the selection, in places of the document
+  int SelLength = 0;   // both follow the user
+  TextStyle SelStyle;  // what is typed next looks so
+  TextAlign SelAlign = TextAlign::kLeft;  // of the caret's paragraph; follows the user
+  bool CanUndo = false, CanRedo = false;  // follow the user
+  bool Locked = false;                    // to be read alone
+  bool Spelling = false;                  // wrong words are marked, where there is a dictionary
   double Zoom = 1;
   int PaperWidth = 0;         // twips of a line; 0 breaks lines at the box's edge
   std::vector<EditAct> Acts;  // wanted of the screen, which does and takes them

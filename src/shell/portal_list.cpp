@@ -29,6 +29,8 @@
 #include "grades/frmcategories.h"
 #include "grades/frmdGrade.h"
 #include "grades/frmletter.h"
+#include "letters/writer/frmreplace.h"
+#include "letters/writer/frmwrdproc.h"
 #include "printing/frmmargins.h"
 #include "printing/frmprintall.h"
 #include "printing/frmprintpre.h"
@@ -58,49 +60,28 @@ std::unique_ptr<Portal> Make() {
 }
 
 constexpr std::array kPortals{
-    PortalRow{"frmpassword", Make<frmpassword>},
-    PortalRow{"frmWizard", Make<frmWizard>},
-    PortalRow{"frmclassinfo", Make<frmclassinfo>},
-    PortalRow{"frmAdd", Make<frmAdd>},
-    PortalRow{"frmEdit", Make<frmEdit>},
-    PortalRow{"frmstartup", Make<frmstartup>},
-    PortalRow{"frmdelete", Make<frmdelete>},
-    PortalRow{"frmstudents", Make<frmstudents>},
-    PortalRow{"frmMarks", Make<frmMarks>},
-    PortalRow{"frmAtt", Make<frmAtt>},
-    PortalRow{"frmatset", Make<frmatset>},
-    PortalRow{"frmAtsum", Make<frmAtsum>},
-    PortalRow{"frmdGrade", Make<frmdGrade>},
-    PortalRow{"frmEmarks", Make<frmEmarks>},
-    PortalRow{"frmEMarksS", Make<frmEMarksS>},
-    PortalRow{"frmcategories", Make<frmcategories>},
-    PortalRow{"frmletter", Make<frmletter>},
-    PortalRow{"frmEatt", Make<frmEatt>},
-    PortalRow{"frmDatt", Make<frmDatt>},
-    PortalRow{"frmsingles", Make<frmsingles>},
-    PortalRow{"frminfo", Make<frminfo>},
-    PortalRow{"FRMROLLBOOK", Make<FRMROLLBOOK>},
-    PortalRow{"frmMgrade", Make<frmMgrade>},
-    PortalRow{"frmweights", Make<frmweights>},
-    PortalRow{"frmdropgrade", Make<frmdropgrade>},
-    PortalRow{"frmtotals", Make<frmtotals>},
-    PortalRow{"frmpercents", Make<frmpercents>},
-    PortalRow{"frmroundoff", Make<frmroundoff>},
-    PortalRow{"frmscrnavg", Make<frmscrnavg>},
-    PortalRow{"frmgradesave", Make<frmgradesave>},
-    PortalRow{"frmpoints", Make<frmpoints>},
-    PortalRow{"frmoptions", Make<frmoptions>},
-    PortalRow{"frmprintall", Make<frmprintall>},
-    PortalRow{"frmprintpre", Make<frmprintpre>},
-    PortalRow{"printmsg", Make<printmsg>},
-    PortalRow{"frmmargins", Make<frmmargins>},
-    PortalRow{"frmstatistic", Make<frmstatistic>},
-    PortalRow{"frmgraph", Make<frmgraph>},
-    PortalRow{"frmgrone", Make<frmgrone>},
-    PortalRow{"frmcompare", Make<frmcompare>},
-    PortalRow{"frmwrdproc"},
-    PortalRow{"frmseating", Make<frmseating>},
-    PortalRow{"frmtxt", Make<frmtxt>},
+    PortalRow{"frmpassword", Make<frmpassword>},   PortalRow{"frmWizard", Make<frmWizard>},
+    PortalRow{"frmclassinfo", Make<frmclassinfo>}, PortalRow{"frmAdd", Make<frmAdd>},
+    PortalRow{"frmEdit", Make<frmEdit>},           PortalRow{"frmstartup", Make<frmstartup>},
+    PortalRow{"frmdelete", Make<frmdelete>},       PortalRow{"frmstudents", Make<frmstudents>},
+    PortalRow{"frmMarks", Make<frmMarks>},         PortalRow{"frmAtt", Make<frmAtt>},
+    PortalRow{"frmatset", Make<frmatset>},         PortalRow{"frmAtsum", Make<frmAtsum>},
+    PortalRow{"frmdGrade", Make<frmdGrade>},       PortalRow{"frmEmarks", Make<frmEmarks>},
+    PortalRow{"frmEMarksS", Make<frmEMarksS>},     PortalRow{"frmcategories", Make<frmcategories>},
+    PortalRow{"frmletter", Make<frmletter>},       PortalRow{"frmEatt", Make<frmEatt>},
+    PortalRow{"frmDatt", Make<frmDatt>},           PortalRow{"frmsingles", Make<frmsingles>},
+    PortalRow{"frminfo", Make<frminfo>},           PortalRow{"FRMROLLBOOK", Make<FRMROLLBOOK>},
+    PortalRow{"frmMgrade", Make<frmMgrade>},       PortalRow{"frmweights", Make<frmweights>},
+    PortalRow{"frmdropgrade", Make<frmdropgrade>}, PortalRow{"frmtotals", Make<frmtotals>},
+    PortalRow{"frmpercents", Make<frmpercents>},   PortalRow{"frmroundoff", Make<frmroundoff>},
+    PortalRow{"frmscrnavg", Make<frmscrnavg>},     PortalRow{"frmgradesave", Make<frmgradesave>},
+    PortalRow{"frmpoints", Make<frmpoints>},       PortalRow{"frmoptions", Make<frmoptions>},
+    PortalRow{"frmprintall", Make<frmprintall>},   PortalRow{"frmprintpre", Make<frmprintpre>},
+    PortalRow{"printmsg", Make<printmsg>},         PortalRow{"frmmargins", Make<frmmargins>},
+    PortalRow{"frmstatistic", Make<frmstatistic>}, PortalRow{"frmgraph", Make<frmgraph>},
+    PortalRow{"frmgrone", Make<frmgrone>},         PortalRow{"frmcompare", Make<frmcompare>},
+    PortalRow{"frmwrdproc", Make<frmwrdproc>},     PortalRow{"frmreplace", Make<frmreplace>},
+    PortalRow{"frmseating", Make<frmseating>},     PortalRow{"frmtxt", Make<frmtxt>},
 };
 
 std::vector<std::string_view> NamesOf(bool built) {

@@ -114,8 +114,7 @@ QTextCharFormat FormatOf(const TextStyle& style) {
     format.setForeground(QColor(static_cast<QRgb>(style.color) | 0xff000000u));
   if (style.place == TextPlace::kSuper)
     format.setVerticalAlignment(QTextCharFormat::AlignSuperScript);
-  if (style.place == TextPlace::kSub)
-    format.setVerticalAlignment(QTextCharFormat::AlignSubScript);
+  if (style.place == TextPlace::kSub) format.setVerticalAlignment(QTextCharFormat::AlignSubScript);
   return format;
 }
 

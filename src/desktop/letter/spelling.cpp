@@ -136,8 +136,9 @@ bool Spelling::Knows(const QString& word) {
 QList<SpelledWord> WordsToCheck(const QString& text) {
   // A code, an address, a word with figures in it; the last of the alternatives is a word.
   static const QRegularExpression pattern(
-      QStringLiteral("<[^<>]*>|\\S+@\\S+|\\w+://\\S+|www\\.\\S+|[\\p{L}\\p{M}]*\\d[\\p{L}\\p{M}\\d]*"
-                     "|([\\p{L}\\p{M}]+(?:['\\x{2019}][\\p{L}\\p{M}]+)*)"),
+      QStringLiteral(
+          "<[^<>]*>|\\S+@\\S+|\\w+://\\S+|www\\.\\S+|[\\p{L}\\p{M}]*\\d[\\p{L}\\p{M}\\d]*"
+          "|([\\p{L}\\p{M}]+(?:['\\x{2019}][\\p{L}\\p{M}]+)*)"),
       QRegularExpression::UseUnicodePropertiesOption);
   QList<SpelledWord> words;
   for (auto matches = pattern.globalMatch(text); matches.hasNext();) {
@@ -172,9 +173,8 @@ QString DictionaryFor(const QString& language, const QStringList& folders) {
 std::unique_ptr<Spelling> OpenSpelling(const QString& dictionary, const QString& own_words) {
   SpellingLibrary library;
   if (dictionary.isEmpty() || !library.Load()) return nullptr;
-  auto* handle =
-      library.create(QFile::encodeName(dictionary + QStringLiteral(".aff")).constData(),
-                     QFile::encodeName(dictionary + QStringLiteral(".dic")).constData());
+  auto* handle = library.create(QFile::encodeName(dictionary + QStringLiteral(".aff")).constData(),
+                                QFile::encodeName(dictionary + QStringLiteral(".dic")).constData());
   if (!handle) return nullptr;
   auto spelling = std::make_unique<DictionarySpelling>(library, handle, own_words);
   return spelling;
@@ -184,9 +184,9 @@ Spelling* ProgramSpelling() {
   static const std::unique_ptr<Spelling> spelling = [] {
     const QString name = QLocale::system().name();
     const QString language = name == QLatin1String("C") ? QStringLiteral("en_US") : name;
-    return OpenSpelling(DictionaryFor(language, DictionaryFolders()),
-                        QFile::decodeName(Platform().ProfileFolder().c_str()) +
-                            QStringLiteral("/words.txt"));
+    return OpenSpelling(
+        DictionaryFor(language, DictionaryFolders()),
+        QFile::decodeName(Platform().ProfileFolder().c_str()) + QStringLiteral("/words.txt"));
   }();
   return spelling.get();
 }

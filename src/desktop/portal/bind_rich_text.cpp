@@ -63,7 +63,8 @@ class RichTextBinding : public Binding<RichTextBox, RichTextEdit> {
     }
     // What they do is the user's doing, and is told when this handler is done.
     for (const EditAct act : std::exchange(control_.Acts, {}))
-      QMetaObject::invokeMethod(this, [this, act] { Do(act); }, Qt::QueuedConnection);
+      QMetaObject::invokeMethod(
+          this, [this, act] { Do(act); }, Qt::QueuedConnection);
   }
 
  private:
@@ -129,9 +130,8 @@ class RichTextBinding : public Binding<RichTextBox, RichTextEdit> {
     while (tail < most - head && was[was.size() - 1 - tail] == now[now.size() - 1 - tail]) ++tail;
     // Something must stand on both sides to be replaced.
     if (head + tail == most) head > 0 ? --head : --tail;
-    ReplaceBlocks(*widget_.document(), static_cast<int>(head),
-                  static_cast<int>(was.size() - tail), now.data() + head,
-                  now.data() + now.size() - tail);
+    ReplaceBlocks(*widget_.document(), static_cast<int>(head), static_cast<int>(was.size() - tail),
+                  now.data() + head, now.data() + now.size() - tail);
     shown_ = control_.Document;
     ForgetChanges();
   }

@@ -58,8 +58,7 @@ void frmreplace::FindNext_Click() {
   if (!letter) return;
   const std::u16string what = Utf16FromCodePage(Text1.Text);
   const auto from = static_cast<std::size_t>(letter->SelStart + letter->SelLength);
-  const std::size_t at =
-      what.empty() ? kNoPlace : FindText(letter->Document, what, from, Search());
+  const std::size_t at = what.empty() ? kNoPlace : FindText(letter->Document, what, from, Search());
   AllowReplacing(at != kNoPlace);
   if (at != kNoPlace) return letter->Select(at, what.size());
   ShowMessage("String not found");

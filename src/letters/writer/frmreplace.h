@@ -14,14 +14,14 @@ struct frmreplace : Portal {
   void Declare(ControlTable& table) override;
   void Load() override;
 
-  TextBox Text1;  // find what
-  TextBox Text2;  // replace with
+  TextBox Text1;    // find what
+  TextBox Text2;    // replace with
   CheckBox Check1;  // case sensitive
   CheckBox Check2;  // whole word only
   CommandButton FindNext, ReplaceWord, ReplaceAll, exit;
 
-  RichTextBox* letter = nullptr;      // null: there is nothing to search
-  std::function<void()> edited;       // told when the letter was changed
+  RichTextBox* letter = nullptr;  // null: there is nothing to search
+  std::function<void()> edited;   // told when the letter was changed
 
   void FindNext_Click();
   void ReplaceWord_Click();

@@ -18,6 +18,13 @@ std::string NameOfFile(const std::string& path) {
   return PathForDisplay(std::filesystem::path(path).filename().string());
 }
 
+std::string TitleOf(const std::string& path) {
+  std::string title(kWriterTitle);
+  if (path.empty()) return title;
+  title += ' ';
+  return title += NameOfFile(path);
+}
+
 bool MayGoOver(const std::string& path, const FileStamp& stamp) {
   const FileStamp now = StampOf(path);
   if (now == stamp || now.size < 0) return true;
@@ -54,8 +61,7 @@ void frmwrdproc::SetLetter(RichText letter, std::string file) {
   file_ = std::move(file);
   stamp_ = StampOf(file_);
   changed_ = false;
-  Caption = kWriterTitle;
-  if (!file_.empty()) Caption += " " + NameOfFile(file_);
+  Caption = TitleOf(file_);
   ShowLooks();
   SetFocus(RichTextBox1);
 }
@@ -115,7 +121,7 @@ bool frmwrdproc::WriteTo(const std::string& path) {
   file_ = path;
   stamp_ = StampOf(path);
   changed_ = false;
-  Caption = std::string(kWriterTitle) + " " + NameOfFile(path);
+  Caption = TitleOf(path);
   return true;
 }
 
