@@ -8,6 +8,7 @@
 #include <QMimeData>
 #include <QScrollBar>
 #include <QTextDocument>
+#include <QTextDocumentFragment>
 #include <algorithm>
 #include <cmath>
 
@@ -177,7 +178,7 @@ QTextCursor RichTextEdit::WrongWordAt(QTextCursor place) const {
 
 void RichTextEdit::AddSuggestions(QMenu& menu, const QTextCursor& place) {
   if (!marks_ || isReadOnly()) return;
-  const QTextCursor word = WrongWordAt(place);
+  QTextCursor word = WrongWordAt(place);
   if (!word.hasSelection()) return;
   QAction* below = menu.actions().value(0);
   for (const QString& better :

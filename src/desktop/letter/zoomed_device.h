@@ -28,7 +28,7 @@ class ZoomedDevice : public QPaintDevice {
       case PdmHeight:
         return widget_.height();
       case PdmDevicePixelRatio:
-        return widget_.devicePixelRatio();
+        return static_cast<int>(std::lround(widget_.devicePixelRatioF()));
       case PdmDevicePixelRatioScaled:
         return static_cast<int>(widget_.devicePixelRatioF() * devicePixelRatioFScale());
       default:
