@@ -34,8 +34,14 @@ struct LetterMargins {
 // Those that the teacher chose for printing.
 LetterMargins ChosenMargins();
 
+class LetterMeasure;
+
 // Never less than one page.
 std::vector<LetterPage> LayOutLetter(const RichText& letter, const PrintTarget& target,
+                                     const LetterMargins& margins);
+
+// The same for one of many letters, whose words are measured once.
+std::vector<LetterPage> LayOutLetter(const RichText& letter, LetterMeasure& measure,
                                      const LetterMargins& margins);
 
 void DrawLetterPage(PrintTarget& target, const LetterPage& page);

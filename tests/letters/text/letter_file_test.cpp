@@ -14,9 +14,8 @@ namespace {
 
 class LetterFileTest : public PortalTest {
  protected:
-  std::string In(const std::string& name) const { return folder + "/" + name; }
   void Put(const std::string& name, std::string_view bytes) {
-    ASSERT_EQ(ReplaceFile(In(name), bytes, OldTail::kDrop), 0);
+    ASSERT_EQ(ReplaceFile(Path(name), bytes, OldTail::kDrop), 0);
   }
 };
 
@@ -29,7 +28,7 @@ TEST_F(LetterFileTest, TheExtensionTellsWhatALetterIs) {
 
 TEST_F(LetterFileTest, APlainTextIsSetInCourier) {
   Put("a.txt", "Dear <First Name>\r\nM\xFCller\r\n");
-  const LetterReading reading = ReadLetter(In("a.txt"));
+  const LetterReading reading = ReadLetter(Path("a.txt"));
   EXPECT_EQ(reading.reason, "");
   EXPECT_EQ(WordsOf(reading.text), "Dear <First Name>\nMüller\n");
   EXPECT_EQ(reading.text.paragraphs[0].runs[0].style.font, "Courier New");
@@ -40,13 +39,13 @@ TEST_F(LetterFileTest, APlainTextComesBackByteForByte) {
   for (const std::string bytes : {"", "a", "a\r\n", "a\r\n\r\nb", "M\xFCller \x80",
                                   "\xEF\xBB\xBF\xCE\xB1", "a\tb", "a\r\n\fb\r\n\f\f"}) {
     Put("a.txt", bytes);
-    EXPECT_EQ(PlainTextFile(ReadLetter(In("a.txt")).text), bytes);
+    EXPECT_EQ(PlainTextFile(ReadLetter(Path("a.txt")).text), bytes);
   }
 }
 
 TEST_F(LetterFileTest, Utf8IsKnownWithoutItsMark) {
   Put("a.txt", "M\xC3\xBCller");
-  EXPECT_EQ(WordsOf(ReadLetter(In("a.txt")).text), "Müller");
+  EXPECT_EQ(WordsOf(ReadLetter(Path("a.txt")).text), "Müller");
 }
 
 // Two letters of the code page that stand as one in UTF-8.
@@ -57,27 +56,27 @@ TEST_F(LetterFileTest, WhatWouldBeTakenForUtf8IsWrittenAsSuch) {
 
 TEST_F(LetterFileTest, ALetterIsWrittenByItsExtension) {
   const RichText letter = RichTextOf(u"Dear \u03B1");
-  ASSERT_EQ(WriteLetter(In("a.rtf"), letter), 0);
-  EXPECT_TRUE(ReadLetter(In("a.rtf")).text == letter);
-  ASSERT_EQ(WriteLetter(In("a.txt"), letter), 0);
-  EXPECT_EQ(ReadWholeFile(In("a.txt")).bytes,
+  ASSERT_EQ(WriteLetter(Path("a.rtf"), letter), 0);
+  EXPECT_TRUE(ReadLetter(Path("a.rtf")).text == letter);
+  ASSERT_EQ(WriteLetter(Path("a.txt"), letter), 0);
+  EXPECT_EQ(ReadWholeFile(Path("a.txt")).bytes,
             "\xEF\xBB\xBF"
             "Dear \xCE\xB1");
 }
 
 TEST_F(LetterFileTest, AFileThatCannotBeReadIsAnError) {
-  EXPECT_EQ(ReadLetter(In("none.rtf")).error, kErrorFileNotFound);
-  EXPECT_NE(ReadLetter(In("none.rtf")).reason, "");
+  EXPECT_EQ(ReadLetter(Path("none.rtf")).error, kErrorFileNotFound);
+  EXPECT_NE(ReadLetter(Path("none.rtf")).reason, "");
   Put("bad.rtf", "{\\rtf1 cut");
-  EXPECT_EQ(ReadLetter(In("bad.rtf")).reason, "it ends before its last group does");
+  EXPECT_EQ(ReadLetter(Path("bad.rtf")).reason, "it ends before its last group does");
 }
 
 TEST_F(LetterFileTest, TheOldLetterStaysWholeWhereTheNewOneCannotBeWritten) {
   Put("a.txt", "old");
-  ASSERT_EQ(chmod(In("a.txt").c_str(), 0444), 0);
-  EXPECT_EQ(WriteLetter(In("a.txt"), RichTextOf(u"new")), kErrorPermission);
-  EXPECT_EQ(ReadWholeFile(In("a.txt")).bytes, "old");
-  EXPECT_EQ(WriteLetter(In("gone/a.txt"), RichTextOf(u"new")), kErrorPathNotFound);
+  ASSERT_EQ(chmod(Path("a.txt").c_str(), 0444), 0);
+  EXPECT_EQ(WriteLetter(Path("a.txt"), RichTextOf(u"new")), kErrorPermission);
+  EXPECT_EQ(ReadWholeFile(Path("a.txt")).bytes, "old");
+  EXPECT_EQ(WriteLetter(Path("gone/a.txt"), RichTextOf(u"new")), kErrorPathNotFound);
 }
 
 }  // namespace

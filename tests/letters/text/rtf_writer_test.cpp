@@ -87,7 +87,7 @@ ParagraphStyle RandomParagraphStyle(std::mt19937& random) {
   style.line = static_cast<int>(random() % 400) + 1;
   style.page_break_before = random() % 4 == 0;
   int at = 0;
-  for (unsigned tabs = random() % 4; tabs > 0; --tabs)
+  for (auto tabs = random() % 4; tabs > 0; --tabs)
     style.tabs.push_back(
         {at += static_cast<int>(random() % 900) + 1, static_cast<TabAlign>(random() % 4)});
   return style;
@@ -99,11 +99,11 @@ TEST(RtfWriter, AnyLetterComesBackAsItWas) {
     RichText letter;
     letter.base = RandomStyle(random);
     letter.paragraphs.clear();
-    for (unsigned paragraphs = random() % 5 + 1; paragraphs > 0; --paragraphs) {
+    for (auto paragraphs = random() % 5 + 1; paragraphs > 0; --paragraphs) {
       Paragraph& paragraph = letter.paragraphs.emplace_back();
       paragraph.style = RandomParagraphStyle(random);
       paragraph.mark = RandomStyle(random);
-      for (unsigned runs = random() % 4; runs > 0; --runs)
+      for (auto runs = random() % 4; runs > 0; --runs)
         AppendText(paragraph, u"word\u00E9 <Code> \u03B1", RandomStyle(random));
     }
     ExpectSameAgain(letter);
