@@ -61,6 +61,8 @@ constexpr std::array kContexts = {
     630,  // comparing classes: frmcompare
     640,  // the roll book: FRMROLLBOOK
     650,  // one grade of all students: frmsingles
+    700,  // letters: frmwrdproc
+    710,  // find and replace: frmreplace
 };
 
 }  // namespace
