@@ -53,7 +53,7 @@ namespace {
 
 struct PortalRow {
   std::string_view name;
-  std::unique_ptr<Portal> (*make)() = nullptr;  // null while the Portal is not built
+  std::unique_ptr<Portal> (*make)() = nullptr;
 };
 
 template <typename P>
@@ -112,29 +112,23 @@ constexpr std::array kPortals{
 };
 // clang-format on
 
-std::vector<std::string_view> NamesOf(bool built) {
+std::vector<std::string_view> AllNames() {
   std::vector<std::string_view> names;
-  for (const PortalRow& row : kPortals)
-    if ((row.make != nullptr) == built) names.push_back(row.name);
+  for (const PortalRow& row : kPortals) names.push_back(row.name);
   return names;
 }
 
-const std::vector<std::string_view> built_portals = NamesOf(true);
-const std::vector<std::string_view> missing_portals = NamesOf(false);
+const std::vector<std::string_view> portal_names = AllNames();
 
 }  // namespace
 
 const std::vector<std::string_view>& PortalNames() {
-  return built_portals;
-}
-
-const std::vector<std::string_view>& MissingPortals() {
-  return missing_portals;
+  return portal_names;
 }
 
 std::unique_ptr<Portal> MakePortalByName(std::string_view name) {
   for (const PortalRow& row : kPortals)
-    if (row.name == name && row.make) return row.make();
+    if (row.name == name) return row.make();
   return nullptr;
 }
 

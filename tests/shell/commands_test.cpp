@@ -240,16 +240,6 @@ TEST_F(CommandsTest, PasswordThatWasCancelledSavesNothing) {
   EXPECT_EQ(Current().Changed, kTrue);
 }
 
-TEST_F(CommandsTest, MissingPortalSaysSoAndDoesNothingElse) {
-  MakePortal = [](std::string_view) -> std::unique_ptr<Portal> { return nullptr; };
-  for (const char* entry : {"mnuMarks", "mnuSeating", "mnuStatistic", "mnumargins"}) {
-    window->StatusText.clear();
-    window->ClickMenu(entry);
-    EXPECT_EQ(window->StatusText, "This portal is not available yet.") << entry;
-  }
-  EXPECT_EQ(Current().Changed, kFalse);
-}
-
 TEST_F(CommandsTest, PrinterEntriesAskForFontPaperAndMargins) {
   screen.font_answer = {"Arial", 12.0f};
   window->ClickMenu("mnuFont");
