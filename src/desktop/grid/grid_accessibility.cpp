@@ -34,7 +34,9 @@ class GridCellInterface : public QAccessibleInterface,
   int indexOfChild(const QAccessibleInterface*) const override { return -1; }
 
   QString text(QAccessible::Text type) const override {
-    if (type != QAccessible::Name || !isValid()) return {};
+    if (!isValid()) return {};
+    if (type == QAccessible::Description && isSelected()) return widget_->Told();
+    if (type != QAccessible::Name) return {};
     return FromText(widget_->grid()->TextMatrix(row_, col_)).trimmed();
   }
   void setText(QAccessible::Text, const QString&) override {}

@@ -43,6 +43,10 @@ class GridWidget : public QAbstractScrollArea {
   // Whether the text is wider than its cell, so that its end does not show.
   bool IsCut(int row, int col) const;
 
+  // What a screen reader adds to the current cell.
+  void SetTold(const QString& told) { told_ = told; }
+  const QString& Told() const { return told_; }
+
   QSize sizeHint() const override;
   QSize minimumSizeHint() const override;
 
@@ -101,6 +105,7 @@ class GridWidget : public QAbstractScrollArea {
   int natural_width_ = 0;  // of the columns as the logic set them
   GridFonts fonts_;
   GridColors colors_;
+  QString told_;
 };
 
 }  // namespace tallyroll

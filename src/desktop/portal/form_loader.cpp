@@ -18,6 +18,7 @@
 #include "desktop/portal/chart_widget.h"
 #include "desktop/portal/code_page_text_edit.h"
 #include "desktop/portal/date_field.h"
+#include "desktop/portal/telling_label.h"
 
 namespace tallyroll {
 namespace {
@@ -28,6 +29,7 @@ QWidget* MakeOwnWidget(const QString& class_name, QWidget* parent) {
       class_name == QLatin1String("GridWidget"))
     return new GridWidget(parent);
   if (class_name == QLatin1String("tallyroll::SeatsWidget")) return new SeatsWidget(parent);
+  if (class_name == QLatin1String("tallyroll::TellingLabel")) return new TellingLabel(parent);
   if (class_name == QLatin1String("tallyroll::ChartWidget")) return new ChartWidget(parent);
   if (class_name == QLatin1String("tallyroll::RichTextEdit")) return new RichTextEdit(parent);
   if (class_name == QLatin1String("tallyroll::CellList")) return new CellList(parent);
