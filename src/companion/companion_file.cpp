@@ -14,6 +14,9 @@ constexpr const char* kSteps[] = {
     // Wishes for seats, by the IDs of students.
     "CREATE TABLE seat_wish (place INTEGER PRIMARY KEY, kind TEXT NOT NULL,"
     " student TEXT NOT NULL, other TEXT NOT NULL)",
+    // The identifiers of other school systems.
+    "CREATE TABLE foreign_id (system TEXT NOT NULL, kind TEXT NOT NULL, own TEXT NOT NULL,"
+    " foreign_id TEXT NOT NULL, PRIMARY KEY (system, kind, own))",
 };
 constexpr auto kLayout = static_cast<std::int64_t>(std::size(kSteps));
 
