@@ -22,6 +22,7 @@
 #include "averages/portals/frmroundoff.h"
 #include "averages/portals/frmscrnavg.h"
 #include "averages/portals/frmweights.h"
+#include "exchange/frmexchange.h"
 #include "grades/frmEMarksS.h"
 #include "grades/frmEmarks.h"
 #include "grades/frmMarks.h"
@@ -98,6 +99,7 @@ constexpr std::array kPortals{
     PortalRow{"frmgraph", Make<frmgraph>},
     PortalRow{"frmgrone", Make<frmgrone>},
     PortalRow{"frmcompare", Make<frmcompare>},
+    PortalRow{"frmexchange", Make<frmexchange>},
     PortalRow{"frmwrdproc"},
     PortalRow{"frmseating", Make<frmseating>},
     PortalRow{"frmtxt", Make<frmtxt>},
