@@ -62,6 +62,8 @@ int RunCommandLine(int argc, const char* const* argv, std::istream& in, std::ost
   AddSeatingCommand(app, chosen);
   AddRowsCommand(app, chosen);
   AddExchangeCommand(app, chosen);
+  AddLettersCommand(app, chosen);
+  AddLabelsCommand(app, chosen);
   std::string reason;
   const ParsedLine parsed = parser.Parse(argc, argv, out, reason);
   if (parsed == ParsedLine::kWrong) return RefuseCommandLine(reason, err);

@@ -23,6 +23,7 @@
 #include "averages/portals/frmscrnavg.h"
 #include "averages/portals/frmweights.h"
 #include "exchange/frmexchange.h"
+#include "find/frmfind.h"
 #include "grades/frmEMarksS.h"
 #include "grades/frmEmarks.h"
 #include "grades/frmMarks.h"
@@ -30,6 +31,9 @@
 #include "grades/frmcategories.h"
 #include "grades/frmdGrade.h"
 #include "grades/frmletter.h"
+#include "letters/mail/frmSendMail.h"
+#include "letters/writer/frmreplace.h"
+#include "letters/writer/frmwrdproc.h"
 #include "printing/frmmargins.h"
 #include "printing/frmprintall.h"
 #include "printing/frmprintpre.h"
@@ -58,6 +62,7 @@ std::unique_ptr<Portal> Make() {
   return std::make_unique<P>();
 }
 
+// clang-format off
 constexpr std::array kPortals{
     PortalRow{"frmpassword", Make<frmpassword>},
     PortalRow{"frmWizard", Make<frmWizard>},
@@ -100,10 +105,14 @@ constexpr std::array kPortals{
     PortalRow{"frmgrone", Make<frmgrone>},
     PortalRow{"frmcompare", Make<frmcompare>},
     PortalRow{"frmexchange", Make<frmexchange>},
-    PortalRow{"frmwrdproc"},
+    PortalRow{"frmwrdproc", Make<frmwrdproc>},
+    PortalRow{"frmreplace", Make<frmreplace>},
     PortalRow{"frmseating", Make<frmseating>},
     PortalRow{"frmtxt", Make<frmtxt>},
+    PortalRow{"frmfind", Make<frmfind>},
+    PortalRow{"frmSendMail", Make<frmSendMail>},
 };
+// clang-format on
 
 std::vector<std::string_view> NamesOf(bool built) {
   std::vector<std::string_view> names;
