@@ -18,6 +18,13 @@ inline std::string Counted(std::int64_t count, std::string_view one) {
   return PlainNumberText(count) + " " + std::string(one) + (count == 1 ? "" : "s");
 }
 
+inline std::string NameInFolder(std::string_view path) {
+  return std::string(path.substr(path.rfind('/') + 1));
+}
+inline std::string FolderOfFile(std::string_view path) {
+  return std::string(path.substr(0, path.rfind('/') + 1));
+}
+
 inline void SetGridTitles(Grid& grid, std::span<const std::string_view> titles,
                           std::span<const int> widths) {
   grid.SetSize(1, static_cast<int>(titles.size()));

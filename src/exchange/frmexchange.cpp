@@ -121,7 +121,7 @@ void frmexchange::choose_Click() {
   if (!path || path->empty()) return;
   const FileContents file = ReadWholeFile(*path, kLargestTextFile);
   if (file.error != 0) return ShowTextFileError(file.error);
-  LastFolder = FolderOf(*path);
+  LastFolder = FolderOfFile(*path);
   const std::optional<ExchangeFormat> format = RecognisedFormat(file.bytes);
   if (!format) {
     ShowMessage(PathForDisplay(*path) +
@@ -214,12 +214,12 @@ void frmexchange::ShowCounts() {
   if (path_.empty()) {
     told.Caption = "Choose the file that the other system has written.";
   } else if (!preview_.refusal.empty()) {
-    told.Caption = FileNameOf(PathForDisplay(path_)) + " " + preview_.refusal + ".";
+    told.Caption = NameInFolder(PathForDisplay(path_)) + " " + preview_.refusal + ".";
   } else {
     const auto ticked = std::ranges::count(preview_.changes, true, &Change::ticked);
     const auto blocked = std::ranges::count_if(
         preview_.changes, [](const Change& change) { return Blocks(change.kind); });
-    told.Caption = FileNameOf(PathForDisplay(path_)) + ": " + Counted(ticked, "line") +
+    told.Caption = NameInFolder(PathForDisplay(path_)) + ": " + Counted(ticked, "line") +
                    " ticked, " + Counted(blocked, "problem") + ", " +
                    PlainNumberText(preview_.Count(ChangeKind::kSame)) + " with nothing to do";
   }
@@ -282,7 +282,7 @@ void frmexchange::Take() {
   const std::string fault = KeepIdsOf(Format(), preview_);
   ClassWindow().showform3();
   ClassWindow().ShowStatus(Counted(taken.grades, "grade") + " and " + Counted(taken.marks, "mark") +
-                           " taken from " + FileNameOf(PathForDisplay(path_)) + "." +
+                           " taken from " + NameInFolder(PathForDisplay(path_)) + "." +
                            (fault.empty() ? "" : " The identifiers are not kept: " + fault));
   Unload();
 }

@@ -101,9 +101,9 @@ void frmexchange::GiveOut() {
     return (void)ShowMessage("The class " + file.refusal + ".", BoxIcon::kExclamation);
   if (const int error = ReplaceFile(*path, file.bytes, OldTail::kDrop))
     return ShowTextFileError(error);
-  LastFolder = FolderOf(*path);
+  LastFolder = FolderOfFile(*path);
   RememberSigns(Format(), ChosenSigns());
-  ClassWindow().ShowStatus(FileNameOf(PathForDisplay(*path)) + " written for " +
+  ClassWindow().ShowStatus(NameInFolder(PathForDisplay(*path)) + " written for " +
                            std::string(RowOfFormat(Format()).caption) + ".");
   Unload();
 }

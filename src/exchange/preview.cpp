@@ -45,9 +45,9 @@ class PreviewMaker {
       preview_.refusal = "holds no grades";
     if (!preview_.refusal.empty()) return std::move(preview_);
     MatchGrades();
+    const std::size_t grades = preview_.changes.size();
     MatchStudents();
     FindTwice();
-    const std::size_t grades = preview_.changes.size();
     for (const ForeignFault& fault : table().faults)
       Add(ChangeKind::kUnusable, fault.line, fault.column,
           (fault.cell.empty() ? "" : "\"" + fault.cell + "\" ") + fault.reason);

@@ -64,11 +64,11 @@ class RoundTripTest : public ExchangeTest, public testing::WithParamInterface<Ex
     ExchangePreview known;
     known.table.course = "course-v1:X";
     for (int g = 1; g <= Current().NumInstruments; ++g) {
-      known.table.grades.push_back({.title = "", .key = "block" + std::to_string(g)});
+      known.table.grades.emplace_back().key = "block" + std::to_string(g);
       known.grade_of.push_back(g);
     }
     for (int s = 1; s <= Current().NumStudents; ++s) {
-      known.table.students.push_back({.key = std::to_string(100 + s)});
+      known.table.students.emplace_back().key = std::to_string(100 + s);
       known.student_of.push_back(s);
     }
     std::filesystem::remove(Path("class.tyx"));

@@ -7,6 +7,7 @@
 #include "cli/basics/date_order.h"
 #include "cli/basics/json_text.h"
 #include "cli/commands/commands.h"
+#include "companion/foreign_ids.h"
 #include "exchange/kept_ids.h"
 #include "exchange/out_table.h"
 #include "exchange/take.h"
@@ -89,12 +90,15 @@ std::string BlockingLines(const ExchangePreview& preview) {
   return Utf8FromCodePage(lines);
 }
 
-// The class with what was taken, and a copy of what its companion keeps.
+// The class with what was taken, and the identifiers of this and of earlier files beside it.
 std::string WriteTaken(const ExchangeOptions& options, ExchangeFormat format,
                        const ExchangePreview& preview, std::string& note) {
   std::string reason = WriteClassTo(options.out, Current(), options.force);
   if (!reason.empty()) return reason;
+  const std::string system(RowOfFormat(format).name);
+  const KeptForeignIds earlier = ForeignIds(options.file, system);
   Current().FileName = options.out;
+  if (!earlier.ids.empty()) KeepForeignIds(options.out, system, earlier.ids);
   if (const std::string fault = KeepIdsOf(format, preview); !fault.empty())
     note = ReasonLine(options.out, "the identifiers are not kept: " + fault);
   return {};
