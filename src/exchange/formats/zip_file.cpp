@@ -132,6 +132,10 @@ ZipFiles Unzip(std::string_view bytes) {
     out.refusal = kNoZipLibrary;
     return out;
   }
+  if (bytes.empty()) {  // to the library an archive without files
+    out.refusal = kNoArchive;
+    return out;
+  }
   zip_error_t error{};
   zip_source_t* const source = zip.source_buffer_create(bytes.data(), bytes.size(), 0, &error);
   zip_t* const archive =

@@ -1,8 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include <gmock/gmock.h>
 
+#include <cstdlib>
 #include <nlohmann/json.hpp>
 
+#include "exchange/formats/zip_file.h"
 #include "tests/cli/run_cli.h"
 
 namespace tallyroll {
@@ -87,6 +89,20 @@ TEST_F(ExchangeCommandTest, WarningsAreToldAndMendedUnlessItIsToStay) {
   RunCli({"exchange", "out", file, "--format", "canvas", "--out", Path("b.csv"), "--as-it-is"});
   EXPECT_THAT(Get(Path("b.csv")), HasSubstr("Final Score"));
 }
+
+// The sanitizers take more memory for themselves than is allowed here.
+#ifndef __SANITIZE_ADDRESS__
+TEST_F(ExchangeCommandTest, AnArchiveOfZerosIsRefusedInLittleMemory) {
+  const std::string file = Build(kEssay);
+  const ZipBytes zip = Zip({{"results.csv", std::string(std::size_t{300} << 20, '0')}});
+  const std::string bomb = Put("bomb.zip", zip.bytes);
+  const std::string command = "bash -c 'ulimit -v 100000; " + std::string(TALLYROLL_CLI) +
+                              " exchange in " + file + " " + bomb + " --preview 2>" + Path("err") +
+                              "'";
+  EXPECT_NE(std::system(command.c_str()), 0);
+  EXPECT_EQ(Get(Path("err")), bomb + ": unpacks to too much\n");
+}
+#endif
 
 TEST_F(ExchangeCommandTest, AWrongCommandLineIsTold) {
   EXPECT_EQ(RunCli({"exchange"}).status, 2);
