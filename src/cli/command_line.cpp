@@ -61,6 +61,7 @@ int RunCommandLine(int argc, const char* const* argv, std::istream& in, std::ost
   AddExportCommand(app, chosen);
   AddSeatingCommand(app, chosen);
   AddRowsCommand(app, chosen);
+  AddExchangeCommand(app, chosen);
   AddLettersCommand(app, chosen);
   AddLabelsCommand(app, chosen);
   std::string reason;

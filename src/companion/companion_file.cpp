@@ -17,6 +17,9 @@ constexpr const char* kSteps[] = {
     " student TEXT NOT NULL, other TEXT NOT NULL)",
     // By what the class is known: one row, or none in a companion of the first layout.
     "CREATE TABLE known_class (file TEXT NOT NULL, students TEXT NOT NULL)",
+    // The identifiers of other school systems.
+    "CREATE TABLE foreign_id (system TEXT NOT NULL, kind TEXT NOT NULL, own TEXT NOT NULL,"
+    " foreign_id TEXT NOT NULL, PRIMARY KEY (system, kind, own))",
 };
 constexpr auto kLayout = static_cast<std::int64_t>(std::size(kSteps));
 

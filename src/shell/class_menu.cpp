@@ -82,6 +82,8 @@ constexpr ClassMenuRow kRows[] = {
      .status = "Write all grades and their titles to a text file", .portal = "frmtxt", .action = [](Form1& window) { window.ExportStudents(kExportGrades); }},
     {.level = 3, .name = "mnutestingInstwithout", .caption = "Names, ID's plus Testing Instruments without Headers",
      .status = "Write all grades to a text file", .portal = "frmtxt", .action = [](Form1& window) { window.ExportStudents(kExportGradesPlain); }},
+    {.level = 2, .name = "mnuSchoolSystems", .caption = "&School Systems...", .status = "Take marks from another school system, or give them out to it",
+     .portal = "frmexchange"},
     {.level = 1},
     {.level = 1, .name = "mnuFont", .caption = "Printer &Font", .status = "Choose the font of printed pages",
      .action = [](Form1&) { Platform().FontDialog(PrinterFontName, PrinterFontSize); }},

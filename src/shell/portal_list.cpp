@@ -22,6 +22,7 @@
 #include "averages/portals/frmroundoff.h"
 #include "averages/portals/frmscrnavg.h"
 #include "averages/portals/frmweights.h"
+#include "exchange/frmexchange.h"
 #include "find/frmfind.h"
 #include "grades/frmEMarksS.h"
 #include "grades/frmEmarks.h"
@@ -103,6 +104,7 @@ constexpr std::array kPortals{
     PortalRow{"frmgraph", Make<frmgraph>},
     PortalRow{"frmgrone", Make<frmgrone>},
     PortalRow{"frmcompare", Make<frmcompare>},
+    PortalRow{"frmexchange", Make<frmexchange>},
     PortalRow{"frmwrdproc", Make<frmwrdproc>},
     PortalRow{"frmreplace", Make<frmreplace>},
     PortalRow{"frmseating", Make<frmseating>},

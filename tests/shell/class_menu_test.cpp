@@ -117,6 +117,7 @@ TEST_F(ClassMenuTest, CaptionsStandAsTeachersKnowThem) {
       {"mnuBio", "Names, ID's plus Supp. Info."},
       {"mnutestingInst", "Names, ID's plus Testing Instruments with Headers"},
       {"mnutestingInstwithout", "Names, ID's plus Testing Instruments without Headers"},
+      {"mnuSchoolSystems", "&School Systems..."},
       {"mnuFont", "Printer &Font"},
       {"mnuPrinterSetUp", "&Printer Set Up..."},
       {"mnumargins", "Printer &Margins"},

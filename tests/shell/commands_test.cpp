@@ -78,6 +78,7 @@ TEST_F(CommandsTest, EntriesOpenTheirPortalInItsMode) {
       {"mnuBio", "frmtxt", 441},
       {"mnutestingInst", "frmtxt", 541},
       {"mnutestingInstwithout", "frmtxt", 561},
+      {"mnuSchoolSystems", "frmexchange", 0},
       {"mnuAdd", "frmAdd", 0},
       {"mmucomment", "frmEdit", 27},
       {"mnuDelete", "frmdelete", 0},

@@ -28,6 +28,7 @@ void AddImportCommand(Command& app, ChosenCommand& chosen);
 void AddExportCommand(Command& app, ChosenCommand& chosen);
 void AddSeatingCommand(Command& app, ChosenCommand& chosen);
 void AddRowsCommand(Command& app, ChosenCommand& chosen);
+void AddExchangeCommand(Command& app, ChosenCommand& chosen);
 void AddLettersCommand(Command& app, ChosenCommand& chosen);
 void AddLabelsCommand(Command& app, ChosenCommand& chosen);
 

@@ -18,6 +18,7 @@ constexpr std::array kContexts = {
     140,  // recent classes, several classes at a time
     150,  // starting the program: frmstartup
     160,  // text files: frmtxt
+    165,  // other school systems: frmexchange
     200,  // the class window: Form1
     210,  // all keys
     215,  // finding students, grades, commands and classes: frmfind
