@@ -37,7 +37,7 @@ TEST_F(LetterFileTest, APlainTextIsSetInCourier) {
 
 TEST_F(LetterFileTest, APlainTextComesBackByteForByte) {
   for (const std::string bytes : {"", "a", "a\r\n", "a\r\n\r\nb", "M\xFCller \x80",
-                                  "\xEF\xBB\xBF\xCE\xB1", "a\tb", "a\r\n\fb\r\n\f\f"}) {
+                                  "\xEF\xBB\xBF\xCE\xB1", "a\tb", "a\r\n\fb\r\n\f\r\n\f"}) {
     Put("a.txt", bytes);
     EXPECT_EQ(PlainTextFile(ReadLetter(Path("a.txt")).text), bytes);
   }
