@@ -18,6 +18,10 @@ bool HasText(const std::vector<Paragraph>& paragraphs) {
   });
 }
 
+bool IsControlByte(char c) {
+  return static_cast<unsigned char>(c) < ' ';
+}
+
 bool ChangesPageOrStyle(RtfKind kind) {
   return kind != RtfKind::kText && kind != RtfKind::kByte;
 }
@@ -181,6 +185,7 @@ void RtfInterpreter::AppendFontBytes() {
   has_style_ = false;
   const std::string text = Utf8FromUtf16(decoder_.Decode(bytes_, page));
   name += text.substr(0, text.find(';'));
+  std::replace_if(name.begin(), name.end(), IsControlByte, ' ');
   name = Trim(name);
 }
 
