@@ -273,8 +273,10 @@ void RtfInterpreter::SetAside(RtfAside aside, std::vector<Paragraph> paragraphs)
                                             : counts.footnotes;
   std::vector<Paragraph>& place = aside == RtfAside::kHeader ? headers_ : behind_;
   // The left and the right page often have the same.
-  const auto same = std::search(place.begin(), place.end(), paragraphs.begin(), paragraphs.end());
-  if (aside != RtfAside::kFootnote && same != place.end()) return;
+  constexpr std::size_t kFew = 100;
+  if (aside != RtfAside::kFootnote && place.size() < kFew &&
+      std::search(place.begin(), place.end(), paragraphs.begin(), paragraphs.end()) != place.end())
+    return;
   ++count;
   place.insert(place.end(), paragraphs.begin(), paragraphs.end());
 }
