@@ -195,6 +195,10 @@ constexpr ClassMenuRow kRows[] = {
     {.level = 1, .name = "mnuSeating", .caption = "&Seating Chart", .status = "Seat the students of this class",
      .portal = "frmseating"},
 
+    {.level = 0, .name = "mnuInsight", .caption = "&Insight"},
+    {.level = 1, .name = "mnuexplain", .caption = "&Explain Average", .status = "How the average of a student came about, and what it would take",
+     .shortcut = "Ctrl+Shift+E", .portal = "frmexplain", .action = [](Form1& window) { window.ExplainStudent(); }},
+
     {.level = 0, .name = "mnuWindow", .caption = "&Window"},
     {.level = 1, .name = "mnucascade", .caption = "&Cascade", .status = "Lay the class windows one behind the other",
      .action = [](Form1&) { Screen->Arrange(Arrangement::kCascade); }},

@@ -11,13 +11,13 @@ namespace {
 constexpr std::string_view kWithClass[] = {"mnuclose",    "mnucloseall", "mnusaveas", "mnudisplay",
                                            "mnuDelete",   "mmucomment",  "mnuEdit",   "mnuText",
                                            "mnuTransfer", "mnuEMarksS",  "mnucat",    "mnuroster",
-                                           "mnuwordproc", "mnuSeating"};
+                                           "mnuwordproc", "mnuSeating",  "mnuInsight"};
 constexpr int kButtonsWithClass[] = {3, 5, 6, 7, 9, 12};
 
 constexpr std::string_view kWithGrades[] = {
-    "mnuTransfergrade", "mnuEMarks", "mnucat",     "mnureorder",   "mnuEMarksT",
-    "mnuRollBook",      "mnuDMarks", "mnuVScreen", "mnuView",      "mnuVPrinter",
-    "mnuMGrades",       "mnuequalW", "mnupoints",  "mnuStatistic", "mnuonegrade"};
+    "mnuTransfergrade", "mnuEMarks",    "mnucat",      "mnureorder",  "mnuEMarksT", "mnuRollBook",
+    "mnuDMarks",        "mnuVScreen",   "mnuView",     "mnuVPrinter", "mnuMGrades", "mnuequalW",
+    "mnupoints",        "mnuStatistic", "mnuonegrade", "mnuexplain"};
 constexpr int kButtonsWithGrades[] = {8, 11, 13, 14};
 
 constexpr std::string_view kWithSummaries[] = {"mnuEAttend", "mnuDAttend", "mnuVScreen",

@@ -4,6 +4,7 @@
 #include <algorithm>
 
 #include "attendance/summary_periods.h"
+#include "averages/explained/explain_student.h"
 #include "base/number_text.h"
 #include "platform/portal.h"
 #include "platform/surroundings.h"
@@ -175,6 +176,12 @@ void Form1::mnuStatistic_Click() {
   CurrentStudent = 0;
   RunPortal("frmstatistic", 0, AfterPortal::kRefill);
   if (CurrentStudent > 0) RunPortal("frmgraph", 0, AfterPortal::kRefill);
+}
+
+void Form1::ExplainStudent() {
+  const int student = Grid1.Row - Grid1.FixedRows + 1;
+  CurrentStudent = static_cast<i16>(student <= Current().NumStudents ? student : 0);
+  RunPortal("frmexplain", kExplainStudent, AfterPortal::kRefill);
 }
 
 }  // namespace tallyroll

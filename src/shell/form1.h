@@ -80,6 +80,7 @@ class Form1 {
   void mnuAverage_Click();  // the Portal of the current method
   void mnuStatistic_Click();
   void mnuattsumm_Click();
+  void ExplainStudent();  // in whose row the current cell stands
   void SetNameMode(i16 mode);
   void ImportText();              // students from a text file, into this class or a new one
   void ImportGrades(int by);      // kGradesById or kGradesByName

@@ -29,6 +29,7 @@
 #include "grades/frmcategories.h"
 #include "grades/frmdGrade.h"
 #include "grades/frmletter.h"
+#include "insight/frmexplain.h"
 #include "printing/frmmargins.h"
 #include "printing/frmprintall.h"
 #include "printing/frmprintpre.h"
@@ -101,6 +102,7 @@ constexpr std::array kPortals{
     PortalRow{"frmwrdproc"},
     PortalRow{"frmseating", Make<frmseating>},
     PortalRow{"frmtxt", Make<frmtxt>},
+    PortalRow{"frmexplain", Make<frmexplain>},
 };
 
 std::vector<std::string_view> NamesOf(bool built) {

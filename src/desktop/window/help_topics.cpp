@@ -58,6 +58,7 @@ constexpr std::array kContexts = {
     630,  // comparing classes: frmcompare
     640,  // the roll book: FRMROLLBOOK
     650,  // one grade of all students: frmsingles
+    710,  // explaining an average: frmexplain
 };
 
 }  // namespace
