@@ -60,6 +60,7 @@ int RunCommandLine(int argc, const char* const* argv, std::istream& in, std::ost
   AddExportCommand(app, chosen);
   AddSeatingCommand(app, chosen);
   AddExplainCommand(app, chosen);
+  AddUnusualCommand(app, chosen);
   std::string reason;
   const ParsedLine parsed = parser.Parse(argc, argv, out, reason);
   if (parsed == ParsedLine::kWrong) return RefuseCommandLine(reason, err);

@@ -7,6 +7,7 @@
 #include "platform/surroundings.h"
 #include "roster/frmEdit.h"
 #include "shell/shell_state.h"
+#include "shell/undo_command.h"
 #include "store/frmpassword.h"
 #include "store/settings.h"
 #include "store/text/grade_file.h"
@@ -164,6 +165,12 @@ constexpr ClassMenuRow kRows[] = {
     {.level = 2, .name = "mnuid", .caption = "Display &Without  Name", .status = "Sort by ID and show IDs alone",
      .action = [](Form1& window) { window.SetNameMode(73); }},
 
+    {.level = 0, .name = "mnuChanges", .caption = "&Edit"},
+    {.level = 1, .name = "mnuundo", .caption = "&Undo", .status = "Take the last change of this class back",
+     .shortcut = "Ctrl+Z", .action = [](Form1& window) { window.mnuundo_Click(); }},
+    {.level = 1, .name = "mnuredo", .caption = "&Redo", .status = "Make the change again that was taken back",
+     .shortcut = "Ctrl+Shift+Z", .action = [](Form1& window) { window.mnuredo_Click(); }},
+
     {.level = 0, .name = "mnuScreens", .caption = "&View"},
     {.level = 1, .name = "mnuVScreen", .caption = "Screen - &All Information", .status = "Everything about a student",
      .shortcut = "Ctrl+I", .portal = "frminfo"},
@@ -198,6 +205,8 @@ constexpr ClassMenuRow kRows[] = {
     {.level = 0, .name = "mnuInsight", .caption = "&Insight"},
     {.level = 1, .name = "mnuexplain", .caption = "&Explain Average", .status = "How the average of a student came about, and what it would take",
      .shortcut = "Ctrl+Shift+E", .portal = "frmexplain", .action = [](Form1& window) { window.ExplainStudent(); }},
+    {.level = 1, .name = "mnuunusual", .caption = "&Unusual Marks", .status = "Marks that may be slips of the hand",
+     .portal = "frmunusual", .action = [](Form1& window) { window.ShowUnusual(); }},
 
     {.level = 0, .name = "mnuWindow", .caption = "&Window"},
     {.level = 1, .name = "mnucascade", .caption = "&Cascade", .status = "Lay the class windows one behind the other",
@@ -216,6 +225,7 @@ constexpr ClassMenuRow kRows[] = {
 // clang-format on
 
 void Run(Form1& window, const ClassMenuRow& row) {
+  const StepOfCommand step(NameOfCommand(row.name, row.caption));
   if (row.method >= 0) DefaultMethod = static_cast<i16>(row.method);
   if (row.action)
     row.action(window);

@@ -17,7 +17,7 @@ constexpr int kButtonsWithClass[] = {3, 5, 6, 7, 9, 12};
 constexpr std::string_view kWithGrades[] = {
     "mnuTransfergrade", "mnuEMarks",    "mnucat",      "mnureorder",  "mnuEMarksT", "mnuRollBook",
     "mnuDMarks",        "mnuVScreen",   "mnuView",     "mnuVPrinter", "mnuMGrades", "mnuequalW",
-    "mnupoints",        "mnuStatistic", "mnuonegrade", "mnuexplain"};
+    "mnupoints",        "mnuStatistic", "mnuonegrade", "mnuexplain",  "mnuunusual"};
 constexpr int kButtonsWithGrades[] = {8, 11, 13, 14};
 
 constexpr std::string_view kWithSummaries[] = {"mnuEAttend", "mnuDAttend", "mnuVScreen",

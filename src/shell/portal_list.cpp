@@ -30,6 +30,7 @@
 #include "grades/frmdGrade.h"
 #include "grades/frmletter.h"
 #include "insight/frmexplain.h"
+#include "insight/frmunusual.h"
 #include "printing/frmmargins.h"
 #include "printing/frmprintall.h"
 #include "printing/frmprintpre.h"
@@ -103,6 +104,7 @@ constexpr std::array kPortals{
     PortalRow{"frmseating", Make<frmseating>},
     PortalRow{"frmtxt", Make<frmtxt>},
     PortalRow{"frmexplain", Make<frmexplain>},
+    PortalRow{"frmunusual", Make<frmunusual>},
 };
 
 std::vector<std::string_view> NamesOf(bool built) {

@@ -3,6 +3,7 @@
 
 #include "attendance/term_table.h"
 #include "averages/engine/average_state.h"
+#include "insight/chosen_cell.h"
 #include "printing/page/print_job.h"
 #include "roster/frmstudents.h"
 #include "shell/shell_state.h"
@@ -18,6 +19,7 @@ void ResetProgram() {
   ResetAttendance();
   ResetAverages();
   ResetPrinting();
+  ResetInsight();
   ResetShell();
 }
 

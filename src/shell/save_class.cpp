@@ -63,6 +63,7 @@ bool Form1::Save() {
   WriteClassFile();
   if (FileErrorCode != 0) return false;
   Current().Changed = kFalse;
+  SavedInCommand = true;
   AddRecentFile(Current().FileName);
   FrameForm->RebuildRecentMenu();
   return true;

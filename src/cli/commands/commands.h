@@ -28,5 +28,6 @@ void AddImportCommand(Command& app, ChosenCommand& chosen);
 void AddExportCommand(Command& app, ChosenCommand& chosen);
 void AddSeatingCommand(Command& app, ChosenCommand& chosen);
 void AddExplainCommand(Command& app, ChosenCommand& chosen);
+void AddUnusualCommand(Command& app, ChosenCommand& chosen);
 
 }  // namespace tallyroll

@@ -59,6 +59,8 @@ constexpr std::array kContexts = {
     640,  // the roll book: FRMROLLBOOK
     650,  // one grade of all students: frmsingles
     710,  // explaining an average: frmexplain
+    720,  // unusual marks: frmunusual
+    730,  // undo and redo
 };
 
 }  // namespace
