@@ -46,7 +46,7 @@ std::string GradeWords(std::size_t row) {
 
 frmexplain::frmexplain() : Portal("frmexplain") {
   Caption = "Explain Average Portal";
-  HelpContext = 710;
+  HelpContext = 810;
   Frame1.Caption = "What would it take?";
   PREVIOUS.Caption = "&Previous";
   nextt.Caption = "&Next";

@@ -30,7 +30,7 @@ std::string FoundWords(std::size_t count) {
 
 frmunusual::frmunusual() : Portal("frmunusual") {
   Caption = "Unusual Marks Portal";
-  HelpContext = 720;
+  HelpContext = 820;
   goto_cell.Caption = "&Go to the Mark";
   exit.Caption = "E&xit";
 }
