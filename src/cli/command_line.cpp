@@ -62,6 +62,7 @@ int RunCommandLine(int argc, const char* const* argv, std::istream& in, std::ost
   AddSeatingCommand(app, chosen);
   AddExplainCommand(app, chosen);
   AddUnusualCommand(app, chosen);
+  AddHistoryCommand(app, chosen);
   AddRowsCommand(app, chosen);
   AddLettersCommand(app, chosen);
   AddLabelsCommand(app, chosen);

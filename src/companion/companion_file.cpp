@@ -17,6 +17,10 @@ constexpr const char* kSteps[] = {
     " student TEXT NOT NULL, other TEXT NOT NULL)",
     // By what the class is known: one row, or none in a companion of the first layout.
     "CREATE TABLE known_class (file TEXT NOT NULL, students TEXT NOT NULL)",
+    // What changed from save to save, and whether the class may keep it in spite of its password.
+    "CREATE TABLE change (number INTEGER PRIMARY KEY, time TEXT NOT NULL, student TEXT NOT NULL,"
+    " name TEXT NOT NULL, grade TEXT NOT NULL, code TEXT NOT NULL, field TEXT NOT NULL,"
+    " old TEXT NOT NULL, new TEXT NOT NULL); CREATE TABLE history_agreed (agreed INTEGER NOT NULL)",
 };
 constexpr auto kLayout = static_cast<std::int64_t>(std::size(kSteps));
 

@@ -210,6 +210,10 @@ constexpr ClassMenuRow kRows[] = {
     {.level = 0, .name = "mnuInsight", .caption = "&Insight"},
     {.level = 1, .name = "mnuexplain", .caption = "&Explain Average", .status = "How the average of a student came about, and what it would take",
      .shortcut = "Ctrl+Shift+E", .portal = "frmexplain", .action = [](Form1& window) { window.ExplainStudent(); }},
+    {.level = 1, .name = "mnuhistory", .caption = "&History", .status = "What changed from save to save",
+     .shortcut = "Ctrl+H", .portal = "frmhistory"},
+    {.level = 1, .name = "mnustudenthistory", .caption = "History of this &Student", .status = "What changed of the student in whose row you are",
+     .portal = "frmhistory", .action = [](Form1& window) { window.ShowHistoryOfStudent(); }},
     {.level = 1, .name = "mnuunusual", .caption = "&Unusual Marks", .status = "Marks that may be slips of the hand",
      .portal = "frmunusual", .action = [](Form1& window) { window.ShowUnusual(); }},
 

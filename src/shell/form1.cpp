@@ -7,6 +7,7 @@
 #include "averages/explained/explain_student.h"
 #include "base/number_text.h"
 #include "insight/chosen_cell.h"
+#include "insight/frmhistory.h"
 #include "platform/portal.h"
 #include "platform/surroundings.h"
 #include "shell/class_menu.h"
@@ -185,6 +186,12 @@ void Form1::ExplainStudent() {
   const int student = Grid1.Row - Grid1.FixedRows + 1;
   CurrentStudent = static_cast<i16>(student <= Current().NumStudents ? student : 0);
   RunPortal("frmexplain", kExplainStudent, AfterPortal::kRefill);
+}
+
+void Form1::ShowHistoryOfStudent() {
+  const int student = Grid1.Row - Grid1.FixedRows + 1;
+  CurrentStudent = static_cast<i16>(student <= Current().NumStudents ? student : 0);
+  RunPortal("frmhistory", kHistoryOfStudent, AfterPortal::kRefill);
 }
 
 void Form1::ShowUnusual() {

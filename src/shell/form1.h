@@ -84,7 +84,8 @@ class Form1 {
   void mnuAverage_Click();  // the Portal of the current method
   void mnuStatistic_Click();
   void mnuattsumm_Click();
-  void ExplainStudent();  // in whose row the current cell stands
+  void ExplainStudent();        // in whose row the current cell stands
+  void ShowHistoryOfStudent();  // in whose row the current cell stands
   void ShowUnusual();
   void mnuundo_Click();
   void mnuredo_Click();

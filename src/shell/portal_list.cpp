@@ -31,6 +31,7 @@
 #include "grades/frmdGrade.h"
 #include "grades/frmletter.h"
 #include "insight/frmexplain.h"
+#include "insight/frmhistory.h"
 #include "insight/frmunusual.h"
 #include "letters/mail/frmSendMail.h"
 #include "letters/writer/frmreplace.h"
@@ -111,6 +112,7 @@ constexpr std::array kPortals{
     PortalRow{"frmtxt", Make<frmtxt>},
     PortalRow{"frmexplain", Make<frmexplain>},
     PortalRow{"frmunusual", Make<frmunusual>},
+    PortalRow{"frmhistory", Make<frmhistory>},
     PortalRow{"frmfind", Make<frmfind>},
     PortalRow{"frmSendMail", Make<frmSendMail>},
 };

@@ -29,6 +29,7 @@ void AddExportCommand(Command& app, ChosenCommand& chosen);
 void AddSeatingCommand(Command& app, ChosenCommand& chosen);
 void AddExplainCommand(Command& app, ChosenCommand& chosen);
 void AddUnusualCommand(Command& app, ChosenCommand& chosen);
+void AddHistoryCommand(Command& app, ChosenCommand& chosen);
 void AddRowsCommand(Command& app, ChosenCommand& chosen);
 void AddLettersCommand(Command& app, ChosenCommand& chosen);
 void AddLabelsCommand(Command& app, ChosenCommand& chosen);

@@ -137,6 +137,7 @@ void ClassWindowView::contextMenuEvent(QContextMenuEvent* event) {
   QMenu asked(this);
   asked.setObjectName(QStringLiteral("asked"));
   asked.addAction(menu_->Action(QStringLiteral("mnuexplain")));
+  asked.addAction(menu_->Action(QStringLiteral("mnustudenthistory")));
   const QPoint below = grid_->viewport()->mapToGlobal(grid_->CellRect(cell.row, cell.col).center());
   asked.exec(keyboard ? below : event->globalPos());
 }

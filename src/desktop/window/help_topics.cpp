@@ -66,6 +66,7 @@ constexpr std::array kContexts = {
     810,  // explaining an average: frmexplain
     820,  // unusual marks: frmunusual
     830,  // undo and redo
+    840,  // the history of a class: frmhistory
 };
 
 }  // namespace
