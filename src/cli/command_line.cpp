@@ -60,6 +60,9 @@ int RunCommandLine(int argc, const char* const* argv, std::istream& in, std::ost
   AddImportCommand(app, chosen);
   AddExportCommand(app, chosen);
   AddSeatingCommand(app, chosen);
+  AddExplainCommand(app, chosen);
+  AddUnusualCommand(app, chosen);
+  AddHistoryCommand(app, chosen);
   AddRowsCommand(app, chosen);
   AddExchangeCommand(app, chosen);
   AddLettersCommand(app, chosen);

@@ -31,6 +31,9 @@
 #include "grades/frmcategories.h"
 #include "grades/frmdGrade.h"
 #include "grades/frmletter.h"
+#include "insight/frmexplain.h"
+#include "insight/frmhistory.h"
+#include "insight/frmunusual.h"
 #include "letters/mail/frmSendMail.h"
 #include "letters/writer/frmreplace.h"
 #include "letters/writer/frmwrdproc.h"
@@ -109,6 +112,9 @@ constexpr std::array kPortals{
     PortalRow{"frmreplace", Make<frmreplace>},
     PortalRow{"frmseating", Make<frmseating>},
     PortalRow{"frmtxt", Make<frmtxt>},
+    PortalRow{"frmexplain", Make<frmexplain>},
+    PortalRow{"frmunusual", Make<frmunusual>},
+    PortalRow{"frmhistory", Make<frmhistory>},
     PortalRow{"frmfind", Make<frmfind>},
     PortalRow{"frmSendMail", Make<frmSendMail>},
 };

@@ -64,6 +64,10 @@ constexpr std::array kContexts = {
     650,  // one grade of all students: frmsingles
     700,  // letters: frmwrdproc
     710,  // find and replace: frmreplace
+    810,  // explaining an average: frmexplain
+    820,  // unusual marks: frmunusual
+    830,  // undo and redo
+    840,  // the history of a class: frmhistory
 };
 
 }  // namespace
