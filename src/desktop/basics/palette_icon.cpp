@@ -8,6 +8,8 @@
 #include <QSvgRenderer>
 #include <map>
 
+#include "desktop/style/tokens.h"
+
 namespace tallyroll {
 namespace {
 
@@ -32,10 +34,7 @@ class PaletteIconEngine : public QIconEngine {
       : svg_(std::move(svg)),
         line_(palette.color(QPalette::Active, QPalette::ButtonText)),
         off_(palette.color(QPalette::Disabled, QPalette::ButtonText)),
-        accent_(QLatin1StringView(kAccent)) {
-    const bool on_dark = palette.color(QPalette::Active, QPalette::Button).lightness() < 128;
-    if (on_dark) accent_ = QColor(QLatin1StringView(kAccentOnDark));
-  }
+        accent_(TokensOf(palette).focus) {}
 
   QPixmap pixmap(const QSize& size, QIcon::Mode mode, QIcon::State) override {
     const bool off = mode == QIcon::Disabled;

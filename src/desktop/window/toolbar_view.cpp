@@ -3,19 +3,35 @@
 #include "desktop/window/toolbar_view.h"
 
 #include <QAction>
-#include <QEvent>
+#include <QContextMenuEvent>
+#include <QMenu>
 
 #include "desktop/basics/palette_icon.h"
 #include "desktop/basics/text_conversion.h"
+#include "desktop/style/appearance.h"
 
 namespace tallyroll {
 
 namespace {
 
+// With less room than this the words would press the icons together.
+constexpr int kWidthForWords = 1060, kHeightForWords = 520;
+
 // Buttons that begin a group, beside the gap that the data has after the file's: grades,
-// attendance, what is made of them, and the program's.
+// attendance, and what is made of them.
 bool BeginsGroup(std::string_view key) {
-  return key == "Grades" || key == "Attendance" || key == "View" || key == "Exit";
+  return key == "Grades" || key == "Attendance" || key == "View";
+}
+
+// What stands below the icon; the tip says it in full.
+QString WordOf(std::string_view key) {
+  constexpr std::pair<std::string_view, const char*> kWords[] = {
+      {"Student", "Add"},        {"Roster", "Students"}, {"Grades", "New Grade"},
+      {"Cgrades", "Edit Grade"}, {"Eatt", "Edit Att."},  {"View", "Student"},
+      {"Average", "Averages"},   {"Graph", "Statistics"}};
+  for (const auto& [of, word] : kWords)
+    if (of == key) return QString::fromLatin1(word);
+  return FromText(key);
 }
 
 }  // namespace
@@ -24,10 +40,12 @@ ToolbarView::ToolbarView(const std::vector<ToolButton>& buttons, QWidget* parent
     : QToolBar(parent), buttons_(&buttons) {
   setObjectName(QStringLiteral("Toolbar2"));
   setAccessibleName(tr("Toolbar"));
-  setIconSize(QSize(24, 24));
   for (const ToolButton& button : buttons) AddButton(button);
   DrawIcons();
   Sync();
+  ShowWords();
+  if (Appearance* appearance = Appearance::Instance())
+    connect(appearance, &Appearance::WordsChanged, this, &ToolbarView::ShowWords);
 }
 
 void ToolbarView::AddButton(const ToolButton& button) {
@@ -36,9 +54,12 @@ void ToolbarView::AddButton(const ToolButton& button) {
     return;
   }
   if (BeginsGroup(button.key)) addSeparator();
+  if (button.key == "Exit") AddRoom();
   const QString key = FromText(button.key);
   QAction* action = addAction(FromText(button.tip));
   action->setObjectName(key);
+  action->setIconText(WordOf(button.key));
+  action->setToolTip(FromText(button.tip));
   action->setStatusTip(FromText(button.tip));
   connect(
       action, &QAction::triggered, this, [this, key] { Q_EMIT Pressed(key); },
@@ -47,6 +68,38 @@ void ToolbarView::AddButton(const ToolButton& button) {
   widget->setAccessibleName(FromText(button.tip));
   widget->setFocusPolicy(Qt::TabFocus);
   actions_.push_back(action);
+}
+
+// What leaves the class stands apart, at the far end.
+void ToolbarView::AddRoom() {
+  auto* room = new QWidget;
+  room->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
+  addWidget(room);
+}
+
+// The words need room of their own; where the window has none the icons stand alone.
+void ToolbarView::ShowWords() {
+  const Appearance* appearance = Appearance::Instance();
+  const QSize room = window()->size();
+  const bool shown = (appearance == nullptr || appearance->WordsInToolbar()) &&
+                     width() >= kWidthForWords && room.height() >= kHeightForWords;
+  const auto wanted = shown ? Qt::ToolButtonTextUnderIcon : Qt::ToolButtonIconOnly;
+  if (toolButtonStyle() != wanted) setToolButtonStyle(wanted);
+}
+
+void ToolbarView::resizeEvent(QResizeEvent* event) {
+  QToolBar::resizeEvent(event);
+  ShowWords();
+}
+
+void ToolbarView::contextMenuEvent(QContextMenuEvent* event) {
+  Appearance* appearance = Appearance::Instance();
+  if (appearance == nullptr) return;
+  QMenu menu(this);
+  QAction* words = menu.addAction(tr("&Words in the Toolbar"));
+  words->setCheckable(true);
+  words->setChecked(appearance->WordsInToolbar());
+  if (menu.exec(event->globalPos()) == words) appearance->SetWordsInToolbar(words->isChecked());
 }
 
 void ToolbarView::Sync() {

@@ -8,7 +8,7 @@
 #include <QSvgRenderer>
 #include <QToolButton>
 
-#include "desktop/basics/appearance.h"
+#include "desktop/style/tokens.h"
 #include "desktop/basics/palette_icon.h"
 #include "desktop/window/toolbar_view.h"
 #include "tests/desktop/window/frame_fixture.h"
@@ -67,7 +67,7 @@ TEST_F(ToolbarTest, ButtonsTakeTheFocusByKey) {
 
 TEST_F(ToolbarTest, DrawsItsIconsAnewForAnotherPalette) {
   const QImage light = Button("Save")->icon().pixmap(24).toImage();
-  view.setPalette(DarkPalette());
+  view.setPalette(PaletteOf(DarkTokens()));
   EXPECT_NE(Button("Save")->icon().pixmap(24).toImage(), light);
 }
 
@@ -96,11 +96,11 @@ TEST_F(FrameTest, EveryButtonHasAnIconThatCanBeSeenInLightAndDark) {
     EXPECT_TRUE(QSvgRenderer(QStringLiteral(":/icons/%1.svg").arg(key)).isValid());
     const QPalette light(Qt::black, Qt::white);
     const int on_light = Lightness(PaletteIcon(key, light).pixmap(48));
-    const int on_dark = Lightness(PaletteIcon(key, DarkPalette()).pixmap(48));
+    const int on_dark = Lightness(PaletteIcon(key, PaletteOf(DarkTokens())).pixmap(48));
     EXPECT_GE(on_light, 0);
     EXPECT_LT(on_light, 128);
     EXPECT_GT(on_dark, 170);
-    const int off = Lightness(PaletteIcon(key, DarkPalette()).pixmap(48, 48, QIcon::Disabled));
+    const int off = Lightness(PaletteIcon(key, PaletteOf(DarkTokens())).pixmap(48, 48, QIcon::Disabled));
     EXPECT_LT(off, on_dark - 30);
     ++icons;
   }

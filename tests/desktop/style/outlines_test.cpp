@@ -11,18 +11,18 @@
 #include <QVBoxLayout>
 #include <algorithm>
 
-#include "desktop/basics/appearance.h"
-#include "desktop/basics/program_style.h"
 #include "desktop/grid/cell_list.h"
 #include "desktop/grid/grid_colors.h"
 #include "desktop/grid/grid_widget.h"
+#include "desktop/style/program_style.h"
+#include "desktop/style/tokens.h"
 
 namespace tallyroll {
 namespace {
 
 class DarkOutlines : public testing::Test {
  protected:
-  DarkOutlines() { QApplication::setPalette(DarkPalette()); }
+  DarkOutlines() { QApplication::setPalette(PaletteOf(DarkTokens())); }
   ~DarkOutlines() override { QApplication::setPalette(before_); }
 
   // The highest contrast to the window of what is passed from the left into the widget.
@@ -89,7 +89,7 @@ QColor Over(const QColor& ground, const QColor& color) {
 
 TEST_F(DarkOutlines, TheButtonsOfAClassWindowAreDrawnInLightLines) {
   const ProgramStyle style;
-  const QColor button = DarkPalette().color(QPalette::Button);
+  const QColor button = PaletteOf(DarkTokens()).color(QPalette::Button);
   for (const auto icon : {QStyle::SP_TitleBarMinButton, QStyle::SP_TitleBarNormalButton,
                           QStyle::SP_TitleBarCloseButton}) {
     const QImage picture = style.standardIcon(icon, nullptr, nullptr).pixmap(16, 16).toImage();
