@@ -3,6 +3,7 @@
 
 #include <QCoreApplication>
 
+#include "desktop/portal/form_loader.h"
 #include "shell/portal_list.h"
 
 namespace tallyroll {
@@ -42,7 +43,10 @@ void EveryWindow::ShowOne(std::string_view name, int mode,
   const std::unique_ptr<Portal> portal = MakePortalByName(name);
   portal->Load();
   if (portal->Unloaded()) return;
-  dialog = std::make_unique<PortalDialog>(*portal);
+  const QString form = FormFile(name);
+  dialog = std::make_unique<PortalDialog>(
+      *portal, forms_folder.isEmpty() ? form : forms_folder + form.mid(form.lastIndexOf(u'/')));
+  ASSERT_EQ(dialog->Complaints().join(u'\n').toStdString(), "");
   dialog->show();
   QCoreApplication::processEvents();
   const bool usual = ModesOf(name).size() == 1;

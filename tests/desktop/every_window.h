@@ -16,6 +16,8 @@ class EveryWindow : public ClassDialogs {
   // Calls `look` with each Portal's name and its window, which is shown as it opens. A Portal that
   // opens in several modes comes once for each: "frmdGrade-121".
   void ForEach(const std::function<void(const std::string&, PortalDialog&)>& look);
+  // Where the forms are read from; empty: from the program.
+  QString forms_folder;
   // How many windows the last walk came to.
   int walked = 0;
 

@@ -12,4 +12,8 @@ namespace tallyroll {
 // is none of that name.
 QIcon PaletteIcon(const QString& name, const QPalette& palette);
 
+// The same in the colours that the program has just then, so that it need not be made anew when
+// they change.
+QIcon ThemeIcon(const QString& name);
+
 }  // namespace tallyroll

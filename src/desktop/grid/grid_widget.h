@@ -44,6 +44,8 @@ class GridWidget : public QAbstractScrollArea {
   bool IsCut(int row, int col) const;
 
   QSize sizeHint() const override;
+  // With all its columns and room for a scroll bar.
+  int WholeWidth() const;
   QSize minimumSizeHint() const override;
 
  Q_SIGNALS:

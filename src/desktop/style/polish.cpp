@@ -50,6 +50,7 @@ void PolishLabel(QLabel& label, const Measures& m) {
 void PolishCalendar(QCalendarWidget& calendar) {
   const Tokens t = TokensOf(QApplication::palette());
   calendar.setGridVisible(false);
+  calendar.setHorizontalHeaderFormat(QCalendarWidget::SingleLetterDayNames);
   calendar.setVerticalHeaderFormat(QCalendarWidget::NoVerticalHeader);
   QTextCharFormat head;
   head.setForeground(t.muted);

@@ -5,6 +5,7 @@
 #include <QAction>
 #include <QContextMenuEvent>
 #include <QMenu>
+#include <algorithm>
 
 #include "desktop/basics/palette_icon.h"
 #include "desktop/basics/text_conversion.h"
@@ -32,6 +33,19 @@ QString WordOf(std::string_view key) {
   for (const auto& [of, word] : kWords)
     if (of == key) return QString::fromLatin1(word);
   return FromText(key);
+}
+
+// Why a button cannot be pressed: what its class lacks.
+QString ReasonOf(const QString& key) {
+  const auto is_one_of = [&key](std::initializer_list<const char*> keys) {
+    return std::any_of(keys.begin(), keys.end(),
+                       [&key](const char* each) { return key == QLatin1String(each); });
+  };
+  if (is_one_of({"Cgrades", "Average", "Graph"}))
+    return QObject::tr("This class has no grade yet.");
+  if (is_one_of({"Eatt"})) return QObject::tr("This class has no attendance yet.");
+  if (is_one_of({"View"})) return QObject::tr("This class has no grade and no attendance yet.");
+  return QObject::tr("This class has no student yet.");
 }
 
 }  // namespace
@@ -105,7 +119,13 @@ void ToolbarView::contextMenuEvent(QContextMenuEvent* event) {
 void ToolbarView::Sync() {
   if (buttons_ == nullptr) return;
   for (std::size_t i = 0; i < actions_.size(); ++i) {
-    if (!actions_[i]->isSeparator()) actions_[i]->setEnabled((*buttons_)[i].enabled);
+    QAction* action = actions_[i];
+    if (action->isSeparator()) continue;
+    const ToolButton& button = (*buttons_)[i];
+    action->setEnabled(button.enabled);
+    const QString tip = FromText(button.tip);
+    action->setToolTip(button.enabled ? tip
+                                      : tip + QLatin1Char('\n') + ReasonOf(action->objectName()));
   }
 }
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Pictures of every window, for the eye: TALLYROLL_PICTURES names the folder they go to, and
-// TALLYROLL_PICTURE_CLASS the class they show. Without them there is nothing to do.
+// TALLYROLL_PICTURE_CLASS the class they show. TALLYROLL_PICTURE_LOOK takes one look alone, and
+// TALLYROLL_PICTURE_FORMS forms that are not built in yet. Without a folder there is nothing to do.
 #include <QCalendarWidget>
 #include <QDir>
 #include <QTabWidget>
@@ -36,8 +37,11 @@ class Pictures : public EveryWindow {
 
 TEST_F(Pictures, OfEveryPortalInEveryLook) {
   if (folder.isEmpty()) GTEST_SKIP() << "TALLYROLL_PICTURES is not set";
+  forms_folder = qEnvironmentVariable("TALLYROLL_PICTURE_FORMS");
+  const QString only = qEnvironmentVariable("TALLYROLL_PICTURE_LOOK");
   ASSERT_TRUE(file.empty() || OpenClass(file));
   for (const Look& look : kLooks) {
+    if (!only.isEmpty() && only != QLatin1String(look.name)) continue;
     Appearance::Instance()->SetTheme(look.theme);
     Appearance::Instance()->SetDensity(look.density);
     const QString sub = QString::fromLatin1(look.name);
