@@ -6,11 +6,11 @@
 #include <QTimer>
 #include <memory>
 
-#include "desktop/basics/appearance.h"
 #include "desktop/basics/palette_icon.h"
 #include "desktop/platform/qt_socket.h"
 #include "desktop/platform/qt_surroundings.h"
 #include "desktop/portal/wheel_guard.h"
+#include "desktop/style/appearance.h"
 #include "desktop/window/frame_window.h"
 #include "desktop/window/help_window.h"
 #include "shell/program.h"
@@ -19,7 +19,7 @@
 namespace tallyroll {
 
 int RunProgram(QApplication& application, bool dark, const std::string& file) {
-  SetAppearance(application, dark);
+  auto* appearance = new Appearance(application, dark);  // the application's
   WheelGuard::Install();
   application.setWindowIcon(PaletteIcon(QStringLiteral("tallyroll"), QPalette(Qt::white)));
   // The frame ends the program; the greeting, which may be the only window, must not.
@@ -40,6 +40,7 @@ int RunProgram(QApplication& application, bool dark, const std::string& file) {
       FrameForm->Load(file);
       window.Sync();
     });
+    QTimer::singleShot(0, appearance, &Appearance::FollowDesktop);
     result = QApplication::exec();
   }
   ResetProgram();

@@ -48,6 +48,8 @@ class GridWidget : public QAbstractScrollArea {
   const QString& Told() const { return told_; }
 
   QSize sizeHint() const override;
+  // With all its columns and room for a scroll bar.
+  int WholeWidth() const;
   QSize minimumSizeHint() const override;
 
  Q_SIGNALS:

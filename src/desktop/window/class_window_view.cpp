@@ -14,6 +14,7 @@
 #include "base/number_text.h"
 #include "desktop/basics/text_conversion.h"
 #include "desktop/grid/grid_widget.h"
+#include "desktop/window/appearance_menu.h"
 #include "desktop/window/menu_view.h"
 #include "desktop/window/message_moment.h"
 #include "desktop/window/toolbar_view.h"
@@ -23,6 +24,7 @@ namespace tallyroll {
 ClassWindowView::ClassWindowView(Form1& form) : form_(&form) {
   auto* page = new QWidget(this);
   menu_ = new MenuView(form.menu, this);
+  AddAppearanceMenu(*menu_->Action(QStringLiteral("mnuScreens"))->menu());
   toolbar_ = new ToolbarView(form.Toolbar2, page);
   grid_ = new GridWidget(page);
   grid_->setObjectName(QStringLiteral("Grid1"));

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// On a dark ground borders and the buttons of a window stand out from it by 3 to 1.
+// Borders and the buttons of a window stand out from their ground by 3 to 1, light or dark.
 #include <gtest/gtest.h>
 
 #include <QApplication>
@@ -11,18 +11,19 @@
 #include <QVBoxLayout>
 #include <algorithm>
 
-#include "desktop/basics/appearance.h"
-#include "desktop/basics/program_style.h"
 #include "desktop/grid/cell_list.h"
-#include "desktop/grid/grid_colors.h"
 #include "desktop/grid/grid_widget.h"
+#include "desktop/style/program_style.h"
+#include "desktop/style/tokens.h"
 
 namespace tallyroll {
 namespace {
 
 class DarkOutlines : public testing::Test {
  protected:
-  DarkOutlines() { QApplication::setPalette(DarkPalette()); }
+  explicit DarkOutlines(const Tokens& tokens = DarkTokens()) {
+    QApplication::setPalette(PaletteOf(tokens));
+  }
   ~DarkOutlines() override { QApplication::setPalette(before_); }
 
   // The highest contrast to the window of what is passed from the left into the widget.
@@ -48,7 +49,7 @@ class DarkOutlines : public testing::Test {
     const QPoint middle = widget->mapTo(&window, QPoint(0, widget->height() / 2));
     double best = 1;
     for (int x = -2; x < 4; ++x)
-      best = std::max(best, ContrastOf(picture.pixelColor(middle + QPoint(x, 0)), ground));
+      best = std::max(best, Contrast(picture.pixelColor(middle + QPoint(x, 0)), ground));
     widget->setStyle(nullptr);
     other->setStyle(nullptr);
     window.setStyle(nullptr);
@@ -60,6 +61,20 @@ class DarkOutlines : public testing::Test {
 };
 
 TEST_F(DarkOutlines, FieldsAndListsHaveABorderThatIsSeen) {
+  EXPECT_GE(ContrastOfBorder<QLineEdit>(), 3);
+  EXPECT_GE(ContrastOfBorder<QComboBox>(), 3);
+  EXPECT_GE(ContrastOfBorder<QDateEdit>(), 3);
+  EXPECT_GE(ContrastOfBorder<QListWidget>(), 3);
+  EXPECT_GE(ContrastOfBorder<GridWidget>(), 3);
+  EXPECT_GE(ContrastOfBorder<QPushButton>(), 3);
+}
+
+class LightOutlines : public DarkOutlines {
+ protected:
+  LightOutlines() : DarkOutlines(LightTokens()) {}
+};
+
+TEST_F(LightOutlines, FieldsAndListsHaveABorderThatIsSeen) {
   EXPECT_GE(ContrastOfBorder<QLineEdit>(), 3);
   EXPECT_GE(ContrastOfBorder<QComboBox>(), 3);
   EXPECT_GE(ContrastOfBorder<QDateEdit>(), 3);
@@ -89,14 +104,14 @@ QColor Over(const QColor& ground, const QColor& color) {
 
 TEST_F(DarkOutlines, TheButtonsOfAClassWindowAreDrawnInLightLines) {
   const ProgramStyle style;
-  const QColor button = DarkPalette().color(QPalette::Button);
+  const QColor button = PaletteOf(DarkTokens()).color(QPalette::Button);
   for (const auto icon : {QStyle::SP_TitleBarMinButton, QStyle::SP_TitleBarNormalButton,
                           QStyle::SP_TitleBarCloseButton}) {
     const QImage picture = style.standardIcon(icon, nullptr, nullptr).pixmap(16, 16).toImage();
     double best = 1;
     for (int x = 0; x < picture.width(); ++x)
       for (int y = 0; y < picture.height(); ++y)
-        best = std::max(best, ContrastOf(Over(button, picture.pixelColor(x, y)), button));
+        best = std::max(best, Contrast(Over(button, picture.pixelColor(x, y)), button));
     EXPECT_GE(best, 3) << icon;
   }
 }
