@@ -8,6 +8,7 @@
 
 #include "desktop/basics/appearance.h"
 #include "desktop/basics/palette_icon.h"
+#include "desktop/platform/qt_socket.h"
 #include "desktop/platform/qt_surroundings.h"
 #include "desktop/portal/wheel_guard.h"
 #include "desktop/window/frame_window.h"
@@ -27,6 +28,7 @@ int RunProgram(QApplication& application, bool dark, const std::string& file) {
   ResetProgram();
   QtSurroundings surroundings;
   SetPlatform(&surroundings);
+  MakeSocket = MakeQtSocket;
   FrameForm = std::make_unique<MDIForm1>();
   int result = 0;
   {

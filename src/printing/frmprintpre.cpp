@@ -7,7 +7,6 @@
 #include "averages/average_settings.h"
 #include "base/number_text.h"
 #include "grades/method_reset.h"
-#include "platform/class_window.h"
 #include "platform/surroundings.h"
 #include "printing/print_command.h"
 #include "printing/reports/report_codes.h"
@@ -218,10 +217,6 @@ bool frmprintpre::Refuses(std::string_view function) const {
               "' function is unavailable with the 'Roll Book-Full Titles' print option. Choose the "
               "'Roll Book' print option instead.");
   return true;
-}
-
-void frmprintpre::eight_Click() {
-  if (!Refuses("E-mail")) ClassWindow().ShowStatus(kPortalNotAvailable);
 }
 
 // The report holds final grades, which no grade of the class may keep yet. Escape in the frame of

@@ -54,6 +54,8 @@ struct frmprintpre : Portal {
   // Whether the sheet is another than the one that the pages were laid out for.
   bool SheetChanged() const;
   void eight_Click();
+  // The text of the student on screen alone; false when there is none, and the teacher was told.
+  bool LeaveTextForMail();
   void AskAndSave(Save form);
   void ShowFrame1(bool on);
   // Of the student on screen alone, or of all.

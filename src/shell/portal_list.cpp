@@ -22,6 +22,7 @@
 #include "averages/portals/frmroundoff.h"
 #include "averages/portals/frmscrnavg.h"
 #include "averages/portals/frmweights.h"
+#include "find/frmfind.h"
 #include "grades/frmEMarksS.h"
 #include "grades/frmEmarks.h"
 #include "grades/frmMarks.h"
@@ -29,6 +30,9 @@
 #include "grades/frmcategories.h"
 #include "grades/frmdGrade.h"
 #include "grades/frmletter.h"
+#include "letters/mail/frmSendMail.h"
+#include "letters/writer/frmreplace.h"
+#include "letters/writer/frmwrdproc.h"
 #include "printing/frmmargins.h"
 #include "printing/frmprintall.h"
 #include "printing/frmprintpre.h"
@@ -57,6 +61,7 @@ std::unique_ptr<Portal> Make() {
   return std::make_unique<P>();
 }
 
+// clang-format off
 constexpr std::array kPortals{
     PortalRow{"frmpassword", Make<frmpassword>},
     PortalRow{"frmWizard", Make<frmWizard>},
@@ -98,10 +103,14 @@ constexpr std::array kPortals{
     PortalRow{"frmgraph", Make<frmgraph>},
     PortalRow{"frmgrone", Make<frmgrone>},
     PortalRow{"frmcompare", Make<frmcompare>},
-    PortalRow{"frmwrdproc"},
+    PortalRow{"frmwrdproc", Make<frmwrdproc>},
+    PortalRow{"frmreplace", Make<frmreplace>},
     PortalRow{"frmseating", Make<frmseating>},
     PortalRow{"frmtxt", Make<frmtxt>},
+    PortalRow{"frmfind", Make<frmfind>},
+    PortalRow{"frmSendMail", Make<frmSendMail>},
 };
+// clang-format on
 
 std::vector<std::string_view> NamesOf(bool built) {
   std::vector<std::string_view> names;

@@ -387,10 +387,21 @@ TEST_F(FrmPrintPreTest, FullTitlesArePaperOnly) {
   EXPECT_EQ(screen.print_jobs.size(), 2u);
 }
 
-TEST_F(FrmPrintPreTest, EmailWaitsForItsPortal) {
+TEST_F(FrmPrintPreTest, EmailLeavesTheReportAsATextThatNobodyElseReads) {
   OpenReport(19, 3);
+  ProgramFolder = folder;
+  std::string text;
+  std::filesystem::perms rights{};
+  screen.ExpectPortal("frmSendMail", [&](PortalDriver& mail) {
+    text = FileBytes(Path("tempfile"));
+    rights = std::filesystem::status(Path("tempfile")).permissions();
+    mail.Press("cmdClose");
+  });
   driver->Press("eight");
-  EXPECT_EQ(window.status, "This portal is not available yet.");
+  EXPECT_NE(text, "");
+  EXPECT_EQ(text, ReportText());
+  EXPECT_EQ(rights, std::filesystem::perms::owner_read | std::filesystem::perms::owner_write);
+  EXPECT_FALSE(std::filesystem::exists(Path("tempfile")));
 }
 
 TEST_F(FrmPrintPreTest, SavesTheReportAsText) {

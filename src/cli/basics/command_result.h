@@ -2,6 +2,8 @@
 // What a command of tallyroll-cli answers.
 #pragma once
 
+#include <functional>
+#include <iosfwd>
 #include <string>
 
 namespace tallyroll {
@@ -11,6 +13,9 @@ struct CommandResult {
   bool refused = false;
   std::string text;       // UTF-8
   std::string note = {};  // a line on standard error all the same
+  // Instead of a text: writes the output as it comes. False when a part of it was refused, which
+  // it has told.
+  std::function<bool(std::ostream& out, std::ostream& err)> stream = {};
 };
 
 // "FILE: reason" on one line, whatever the name or the message holds.
