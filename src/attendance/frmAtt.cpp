@@ -53,6 +53,7 @@ frmAtt::frmAtt() : Portal("frmAtt") {
                  "L - Late",
                  "Delete Entry (Backspace)"};
   Combo1.Over = &Grid1;
+  Grid1.Notes = NotesOfMonth(Grid1, month, [this] { return FirstOf(MonthOf(attdate)); });
   Combo1.Visible = false;
 }
 

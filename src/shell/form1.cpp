@@ -10,6 +10,7 @@
 #include "insight/frmhistory.h"
 #include "platform/portal.h"
 #include "platform/surroundings.h"
+#include "shell/class_grid_notes.h"
 #include "shell/class_menu.h"
 #include "shell/class_toolbar.h"
 #include "shell/shell_state.h"
@@ -49,6 +50,7 @@ std::string_view NameModeEntry(i16 mode) {
 }  // namespace
 
 Form1::Form1() : menu(MakeClassMenu(*this)), Toolbar2(MakeClassToolbar(*this)) {
+  Grid1.Notes = NotesOfClassGrid(*this);
   EnableClassMenus(false);
   ShowSteps();
   menu.Enable("mnuoptions", false);

@@ -29,6 +29,7 @@ ClassWindowView::ClassWindowView(Form1& form) : form_(&form) {
   grid_ = new GridWidget(page);
   grid_->setObjectName(QStringLiteral("Grid1"));
   grid_->setAccessibleName(tr("Students and grades"));
+  grid_->Keep(QStringLiteral("Form1.Grid1"));
   grid_->SetGrid(&form.Grid1);
   status_ = new QLabel(page);
   status_->setObjectName(QStringLiteral("StatusBar1"));
@@ -70,11 +71,23 @@ void ClassWindowView::Sync() {
   if (form_ == nullptr) return;
   menu_->Sync();
   toolbar_->Sync();
+  grid_->SetNotice(Notice());
   grid_->UpdateFromGrid();
   if (const QString title = Title(); title != windowTitle()) setWindowTitle(title);
   moment_->Follow(form_->MessagesTold);
   const QString status = hint_.isEmpty() ? FromText(form_->StatusText) : hint_;
   if (status != status_->text()) status_->setText(status);
+}
+
+// What will stand in a class that has nothing yet, and the way there.
+QString ClassWindowView::Notice() const {
+  const Class& c = Classes[static_cast<std::size_t>(LeadingNumber(form_->Tag))];
+  if (form_->Tag.empty()) return {};
+  if (c.NumStudents == 0)
+    return tr("No students yet - double click on the head above to enter one");
+  if (c.NumInstruments == 0)
+    return tr("No grades yet - double click on Testing Instruments to enter one");
+  return {};
 }
 
 // An asterisk marks what is not saved yet.

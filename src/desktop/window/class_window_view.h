@@ -46,6 +46,7 @@ class ClassWindowView : public QMdiSubWindow {
 
  private:
   QString Title() const;
+  QString Notice() const;
   void EndStatus();
   void PointAt();
   void SwitchBetweenGridAndToolbar();
