@@ -34,7 +34,7 @@ int RunChosen(const ChosenCommand& chosen, std::istream& in, std::ostream& out, 
   }
   if (!result.note.empty()) WriteReason(result.note, err);
   out << result.text << std::flush;
-  if (out) return 0;
+  if (out) return result.failed ? kRefused : 0;
   WriteReason("standard output: cannot be written", err);
   return kRefused;
 }
@@ -59,6 +59,7 @@ int RunCommandLine(int argc, const char* const* argv, std::istream& in, std::ost
   AddImportCommand(app, chosen);
   AddExportCommand(app, chosen);
   AddSeatingCommand(app, chosen);
+  AddMailCommand(app, chosen);
   std::string reason;
   const ParsedLine parsed = parser.Parse(argc, argv, out, reason);
   if (parsed == ParsedLine::kWrong) return RefuseCommandLine(reason, err);

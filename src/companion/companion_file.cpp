@@ -5,6 +5,7 @@
 #include <iterator>
 
 #include "base/number_text.h"
+#include "companion/mail_journal_layout.h"
 
 namespace tallyroll {
 namespace {
@@ -14,6 +15,7 @@ constexpr const char* kSteps[] = {
     // Wishes for seats, by the IDs of students.
     "CREATE TABLE seat_wish (place INTEGER PRIMARY KEY, kind TEXT NOT NULL,"
     " student TEXT NOT NULL, other TEXT NOT NULL)",
+    kMailJournalTable,
 };
 constexpr auto kLayout = static_cast<std::int64_t>(std::size(kSteps));
 

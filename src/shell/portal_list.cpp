@@ -30,6 +30,7 @@
 #include "grades/frmdGrade.h"
 #include "grades/frmletter.h"
 #include "letters/mail/frmSendMail.h"
+#include "letters/mail/frmSendMany.h"
 #include "printing/frmmargins.h"
 #include "printing/frmprintall.h"
 #include "printing/frmprintpre.h"
@@ -103,6 +104,7 @@ constexpr std::array kPortals{
     PortalRow{"frmseating", Make<frmseating>},
     PortalRow{"frmtxt", Make<frmtxt>},
     PortalRow{"frmSendMail", Make<frmSendMail>},
+    PortalRow{"frmSendMany", Make<frmSendMany>},
 };
 
 std::vector<std::string_view> NamesOf(bool built) {

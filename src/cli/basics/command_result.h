@@ -11,6 +11,7 @@ struct CommandResult {
   bool refused = false;
   std::string text;       // UTF-8
   std::string note = {};  // a line on standard error all the same
+  bool failed = false;    // not all went well: the text is put out, and the exit status is 1
 };
 
 // "FILE: reason" on one line, whatever the name or the message holds.

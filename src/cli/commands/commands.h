@@ -27,5 +27,6 @@ void AddCompareCommand(Command& app, ChosenCommand& chosen);
 void AddImportCommand(Command& app, ChosenCommand& chosen);
 void AddExportCommand(Command& app, ChosenCommand& chosen);
 void AddSeatingCommand(Command& app, ChosenCommand& chosen);
+void AddMailCommand(Command& app, ChosenCommand& chosen);
 
 }  // namespace tallyroll

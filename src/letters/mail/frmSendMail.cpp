@@ -3,8 +3,10 @@
 
 #include <filesystem>
 
+#include "base/code_page.h"
 #include "base/text.h"
 #include "letters/mail/mail_draft.h"
+#include "letters/mail/mail_settings.h"
 #include "platform/surroundings.h"
 #include "printing/page/print_job.h"
 #include "printing/reports/report_codes.h"
@@ -30,6 +32,9 @@ frmSendMail::frmSendMail() : Portal("frmSendMail") {
   Caption = "E-mail Portal";
   HelpContext = kMailTopic;
   FileAdd.Caption = "Add Fi&le...";
+  attachpdf.Caption = "Attach this report as PDF";
+  authorityframe.Caption = "Certificate Authority of the School";
+  FileAuthority.Caption = "&Browse...";
   auth.Caption = "Authentication Needed";
   loginauth.Caption = "Login";
   insert.Caption = "Insert Recipient &Font Information";
@@ -37,9 +42,12 @@ frmSendMail::frmSendMail() : Portal("frmSendMail") {
   connect.Caption = "&Connect Using Dail-Up";
   disconnect.Caption = "&Disconnect Dail-Up Connection";
   cmdSend.Caption = "&Send";
+  cmdCancel.Caption = "Cancel Sendin&g";
+  cmdMany.Caption = "Send to Sever&al...";
   cmdClose.Caption = "&Exit";
   loginauth.Visible = false;
-  disconnect.Enabled = false;
+  disconnect.Enabled = cmdCancel.Enabled = false;
+  Connection.List = {"As told (plain)", "TLS", "STARTTLS"};
 }
 
 frmSendMail::~frmSendMail() = default;
@@ -52,6 +60,11 @@ void frmSendMail::Declare(ControlTable& table) {
   table.Add("txtSubject", txtSubject);
   table.Add("attachFile", attachFile);
   table.Add("FileAdd", FileAdd).Click([this] { FileAdd_Click(); });
+  table.Add("attachpdf", attachpdf);
+  table.Add("Connection", Connection).Change([this] { Connection_Change(); });
+  table.Add("authorityframe", authorityframe);
+  table.Add("authority", authority);
+  table.Add("FileAuthority", FileAuthority).Click([this] { FileAuthority_Click(); });
   table.Add("auth", auth).Change([this] { auth_Change(); });
   table.Add("loginauth", loginauth);
   table.Add("txtusername", txtusername);
@@ -63,6 +76,8 @@ void frmSendMail::Declare(ControlTable& table) {
   table.Add("connect", connect).Click([this] { connect_Click(); });
   table.Add("disconnect", disconnect).Click([this] { disconnect_Click(); });
   table.Add("cmdSend", cmdSend).Click([this] { cmdSend_Click(); });
+  table.Add("cmdCancel", cmdCancel).Click([this] { cmdCancel_Click(); });
+  table.Add("cmdMany", cmdMany).Click([this] { cmdMany_Click(); });
   table.Add("cmdClose", cmdClose).Click([this] { QueryUnload(); });
 }
 
@@ -72,6 +87,12 @@ void frmSendMail::Load() {
   txtSender.Text = SenderAddress;
   txtSubject.Text = Draft.subject;
   txtMessage.Text = ReadWholeFile(body_file_).bytes;
+  student_ = CurrentStudent;
+  Connection.ListIndex = static_cast<int>(StoredMailSecurity());
+  Connection.Text = Connection.List[static_cast<std::size_t>(Connection.ListIndex)];
+  authority_path_ = StoredMailAuthority();
+  authority.Text = PathForDisplay(authority_path_);
+  Connection_Change();
   FillCombo1();
   if (!Draft.recipient.empty()) txtRecipient.Text = Draft.recipient;
   if (MakeSocket) socket_ = MakeSocket();
@@ -109,6 +130,14 @@ void frmSendMail::Combo1_Change() {
   txtRecipient.Text = Trim(Current().Students[student].email);
 }
 
+// A report as PDF needs a message in parts, which the plain dialogue does not know.
+void frmSendMail::Connection_Change() {
+  const bool plain = Security() == MailSecurity::kPlain;
+  authorityframe.Visible = !plain;
+  attachpdf.Enabled = !plain && !Draft.letter;
+  if (!attachpdf.Enabled) attachpdf.Value = false;
+}
+
 void frmSendMail::auth_Change() {
   loginauth.Visible = auth.Value;
   if (auth.Value) SetFocus(txtusername);
@@ -117,6 +146,8 @@ void frmSendMail::auth_Change() {
 // What was typed into the boxes is kept for the next message, the password never.
 void frmSendMail::QueryUnload() {
   if (socket_) socket_->Close();
+  background_.Stop();
+  StoreMailSettings(Security(), PathOfBox(authority_path_, authority));
   MailServer = txtHost.Text;
   SenderAddress = txtSender.Text;
   Platform().WriteSetting(kApplicationKey, "startup", "POP", MailServer);

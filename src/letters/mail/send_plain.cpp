@@ -18,7 +18,7 @@ constexpr std::size_t kLongestShownReply = 1000;
 
 }  // namespace
 
-bool frmSendMail::Validate() {
+bool frmSendMail::Validate(Recipients recipients) {
   const auto refuse = [this](const TextBox& box, std::string_view why) {
     ShowMessage(why);
     SetFocus(box);
@@ -27,7 +27,7 @@ bool frmSendMail::Validate() {
   if (txtHost.Text.empty())
     return refuse(txtHost, "You must fill in the Outgoing Mail (SMTP) Sever Box. ");
   if (txtSender.Text.empty()) return refuse(txtSender, "You must fill in the From Address Box.");
-  if (txtRecipient.Text.empty())
+  if (recipients == Recipients::kOne && txtRecipient.Text.empty())
     return refuse(txtRecipient, "You must fill in the To Address Box.");
   if (auth.Value && txtusername.Text.empty())
     return refuse(txtusername, "You must fill in the User Name Box.");
@@ -50,9 +50,7 @@ bool frmSendMail::PasswordMayTravel(const std::string& host) {
 bool frmSendMail::ReadAttachment() {
   attachment_.clear();
   if (attachFile.Text.empty()) return true;
-  const bool chosen = !attach_path_.empty() && attachFile.Text == PathForDisplay(attach_path_);
-  const UuencodedText file =
-      UuencodeFile(chosen ? attach_path_ : Utf8FromCodePage(attachFile.Text));
+  const UuencodedText file = UuencodeFile(AttachedPath());
   if (file.error != 0) {
     ShowMessage("File Error: " + PlainNumberText(file.error));
     SetFocusAndSelect(attachFile);
@@ -64,8 +62,18 @@ bool frmSendMail::ReadAttachment() {
 
 void frmSendMail::cmdSend_Click() {
   if (!Validate()) return;
+  if (socket_) socket_->Close();
+  background_.Stop();
+  ShowSending(false);
   status.Caption.clear();
   txtmessage1 = txtMessage.Text;
+  if (Security() == MailSecurity::kPlain)
+    SendPlain();
+  else
+    SendProtected();
+}
+
+void frmSendMail::SendPlain() {
   const MailHost host = MailHostOf(txtHost.Text, kPlainPort);
   if (host.port == 0 || host.name.empty()) {
     ShowMessage("The port behind the server's name must be a number from 1 to 65535.");
@@ -73,7 +81,6 @@ void frmSendMail::cmdSend_Click() {
   }
   if (!ReadAttachment() || !PasswordMayTravel(host.name)) return;
   if (!socket_) return SocketFailed(kSocketNoNetwork, {});
-  socket_->Close();
   received_.clear();
   dialogue_.Reset();
   socket_->Connect(host.name, host.port);

@@ -79,6 +79,7 @@ TEST_F(FrmSendMailTest, ANameBringsItsAddress) {
 
 TEST_F(FrmSendMailTest, WhatIsMissingIsToldInItsOrder) {
   Open();
+  driver->Choose("Connection", 0);
   driver->Tick("auth");
   const auto refused = [this](const char* text, const char* box) {
     for (const char* button : {"cmdSend", "connect"}) {
