@@ -33,8 +33,9 @@ int RunChosen(const ChosenCommand& chosen, std::istream& in, std::ostream& out, 
     return kRefused;
   }
   if (!result.note.empty()) WriteReason(result.note, err);
+  const bool whole = !result.stream || result.stream(out, err);
   out << result.text << std::flush;
-  if (out) return result.failed ? kRefused : 0;
+  if (out) return whole && !result.failed ? 0 : kRefused;
   WriteReason("standard output: cannot be written", err);
   return kRefused;
 }
@@ -59,6 +60,9 @@ int RunCommandLine(int argc, const char* const* argv, std::istream& in, std::ost
   AddImportCommand(app, chosen);
   AddExportCommand(app, chosen);
   AddSeatingCommand(app, chosen);
+  AddRowsCommand(app, chosen);
+  AddLettersCommand(app, chosen);
+  AddLabelsCommand(app, chosen);
   AddMailCommand(app, chosen);
   std::string reason;
   const ParsedLine parsed = parser.Parse(argc, argv, out, reason);

@@ -5,6 +5,7 @@
 #include <iterator>
 
 #include "base/number_text.h"
+#include "companion/class_mark.h"
 #include "companion/mail_journal_layout.h"
 
 namespace tallyroll {
@@ -15,12 +16,15 @@ constexpr const char* kSteps[] = {
     // Wishes for seats, by the IDs of students.
     "CREATE TABLE seat_wish (place INTEGER PRIMARY KEY, kind TEXT NOT NULL,"
     " student TEXT NOT NULL, other TEXT NOT NULL)",
+    // By what the class is known: one row, or none in a companion of the first layout.
+    "CREATE TABLE known_class (file TEXT NOT NULL, students TEXT NOT NULL)",
     kMailJournalTable,
 };
 constexpr auto kLayout = static_cast<std::int64_t>(std::size(kSteps));
 
 constexpr const char* kOfNewerProgram = "it was written by a newer version of this program";
 constexpr const char* kDamaged = "it is damaged";
+constexpr const char* kOfAnotherClass = "it belongs to another class";
 
 bool IsWhole(Database& database) {
   Statement check(database, "PRAGMA quick_check(1)");
@@ -38,9 +42,20 @@ void BringUpToDate(Database& database) {
   transaction.Commit();
 }
 
-Companion Open(const std::string& path, Database::Mode mode) {
-  auto database = std::make_unique<Database>(path, mode);
-  database->Run("PRAGMA journal_mode=WAL; PRAGMA synchronous=FULL");
+enum class Knows { kThisClass, kAnother, kNone };
+
+Knows WhomItKnows(Database& database, const std::string& class_path) {
+  Statement row(database, "SELECT file, students FROM known_class");
+  if (!row.Next()) return Knows::kNone;
+  const ClassMark kept{row.Text(0), row.Text(1)};
+  return IsSameClass(kept, MarkOf(class_path)) ? Knows::kThisClass : Knows::kAnother;
+}
+
+// Whole and of today's layout, whichever class it knows.
+Companion OpenAny(const std::string& class_path, Database::Mode mode) {
+  auto database = std::make_unique<Database>(CompanionPath(class_path), mode);
+  if (mode == Database::Mode::kWrite) database->Run("PRAGMA journal_mode=WAL");
+  database->Run("PRAGMA synchronous=FULL");
   const bool whole = IsWhole(*database);
   if (!database->ok()) return {nullptr, database->fault()};
   if (!whole) return {nullptr, kDamaged};
@@ -52,6 +67,23 @@ Companion Open(const std::string& path, Database::Mode mode) {
   return {std::move(database), {}};
 }
 
+Companion Open(const std::string& class_path, Database::Mode mode) {
+  Companion companion = OpenAny(class_path, mode);
+  if (!companion) return companion;
+  const Knows whom = WhomItKnows(*companion.database, class_path);
+  Fault fault = companion.database->fault();
+  if (whom == Knows::kAnother) return {nullptr, kOfAnotherClass, true};
+  if (whom == Knows::kNone && mode == Database::Mode::kWrite && fault.empty())
+    fault = KnowClass(companion, class_path);
+  if (!fault.empty()) return {nullptr, std::move(fault)};
+  return companion;
+}
+
+bool StandsBeside(const std::string& class_path) {
+  std::error_code error;
+  return !class_path.empty() && std::filesystem::exists(CompanionPath(class_path), error);
+}
+
 }  // namespace
 
 std::string CompanionPath(const std::string& class_path) {
@@ -59,14 +91,32 @@ std::string CompanionPath(const std::string& class_path) {
 }
 
 Companion OpenCompanion(const std::string& class_path) {
-  std::error_code error;
-  if (class_path.empty() || !std::filesystem::exists(CompanionPath(class_path), error)) return {};
-  return Open(CompanionPath(class_path), Database::Mode::kRead);
+  return StandsBeside(class_path) ? Open(class_path, Database::Mode::kRead) : Companion{};
+}
+
+Companion OpenCompanionOfAnyClass(const std::string& class_path) {
+  return StandsBeside(class_path) ? OpenAny(class_path, Database::Mode::kRead) : Companion{};
 }
 
 Companion MakeCompanion(const std::string& class_path) {
   if (class_path.empty()) return {nullptr, "the class was not saved yet"};
-  return Open(CompanionPath(class_path), Database::Mode::kWrite);
+  return Open(class_path, Database::Mode::kWrite);
+}
+
+bool KnowsFile(const Companion& companion, const std::string& class_path) {
+  Statement row(*companion.database, "SELECT file FROM known_class");
+  return row.Next() && row.Text(0) == MarkOf(class_path).file;
+}
+
+Fault KnowClass(Companion& companion, const std::string& class_path) {
+  Database& database = *companion.database;
+  const ClassMark mark = MarkOf(class_path);
+  Transaction transaction(database);
+  database.Run("DELETE FROM known_class");
+  database.Run("INSERT INTO known_class (file, students) VALUES (?, ?)",
+               {mark.file, mark.students});
+  transaction.Commit();
+  return database.fault();
 }
 
 }  // namespace tallyroll

@@ -13,17 +13,28 @@ namespace tallyroll {
 // "/classes/MATH.tyx" of "/classes/MATH.TYR".
 std::string CompanionPath(const std::string& class_path);
 
-// A companion, opened, whole and of today's layout; or why there is none.
+// A companion, opened, whole, of today's layout and of this class; or why there is none.
 struct Companion {
   std::unique_ptr<Database> database;  // null when there is none
   Fault fault;                         // empty where there is only nothing kept yet
+  bool of_another_class = false;       // there is one, but it is not this class's
 
   explicit operator bool() const { return database != nullptr; }
 };
 
-// To read: a class beside which nothing was ever kept has none, and no fault.
+// To read: a class beside which nothing was ever kept has none, and no fault. Where the folder may
+// not be written, what is kept is read all the same.
 Companion OpenCompanion(const std::string& class_path);
 // To write: makes the file when it is missing.
 Companion MakeCompanion(const std::string& class_path);
+
+// Also that of another class: for those who move companions about.
+Companion OpenCompanionOfAnyClass(const std::string& class_path);
+
+// Whether it knows a class file of just these bytes.
+bool KnowsFile(const Companion& companion, const std::string& class_path);
+// From now on the companion knows the class by its file as it is on the disk. Answers why it could
+// not be written down.
+Fault KnowClass(Companion& companion, const std::string& class_path);
 
 }  // namespace tallyroll

@@ -3,18 +3,78 @@
 
 #include <sqlite3.h>
 
+#include <filesystem>
+#include <utility>
+
 namespace tallyroll {
 namespace {
 
 // Nobody waits longer at the screen for another program that has the file.
 constexpr int kMostWait = 20;  // ms
 
+// What the teacher can do something about is said in the teacher's words.
+Fault WordsFor(int result, sqlite3* handle) {
+  switch (result & 0xFF) {
+    case SQLITE_BUSY:
+    case SQLITE_LOCKED:
+      return "another program is using it";
+    case SQLITE_READONLY:
+    case SQLITE_PERM:
+      return "it is write-protected, or its folder is";
+    case SQLITE_FULL:
+      return "the disk is full";
+    case SQLITE_CORRUPT:
+    case SQLITE_NOTADB:
+      return "it is damaged";
+    case SQLITE_CANTOPEN:
+      return "it cannot be opened";
+    default:
+      return handle ? sqlite3_errmsg(handle) : sqlite3_errstr(result);
+  }
+}
+
+// The name of a file that nobody changes while it is read: nothing is written beside it.
+std::string NameToReadAlone(const std::string& path) {
+  std::string name = "file:";
+  for (const char c : path) {
+    if (c == '%' || c == '?' || c == '#') {
+      const auto byte = static_cast<unsigned char>(c);
+      name += '%';
+      name += "0123456789ABCDEF"[byte >> 4U];
+      name += "0123456789ABCDEF"[byte & 15U];
+    } else {
+      name += c;
+    }
+  }
+  return name + "?immutable=1";
+}
+
+// What another program wrote and has not yet brought into the file itself.
+bool HasOpenJournal(const std::string& path) {
+  std::error_code error;
+  const auto size = std::filesystem::file_size(path + "-wal", error);
+  return !error && size > 0;
+}
+
+// The library finds out at the first look that it may not keep its notes beside the file.
+bool CanRead(sqlite3* handle) {
+  const int result =
+      sqlite3_exec(handle, "SELECT count(*) FROM sqlite_schema", nullptr, nullptr, nullptr);
+  return result != SQLITE_CANTOPEN && result != SQLITE_READONLY;
+}
+
 }  // namespace
 
 Database::Database(const std::string& path, Mode mode) {
-  const int flags =
-      mode == Mode::kRead ? SQLITE_OPEN_READWRITE : SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE;
-  Note(sqlite3_open_v2(path.c_str(), &handle_, flags, nullptr));
+  Open(path,
+       mode == Mode::kRead ? SQLITE_OPEN_READWRITE : SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE);
+  if (mode == Mode::kWrite || !ok() || CanRead(handle_) || HasOpenJournal(path)) return;
+  sqlite3_close_v2(std::exchange(handle_, nullptr));
+  Open(NameToReadAlone(path), SQLITE_OPEN_READONLY | SQLITE_OPEN_URI);
+}
+
+void Database::Open(const std::string& name, int flags) {
+  Note(sqlite3_open_v2(name.c_str(), &handle_, flags, nullptr));
   if (ok()) Note(sqlite3_busy_timeout(handle_, kMostWait));
 }
 
@@ -24,7 +84,7 @@ Database::~Database() {
 
 void Database::Note(int result) {
   if (!ok() || result == SQLITE_OK || result == SQLITE_ROW || result == SQLITE_DONE) return;
-  fault_ = handle_ ? sqlite3_errmsg(handle_) : sqlite3_errstr(result);
+  fault_ = WordsFor(result, handle_);
 }
 
 void Database::Run(const char* commands) {

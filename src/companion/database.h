@@ -21,7 +21,9 @@ class Statement;
 // Text is UTF-8. A call that fails says why once, in fault(), and those after it do nothing.
 class Database {
  public:
-  enum class Mode { kRead, kWrite };  // writing makes the file when it is missing
+  // Writing makes the file when it is missing. Reading does with a file, or a folder, that may not
+  // be written.
+  enum class Mode { kRead, kWrite };
   Database(const std::string& path, Mode mode);
   ~Database();
   Database(const Database&) = delete;
@@ -40,6 +42,7 @@ class Database {
  private:
   friend class Statement;
   friend class Transaction;
+  void Open(const std::string& name, int flags);
   void Note(int result);
   void RollBack();
 

@@ -47,6 +47,8 @@ struct ListBox : Control {
   int ListIndex = -1;             // from 0; -1 is none chosen
   bool Checks = false;            // each line has a box to tick
   std::vector<bool> Checked;      // by line, where there are boxes
+  bool MultiSelect = false;       // several lines can be marked; ListIndex is where the keys stand
+  std::vector<bool> Selected;     // by line, where several can be
 };
 
 struct ComboBox : Control {

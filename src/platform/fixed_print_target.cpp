@@ -3,11 +3,14 @@
 
 #include <algorithm>
 
+#include "platform/rich_text.h"
+
 namespace tallyroll {
 namespace {
 
 constexpr double kWidthOfPoint = 10;
 constexpr double kHeightOfPoint = 24;
+constexpr double kAboveBase = 18;  // of those
 
 }  // namespace
 
@@ -21,6 +24,21 @@ double FixedPrintTarget::TextHeight(std::string_view /*text*/) const {
 
 double FixedPrintTarget::AverageCharWidth() const {
   return FontSize * kWidthOfPoint;
+}
+
+FontReach FixedPrintTarget::ReachOf(const LetterFont& font) const {
+  return {font.size * kAboveBase, font.size * (kHeightOfPoint - kAboveBase)};
+}
+
+double FixedPrintTarget::LetterWidth(std::u16string_view text, const LetterFont& font) const {
+  return static_cast<double>(text.size()) * font.size * kWidthOfPoint;
+}
+
+void FixedPrintTarget::DrawLetters(double x, double base, std::u16string_view text,
+                                   const LetterFont& font) {
+  job->pages.back().texts.push_back({x, base - font.size * kAboveBase, Utf8FromUtf16(text),
+                                     font.size, font.bold, false, ForeColor, font.italic,
+                                     font.name});
 }
 
 void FixedPrintTarget::Line(double x1, double y1, double x2, double y2) {

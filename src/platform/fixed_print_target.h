@@ -20,6 +20,8 @@ struct PrintedText {
   bool bold = false;
   bool upwards = false;
   PrintColor color = 0;
+  bool italic = false;
+  std::string font = {};  // of letters, whose text is UTF-8
 
   friend bool operator==(const PrintedText&, const PrintedText&) = default;
 };
@@ -59,7 +61,7 @@ struct PrintedJob {
 };
 
 // A character is as wide as ten times its points, and a line as high as twenty-four times: at 10
-// points 100 and 240 twips.
+// points 100 and 240 twips. Of a line of letters three quarters stand above its base.
 class FixedPrintTarget : public PrintTarget {
  public:
   enum class Kind { kBox, kPrinter };
@@ -69,6 +71,10 @@ class FixedPrintTarget : public PrintTarget {
   double TextWidth(std::string_view text) const override;
   double TextHeight(std::string_view text) const override;
   double AverageCharWidth() const override;
+  FontReach ReachOf(const LetterFont& font) const override;
+  double LetterWidth(std::u16string_view text, const LetterFont& font) const override;
+  void DrawLetters(double x, double base, std::u16string_view text,
+                   const LetterFont& font) override;
   void Line(double x1, double y1, double x2, double y2) override;
   void FillPolygon(const std::vector<PrintPoint>& corners, PrintColor color) override;
   void PrintUpwards(std::string_view text, double x, double y) override;

@@ -5,6 +5,7 @@
 
 #include "platform/chart.h"
 #include "platform/class_window.h"
+#include "platform/rich_text_box.h"
 #include "platform/surroundings.h"
 
 namespace tallyroll {

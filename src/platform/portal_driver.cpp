@@ -5,6 +5,8 @@
 #include <utility>
 
 #include "platform/chart.h"
+#include "platform/rich_text_box.h"
+#include "platform/rich_text_style.h"
 #include "platform/surroundings.h"
 
 namespace tallyroll {
@@ -12,6 +14,12 @@ namespace {
 
 const Control& BaseOf(const ControlRow& row) {
   return *std::visit([](auto* c) -> const Control* { return c; }, row.control);
+}
+
+void MarkLines(ListBox& list, std::initializer_list<int> lines) {
+  list.Selected.assign(list.List.size(), false);
+  for (const int line : lines) list.Selected.at(static_cast<std::size_t>(line)) = true;
+  if (lines.size() > 0) list.ListIndex = *(lines.end() - 1);
 }
 
 }  // namespace
@@ -100,6 +108,31 @@ void PortalDriver::Type(std::string_view box, std::string_view text) {
   }
 }
 
+void PortalDriver::Write(std::string_view rich_text, std::string_view text) {
+  RichTextBox* box = As<RichTextBox>(rich_text, "write into");
+  if (!box) return;
+  if (box->Locked) complaints_.push_back("write into " + std::string(rich_text) + ": it is locked");
+  if (box->Locked || !MoveFocus(*table_.Find(rich_text))) return;
+  const unsigned revision = box->Revision;
+  const auto at = static_cast<std::size_t>(box->SelStart);
+  const std::u16string typed = Utf16FromCodePage(text);
+  box->ReplaceSelection(typed);
+  box->Revision = revision;  // the user's doing
+  Restyle(box->Document, at, typed.size(), [&](TextStyle& style) { style = box->SelStyle; });
+  Raise(*table_.Find(rich_text), {&ControlRow::change, &ControlRow::click});
+}
+
+void PortalDriver::SelectIn(std::string_view rich_text, int start, int length) {
+  RichTextBox* box = As<RichTextBox>(rich_text, "select in");
+  if (!box || !MoveFocus(*table_.Find(rich_text))) return;
+  box->SelStart = start;
+  box->SelLength = length;
+  const auto at = static_cast<std::size_t>(start);
+  box->SelStyle = StylesIn(box->Document, at, static_cast<std::size_t>(length)).front();
+  box->SelAlign = AlignAt(box->Document, at);
+  Raise(*table_.Find(rich_text), {&ControlRow::click});
+}
+
 void PortalDriver::Press(std::string_view button) {
   const ControlRow* row = Reach(button, "press");
   if (row && MoveFocus(*row)) Raise(*row, {&ControlRow::click});
@@ -132,14 +165,24 @@ void PortalDriver::Choose(std::string_view list, int index) {
   const ControlRow* row = Reach(list, "choose in");
   if (!row || !MoveFocus(*row)) return;
   if (auto* box = std::get_if<ListBox*>(&row->control)) {
+    const bool same = (*box)->ListIndex == index;
+    (*box)->ListIndex = index;
+    if ((*box)->MultiSelect) MarkLines(**box, {index});
     // A click on the line that is chosen already changes nothing.
-    if (std::exchange((*box)->ListIndex, index) == index) return Raise(*row, {&ControlRow::click});
+    if (same) return Raise(*row, {&ControlRow::click});
   }
   if (auto* combo = std::get_if<ComboBox*>(&row->control)) {
     (*combo)->ListIndex = index;
     (*combo)->Text = (*combo)->List.at(static_cast<std::size_t>(index));
   }
   Raise(*row, {&ControlRow::change, &ControlRow::click});
+}
+
+void PortalDriver::Mark(std::string_view list, std::initializer_list<int> lines) {
+  ListBox* control = As<ListBox>(list, "mark lines of");
+  if (!control || !control->MultiSelect || !MoveFocus(*table_.Find(list))) return;
+  MarkLines(*control, lines);
+  Raise(*table_.Find(list), {&ControlRow::change});
 }
 
 void PortalDriver::Check(std::string_view list, int index, bool on) {
@@ -236,6 +279,8 @@ std::string PortalDriver::Text(std::string_view control) const {
       [](auto* c) -> std::string {
         if constexpr (requires { c->Text; })
           return c->Text;
+        else if constexpr (requires { c->Document; })
+          return Utf8FromUtf16(PlainText(c->Document));
         else if constexpr (requires { c->Caption; })
           return c->Caption;
         else

@@ -23,6 +23,10 @@ class PortalDriver {
 
   // Replaces the text of a box, character by character, so that each one raises Change.
   void Type(std::string_view box, std::string_view text);
+  // Types into a rich text in the place of its selection, in one go.
+  void Write(std::string_view rich_text, std::string_view text);
+  // Selects in a rich text, or with no length puts the caret there.
+  void SelectIn(std::string_view rich_text, int start, int length = 0);
   // Presses a button, or clicks a list or a grid.
   void Press(std::string_view button);
   // A click comes before the double click.
@@ -31,6 +35,8 @@ class PortalDriver {
   void Tick(std::string_view box, bool on = true);
   // Chooses a line of a list or combo box, from 0.
   void Choose(std::string_view list, int index);
+  // Marks these lines of a list and no others; the last of them is where the keys stand.
+  void Mark(std::string_view list, std::initializer_list<int> lines);
   // Ticks the box of a line, from 0, or takes the tick away.
   void Check(std::string_view list, int index, bool on = true);
   // Picks a tab, from 0.

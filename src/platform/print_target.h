@@ -19,6 +19,22 @@ struct PrintPoint {
   friend bool operator==(const PrintPoint&, const PrintPoint&) = default;
 };
 
+// The font of a piece of a letter, which changes within a line.
+struct LetterFont {
+  std::string name;  // UTF-8
+  double size = 12;  // points
+  bool bold = false;
+  bool italic = false;
+
+  friend bool operator==(const LetterFont&, const LetterFont&) = default;
+};
+
+// How far a font reaches above and below the line it stands on.
+struct FontReach {
+  double above = 0;
+  double below = 0;
+};
+
 // Lengths in twips, 1/1440 inch. The origin is the corner of the margins once the page is set up.
 class PrintTarget {
  public:
@@ -63,6 +79,13 @@ class PrintTarget {
   // The pen goes to a column of the target's average character, the first being 1. What reaches
   // that column already is neither printed over nor touched: the pen goes one blank behind it.
   void Tab(int column);
+
+  // Letters say for each piece which font it has, and hold what no code page does.
+  virtual FontReach ReachOf(const LetterFont& font) const = 0;
+  virtual double LetterWidth(std::u16string_view text, const LetterFont& font) const = 0;
+  // In ForeColor; `base` is the line it stands on.
+  virtual void DrawLetters(double x, double base, std::u16string_view text,
+                           const LetterFont& font) = 0;
 
   virtual void Line(double x1, double y1, double x2, double y2) = 0;
   // A surface without an outline.

@@ -6,6 +6,7 @@
 
 #include "base/code_page.h"
 #include "base/number_text.h"
+#include "platform/rich_text.h"
 
 namespace tallyroll {
 namespace {
@@ -41,9 +42,9 @@ std::string ColorText(PrintColor color) {
   return text;
 }
 
-std::string Escaped(std::string_view text) {
+std::string Escaped(const std::string& utf8) {
   std::string escaped;
-  for (const char c : Utf8FromCodePage(text)) {
+  for (const char c : utf8) {
     if (c == '&')
       escaped += "&amp;";
     else if (c == '<')
@@ -67,7 +68,7 @@ std::string SvgPrintTarget::File(std::string_view title) const {
          "<svg xmlns=\"http://www.w3.org/2000/svg\" width=\"" +
          width + "pt\" height=\"" + height + "pt\" viewBox=\"0 0 " + width + " " + height +
          "\" font-family=\"Arial, Liberation Sans, Helvetica, sans-serif\" role=\"img\">\n<title>" +
-         Escaped(title) + "</title>\n" + body_ + "</svg>\n";
+         Escaped(Utf8FromCodePage(title)) + "</title>\n" + body_ + "</svg>\n";
 }
 
 double SvgPrintTarget::TextWidth(std::string_view text) const {
@@ -82,6 +83,27 @@ double SvgPrintTarget::TextHeight(std::string_view /*text*/) const {
 
 double SvgPrintTarget::AverageCharWidth() const {
   return TextWidth("n");
+}
+
+FontReach SvgPrintTarget::ReachOf(const LetterFont& font) const {
+  const double twips = font.size * kTwipsPerPoint;
+  return {twips * kAscent, twips * (kLineHeight - kAscent)};
+}
+
+double SvgPrintTarget::LetterWidth(std::u16string_view text, const LetterFont& font) const {
+  int thousandths = 0;
+  for (const char16_t unit : text)
+    thousandths += WidthOf(unit < 256 ? static_cast<unsigned char>(unit) : 255);
+  return thousandths * font.size * kTwipsPerPoint / 1000 * (font.bold ? kBoldFactor : 1);
+}
+
+void SvgPrintTarget::DrawLetters(double x, double base, std::u16string_view text,
+                                 const LetterFont& font) {
+  body_ += "<text x=\"" + Points(x) + "\" y=\"" + Points(base) + "\" font-family=\"" +
+           Escaped(font.name) + "\" font-size=\"" + Points(font.size * kTwipsPerPoint) + "\"" +
+           (font.bold ? " font-weight=\"bold\"" : "") +
+           (font.italic ? " font-style=\"italic\"" : "") + " fill=\"" + ColorText(ForeColor) +
+           "\" xml:space=\"preserve\">" + Escaped(Utf8FromUtf16(text)) + "</text>\n";
 }
 
 void SvgPrintTarget::Line(double x1, double y1, double x2, double y2) {
@@ -101,7 +123,7 @@ void SvgPrintTarget::AddText(std::string_view text, double size, const std::stri
   if (text.empty()) return;
   body_ += "<text " + place + " font-size=\"" + Points(size * kTwipsPerPoint) + "\"" +
            (FontBold ? " font-weight=\"bold\"" : "") + " fill=\"" + ColorText(ForeColor) +
-           "\" xml:space=\"preserve\">" + Escaped(text) + "</text>\n";
+           "\" xml:space=\"preserve\">" + Escaped(Utf8FromCodePage(text)) + "</text>\n";
 }
 
 void SvgPrintTarget::DrawTextAt(double x, double y, std::string_view text, double size) {

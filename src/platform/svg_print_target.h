@@ -22,6 +22,10 @@ class SvgPrintTarget : public PrintTarget {
   double TextWidth(std::string_view text) const override;
   double TextHeight(std::string_view text) const override;
   double AverageCharWidth() const override;
+  FontReach ReachOf(const LetterFont& font) const override;
+  double LetterWidth(std::u16string_view text, const LetterFont& font) const override;
+  void DrawLetters(double x, double base, std::u16string_view text,
+                   const LetterFont& font) override;
   void Line(double x1, double y1, double x2, double y2) override;
   void FillPolygon(const std::vector<PrintPoint>& corners, PrintColor color) override;
   void PrintUpwards(std::string_view text, double x, double y) override;

@@ -2,7 +2,9 @@
 #include "roster/frmstudents.h"
 
 #include <algorithm>
+#include <utility>
 
+#include "roster/chosen_students.h"
 #include "store/program_state.h"
 #include "store/student_names.h"
 
@@ -19,8 +21,6 @@ std::vector<std::string> LinesOf(const std::vector<i16>& places) {
 
 }  // namespace
 
-std::vector<i16> ChosenStudents;
-
 frmstudents::frmstudents() : Portal("frmstudents") {
   Caption = "Student Portal";
   HelpContext = 290;
@@ -30,6 +30,7 @@ frmstudents::frmstudents() : Portal("frmstudents") {
   clear.Caption = "&Clear Selected List";
   finished.Caption = "&Finished";
   Label3.Caption = "For E-mail, choose only ONE student";
+  orglist.MultiSelect = printlist.MultiSelect = true;
 }
 
 void frmstudents::Declare(ControlTable& table) {
@@ -44,10 +45,9 @@ void frmstudents::Declare(ControlTable& table) {
 }
 
 void frmstudents::Load() {
-  for (int i = 1; i <= Current().NumStudents; ++i) {
-    const bool chosen = std::ranges::find(ChosenStudents, i) != ChosenStudents.end();
-    (chosen ? chosen_ : rest_).push_back(static_cast<i16>(i));
-  }
+  chosen_ = ChosenStudents();
+  for (i16 i = 1; i <= Current().NumStudents; ++i)
+    if (std::ranges::find(chosen_, i) == chosen_.end()) rest_.push_back(i);
   FillLists();
   SetFocus(orglist);
 }
@@ -59,17 +59,26 @@ void frmstudents::FillLists() {
   printlist.List = LinesOf(chosen_);
   const auto within = [](ListBox& box) {
     box.ListIndex = std::min(box.ListIndex, static_cast<int>(box.List.size()) - 1);
+    box.Selected.assign(box.List.size(), false);
+    if (box.ListIndex >= 0) box.Selected[static_cast<std::size_t>(box.ListIndex)] = true;
   };
   within(orglist);
   within(printlist);
 }
 
-// The next line stands chosen afterwards, so that one key moves several.
+// Every marked line moves. The one behind the first of them stands marked afterwards, so that one
+// key moves several one by one too.
 void frmstudents::Move(ListBox& from, Places& places, Places& to) {
-  if (from.ListIndex < 0) return;
-  const auto moved = places.begin() + from.ListIndex;
-  to.push_back(*moved);
-  places.erase(moved);
+  Places stay;
+  int first = -1;
+  for (std::size_t line = 0; line < places.size(); ++line) {
+    const bool moves = line < from.Selected.size() && from.Selected[line];
+    (moves ? to : stay).push_back(places[line]);
+    if (moves && first < 0) first = static_cast<int>(line);
+  }
+  if (first < 0) return;
+  places = std::move(stay);
+  from.ListIndex = first;
   FillLists();
 }
 
@@ -94,7 +103,7 @@ void frmstudents::clear_Click() {
 }
 
 void frmstudents::finished_Click() {
-  ChosenStudents = chosen_;
+  ChooseStudents(chosen_);
   Unload();
 }
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// frmstudents: the Student Portal. It picks students for printing or e-mail.
+// frmstudents: the Student Portal. It picks students for printing or e-mail (chosen_students.h).
 #pragma once
 
 #include <vector>
@@ -8,9 +8,6 @@
 #include "store/records.h"
 
 namespace tallyroll {
-
-// The choice of frmstudents as Students indices, in their order; kept until it is chosen anew.
-extern std::vector<i16> ChosenStudents;
 
 struct frmstudents : Portal {
   frmstudents();

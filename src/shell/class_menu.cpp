@@ -3,6 +3,7 @@
 
 #include <utility>
 
+#include "find/frmfind.h"
 #include "platform/class_window.h"
 #include "platform/surroundings.h"
 #include "roster/frmEdit.h"
@@ -163,6 +164,12 @@ constexpr ClassMenuRow kRows[] = {
      .action = [](Form1& window) { window.SetNameMode(82); }},
     {.level = 2, .name = "mnuid", .caption = "Display &Without  Name", .status = "Sort by ID and show IDs alone",
      .action = [](Form1& window) { window.SetNameMode(73); }},
+
+    {.level = 0, .name = "mnuEditing", .caption = "&Edit"},
+    {.level = 1, .name = "mnuFind", .caption = "&Find...", .status = "Find a student, a grade, a command or a class",
+     .shortcut = "Ctrl+F", .action = [](Form1&) { RunFind(FindFirst::kStudents); }},
+    {.level = 1, .name = "mnuCommand", .caption = "&Command...", .status = "Give any command by its name",
+     .shortcut = "Ctrl+K", .action = [](Form1&) { RunFind(FindFirst::kCommands); }},
 
     {.level = 0, .name = "mnuScreens", .caption = "&View"},
     {.level = 1, .name = "mnuVScreen", .caption = "Screen - &All Information", .status = "Everything about a student",

@@ -4,27 +4,14 @@
 
 #include "base/text.h"
 #include "shell/form1.h"
+#include "shell/menu_needs.h"
 
 namespace tallyroll {
 namespace {
 
-constexpr std::string_view kWithClass[] = {"mnuclose",    "mnucloseall", "mnusaveas", "mnudisplay",
-                                           "mnuDelete",   "mmucomment",  "mnuEdit",   "mnuText",
-                                           "mnuTransfer", "mnuEMarksS",  "mnucat",    "mnuroster",
-                                           "mnuwordproc", "mnuSeating"};
 constexpr int kButtonsWithClass[] = {3, 5, 6, 7, 9, 12};
-
-constexpr std::string_view kWithGrades[] = {
-    "mnuTransfergrade", "mnuEMarks", "mnucat",     "mnureorder",   "mnuEMarksT",
-    "mnuRollBook",      "mnuDMarks", "mnuVScreen", "mnuView",      "mnuVPrinter",
-    "mnuMGrades",       "mnuequalW", "mnupoints",  "mnuStatistic", "mnuonegrade"};
 constexpr int kButtonsWithGrades[] = {8, 11, 13, 14};
-
-constexpr std::string_view kWithSummaries[] = {"mnuEAttend", "mnuDAttend", "mnuVScreen",
-                                               "mnuVPrinter", "mnuView"};
 constexpr int kButtonsWithSummaries[] = {10};
-
-constexpr std::string_view kWithDays[] = {"mnuattscreen", "mnuedaily", "mnuVPrinter", "mnuView"};
 constexpr int kButtonsWithDays[] = {10, 11};
 
 template <typename Names, typename Places>

@@ -2,6 +2,7 @@
 #include "shell/frame_menu.h"
 
 #include "base/number_text.h"
+#include "find/frmfind.h"
 #include "platform/surroundings.h"
 #include "shell/shell_state.h"
 #include "store/settings.h"
@@ -35,6 +36,11 @@ Menu MakeFrameMenu(MDIForm1& frame) {
         [&frame, i] { frame.mnuFileList_Click(i); });
   add(1, "", "");
   add(1, "mnuExit", "E&xit", "Leave Tallyroll", "Ctrl+Q", [&] { frame.mnuExit_Click(); });
+  add(0, "mnuEditing", "&Edit");
+  add(1, "mnuFind", "&Find...", "Find a command or a class", "Ctrl+F",
+      [] { RunFind(FindFirst::kStudents); });
+  add(1, "mnuCommand", "&Command...", "Give any command by its name", "Ctrl+K",
+      [] { RunFind(FindFirst::kCommands); });
   add(0, "mnuHelp", "&Help");
   add(1, "CommandsItem", "&Contents", "Open the help", "F1", [] { Platform().ShowHelp(0); });
   add(1, "mnuAbout", "&About Tallyroll", "About this program", "", [] { Screen->ShowAbout(); });

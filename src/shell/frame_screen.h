@@ -2,13 +2,21 @@
 // What the frame asks of the screen it is shown on.
 #pragma once
 
+#include <string>
 #include <string_view>
+#include <vector>
 
 namespace tallyroll {
 
 class Form1;
 
 enum class Arrangement { kCascade, kTileHorizontal, kTileVertical };
+
+// A page of the help.
+struct HelpTopic {
+  int context = 0;
+  std::string title;  // in the code page
+};
 
 // The desktop shows it with Qt; without a screen the calls do nothing.
 class FrameScreen {
@@ -23,6 +31,7 @@ class FrameScreen {
   virtual void PopUpMenu(Form1& /*window*/, std::string_view /*entry*/) {}
   virtual void Arrange(Arrangement /*how*/) {}
   virtual void ShowAbout() {}
+  virtual std::vector<HelpTopic> HelpTopics() { return {}; }
 };
 
 }  // namespace tallyroll

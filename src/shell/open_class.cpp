@@ -6,6 +6,7 @@
 #include "base/code_page.h"
 #include "base/number_text.h"
 #include "base/text.h"
+#include "companion/companion_at_save.h"
 #include "platform/portal.h"
 #include "shell/data_folder.h"
 #include "shell/opened_class.h"
@@ -129,10 +130,12 @@ void Form1::ShowOpenedClass() {
   showform3();
   if (Current().NumStudents > 0) CheckNameMode();
   FileErrorCode = 0;
-  if (Current().Magic == "ty8") return;
-  // Menus and grid follow the older data.
-  EnableClassMenus(true);
-  Activate();
+  if (Current().Magic != "ty8") {
+    // Menus and grid follow the older data.
+    EnableClassMenus(true);
+    Activate();
+  }
+  if (const std::string told = TakeUpCompanion(path); !told.empty()) ShowStatus(told);
 }
 
 void Form1::OpenNewClass(int pending_action) {

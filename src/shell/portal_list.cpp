@@ -22,6 +22,7 @@
 #include "averages/portals/frmroundoff.h"
 #include "averages/portals/frmscrnavg.h"
 #include "averages/portals/frmweights.h"
+#include "find/frmfind.h"
 #include "grades/frmEMarksS.h"
 #include "grades/frmEmarks.h"
 #include "grades/frmMarks.h"
@@ -31,6 +32,8 @@
 #include "grades/frmletter.h"
 #include "letters/mail/frmSendMail.h"
 #include "letters/mail/frmSendMany.h"
+#include "letters/writer/frmreplace.h"
+#include "letters/writer/frmwrdproc.h"
 #include "printing/frmmargins.h"
 #include "printing/frmprintall.h"
 #include "printing/frmprintpre.h"
@@ -59,6 +62,7 @@ std::unique_ptr<Portal> Make() {
   return std::make_unique<P>();
 }
 
+// clang-format off
 constexpr std::array kPortals{
     PortalRow{"frmpassword", Make<frmpassword>},
     PortalRow{"frmWizard", Make<frmWizard>},
@@ -100,12 +104,15 @@ constexpr std::array kPortals{
     PortalRow{"frmgraph", Make<frmgraph>},
     PortalRow{"frmgrone", Make<frmgrone>},
     PortalRow{"frmcompare", Make<frmcompare>},
-    PortalRow{"frmwrdproc"},
+    PortalRow{"frmwrdproc", Make<frmwrdproc>},
+    PortalRow{"frmreplace", Make<frmreplace>},
     PortalRow{"frmseating", Make<frmseating>},
     PortalRow{"frmtxt", Make<frmtxt>},
+    PortalRow{"frmfind", Make<frmfind>},
     PortalRow{"frmSendMail", Make<frmSendMail>},
     PortalRow{"frmSendMany", Make<frmSendMany>},
 };
+// clang-format on
 
 std::vector<std::string_view> NamesOf(bool built) {
   std::vector<std::string_view> names;

@@ -5,7 +5,7 @@
 #include "averages/engine/average_state.h"
 #include "letters/mail/mail_draft.h"
 #include "printing/page/print_job.h"
-#include "roster/frmstudents.h"
+#include "roster/chosen_students.h"
 #include "shell/shell_state.h"
 #include "store/program_state.h"
 #include "store/settings.h"
@@ -15,7 +15,7 @@ namespace tallyroll {
 void ResetProgram() {
   ResetStore();
   ResetSettings();
-  ChosenStudents.clear();
+  ForgetChosenStudents();
   ResetAttendance();
   ResetAverages();
   ResetPrinting();

@@ -2,6 +2,7 @@
 // Saving a class, and the question before it is closed.
 #include "base/code_page.h"
 #include "base/text.h"
+#include "companion/companion_at_save.h"
 #include "shell/recent_list.h"
 #include "shell/shell_state.h"
 #include "store/class_defaults.h"
@@ -60,8 +61,12 @@ std::string Form1::setsave() {
 }
 
 bool Form1::Save() {
+  CompanionAtSave companion(CurrentClassFile().path, Current().FileName);
   WriteClassFile();
   if (FileErrorCode != 0) return false;
+  // Before anything that writes to the companion: from here on it knows the class by its new bytes.
+  const std::string told = companion.Saved();
+  if (!told.empty()) ShowStatus(StatusText + told);
   Current().Changed = kFalse;
   AddRecentFile(Current().FileName);
   FrameForm->RebuildRecentMenu();

@@ -8,6 +8,7 @@
 #include "printing/month_printout.h"
 #include "printing/weight_printout.h"
 #include "shell/current_window.h"
+#include "shell/find_sources.h"
 #include "shell/portal_list.h"
 
 namespace tallyroll {
@@ -31,6 +32,7 @@ void ResetShell() {
   Screen = &no_screen;
   SetClassWindow(&CurrentWindow());
   MakePortal = &MakePortalByName;
+  MakeFindEntries = &ProgramFindEntries;
   PrintTable = &PrintWeights;
   PrintMonth = &PrintAttendanceMonth;
 }

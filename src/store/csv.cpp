@@ -16,6 +16,21 @@ constexpr std::string_view kSeparatorLine = "sep=";
 constexpr int kRecordsLookedAt = 20;
 constexpr std::size_t kMostCells = 1000;
 constexpr char kQuote = '"';
+constexpr char kTextMark = '\'';
+
+// Whether a spreadsheet might compute it: a sign alone is a text to it, and so is a number with
+// one.
+bool MayBeFormula(std::string_view text) {
+  constexpr std::string_view kBeginnings = "=+-@\t\r\n";
+  return text.size() > 1 && kBeginnings.find(text.front()) != std::string_view::npos &&
+         !WholeNumberText(text);
+}
+
+// So does one that would be taken for marked when it is read.
+bool NeedsTextMark(std::string_view text) {
+  while (text.starts_with(kTextMark)) text.remove_prefix(1);
+  return MayBeFormula(text);
+}
 
 bool TellsSeparator(std::string_view text) {
   return text.starts_with(kSeparatorLine) && text.size() > kSeparatorLine.size() &&
@@ -118,6 +133,7 @@ class Parser {
     const std::size_t plain = at_;
     while (!AtEnd() && text_[at_] != separator_ && !AtLineEnd()) ++at_;
     cell.text += text_.substr(plain, at_ - plain);
+    if (cell.text.starts_with(kTextMark)) cell.text = WithoutTextMark(cell.text);
     cell.raw = text_.substr(begin, at_ - begin);
     return cell;
   }
@@ -169,6 +185,16 @@ std::string CsvField(std::string_view text, char separator) {
   std::string quoted = "\"";
   for (const char c : text) quoted.append(c == kQuote ? 2 : 1, c);
   return quoted + kQuote;
+}
+
+std::string CsvTextField(std::string_view text, char separator) {
+  if (!NeedsTextMark(text)) return CsvField(text, separator);
+  return CsvField(kTextMark + std::string(text), separator);
+}
+
+std::string_view WithoutTextMark(std::string_view field) {
+  const bool marked = field.starts_with(kTextMark) && NeedsTextMark(field.substr(1));
+  return marked ? field.substr(1) : field;
 }
 
 }  // namespace tallyroll

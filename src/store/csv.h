@@ -40,4 +40,10 @@ std::string FaultOf(const CsvTable& table);
 // Quoted where a separator, a quote or a line end stands in the text.
 std::string CsvField(std::string_view text, char separator = ',');
 
+// A text that a teacher typed, as a field: what a spreadsheet would run as a formula
+// ("=HYPERLINK(") gets an apostrophe in front, which shows that it is a text. Numbers stay numbers.
+std::string CsvTextField(std::string_view text, char separator = ',');
+// A field as it was typed; what ParseCsv reads is so already.
+std::string_view WithoutTextMark(std::string_view field);
+
 }  // namespace tallyroll

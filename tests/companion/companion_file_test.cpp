@@ -81,6 +81,21 @@ TEST_F(CompanionFileTest, ALayoutThatNoProgramHasIsADamage) {
   EXPECT_EQ(SeatWishes(path).fault, "it is damaged");
 }
 
+// A companion of the first layout knew no class: it belongs to whoever is beside it.
+TEST_F(CompanionFileTest, OneOfTheFirstLayoutIsTakenOver) {
+  {
+    Database database(companion, Database::Mode::kWrite);
+    database.Run(
+        "CREATE TABLE seat_wish (place INTEGER PRIMARY KEY, kind TEXT NOT NULL,"
+        " student TEXT NOT NULL, other TEXT NOT NULL);"
+        "INSERT INTO seat_wish (kind, student, other) VALUES ('back', '2', '');"
+        "PRAGMA user_version=1");
+  }
+  EXPECT_EQ(SeatWishes(path).wishes, (Wishes{{"back", "2", ""}}));
+  EXPECT_EQ(KeepSeatWishes(path, {{"front", "2", ""}}), "");
+  EXPECT_EQ(SeatWishes(path).wishes, (Wishes{{"front", "2", ""}}));
+}
+
 TEST_F(CompanionFileTest, AMissingTableIsToldOf) {
   KeepSeatWishes(path, {{"back", "2", ""}});
   {

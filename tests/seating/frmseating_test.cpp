@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "seating/frmseating.h"
 
+#include "base/number_text.h"
 #include "companion/companion_file.h"
 #include "companion/seat_wishes.h"
 #include "platform/portal_driver.h"
@@ -464,8 +465,10 @@ TEST_F(FrmSeatingTest, WishesThatCannotBeReadStay) {
   ASSERT_EQ(KeepSeatWishes(Current().FileName, {{"front", "3", ""}}), "");
   const std::string companion = CompanionPath(Current().FileName);
   Open();
+  std::int64_t layout = 0;
   {
     Database other(companion, Database::Mode::kWrite);
+    layout = other.Number("PRAGMA user_version");
     other.Run("PRAGMA user_version=99");
   }
   New(2, 3, "bywishes");
@@ -475,7 +478,7 @@ TEST_F(FrmSeatingTest, WishesThatCannotBeReadStay) {
   EXPECT_EQ(portal.wishes.wishlist.List, Cards{"Aa, X: at the front"});
   {
     Database other(companion, Database::Mode::kWrite);
-    other.Run("PRAGMA user_version=1");
+    other.Run(("PRAGMA user_version=" + PlainNumberText(layout)).c_str());
   }
   EXPECT_EQ(SeatWishes(Current().FileName).wishes, (std::vector<SeatWish>{{"front", "3", ""}}));
 }

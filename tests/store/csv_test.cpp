@@ -149,5 +149,23 @@ TEST(CsvField, IsQuotedOnlyWhereItMust) {
   EXPECT_EQ(CsvField("a\nb"), "\"a\nb\"");
 }
 
+TEST(CsvTextField, IsNeverAFormulaAndComesBack) {
+  EXPECT_EQ(CsvTextField("=HYPERLINK(\"x\")"), "\"'=HYPERLINK(\"\"x\"\")\"");
+  EXPECT_EQ(CsvTextField("+cmd|' /C calc'!A0"), "'+cmd|' /C calc'!A0");
+  EXPECT_EQ(CsvTextField("@SUM(1)"), "'@SUM(1)");
+  EXPECT_EQ(CsvTextField("-2+3"), "'-2+3");
+  EXPECT_EQ(CsvTextField("\t=1"), "'\t=1");
+  for (const char* text :
+       {"=HYPERLINK(1)", "+1-2", "@x", "-Ng", "plain", "'quoted'", "'=1+1", "''=1+1", "-"})
+    EXPECT_EQ(ParseCsv(CsvTextField(text)).records.at(0).cells.at(0).text, text);
+}
+
+TEST(CsvTextField, LeavesNumbersAndSingleSignsAlone) {
+  EXPECT_EQ(CsvTextField("-5"), "-5");
+  EXPECT_EQ(CsvTextField("+2.5"), "+2.5");
+  EXPECT_EQ(CsvTextField("-"), "-");
+  EXPECT_EQ(CsvTextField("Ng, Ada"), "\"Ng, Ada\"");
+}
+
 }  // namespace
 }  // namespace tallyroll

@@ -19,12 +19,16 @@ here
 
 [full]
 here
+
+[brought]
+brought
 END
 
 # The machine has "here" alone. "removed" packages are known to dpkg, but not installed.
 cat >"$work/bin/dpkg-query" <<'END'
 #!/bin/bash
 case ${!#} in
+  *Provides*) printf 'installed other, brought\nconfig-files absent\n' ;;
   here) echo installed ;;
   absent-too) echo config-files ;;
   *) exit 1 ;;
@@ -51,6 +55,9 @@ try() {
 
 try full
 [[ $status == 0 && -z $said && -z $calls ]] || fail "nothing missing: $status '$said' '$calls'"
+
+try brought
+[[ $status == 0 && -z $said && -z $calls ]] || fail "brought along by another: $status '$said' '$calls'"
 
 try build
 [[ $status == 0 && $said == "Installing absent ..." ]] || fail "one missing: $status '$said'"

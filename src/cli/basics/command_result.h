@@ -2,6 +2,8 @@
 // What a command of tallyroll-cli answers.
 #pragma once
 
+#include <functional>
+#include <iosfwd>
 #include <string>
 
 namespace tallyroll {
@@ -12,6 +14,9 @@ struct CommandResult {
   std::string text;       // UTF-8
   std::string note = {};  // a line on standard error all the same
   bool failed = false;    // not all went well: the text is put out, and the exit status is 1
+  // Instead of a text: writes the output as it comes. False when a part of it was refused, which
+  // it has told.
+  std::function<bool(std::ostream& out, std::ostream& err)> stream = {};
 };
 
 // "FILE: reason" on one line, whatever the name or the message holds.

@@ -7,6 +7,11 @@ PdfOutcome WritePdf(const std::string& /*path*/, const std::string& /*title*/) {
   return {"PDF is not available here"};
 }
 
+PdfOutcome WritePdfJob(const std::string& /*path*/, const std::string& /*title*/,
+                       const std::function<void(PrintTarget&)>& /*print*/) {
+  return {"PDF is not available here"};
+}
+
 PdfOutcome WritePdfPage(const std::string& /*path*/, const std::string& /*title*/,
                         const std::function<void(PrintTarget&)>& /*draw*/, bool /*landscape*/) {
   return {"PDF is not available here"};

@@ -24,19 +24,35 @@ PdfOutcome WritePdf(const std::string& path, const std::string& title) {
   return outcome;
 }
 
-PdfOutcome WritePdfPage(const std::string& path, const std::string& title,
-                        const std::function<void(PrintTarget&)>& draw, bool landscape) {
-  constexpr double kInch = 1440;
+namespace {
+
+PdfOutcome WriteSheets(const std::string& path, const std::string& title, bool landscape,
+                       const std::function<void(PrintTarget&)>& print) {
   const OffscreenApplication application;
   PdfOutcome outcome;
   const Sheet sheet = WholeSheet(UsualPageSize());
   const auto pdf = PdfTarget::Open(path, sheet, landscape, title, outcome.error);
   if (!pdf) return outcome;
-  pdf->ScaleLeft = pdf->ScaleTop = -kInch;
-  draw(*pdf);
-  pdf->EndDoc();
+  print(*pdf);
   outcome.error = pdf->Error();
   return outcome;
+}
+
+}  // namespace
+
+PdfOutcome WritePdfJob(const std::string& path, const std::string& title,
+                       const std::function<void(PrintTarget&)>& print) {
+  return WriteSheets(path, title, false, print);
+}
+
+PdfOutcome WritePdfPage(const std::string& path, const std::string& title,
+                        const std::function<void(PrintTarget&)>& draw, bool landscape) {
+  constexpr double kInch = 1440;
+  return WriteSheets(path, title, landscape, [&](PrintTarget& pdf) {
+    pdf.ScaleLeft = pdf.ScaleTop = -kInch;
+    draw(pdf);
+    pdf.EndDoc();
+  });
 }
 
 std::string PngOf(double width, double height, int dots_per_inch,

@@ -21,6 +21,9 @@ struct PdfOutcome {
 // run, Job.PrintFlag tells.
 PdfOutcome WritePdf(const std::string& path, const std::string& title);
 
+// Sheets that `print` draws; it ends the job itself.
+PdfOutcome WritePdfJob(const std::string& path, const std::string& title,
+                       const std::function<void(PrintTarget&)>& print);
 // A picture on a sheet of its own, an inch from its corner.
 PdfOutcome WritePdfPage(const std::string& path, const std::string& title,
                         const std::function<void(PrintTarget&)>& draw, bool landscape = false);

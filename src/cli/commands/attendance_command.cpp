@@ -41,8 +41,8 @@ std::string Iso(double day) {
 }
 
 std::string CsvNames(const Student& student) {
-  return CsvField(student.id) + "," + CsvField(student.lastname) + "," +
-         CsvField(student.firstname);
+  return CsvTextField(student.id) + "," + CsvTextField(student.lastname) + "," +
+         CsvTextField(student.firstname);
 }
 
 Json JsonNames(const Student& student) {

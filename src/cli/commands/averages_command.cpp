@@ -75,8 +75,8 @@ std::string CsvText(std::string& text) {
                                CsvField(outcome.grade.Text()) + "," + outcome.grade.mark.str() +
                                "," + (points ? PlainNumberText(outcome.points.earned) : "") + "," +
                                (points ? PlainNumberText(outcome.points.possible) : "") + "\n";
-    text += Utf8FromCodePage(CsvField(student.id) + "," + CsvField(student.lastname) + "," +
-                             CsvField(student.firstname) + fields);
+    text += Utf8FromCodePage(CsvTextField(student.id) + "," + CsvTextField(student.lastname) + "," +
+                             CsvTextField(student.firstname) + fields);
   });
 }
 

@@ -7,6 +7,7 @@
 #include "base/code_page.h"
 #include "base/date_serial.h"
 #include "base/text.h"
+#include "cli/basics/chosen_students.h"
 #include "cli/basics/class_in_file.h"
 #include "cli/basics/command_line_surroundings.h"
 #include "cli/basics/date_order.h"
@@ -52,22 +53,6 @@ std::string TakeMonths(const ReportOptions& options) {
   return reason;
 }
 
-std::string TakeStudents(const ReportOptions& options) {
-  const Class& c = Current();
-  Choice.students.clear();
-  if (options.students.empty())
-    for (int i = 1; i <= c.NumStudents; ++i) Choice.students.push_back(static_cast<i16>(i));
-  for (const std::string& wanted : options.students) {
-    const auto id = CodePageFromUtf8(wanted);
-    int found = 0;
-    for (int i = 1; id && i <= c.NumStudents && found == 0; ++i)
-      if (Trim(c.Students[static_cast<std::size_t>(i)].id) == Trim(*id)) found = i;
-    if (found == 0) return "no student has the ID " + wanted;
-    Choice.students.push_back(static_cast<i16>(found));
-  }
-  return {};
-}
-
 void TakeTypes(const std::string& sort) {
   constexpr std::string_view kTypes = "types=";
   Choice.sort = sort == "type" ? TypeSort::kAllTypes : TypeSort::kNone;
@@ -107,7 +92,7 @@ std::string TakeChoice(const ReportOptions& options, const Report& report) {
     return "--grade must be a grade of the class, from 1";
   if (report.code == 9 && (options.summary < 1 || options.summary > Current().NumSummaries))
     return "--summary must be a summary of the class, from 1";
-  return report.one_student ? TakeStudents(options) : std::string();
+  return report.one_student ? TakeStudents(options.students, Choice.students) : std::string();
 }
 
 std::string FormatOf(const ReportOptions& options) {
@@ -192,8 +177,7 @@ void AddReportCommand(Command& app, ChosenCommand& chosen) {
       .AddOption("--encoding", options->encoding,
                  "of a text file: windows-1252, or utf-8 with its mark")
       .OneOf(NamesOf(kEncodings));
-  command.AddOption("--student", options->students, "a student's ID; may be given again")
-      .OneValueEach();
+  AddStudents(command, options->students);
   command.AddFlag("--attendance", options->attendance, "with attendance summaries");
   command.AddFlag("--comments", options->comments, "with comments");
   command.AddFlag("--parent-signature", options->parent_signature, "with a line to sign");

@@ -18,12 +18,17 @@ QString PaperText(std::string_view text) {
   return QString::fromStdString(Utf8FromCodePage(text));
 }
 
-QFont PaperFont(const std::string& name, double points, bool bold) {
-  QFont font(PaperText(name));
+QString LetterText(std::u16string_view text) {
+  return QString::fromUtf16(text.data(), static_cast<qsizetype>(text.size()));
+}
+
+QFont PaperFont(const QString& name, double points, bool bold, bool italic = false) {
+  QFont font(name);
   // Twips as pixels: the resolution of the device has no say in the width of a line.
   font.setPixelSize(std::max(static_cast<int>(std::lround(points * kTwipsPerPoint)), 1));
   font.setHintingPreference(QFont::PreferNoHinting);
   font.setBold(bold);
+  font.setItalic(italic);
   return font;
 }
 
@@ -51,6 +56,23 @@ double QtPrintTarget::TextHeight(std::string_view /*text*/) const {
 
 double QtPrintTarget::AverageCharWidth() const {
   return Metrics().averageCharWidth();
+}
+
+FontReach QtPrintTarget::ReachOf(const LetterFont& font) const {
+  const QFontMetricsF& metrics = Letters(font).metrics;
+  return {metrics.ascent(), metrics.descent()};
+}
+
+double QtPrintTarget::LetterWidth(std::u16string_view text, const LetterFont& font) const {
+  return Letters(font).metrics.horizontalAdvance(LetterText(text));
+}
+
+void QtPrintTarget::DrawLetters(double x, double base, std::u16string_view text,
+                                const LetterFont& font) {
+  if (!Draws()) return;
+  painter_->setFont(Letters(font).font);
+  painter_->setPen(QColor(ForeColor));
+  painter_->drawText(PlaceOnSheet(x, base), LetterText(text));
 }
 
 void QtPrintTarget::Line(double x1, double y1, double x2, double y2) {
@@ -88,7 +110,7 @@ void QtPrintTarget::Cls() {
 void QtPrintTarget::DrawTextAt(double x, double y, std::string_view text, double size) {
   if (!Draws()) return;
   const double ascent = Metrics().ascent();
-  painter_->setFont(size == FontSize ? font_ : PaperFont(FontName, size, FontBold));
+  painter_->setFont(size == FontSize ? font_ : PaperFont(PaperText(FontName), size, FontBold));
   painter_->setPen(QColor(ForeColor));
   painter_->drawText(PlaceOnSheet(x, y + ascent), PaperText(text));
 }
@@ -104,12 +126,22 @@ QPointF QtPrintTarget::PlaceOnSheet(double x, double y) const {
   return {left + x - ScaleLeft, top + y - ScaleTop};
 }
 
+// A letter has few fonts and goes back and forth between them.
+const QtPrintTarget::FontOfLetters& QtPrintTarget::Letters(const LetterFont& font) const {
+  for (const FontOfLetters& known : letters_)
+    if (known.wanted == font) return known;
+  const QFont made =
+      PaperFont(QString::fromStdString(font.name), font.size, font.bold, font.italic);
+  letters_.push_back({font, made, QFontMetricsF(made)});
+  return letters_.back();
+}
+
 const QFontMetricsF& QtPrintTarget::Metrics() const {
   if (name_ != FontName || size_ != FontSize || bold_ != FontBold) {
     name_ = FontName;
     size_ = FontSize;
     bold_ = FontBold;
-    font_ = PaperFont(name_, size_, bold_);
+    font_ = PaperFont(PaperText(name_), size_, bold_);
     metrics_ = QFontMetricsF(font_);
   }
   return metrics_;

@@ -5,6 +5,7 @@
 
 #include <QFont>
 #include <QFontMetricsF>
+#include <vector>
 
 #include "desktop/paper/sheet.h"
 #include "platform/print_target.h"
@@ -26,6 +27,10 @@ class QtPrintTarget : public PrintTarget {
   double TextWidth(std::string_view text) const override;
   double TextHeight(std::string_view text) const override;
   double AverageCharWidth() const override;
+  FontReach ReachOf(const LetterFont& font) const override;
+  double LetterWidth(std::u16string_view text, const LetterFont& font) const override;
+  void DrawLetters(double x, double base, std::u16string_view text,
+                   const LetterFont& font) override;
   void Line(double x1, double y1, double x2, double y2) override;
   void FillPolygon(const std::vector<PrintPoint>& corners, PrintColor color) override;
   void PrintUpwards(std::string_view text, double x, double y) override;
@@ -38,6 +43,12 @@ class QtPrintTarget : public PrintTarget {
   bool Draws() const;
   QPointF PlaceOnSheet(double x, double y) const;
   const QFontMetricsF& Metrics() const;
+  struct FontOfLetters {
+    LetterFont wanted;
+    QFont font;
+    QFontMetricsF metrics;
+  };
+  const FontOfLetters& Letters(const LetterFont& font) const;
 
   QPainter* painter_;
   // The font that the public members name, as it was when it was last used.
@@ -46,6 +57,7 @@ class QtPrintTarget : public PrintTarget {
   mutable bool bold_ = false;
   mutable QFont font_;
   mutable QFontMetricsF metrics_;
+  mutable std::vector<FontOfLetters> letters_;
 };
 
 }  // namespace tallyroll

@@ -60,6 +60,9 @@ void SetChecked(QCheckBox& box, bool on) {
 void SetChecked(QAction& entry, bool on) {
   entry.setChecked(on);
 }
+void SetChecked(QToolButton& button, bool on) {
+  button.setChecked(on);
+}
 
 template <typename C, typename W>
 class TickBinding : public CaptionedBinding<C, W> {
@@ -103,6 +106,9 @@ BoundControl BindControl(CommandButton& control, ControlRow& row, QObject& targe
 BoundControl BindControl(CheckBox& control, ControlRow& row, QObject& target, BindingOwner& owner) {
   if (auto entry = BindAs<TickBinding<CheckBox, QAction>, QAction>(control, row, target, owner))
     return entry;
+  if (auto tool =
+          BindAs<TickBinding<CheckBox, QToolButton>, QToolButton>(control, row, target, owner))
+    return tool;
   return BindAs<TickBinding<CheckBox, QCheckBox>, QCheckBox>(control, row, target, owner);
 }
 

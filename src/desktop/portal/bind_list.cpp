@@ -19,6 +19,7 @@ class ListBinding : public Binding<ListBox, QListWidget> {
     list.installEventFilter(this);
     list.viewport()->installEventFilter(this);
     if (row.drag_drop) LetCardsMove();
+    if (control.MultiSelect) list.setSelectionMode(QAbstractItemView::ExtendedSelection);
     QObject::connect(&list, &QListWidget::currentRowChanged, this, [this] {
       press_is_told_ = true;
       // Keys walk through the lines; a click means the line.
@@ -43,6 +44,7 @@ class ListBinding : public Binding<ListBox, QListWidget> {
   void Read() override {
     control_.ListIndex = widget_.currentRow();
     if (control_.Checks) control_.Checked = Ticks();
+    if (control_.MultiSelect) control_.Selected = Marks();
   }
 
  protected:
@@ -54,6 +56,7 @@ class ListBinding : public Binding<ListBox, QListWidget> {
       widget_.setCurrentRow(control_.ListIndex);
       if (control_.ListIndex < 0) widget_.clearSelection();
     }
+    if (control_.MultiSelect) ShowMarks();
   }
 
   bool eventFilter(QObject* watched, QEvent* event) override {
@@ -90,8 +93,25 @@ class ListBinding : public Binding<ListBox, QListWidget> {
 
   // The list marks the pressed line even when the handler went back to another.
   void MarkCurrent() {
+    if (control_.MultiSelect) return;
     const QSignalBlocker silence(widget_);
     widget_.selectionModel()->select(widget_.currentIndex(), QItemSelectionModel::ClearAndSelect);
+  }
+
+  std::vector<bool> Marks() const {
+    std::vector<bool> marks;
+    for (int row = 0; row < widget_.count(); ++row)
+      marks.push_back(widget_.item(row)->isSelected());
+    return marks;
+  }
+
+  // A line with no mark of its own is not marked.
+  void ShowMarks() {
+    control_.Selected.resize(list_.size());
+    for (int row = 0; row < widget_.count(); ++row) {
+      const bool marked = control_.Selected[static_cast<std::size_t>(row)];
+      if (widget_.item(row)->isSelected() != marked) widget_.item(row)->setSelected(marked);
+    }
   }
 
   std::vector<bool> Ticks() const {

@@ -11,6 +11,7 @@
 
 #include "platform/chart.h"
 #include "platform/portal.h"
+#include "platform/rich_text_box.h"
 
 class QWidget;
 
@@ -92,6 +93,7 @@ BoundControl BindControl(PictureBox&, ControlRow&, QObject&, BindingOwner&);
 BoundControl BindControl(ProgressBar&, ControlRow&, QObject&, BindingOwner&);
 BoundControl BindControl(Grid&, ControlRow&, QObject&, BindingOwner&);
 BoundControl BindControl(Graph&, ControlRow&, QObject&, BindingOwner&);
+BoundControl BindControl(RichTextBox&, ControlRow&, QObject&, BindingOwner&);
 
 // A binding that knows the classes of its control and its widget.
 template <typename C, typename W>

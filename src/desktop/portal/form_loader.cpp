@@ -14,6 +14,7 @@
 #include "desktop/grid/cell_list.h"
 #include "desktop/grid/grid_widget.h"
 #include "desktop/grid/seats_widget.h"
+#include "desktop/letter/rich_text_edit.h"
 #include "desktop/portal/chart_widget.h"
 #include "desktop/portal/code_page_text_edit.h"
 #include "desktop/portal/date_field.h"
@@ -28,6 +29,7 @@ QWidget* MakeOwnWidget(const QString& class_name, QWidget* parent) {
     return new GridWidget(parent);
   if (class_name == QLatin1String("tallyroll::SeatsWidget")) return new SeatsWidget(parent);
   if (class_name == QLatin1String("tallyroll::ChartWidget")) return new ChartWidget(parent);
+  if (class_name == QLatin1String("tallyroll::RichTextEdit")) return new RichTextEdit(parent);
   if (class_name == QLatin1String("tallyroll::CellList")) return new CellList(parent);
   if (class_name == QLatin1String("QPlainTextEdit")) return new CodePageTextEdit(parent);
   if (class_name == QLatin1String("tallyroll::DateArrow")) return new DateArrow(parent);

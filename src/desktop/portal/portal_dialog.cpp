@@ -289,8 +289,11 @@ void PortalDialog::SaveAndHide() {
   if (parentWidget()) parentWidget()->activateWindow();
 }
 
-// What the handler wrote into the small Portals that stand beside this one.
+// What the handler wrote into the small Portals that stand beside this one, and into the one that
+// this stands beside.
 void PortalDialog::ShowPortalsBeside() {
+  auto* keeper = qobject_cast<PortalDialog*>(parentWidget());
+  if (keeper && keeper->isVisible()) keeper->ShowControls();
   for (auto* beside : findChildren<PortalDialog*>(Qt::FindDirectChildrenOnly))
     if (beside->isVisible()) beside->ShowControls();
 }

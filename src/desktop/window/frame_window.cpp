@@ -18,6 +18,7 @@
 #include "desktop/basics/window_places.h"
 #include "desktop/window/about_box.h"
 #include "desktop/window/class_window_view.h"
+#include "desktop/window/help_topics.h"
 #include "desktop/window/menu_view.h"
 #include "desktop/window/message_moment.h"
 #include "desktop/window/start_page.h"
@@ -258,6 +259,13 @@ void FrameWindow::Arrange(Arrangement how) {
 
 void FrameWindow::ShowAbout() {
   ShowAboutBox(this);
+}
+
+std::vector<HelpTopic> FrameWindow::HelpTopics() {
+  std::vector<HelpTopic> topics;
+  for (const int context : HelpContexts())
+    topics.push_back({context, ToText(HelpTitle(context)).value_or(std::string())});
+  return topics;
 }
 
 void FrameWindow::closeEvent(QCloseEvent* event) {

@@ -36,6 +36,7 @@ class FrameWindow : public QMainWindow, public FrameScreen {
   void PopUpMenu(Form1& window, std::string_view entry) override;
   void Arrange(Arrangement how) override;
   void ShowAbout() override;
+  std::vector<HelpTopic> HelpTopics() override;
 
   // Shows what the logic says now, in all windows; writes differences only.
   void Sync();

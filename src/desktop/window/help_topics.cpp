@@ -2,6 +2,7 @@
 // The topics of the help by their context numbers.
 #include "desktop/window/help_topics.h"
 
+#include <QFile>
 #include <algorithm>
 #include <array>
 
@@ -19,6 +20,7 @@ constexpr std::array kContexts = {
     160,  // text files: frmtxt
     200,  // the class window: Form1
     210,  // all keys
+    215,  // finding students, grades, commands and classes: frmfind
     220,  // sorting by name or by ID
     230,  // the new class wizard: frmWizard
     240,  // class information: frmclassinfo
@@ -60,12 +62,23 @@ constexpr std::array kContexts = {
     630,  // comparing classes: frmcompare
     640,  // the roll book: FRMROLLBOOK
     650,  // one grade of all students: frmsingles
+    700,  // letters: frmwrdproc
+    710,  // find and replace: frmreplace
 };
 
 }  // namespace
 
 std::span<const int> HelpContexts() {
   return kContexts;
+}
+
+QString HelpTitle(int context) {
+  QFile page(QStringLiteral(":/help/topic_%1.html").arg(context));
+  if (!page.open(QIODevice::ReadOnly)) return {};
+  const QString text = QString::fromUtf8(page.readAll());
+  const QString begin = QStringLiteral("<title>");
+  const qsizetype at = text.indexOf(begin) + begin.size();
+  return text.mid(at, text.indexOf(QLatin1Char('<'), at) - at);
 }
 
 QUrl HelpPage(int context) {

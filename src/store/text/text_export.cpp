@@ -129,7 +129,7 @@ std::string WithoutControls(std::string value, TextOfClass& out) {
 void AddCsvRecord(const std::vector<std::string>& values, TextOfClass& out) {
   for (std::size_t i = 0; i < values.size(); ++i) {
     if (i > 0) out.bytes += ',';
-    out.bytes += CsvField(WithoutControls(values[i], out));
+    out.bytes += CsvTextField(WithoutControls(values[i], out));
   }
   out.bytes += kLineEnd;
 }

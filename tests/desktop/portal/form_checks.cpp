@@ -129,7 +129,8 @@ QStringList CheckAccessibleNames(Portal& portal, const Widgets& widgets) {
           using C = std::remove_cvref_t<decltype(*control)>;
           return std::is_same_v<C, TextBox> || std::is_same_v<C, ComboBox> ||
                  std::is_same_v<C, ListBox> || std::is_same_v<C, DTPicker> ||
-                 std::is_same_v<C, Grid> || std::is_same_v<C, Graph>;
+                 std::is_same_v<C, Grid> || std::is_same_v<C, Graph> ||
+                 std::is_same_v<C, RichTextBox>;
         },
         row->control);
     for (const QWidget* widget : widgets)
