@@ -86,13 +86,14 @@ void frmSendMail::Load() {
   txtHost.Text = MailServer;
   txtSender.Text = SenderAddress;
   txtSubject.Text = Draft.subject;
-  txtMessage.Text = ReadWholeFile(body_file_).bytes;
+  ReadText();
   student_ = CurrentStudent;
   Connection.ListIndex = static_cast<int>(StoredMailSecurity());
   Connection.Text = Connection.List[static_cast<std::size_t>(Connection.ListIndex)];
   authority_path_ = StoredMailAuthority();
   authority.Text = PathForDisplay(authority_path_);
   Connection_Change();
+  cmdMany.Enabled = !Draft.letter || Draft.text_of;
   FillCombo1();
   if (!Draft.recipient.empty()) txtRecipient.Text = Draft.recipient;
   if (MakeSocket) socket_ = MakeSocket();
@@ -103,6 +104,21 @@ void frmSendMail::Load() {
     };
   }
   FocusFirstEmpty();
+}
+
+// A letter may hold what the code page does not; it is then written as UTF-8 with its mark.
+void frmSendMail::ReadText() {
+  constexpr std::string_view kUtf8Mark = "\xEF\xBB\xBF";
+  txtMessage.Text = ReadWholeFile(body_file_).bytes;
+  if (!txtMessage.Text.starts_with(kUtf8Mark)) return;
+  const auto text = CodePageTextFromUtf8(txtMessage.Text.substr(kUtf8Mark.size()));
+  if (!text) return;
+  txtMessage.Text = text->text;
+  if (!text->lacking.empty())
+    ShowMessage(
+        "The letter has characters that a message here cannot hold. A question mark stands for "
+        "each of them.",
+        BoxIcon::kExclamation);
 }
 
 void frmSendMail::FillCombo1() {

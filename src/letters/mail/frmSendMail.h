@@ -54,6 +54,7 @@ struct frmSendMail : Portal {
   void auth_Change();
 
  private:
+  void ReadText();
   void FillCombo1();
   void FocusFirstEmpty();
   // Tells what is missing; false then.

@@ -6,6 +6,7 @@
 #include "base/code_page.h"
 #include "base/number_text.h"
 #include "base/text.h"
+#include "letters/mail/mail_draft.h"
 #include "letters/merge/letter_names.h"
 #include "letters/merge/merge.h"
 #include "letters/page/print_letters.h"
@@ -16,6 +17,7 @@
 #include "platform/surroundings.h"
 #include "printing/page/print_job.h"
 #include "printing/print_command.h"
+#include "printing/temp_file.h"
 #include "roster/chosen_students.h"
 #include "store/class_file.h"
 #include "store/program_state.h"
@@ -171,9 +173,9 @@ void frmwrdproc::mnuemail_Click() {
   if (!ReadyToLeave(students)) return;
   CurrentStudent = students.front();
   const MergedLetter merged = MergeLetter(RichTextBox1.Document, students.front());
-  const std::string path = ProgramFolder + "/tempfile";
-  if (ReplaceFile(path, PlainTextFile(merged.text), OldTail::kDrop) != 0)
-    return TellSaveFailure(path);
+  if (WriteTempFile(PlainTextFile(merged.text)) != 0) return TellSaveFailure(TempFilePath());
+  Draft = MailDraft();
+  Draft.letter = true;
   ShowPortal("frmSendMail");
 }
 
