@@ -3,8 +3,8 @@
 # at most one is named as uncertain, and everybody else has got theirs.
 import collections
 
-import support
-from support import LineServer, build_class, expect, mail, states
+import servers
+from servers import LineServer, build_class, expect, mail, states
 
 PARENTS = 20
 LINES_A_MESSAGE = ("MAIL", "RCPT", "DATA", "TEXT")
@@ -23,7 +23,7 @@ def run_and_kill(path, nth):
     server = LineServer(heard=count)
     at = ("--security", "plain", "--server", f"localhost:{server.port}")
     process.append(mail(path, *at, wait=False))
-    process[0].communicate(timeout=support.PATIENCE)
+    process[0].communicate(timeout=servers.PATIENCE)
     status, out, err = mail(path, *at)
     return server, status, states(out)
 
@@ -46,9 +46,9 @@ def tell(folder):
         expect(f"line {nth}: status", status, 1 if uncertain else 0)
         for ending in ("", "-wal", "-shm"):
             try:
-                support.os.unlink(companion + ending)
+                servers.os.unlink(companion + ending)
             except FileNotFoundError:
                 pass
 
 
-support.run(tell)
+servers.run(tell)

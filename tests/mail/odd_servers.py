@@ -1,7 +1,7 @@
 # SPDX-License-Identifier: GPL-3.0-or-later
 # Servers that refuse, put off, hang up, talk before they are asked and never end a line.
-import support
-from support import LineServer, build_class, expect, mail, states
+import servers
+from servers import LineServer, build_class, expect, mail, states
 
 
 def conduct(path, answer, wanted, words, *options):
@@ -52,7 +52,7 @@ def tell(folder):
         expect("the lines", len(out.splitlines()), 3)
         expect("the words have a length", len(err) < 2000, True)
         expect("nobody twice", len(server.arrived), len(set(server.arrived)))
-    nobody = support.socket.create_server(("127.0.0.1", 0))
+    nobody = servers.socket.create_server(("127.0.0.1", 0))
     port = nobody.getsockname()[1]
     nobody.close()
     status, out, err = mail(path, "--server", f"localhost:{port}", "--again")
@@ -68,4 +68,4 @@ def tell(folder):
            (1, ["sent", "sent", "waiting"], True))
 
 
-support.run(tell)
+servers.run(tell)

@@ -5,8 +5,8 @@ import email.policy
 import pathlib
 import subprocess
 
-import support
-from support import AioServer, Mailbox, build_class, certificate, expect, mail, states
+import servers
+from servers import AioServer, Mailbox, build_class, certificate, expect, mail, states
 
 
 def arrived(box):
@@ -27,7 +27,7 @@ def look_at_one(path, box, encrypted, *options):
     expect("subject", message["Subject"], "\u00c9l\u00e8ve")
     expect("to", message["To"], "<parent1@home.example>")
     expect("defects", message.defects, [])
-    report = subprocess.run([support.CLI, "report", "--code", "13", "--student", "1", path],
+    report = subprocess.run([servers.CLI, "report", "--code", "13", "--student", "1", path],
                             capture_output=True, check=True).stdout.decode()
     body = message.get_body(("plain",)).get_content()
     expect("text", body.splitlines(), report.splitlines())
@@ -88,4 +88,4 @@ def tell(folder):
             expect(f"the password in {file}", b"s3cret" in file.read_bytes(), False)
 
 
-support.run(tell)
+servers.run(tell)

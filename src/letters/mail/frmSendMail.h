@@ -60,6 +60,8 @@ struct frmSendMail : Portal {
   // Tells what is missing; false then.
   enum class Recipients { kOne, kSeveral };
   bool Validate(Recipients recipients = Recipients::kOne);
+  // A report on one student goes to another one's address only when that is meant.
+  bool GoesToTheRightOne();
   // False when the teacher thinks better of it.
   bool PasswordMayTravel(const std::string& host);
   MailSecurity Security() const { return static_cast<MailSecurity>(Connection.ListIndex); }

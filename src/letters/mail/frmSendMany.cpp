@@ -207,14 +207,12 @@ bool frmSendMany::MakeMessages() {
 
 void frmSendMany::cmdStart_Click() {
   if (running_ || making_ || !LooksGood()) return;
-  {
-    MailJournal journal = MailJournal::ToWrite(Current().FileName);
-    const std::string fault = TakeUpRun(journal, mails_, again.Value);
-    if (!fault.empty()) {
-      ShowMessage("Nothing was sent, since it can't be noted what went to whom: " + fault + ".",
-                  BoxIcon::kExclamation);
-      return;
-    }
+  auto journal = std::make_shared<MailJournal>(MailJournal::ToWrite(Current().FileName));
+  const std::string fault = TakeUpRun(*journal, mails_, again.Value);
+  if (!fault.empty()) {
+    ShowMessage("Nothing was sent, since it can't be noted what went to whom: " + fault + ".",
+                BoxIcon::kExclamation);
+    return;
   }
   making_ = true;
   const bool made = MakeMessages();
@@ -222,22 +220,21 @@ void frmSendMany::cmdStart_Click() {
   if (!made) return ShowCounts();
   // What is left of this run goes on later; it is not begun anew once more.
   again.Value = false;
-  RunInBackground();
+  RunInBackground(journal);
 }
 
-void frmSendMany::RunInBackground() {
+void frmSendMany::RunInBackground(const std::shared_ptr<MailJournal>& journal) {
   SetRunning(true);
   progress.Value = 0;
   progress.Maximum = static_cast<int>(run_.size());
-  background_.Start([this, path = Current().FileName] {
+  background_.Start([this, journal, account = Batch.account] {
     MailRunEvents events;
     events.goes_on = [this] { return background_.GoesOn(); };
     events.changed = [this](const JournalMail& entry) {
       background_.Tell([this, entry] { Changed(entry); });
     };
-    MailJournal journal = MailJournal::ToWrite(path);
-    const auto sender = MakeMailSender(Batch.account);
-    const std::string reason = RunMails(*sender, journal, run_, options_, events);
+    const auto sender = MakeMailSender(account);
+    const std::string reason = RunMails(*sender, *journal, run_, options_, events);
     background_.Tell([this, reason] { Ended(reason); });
   });
 }

@@ -3,6 +3,7 @@
 // noted beside the class.
 #pragma once
 
+#include <memory>
 #include <string>
 #include <vector>
 
@@ -42,7 +43,7 @@ struct frmSendMany : Portal {
   // The messages, made before the first one leaves. False when one could not be, which was told.
   bool MakeMessages();
   bool MakeMessage(const PlannedMail& planned);
-  void RunInBackground();
+  void RunInBackground(const std::shared_ptr<MailJournal>& journal);
   void Changed(const JournalMail& entry);
   void Ended(const std::string& reason);
   void SetRunning(bool on);

@@ -6,9 +6,13 @@
 #include "base/number_text.h"
 #include "base/text.h"
 #include "letters/mail/frmSendMail.h"
+#include "letters/mail/mail_draft.h"
 #include "letters/mail/mail_host.h"
+#include "letters/mail/student_report.h"
 #include "letters/mail/uuencode.h"
 #include "platform/surroundings.h"
+#include "store/program_state.h"
+#include "store/student_names.h"
 
 namespace tallyroll {
 namespace {
@@ -33,6 +37,24 @@ bool frmSendMail::Validate(Recipients recipients) {
     return refuse(txtusername, "You must fill in the User Name Box.");
   if (auth.Value && txtpassword.Text.empty())
     return refuse(txtpassword, "You must fill in the Password Box.");
+  return true;
+}
+
+bool frmSendMail::GoesToTheRightOne() {
+  const Class& c = Current();
+  if (Draft.letter || !IsOnSingleStudents() || student_ < 1 || student_ > c.NumStudents)
+    return true;
+  const std::string to = LowerCase(Trim(txtRecipient.Text));
+  const auto has_it = [&to](const Student& each) { return LowerCase(Trim(each.email)) == to; };
+  const Student& shown = c.Students[static_cast<std::size_t>(student_)];
+  if (has_it(shown)) return true;
+  for (i16 i = 1; i <= c.NumStudents; ++i) {
+    const Student& other = c.Students[static_cast<std::size_t>(i)];
+    if (!has_it(other)) continue;
+    return Ask("The report is on " + PlainName(shown) + ", and the address is that of " +
+                   PlainName(other) + ". Send it there all the same?",
+               BoxButtons::kYesNo, BoxIcon::kExclamation) == BoxAnswer::kYes;
+  }
   return true;
 }
 
@@ -61,7 +83,7 @@ bool frmSendMail::ReadAttachment() {
 }
 
 void frmSendMail::cmdSend_Click() {
-  if (!Validate()) return;
+  if (!Validate() || !GoesToTheRightOne()) return;
   if (socket_) socket_->Close();
   background_.Stop();
   ShowSending(false);

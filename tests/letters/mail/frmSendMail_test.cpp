@@ -293,6 +293,26 @@ TEST_F(FrmSendMailTest, ThePasswordIsInNoSetting) {
     EXPECT_EQ(value.find("unheard-of"), std::string::npos) << key;
 }
 
+TEST_F(FrmSendMailTest, AReportIsNotSentToAnotherOnesAddressUnasked) {
+  Job.ReportCode = 13;
+  OpenFilled();
+  driver->Choose("Combo1", 0);
+  const std::string question =
+      "The report is on O'Hara, Bo, and the address is that of Ng, Ada. Send it there all the "
+      "same?";
+  screen.ExpectBox(question, BoxAnswer::kNo);
+  driver->Press("cmdSend");
+  EXPECT_EQ(socket->connections, 0);
+  screen.ExpectBox(question, BoxAnswer::kYes);
+  driver->Press("cmdSend");
+  EXPECT_EQ(socket->connections, 1);
+  driver->Type("txtRecipient", "counsellor@school.org");
+  driver->Press("cmdSend");
+  driver->Choose("Combo1", 1);
+  driver->Press("cmdSend");
+  EXPECT_EQ(socket->connections, 3);
+}
+
 TEST_F(FrmSendMailTest, ThereIsNothingToDial) {
   OpenFilled();
   EXPECT_EQ(portal->connect.Caption, "&Connect Using Dail-Up");

@@ -10,6 +10,7 @@ import subprocess
 import sys
 import tempfile
 import threading
+import time
 import traceback
 
 CLI = os.environ["TALLYROLL_CLI"]
@@ -138,6 +139,57 @@ class AioServer:
         self.thread = threading.Thread(target=run, daemon=True)
         self.thread.start()
         ready.wait(PATIENCE)
+
+
+class OpenSmtpd:
+    """The OpenSMTPD of the system on two ports of loopback, passing on what it takes to `box`. Only
+    root may start it."""
+
+    PROGRAM = "/usr/sbin/smtpd"
+
+    @classmethod
+    def is_there(cls):
+        return os.path.exists(cls.PROGRAM) and os.geteuid() == 0
+
+    def __init__(self, folder, box):
+        self.key, self.cert = certificate(folder, "opensmtpd")
+        os.chmod(self.key, 0o600)
+        self.relay = AioServer(box)
+        self.port, self.tls_port = (self.free_port() for _ in range(2))
+        config = pathlib.Path(folder) / "smtpd.conf"
+        config.write_text(f"""pki here cert "{self.cert}"
+pki here key "{self.key}"
+listen on 127.0.0.1 port {self.port} tls pki here hostname localhost
+listen on 127.0.0.1 port {self.tls_port} smtps pki here hostname localhost
+action "on" relay host smtp://127.0.0.1:{self.relay.port}
+match from any for any action "on"
+""")
+        self.process = subprocess.Popen([self.PROGRAM, "-d", "-f", str(config)],
+                                        stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
+        for _ in range(200):
+            try:
+                socket.create_connection(("127.0.0.1", self.port), 1).close()
+                return
+            except OSError:
+                time.sleep(0.05)
+        raise Failure("OpenSMTPD does not come up")
+
+    @staticmethod
+    def free_port():
+        with socket.create_server(("127.0.0.1", 0)) as each:
+            return each.getsockname()[1]
+
+    def stop(self):
+        self.process.terminate()
+        self.process.wait()
+
+
+def wait_for(what, condition, patience=PATIENCE):
+    end = time.monotonic() + patience
+    while not condition():
+        if time.monotonic() > end:
+            raise Failure(f"waited in vain for {what}")
+        time.sleep(0.05)
 
 
 class LineServer:
