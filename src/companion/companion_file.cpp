@@ -6,6 +6,7 @@
 
 #include "base/number_text.h"
 #include "companion/class_mark.h"
+#include "companion/mail_journal_layout.h"
 
 namespace tallyroll {
 namespace {
@@ -24,6 +25,7 @@ constexpr const char* kSteps[] = {
     "CREATE TABLE change (number INTEGER PRIMARY KEY, time TEXT NOT NULL, student TEXT NOT NULL,"
     " name TEXT NOT NULL, grade TEXT NOT NULL, code TEXT NOT NULL, field TEXT NOT NULL,"
     " old TEXT NOT NULL, new TEXT NOT NULL); CREATE TABLE history_agreed (agreed INTEGER NOT NULL)",
+    kMailJournalTable,
 };
 constexpr auto kLayout = static_cast<std::int64_t>(std::size(kSteps));
 

@@ -35,6 +35,7 @@
 #include "insight/frmhistory.h"
 #include "insight/frmunusual.h"
 #include "letters/mail/frmSendMail.h"
+#include "letters/mail/frmSendMany.h"
 #include "letters/writer/frmreplace.h"
 #include "letters/writer/frmwrdproc.h"
 #include "printing/frmmargins.h"
@@ -117,6 +118,7 @@ constexpr std::array kPortals{
     PortalRow{"frmhistory", Make<frmhistory>},
     PortalRow{"frmfind", Make<frmfind>},
     PortalRow{"frmSendMail", Make<frmSendMail>},
+    PortalRow{"frmSendMany", Make<frmSendMany>},
 };
 // clang-format on
 

@@ -66,8 +66,8 @@ const std::map<std::string, Folders, std::less<>> kStandsOn = {
     {"desktop/letter", {"desktop/basics"}},
     {"desktop/portal", {"desktop/grid", "desktop/letter", "desktop/paper"}},
     {"desktop/window", {"desktop/grid"}},
-    {"desktop/platform", {"desktop/portal", "desktop/paper"}},
-    {"desktop", {"desktop/window", "desktop/platform", "post"}},
+    {"desktop/platform", {"desktop/portal", "desktop/paper", "post"}},
+    {"desktop", {"desktop/window", "desktop/platform"}},
 };
 
 // The command line writes reports as PDF with Qt, but shows no window.

@@ -34,5 +34,6 @@ void AddRowsCommand(Command& app, ChosenCommand& chosen);
 void AddExchangeCommand(Command& app, ChosenCommand& chosen);
 void AddLettersCommand(Command& app, ChosenCommand& chosen);
 void AddLabelsCommand(Command& app, ChosenCommand& chosen);
+void AddMailCommand(Command& app, ChosenCommand& chosen);
 
 }  // namespace tallyroll

@@ -47,6 +47,7 @@ constexpr std::array kContexts = {
     430,  // title and progress of a printout: printmsg
     440,  // preview: frmprintpre
     470,  // sending a report by mail: frmSendMail
+    475,  // sending to several: frmSendMany
     500,  // weights of grades: frmweights, frmdropgrade, frmtotals
     510,  // weights of types: frmpercents
     520,  // points: frmpoints
