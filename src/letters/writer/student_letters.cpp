@@ -195,7 +195,9 @@ void frmwrdproc::mnuemail_Click() {
   const std::optional<std::string> body = MessageOf(merged.text);
   if (!body) return;
   if (WriteTempFile(*body) != 0) return TellSaveFailure(TempFilePath());
-  Draft = {.body_file = TempFilePath(), .letter = true};
+  Draft = MailDraft();
+  Draft.body_file = TempFilePath();
+  Draft.letter = true;
   ShowPortal("frmSendMail");
 }
 
