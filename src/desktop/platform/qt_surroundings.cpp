@@ -44,7 +44,8 @@ QStringList ProgramFolders() {
 bool ReportComplaints(const PortalDialog& dialog, const Portal& portal) {
   for (const QString& complaint : dialog.Complaints())
     qCritical("%s: %s", portal.Name().c_str(), qUtf8Printable(complaint));
-  if (!dialog.Complaints().isEmpty()) ClassWindow().ShowStatus("This portal cannot be shown: its form does not fit.");
+  if (!dialog.Complaints().isEmpty())
+    ClassWindow().ShowStatus("This portal cannot be shown: its form does not fit.");
   return !dialog.Complaints().isEmpty();
 }
 
