@@ -6,7 +6,7 @@ import sys
 
 from gi.repository import Atspi
 from support import story
-from support.program import wait_for, xdotool
+from support.program import build, wait_for, xdotool
 from support.steps import open_file, pass_greeting
 
 PICTURES = pathlib.Path(__file__).resolve().parents[2] / "docs" / "pictures"
@@ -226,12 +226,39 @@ def portals(this):
     program.stop()
 
 
+def school_systems(this):
+    """A file of another system with problems, and a class that another system would misread."""
+    path, canvas = this.path("MATH.TYR"), this.path("canvas.csv")
+    record = {"description": "Math", "Instruments": [{"title": "Essay", "mvalue": 20}, {"title": "Final Score", "mvalue": 100}],
+              "Students": [{"lastname": name, "firstname": first, "id": str(n), "Marks": ["", mark, "B+"]}
+                           for n, (name, first, mark) in enumerate((("Abel", "Bo", "18"), ("Cho", "Di", "NEW"), ("Ems", "Flo", "9")), 1)]}
+    build(path, record)
+    with open(canvas, "w", encoding="utf-8", newline="") as file:
+        file.write("Student,ID,SIS User ID,Section,Essay (4711),Quiz (12)\r\n    Points Possible,,,,25,10\r\n"
+                   "\"Abel, Robert\",901,,A,17.50,8\r\n\"Cho, Di\",902,2,A,x9,5\r\n\"Ems, Flo\",903,3,A,11,6\r\n")
+    program = this.start(path)
+    program.frame("MATH.TYR")
+    program.keys("alt+f", "l", "s")
+    program.window("School Systems Portal")
+    program.keys("alt+f")
+    program.choose_file("Open", canvas)
+    program.window("School Systems Portal")
+    program.await_focus(Atspi.Role.TABLE, "What would happen")
+    program.keys("Down", "Down")
+    take(program, "frmexchange")
+    program.keys("alt+g")
+    program.await_label("5 marks of 2 grades, 1 warning")
+    take(program, "frmexchange-out")
+    program.stop()
+
+
 def tell(this):
     PICTURES.mkdir(parents=True, exist_ok=True)
     greeting(this)
     portals(this)
     averages(this)
     analysis(this)
+    school_systems(this)
     sample_window(this, "sample-dark", "--dark").stop()
     sample_window(this, "sample-150", environment={"QT_SCALE_FACTOR": "1.5"}).stop()
 
