@@ -44,6 +44,7 @@ constexpr std::array kEmptyTexts = {
     EmptyText{"frmdGrade", "List1", kNoGrades},
     EmptyText{"frmdelete", "List1", kNoStudents},
     EmptyText{"frmdropgrade", "grdgrade", "No type has a grade that may be dropped"},
+    EmptyText{"frmfind", "found", "Nothing found"},
     EmptyText{"frmgrone", "ttypelist", kNoTypes},
     EmptyText{"frminfo", "list1", kNoStudents},
     EmptyText{"frminfo", "grdgrade", kNoGrades},
