@@ -206,10 +206,7 @@ void frmAtt::mnuPrint_Click() {
     StoreMonth(Grid1, month);
     Store();
   }
-  if (PrintMonth)
-    PrintMonth(FirstOf(MonthOf(attdate)));
-  else
-    ClassWindow().ShowStatus(kPortalNotAvailable);
+  if (PrintMonth) PrintMonth(FirstOf(MonthOf(attdate)));
 }
 
 void frmAtt::mnucancel_Click() {

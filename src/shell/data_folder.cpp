@@ -17,12 +17,15 @@ namespace tallyroll {
 namespace {
 
 constexpr const char* kSample = "/Sample8.TYR";
+constexpr const char* kSampleLetters = "/letters";
 
 // A sample that stands there already may hold a teacher's trials and is left alone.
 void CopySample() {
   std::error_code ignored;
   std::filesystem::copy_file(ProgramFolder + kSample, DataFolder + kSample,
                              std::filesystem::copy_options::skip_existing, ignored);
+  std::filesystem::copy(ProgramFolder + kSampleLetters, DataFolder + kSampleLetters,
+                        std::filesystem::copy_options::skip_existing, ignored);
 }
 
 }  // namespace

@@ -37,7 +37,9 @@ class GridCellInterface : public QAccessibleInterface,
     if (!isValid()) return {};
     if (type == QAccessible::Name)
       return FromText(widget_->grid()->TextMatrix(row_, col_)).trimmed();
-    return type == QAccessible::Description ? State() : QString();
+    if (type != QAccessible::Description) return {};
+    const QString told = isSelected() ? widget_->Told() : QString();
+    return told.isEmpty() ? State() : told;
   }
   void setText(QAccessible::Text, const QString&) override {}
   QRect rect() const override {

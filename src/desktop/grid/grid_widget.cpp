@@ -258,6 +258,10 @@ QSize GridWidget::sizeHint() const {
   return grid_ ? whole.boundedTo(kUsualSize) : kUsualSize;
 }
 
+int GridWidget::WholeWidth() const {
+  return natural_width_ + 2 * frameWidth() + verticalScrollBar()->sizeHint().width();
+}
+
 QSize GridWidget::minimumSizeHint() const {
   return QSize(columns_.FixedSize() / 2 + 80, rows_.FixedSize() + 4 * fonts_.plain.Height());
 }

@@ -58,7 +58,13 @@ class GridWidget : public QAbstractScrollArea {
   void SetZoom(double zoom);
   double Zoom() const { return kept_.zoom(); }
 
+  // What a screen reader adds to the current cell.
+  void SetTold(const QString& told) { told_ = told; }
+  const QString& Told() const { return told_; }
+
   QSize sizeHint() const override;
+  // With all its columns and room for a scroll bar.
+  int WholeWidth() const;
   QSize minimumSizeHint() const override;
 
  Q_SIGNALS:
@@ -151,6 +157,7 @@ class GridWidget : public QAbstractScrollArea {
   int natural_width_ = 0;  // of the columns as the logic set them
   GridFonts fonts_;
   GridColors colors_;
+  QString told_;
 };
 
 }  // namespace tallyroll

@@ -170,7 +170,7 @@ void SetGroup(QPalette& palette, QPalette::ColorGroup group, const Tokens& t) {
   set(QPalette::Light, t.raised);
   set(QPalette::Midlight, t.hover);
   set(QPalette::Mid, t.line);
-  set(QPalette::Dark, t.border);
+  set(QPalette::Dark, t.desk);
   set(QPalette::Shadow, t.strong_line);
   set(QPalette::Highlight, off ? t.pressed : t.accent);
   set(QPalette::HighlightedText, off ? t.off : t.on_accent);

@@ -4,6 +4,7 @@
 
 #include <QAction>
 #include <QCloseEvent>
+#include <QContextMenuEvent>
 #include <QCursor>
 #include <QLabel>
 #include <QMdiArea>
@@ -13,6 +14,7 @@
 #include "base/number_text.h"
 #include "desktop/basics/text_conversion.h"
 #include "desktop/grid/grid_widget.h"
+#include "desktop/window/appearance_menu.h"
 #include "desktop/window/menu_view.h"
 #include "desktop/window/message_moment.h"
 #include "desktop/window/toolbar_view.h"
@@ -22,6 +24,7 @@ namespace tallyroll {
 ClassWindowView::ClassWindowView(Form1& form) : form_(&form) {
   auto* page = new QWidget(this);
   menu_ = new MenuView(form.menu, this);
+  AddAppearanceMenu(*menu_->Action(QStringLiteral("mnuScreens"))->menu());
   toolbar_ = new ToolbarView(form.Toolbar2, page);
   grid_ = new GridWidget(page);
   grid_->setObjectName(QStringLiteral("Grid1"));
@@ -132,6 +135,26 @@ void ClassWindowView::closeEvent(QCloseEvent* event) {
   // The class is asked first; when it may go, the frame takes this window down.
   event->ignore();
   if (form_ != nullptr) Q_EMIT CloseAsked();
+}
+
+// What can be asked about the student in a row. The entries are the menu's own, so they are enabled
+// with it.
+void ClassWindowView::contextMenuEvent(QContextMenuEvent* event) {
+  if (form_ == nullptr) return;
+  const bool keyboard = event->reason() == QContextMenuEvent::Keyboard;
+  GridWidget::Cell cell{form_->Grid1.Row, form_->Grid1.Col};
+  if (!keyboard) cell = grid_->CellAt(grid_->viewport()->mapFromGlobal(event->globalPos()));
+  const int student = cell.row - form_->Grid1.FixedRows + 1;
+  if (student < 1 ||
+      student > Classes[static_cast<std::size_t>(LeadingNumber(form_->Tag))].NumStudents)
+    return QMdiSubWindow::contextMenuEvent(event);
+  grid_->MoveTo(cell.row, std::max(cell.col, form_->Grid1.FixedCols));
+  QMenu asked(this);
+  asked.setObjectName(QStringLiteral("asked"));
+  asked.addAction(menu_->Action(QStringLiteral("mnuexplain")));
+  asked.addAction(menu_->Action(QStringLiteral("mnustudenthistory")));
+  const QPoint below = grid_->viewport()->mapToGlobal(grid_->CellRect(cell.row, cell.col).center());
+  asked.exec(keyboard ? below : event->globalPos());
 }
 
 void ClassWindowView::PointAt() {

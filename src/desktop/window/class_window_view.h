@@ -42,6 +42,7 @@ class ClassWindowView : public QMdiSubWindow {
 
  protected:
   void closeEvent(QCloseEvent* event) override;
+  void contextMenuEvent(QContextMenuEvent* event) override;
 
  private:
   QString Title() const;

@@ -17,6 +17,7 @@
 #include "desktop/basics/text_conversion.h"
 #include "desktop/basics/window_places.h"
 #include "desktop/window/about_box.h"
+#include "desktop/window/appearance_menu.h"
 #include "desktop/window/class_window_view.h"
 #include "desktop/window/help_topics.h"
 #include "desktop/window/menu_view.h"
@@ -64,6 +65,7 @@ FrameWindow::FrameWindow() {
   setCentralWidget(pages_);
 
   menu_ = new MenuView(FrameForm->menu, this);
+  AddAppearanceMenu(*menu_->Action(QStringLiteral("mnuHelp"))->menu());
   menu_->ShowIn(menuBar());
   shown_menu_ = menu_;
   AddWindowKeys();
