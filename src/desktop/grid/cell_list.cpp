@@ -18,6 +18,7 @@ namespace tallyroll {
 namespace {
 
 constexpr int kArrowWidth = 6, kArrowHeight = 3;
+constexpr int kRing = 2;
 constexpr int kIntoArrow = 10;  // from the right, where the style has its arrow
 
 }  // namespace
@@ -81,8 +82,9 @@ void CellList::paintEvent(QPaintEvent*) {
   QPainter painter(this);
   const CellLook look = GridColors(palette()).Look(CellStyle::kInWork);
   painter.fillRect(rect(), look.background);
+  painter.setPen(QPen(look.text, kRing, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin));
+  painter.drawRect(rect().adjusted(1, 1, -1, -1));
   painter.setPen(look.text);
-  painter.drawRect(rect().adjusted(0, 0, -1, -1));
   painter.drawText(rect(), Qt::AlignCenter, currentText());
   const QPointF tip(width() - kArrowWidth / 2.0 - 1, height() - 2);
   const QPointF arrow[] = {tip, tip + QPointF(-kArrowWidth / 2.0, -kArrowHeight),

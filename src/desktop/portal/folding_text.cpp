@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "desktop/portal/folding_text.h"
 
+#include <QApplication>
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
@@ -48,7 +49,7 @@ QString FoldingText::ShownText() const {
 }
 
 QFont FoldingText::TextFont() const {
-  return FontFor(font(), TextUse::kSmall);
+  return FontFor(QApplication::font(), TextUse::kSmall);
 }
 
 QRect FoldingText::TextRect(int width) const {

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "desktop/portal/total_figure.h"
 
+#include <QApplication>
 #include <QLocale>
 #include <QPainter>
 
@@ -30,8 +31,8 @@ QString TotalFigure::Remainder() const {
 
 // As wide as its longest words, so that nothing moves while a weight is typed.
 QSize TotalFigure::sizeHint() const {
-  const QFontMetrics figure(FontFor(font(), TextUse::kTitle));
-  const QFontMetrics words(FontFor(font(), TextUse::kSmall));
+  const QFontMetrics figure(FontFor(QApplication::font(), TextUse::kTitle));
+  const QFontMetrics words(FontFor(QApplication::font(), TextUse::kSmall));
   return {figure.horizontalAdvance(QStringLiteral("100.000")) +
               words.horizontalAdvance(QStringLiteral("100.000 too much")) + 3 * kFigurePadding,
           figure.height() + kFigurePadding};
@@ -46,7 +47,8 @@ void TotalFigure::paintEvent(QPaintEvent*) {
   painter.setPen(Qt::NoPen);
   painter.setBrush(reached ? t.success_soft : t.danger_soft);
   painter.drawRoundedRect(rect(), 6, 6);
-  const QFont figure = FontFor(font(), TextUse::kTitle), words = FontFor(font(), TextUse::kSmall);
+  const QFont figure = FontFor(QApplication::font(), TextUse::kTitle),
+              words = FontFor(QApplication::font(), TextUse::kSmall);
   painter.setPen(reached ? t.success : t.danger);
   painter.setFont(figure);
   const QRect room = rect().adjusted(kFigurePadding, 0, -kFigurePadding, 0);

@@ -66,9 +66,9 @@ QString Plain(QString text) {
   return text.replace(QLatin1Char('&'), QStringLiteral("&&"));
 }
 
-// "&2. /home/ann/MATH.TYR" stands as the file's name above its folder.
-void ShowRecent(PageButton* button, const QString& caption) {
-  if (button->property("caption") == caption) return;
+// "&2. /home/ann/MATH.TYR" stands as the file's name above its folder. True for another file.
+bool ShowRecent(PageButton* button, const QString& caption) {
+  if (button->property("caption") == caption) return false;
   button->setProperty("caption", caption);
   const QString path = caption.mid(caption.indexOf(QStringLiteral(". ")) + 2)
                            .replace(QStringLiteral("&&"), QStringLiteral("&"));
@@ -76,6 +76,7 @@ void ShowRecent(PageButton* button, const QString& caption) {
   button->setText(Plain(path.mid(slash + 1)));
   button->setDescription(path.left(slash + 1));
   button->setAccessibleName(path);
+  return true;
 }
 
 QVBoxLayout* Column(int spacing) {
@@ -177,15 +178,16 @@ PageButton* StartPage::AddBeginning(const QString& entry, const QString& icon, c
 }
 
 void StartPage::Sync() {
-  bool any = false;
+  bool any = false, others = false;
   for (PageButton* button : recent_) {
     const MenuEntry* entry = menu_.Find(button->objectName().toStdString());
     const bool shown = entry != nullptr && entry->visible && !entry->caption.empty();
-    if (shown) ShowRecent(button, FromText(entry->caption));
+    if (shown) others = ShowRecent(button, FromText(entry->caption)) || others;
     button->setVisible(shown);
     any = any || shown;
   }
   no_recent_->setVisible(!any);
+  if (others && isVisible()) QTimer::singleShot(0, this, &StartPage::TellFacts);
 }
 
 // The files are asked once the page stands: a folder that is far away must not hold it up.

@@ -142,6 +142,21 @@ TEST_F(StartPageTest, TellsOfARecentClassWhatItsFileSays) {
   EXPECT_EQ(facts("mnuFileList1"), QStringLiteral("Not found"));
 }
 
+TEST_F(StartPageTest, WhatIsToldStaysWithItsFileWhenTheListMoves) {
+  RecentFiles[0] = Path("GONE.TYR");
+  RecentFiles[1] = WriteClass("MATH.TYR");
+  FrameForm->RebuildRecentMenu();
+  window->Sync();
+  Settle();
+  RecentFiles[0] = RecentFiles[1];
+  RecentFiles[1].clear();
+  FrameForm->RebuildRecentMenu();
+  window->Sync();
+  Settle();
+  const auto facts = dynamic_cast<PageButton*>(Button("mnuFileList0"))->facts();
+  EXPECT_TRUE(facts.contains(QStringLiteral("2 students"))) << facts.toStdString();
+}
+
 TEST_F(StartPageTest, OpensTheSampleWhereThereIsOne) {
   DataFolder = folder;
   window->hide();
