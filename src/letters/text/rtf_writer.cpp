@@ -40,6 +40,12 @@ std::string RtfText(std::u16string_view text) {
   return written;
 }
 
+// The words before have set the letter's own style.
+std::string Switched(std::string_view name, bool on, bool by_itself) {
+  if (on) return RtfWord(name);
+  return by_itself ? RtfWord(name, 0) : std::string();
+}
+
 // What a font's name may not hold in its table ends it there.
 std::string FontName(const std::string& name) {
   std::string plain = name.substr(0, name.find(';'));
@@ -87,13 +93,15 @@ class RtfWriter {
 
   std::string StyleWords(const TextStyle& style) {
     std::string words = RtfWord("f", FontNumber(style.font)) + RtfWord("fs", style.half_points);
-    if (style.bold) words += "\\b";
-    if (style.italic) words += "\\i";
-    if (style.underline) words += "\\ul";
-    if (style.strike) words += "\\strike";
+    const TextStyle& base = text_.base;
+    words += Switched("b", style.bold, base.bold) + Switched("i", style.italic, base.italic) +
+             Switched("ul", style.underline, base.underline) +
+             Switched("strike", style.strike, base.strike);
     if (style.place == TextPlace::kSuper) words += "\\super";
     if (style.place == TextPlace::kSub) words += "\\sub";
-    if (style.color != kAutomaticColor) words += RtfWord("cf", ColorNumber(style.color));
+    if (style.place == TextPlace::kBase && base.place != style.place) words += "\\nosupersub";
+    if (style.color != kAutomaticColor || base.color != kAutomaticColor)
+      words += RtfWord("cf", ColorNumber(style.color));
     return words + " ";
   }
 
