@@ -23,7 +23,8 @@ std::string HexByte(unsigned char byte) {
   return {'\\', '\'', kDigits[byte >> 4U], kDigits[byte & 15U]};
 }
 
-// A character of code page 1252 by its byte, any other by its number with a "?" for old readers.
+// A character of code page 1252 by its byte, any other by its number with a question mark for old
+// readers, which as a byte of its own is no part of a word to any of them.
 std::string RtfUnit(char16_t unit) {
   if (unit == u'\t') return "\\tab ";
   if (unit == u'\n') return "\\line ";
@@ -31,7 +32,7 @@ std::string RtfUnit(char16_t unit) {
   if (unit < 0x80) return std::string(1, static_cast<char>(unit));
   const auto byte = unit >= 0xA0 ? CodePageOf(unit) : std::nullopt;
   if (byte) return HexByte(*byte);
-  return RtfWord("u", static_cast<std::int16_t>(unit)) + "?";
+  return RtfWord("u", static_cast<std::int16_t>(unit)) + "\\'3f";
 }
 
 std::string RtfText(std::u16string_view text) {
