@@ -32,6 +32,10 @@ void CopySample() {
 
 }  // namespace
 
+std::string SamplePath() {
+  return DataFolder + kSample;
+}
+
 void MakeDataFolder() {
   const std::string folder = Platform().ProfileFolder() + "/Tallyroll";
   std::error_code failed;
