@@ -24,8 +24,10 @@ void CopySample() {
   std::error_code ignored;
   std::filesystem::copy_file(ProgramFolder + kSample, DataFolder + kSample,
                              std::filesystem::copy_options::skip_existing, ignored);
-  std::filesystem::copy(ProgramFolder + kSampleLetters, DataFolder + kSampleLetters,
-                        std::filesystem::copy_options::skip_existing, ignored);
+  std::filesystem::copy(
+      ProgramFolder + kSampleLetters, DataFolder + kSampleLetters,
+      std::filesystem::copy_options::recursive | std::filesystem::copy_options::skip_existing,
+      ignored);
 }
 
 }  // namespace

@@ -11,7 +11,7 @@ namespace tallyroll {
 namespace {
 
 constexpr const char* kLabelFont = "Arial";
-constexpr double kLabelPoints = 9;  // three columns then reach across a sheet
+constexpr double kLabelPoints = 8;  // its columns then lie nearly as sheets of labels have them
 constexpr int kLabelTabs[] = {5, 49, 93};
 constexpr std::size_t kLabelsAcross = 3;
 constexpr int kBetweenLabels = 2;  // columns that stay free

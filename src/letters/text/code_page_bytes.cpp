@@ -7,6 +7,7 @@
 #include <array>
 #include <cerrno>
 
+#include "base/code_page.h"
 #include "base/number_text.h"
 #include "platform/rich_text.h"
 
@@ -22,13 +23,15 @@ bool IsAscii(std::string_view bytes) {
                      [](char c) { return static_cast<unsigned char>(c) < 0x80; });
 }
 
-// Signs of a font stand where Unicode leaves room for private use; the bullet is everybody's.
+// Signs of a font stand where Unicode leaves room for private use; the bullet is everybody's. Where
+// such fonts have no signs, other programs mean those of code page 1252.
 std::u16string SymbolText(std::string_view bytes) {
   std::u16string text;
   for (const char c : bytes) {
     const auto byte = static_cast<unsigned char>(c);
-    const auto sign = static_cast<char16_t>(byte < 0x20 ? byte : 0xF000 + byte);
-    text += byte == kSymbolBullet ? kBullet : byte == ' ' ? u' ' : sign;
+    const bool has_sign = byte > ' ' && (byte < 0x7F || byte > 0x9F);
+    const auto own = static_cast<char16_t>(has_sign ? 0xF000 + byte : UnicodeOf(byte));
+    text += byte == kSymbolBullet ? kBullet : own;
   }
   return text;
 }

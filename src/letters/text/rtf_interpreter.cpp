@@ -186,7 +186,6 @@ void RtfInterpreter::AppendFontBytes() {
   const std::string text = Utf8FromUtf16(decoder_.Decode(bytes_, page));
   name += text.substr(0, text.find(';'));
   std::replace_if(name.begin(), name.end(), IsControlByte, ' ');
-  name = Trim(name);
 }
 
 void RtfInterpreter::AppendColor() {
@@ -202,7 +201,9 @@ TextStyle RtfInterpreter::StyleOf(const RtfCharacter& character) const {
   if (has_style_ && character == styled_) return style_;
   TextStyle style;
   const auto font = fonts.find(character.font);
-  if (font != fonts.end() && !font->second.name.empty()) style.font = font->second.name;
+  // The name came in pieces, of which each may end in a blank.
+  const std::string_view name = font == fonts.end() ? std::string_view() : Trim(font->second.name);
+  if (!name.empty()) style.font = name;
   style.half_points = character.half_points;
   style.bold = character.bold;
   style.italic = character.italic;

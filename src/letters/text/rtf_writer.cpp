@@ -23,7 +23,8 @@ std::string HexByte(unsigned char byte) {
   return {'\\', '\'', kDigits[byte >> 4U], kDigits[byte & 15U]};
 }
 
-// A character of code page 1252 by its byte, any other by its number with a "?" for old readers.
+// A character of code page 1252 by its byte, any other by its number with a question mark for old
+// readers, which as a byte of its own is no part of a word to any of them.
 std::string RtfUnit(char16_t unit) {
   if (unit == u'\t') return "\\tab ";
   if (unit == u'\n') return "\\line ";
@@ -31,13 +32,19 @@ std::string RtfUnit(char16_t unit) {
   if (unit < 0x80) return std::string(1, static_cast<char>(unit));
   const auto byte = unit >= 0xA0 ? CodePageOf(unit) : std::nullopt;
   if (byte) return HexByte(*byte);
-  return RtfWord("u", static_cast<std::int16_t>(unit)) + "?";
+  return RtfWord("u", static_cast<std::int16_t>(unit)) + "\\'3f";
 }
 
 std::string RtfText(std::u16string_view text) {
   std::string written;
   for (const char16_t unit : text) written += RtfUnit(unit);
   return written;
+}
+
+// The words before have set the letter's own style.
+std::string Switched(std::string_view name, bool on, bool by_itself) {
+  if (on) return RtfWord(name);
+  return by_itself ? RtfWord(name, 0) : std::string();
 }
 
 // What a font's name may not hold in its table ends it there.
@@ -87,13 +94,15 @@ class RtfWriter {
 
   std::string StyleWords(const TextStyle& style) {
     std::string words = RtfWord("f", FontNumber(style.font)) + RtfWord("fs", style.half_points);
-    if (style.bold) words += "\\b";
-    if (style.italic) words += "\\i";
-    if (style.underline) words += "\\ul";
-    if (style.strike) words += "\\strike";
+    const TextStyle& base = text_.base;
+    words += Switched("b", style.bold, base.bold) + Switched("i", style.italic, base.italic) +
+             Switched("ul", style.underline, base.underline) +
+             Switched("strike", style.strike, base.strike);
     if (style.place == TextPlace::kSuper) words += "\\super";
     if (style.place == TextPlace::kSub) words += "\\sub";
-    if (style.color != kAutomaticColor) words += RtfWord("cf", ColorNumber(style.color));
+    if (style.place == TextPlace::kBase && base.place != style.place) words += "\\nosupersub";
+    if (style.color != kAutomaticColor || base.color != kAutomaticColor)
+      words += RtfWord("cf", ColorNumber(style.color));
     return words + " ";
   }
 

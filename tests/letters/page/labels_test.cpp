@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// At 9 points a character is 90 twips wide: the tab columns 5, 49 and 93 lie at 360, 4320 and 8280.
+// At 8 points a character is 80 twips wide: the tab columns 5, 49 and 93 lie at 320, 3840 and 7360.
 #include "letters/page/labels.h"
 
 #include <gmock/gmock.h>
@@ -58,11 +58,11 @@ TEST_F(LabelsTest, ThreeAcrossAtTheirColumns) {
   ASSERT_TRUE(PrintLabels(printer, Enrol(5), LabelTo::kParent));
   const std::vector<PrintedText>& texts = printer.job->pages.at(0).texts;
   ASSERT_EQ(texts.size(), 15u);
-  EXPECT_EQ(texts[0].x, 360);
-  EXPECT_EQ(texts[3].x, 4320);
-  EXPECT_EQ(texts[6].x, 8280);
-  EXPECT_EQ(texts[9].x, 360);
-  EXPECT_EQ(texts[12].x, 4320) << "the last row has two";
+  EXPECT_EQ(texts[0].x, 320);
+  EXPECT_EQ(texts[3].x, 3840);
+  EXPECT_EQ(texts[6].x, 7360);
+  EXPECT_EQ(texts[9].x, 320);
+  EXPECT_EQ(texts[12].x, 3840) << "the last row has two";
   EXPECT_EQ(texts[9].y - texts[0].y, 1440);
   EXPECT_EQ(texts[3].y, texts[0].y);
   EXPECT_THAT(FixedPrintTarget::RowsOf(printer.job->pages[0]),
@@ -86,7 +86,7 @@ TEST_F(LabelsTest, ALongLineNeverReachesTheNextLabel) {
   Current().Students[1].parent = std::string(90, 'x');
   ASSERT_TRUE(PrintLabels(printer, students, LabelTo::kParent));
   const PrintedText& text = printer.job->pages[0].texts[0];
-  EXPECT_LE(text.x + static_cast<double>(text.text.size()) * text.size * 10, 4320 - 2 * 90 + 1);
+  EXPECT_LE(text.x + static_cast<double>(text.text.size()) * text.size * 10, 3840 - 2 * 80 + 1);
 }
 
 TEST_F(LabelsTest, ACancelledRunIsDropped) {

@@ -101,6 +101,7 @@ TEST(RtfReader, BytesAreOfTheCodePageOfTheirFont) {
   EXPECT_EQ(WordsOfBody("{\\f4 \\'93\\'fa\\'96\\'7b}"), "日本");
   EXPECT_EQ(WordsOfBody("{\\f4 \\'93\\'fa\\'96{}x}"), "日\uFFFDx");
   EXPECT_EQ(WordsOfBody("{\\f2 \\'b7}\\tab a"), "•\ta");
+  EXPECT_EQ(WordsOfBody("{\\f2 \\'95 \\'61}"), "• \uF061");
 }
 
 TEST(RtfReader, TheFilesOwnCodePage) {

@@ -16,8 +16,7 @@ void ExpectSameAgain(const RichText& letter) {
   const RtfReading reading = ReadRtf(WriteRtf(letter));
   EXPECT_EQ(reading.error, "");
   EXPECT_EQ(reading.left_out, std::vector<std::string>{});
-  EXPECT_EQ(WordsOf(reading.text), WordsOf(letter));
-  EXPECT_TRUE(reading.text == letter) << WriteRtf(letter);
+  EXPECT_TRUE(reading.text == letter) << WriteRtf(letter).substr(0, 2000);
 }
 
 TEST(RtfWriter, AnEmptyLetterComesBack) {
@@ -38,8 +37,10 @@ TEST(RtfWriter, EveryCharacterComesBack) {
 
 TEST(RtfWriter, TheFileIsPlainAscii) {
   const std::string file = WriteRtf(RichTextOf(u"M\u00FCller \u0142 \U0001F600"));
-  for (const char c : file) EXPECT_TRUE((c >= ' ' && c <= '~') || c == '\n');
-  EXPECT_NE(file.find("M\\'fcller \\u322? \\u-10179?\\u-8704?"), std::string::npos) << file;
+  EXPECT_TRUE(std::all_of(file.begin(), file.end(),
+                          [](char c) { return (c >= ' ' && c <= '~') || c == '\n'; }));
+  EXPECT_NE(file.find("M\\'fcller \\u322\\'3f \\u-10179\\'3f\\u-8704\\'3f"), std::string::npos)
+      << file;
 }
 
 TEST(RtfWriter, ATextLikeAControlWordIsText) {
