@@ -36,14 +36,11 @@ std::size_t ReadText(char* buffer, std::size_t size, std::size_t count, void* us
   return length;
 }
 
-std::size_t HearLine(char* data, std::size_t size, std::size_t count, void* user) {
-  static_cast<MailInWork*>(user)->exchange.Heard({data, size * count});
-  return size * count;
-}
-
 // Nothing of it is written anywhere: the login is among it.
-int HearCommands(CURL*, curl_infotype type, char* data, std::size_t size, void* user) {
-  if (type == CURLINFO_HEADER_OUT) static_cast<MailInWork*>(user)->exchange.Said({data, size});
+int HearBothSides(CURL*, curl_infotype type, char* data, std::size_t size, void* user) {
+  MailExchange& exchange = static_cast<MailInWork*>(user)->exchange;
+  if (type == CURLINFO_HEADER_OUT) exchange.Said({data, size});
+  if (type == CURLINFO_HEADER_IN) exchange.Heard({data, size});
   return 0;
 }
 
@@ -63,6 +60,10 @@ std::string InWords(CURLcode code, const MailAccount& account, const char* detai
              PlainNumberText(account.port) + ".";
     case CURLE_OPERATION_TIMEDOUT:
       return "The server " + account.host + " didn't answer in time.";
+    case CURLE_SEND_ERROR:
+    case CURLE_RECV_ERROR:
+    case CURLE_GOT_NOTHING:
+      return "The connection to the server " + account.host + " was lost.";
     case CURLE_USE_SSL_FAILED:
       return "The server " + account.host +
              " doesn't offer STARTTLS. Nothing was sent, since it would go unprotected.";
@@ -96,7 +97,6 @@ class CurlMailSender : public MailSender {
     MailInWork work{mail, hooks, {}};
     Address(mail);
     Set(CURLOPT_READDATA, &work);
-    Set(CURLOPT_HEADERDATA, &work);
     Set(CURLOPT_DEBUGDATA, &work);
     Set(CURLOPT_XFERINFODATA, &work);
     detail_[0] = 0;
@@ -137,9 +137,8 @@ class CurlMailSender : public MailSender {
     Set(CURLOPT_ERRORBUFFER, detail_);
     Set(CURLOPT_UPLOAD, 1L);
     Set(CURLOPT_READFUNCTION, ReadText);
-    Set(CURLOPT_HEADERFUNCTION, HearLine);
     Set(CURLOPT_VERBOSE, 1L);
-    Set(CURLOPT_DEBUGFUNCTION, HearCommands);
+    Set(CURLOPT_DEBUGFUNCTION, HearBothSides);
     Set(CURLOPT_NOPROGRESS, 0L);
     Set(CURLOPT_XFERINFOFUNCTION, AskWhetherItGoesOn);
   }

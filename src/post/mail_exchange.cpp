@@ -34,12 +34,13 @@ bool EndsEverything(int code) {
 void MailExchange::Said(std::string_view line) {
   if (line.starts_with("MAIL FROM")) step_ = Step::kAddresses;
   if (line.starts_with("DATA")) step_ = Step::kText;
+  if (line.starts_with("QUIT")) farewell_ = true;
 }
 
 void MailExchange::Heard(std::string_view line) {
   while (!line.empty() && (line.back() == '\r' || line.back() == '\n')) line.remove_suffix(1);
   const int code = CodeOf(line);
-  if (code == 0) return;
+  if (code == 0 || farewell_) return;
   if (code != code_ || !reply_goes_on_) reply_.clear();
   reply_goes_on_ = GoesOn(line);
   code_ = code;

@@ -30,6 +30,7 @@ class MailExchange {
 
   enum class Step { kConnecting, kAddresses, kText };
   Step step_ = Step::kConnecting;
+  bool farewell_ = false;  // what is answered to it says nothing of the message
   bool text_begun_ = false, text_ended_ = false;
   int code_ = 0;       // of the last reply
   std::string reply_;  // its words

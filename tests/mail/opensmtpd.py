@@ -1,5 +1,5 @@
 # SPDX-License-Identifier: GPL-3.0-or-later
-# A server that nobody here wrote takes a run of ten, over each kind of connection.
+# A server that nobody here wrote takes a run of ten with PDF, and passes each on as it was.
 import email
 import email.policy
 import sys
@@ -16,24 +16,23 @@ def tell(folder):
     box = Mailbox()
     server = OpenSmtpd(folder, box)
     try:
-        for security, port in (("plain", server.port), ("starttls", server.port), ("tls", server.tls_port)):
-            before = len(box.arrived)
-            status, out, err = mail(path, "--security", security, "--server", f"localhost:{port}", "--ca",
-                                    server.cert, "--subject", f"\u00c9l\u00e8ve {security}", "--pdf")
-            expect(security, (status, states(out), err), (0, ["sent"] * 10, ""))
-            wait_for("what it passes on", lambda: len(box.arrived) == before + 10)
-            expect("each one once", sorted(each[1][0] for each in box.arrived[before:]),
-                   sorted(f"parent{i}@home.example" for i in range(1, 11)))
-            for _, to, content, _ in box.arrived[before:]:
-                message = email.message_from_bytes(content, policy=email.policy.default)
-                expect("subject", message["Subject"], f"\u00c9l\u00e8ve {security}")
-                number = to[0][6:].split("@")[0]
-                text = message.get_body(("plain",)).get_content()
-                expect("their own report", f"Ng{number}, Ad\u00e8le" in text, True)
-                pdf = [part.get_content()[:5] for part in message.iter_attachments()]
-                expect("PDF", pdf, [b"%PDF-"])
+        status, out, err = mail(path, "--security", "plain", "--server", f"localhost:{server.port}",
+                                "--subject", "\u00c9l\u00e8ve", "--pdf")
+        expect("the run", (status, states(out), err), (0, ["sent"] * 10, ""))
+        wait_for("what it passes on", lambda: len(box.arrived) == 10)
     finally:
         server.stop()
+    expect("each one once", sorted(each[1][0] for each in box.arrived),
+           sorted(f"parent{i}@home.example" for i in range(1, 11)))
+    for _, to, content, _ in box.arrived:
+        message = email.message_from_bytes(content, policy=email.policy.default)
+        expect("subject", message["Subject"], "\u00c9l\u00e8ve")
+        expect("defects", message.defects, [])
+        number = to[0][6:].split("@")[0]
+        text = message.get_body(("plain",)).get_content()
+        expect("their own report", f"Ng{number}, Ad\u00e8le" in text, True)
+        pdf = [part.get_content()[:5] for part in message.iter_attachments()]
+        expect("PDF", pdf, [b"%PDF-"])
 
 
 servers.run(tell)
