@@ -14,6 +14,7 @@
 #include "attendance/frmDatt.h"
 #include "attendance/frmEatt.h"
 #include "attendance/frmatset.h"
+#include "averages/portals/frmchange.h"
 #include "averages/portals/frmgradesave.h"
 #include "averages/portals/frminfo.h"
 #include "averages/portals/frmoptions.h"
@@ -116,6 +117,7 @@ constexpr std::array kPortals{
     PortalRow{"frmexplain", Make<frmexplain>},
     PortalRow{"frmunusual", Make<frmunusual>},
     PortalRow{"frmhistory", Make<frmhistory>},
+    PortalRow{"frmchange", Make<frmchange>},
     PortalRow{"frmfind", Make<frmfind>},
     PortalRow{"frmSendMail", Make<frmSendMail>},
     PortalRow{"frmSendMany", Make<frmSendMany>},

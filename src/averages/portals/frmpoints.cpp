@@ -4,6 +4,7 @@
 #include <algorithm>
 
 #include "averages/average_settings.h"
+#include "averages/portals/change_preview.h"
 #include "averages/portals/clipboard_column.h"
 #include "averages/portals/type_grid.h"
 #include "base/number_text.h"
@@ -43,6 +44,7 @@ frmpoints::frmpoints() : Portal("frmpoints") {
   frombd.Caption = "Paste &From";
   print.Caption = "&Print";
   Sumanry.Caption = "&Summary";
+  previewchange.Caption = "Pre&view Change";
   exit.Caption = "C&ontinue";
   cancel.Caption = "&Cancel";
 }
@@ -57,6 +59,7 @@ void frmpoints::Declare(ControlTable& table) {
   table.Add("frombd", frombd).Click([this] { frombd_Click(); });
   table.Add("Sumanry", Sumanry).Click([this] { Sumanry_Click(); });
   table.Add("print", print).Click([this] { print_Click(); });
+  table.Add("previewchange", previewchange).Click([this] { previewchange_Click(); });
   table.Add("exit", exit).Click([this] { exit_Click(); });
   table.Add("cancel", cancel).Click([this] { cancel_Click(); });
 }
@@ -166,13 +169,23 @@ void frmpoints::exit_Click() {
     UnloadAndShow("frmroundoff");
 }
 
-void frmpoints::Accept() {
+void frmpoints::PutInForce() {
   Class& c = Current();
   for (int row = 1; row < grdgrade.Rows(); ++row)
     c.InstrumentUse[static_cast<std::size_t>(row)] = Counts(row) ? kCounted : kLeftOut;
   if (DefaultMethod == 2 && c.Method != 2) c.AverageWork1 = 1;
   if (DefaultMethod == 3 && c.Method != 3) c.AverageWork2 = 1;
   if (DefaultMethod == 2 || DefaultMethod == 3) c.Method = DefaultMethod;
+}
+
+// Under types the weights come after the points; here those in force count.
+void frmpoints::previewchange_Click() {
+  PreviewChange([] {}, [this] { PutInForce(); });
+}
+
+void frmpoints::Accept() {
+  PutInForce();
+  Class& c = Current();
   if (c.AverageWork1 == 1) SaveOnYes();
   ClassWindow().EnableEntry("mnuoptions", true);
   ClassWindow().EnableEntry("mnuprtgrade", true);

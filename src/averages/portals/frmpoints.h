@@ -21,7 +21,7 @@ struct frmpoints : Portal {
 
   Grid grdgrade;  // a row a grade; only "Count in Total Pts." takes keys
   Label totals, extra;
-  CommandButton paste, frombd, print, Sumanry, exit, cancel;
+  CommandButton paste, frombd, print, Sumanry, previewchange, exit, cancel;
 
   bool grdgrade_KeyPress();
   void paste_Click();
@@ -36,6 +36,8 @@ struct frmpoints : Portal {
   void ShowSums();
   void showtypes();
   void Accept();
+  void PutInForce();
+  void previewchange_Click();
   void SaveOnYes();
 
   PointSums sums_;

@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <limits>
 
+#include "averages/portals/change_preview.h"
 #include "averages/portals/clipboard_column.h"
 #include "averages/rounding.h"
 #include "base/number_text.h"
@@ -76,6 +77,7 @@ frmroundoff::frmroundoff() : Portal("frmroundoff") {
   for (i16 s = 1; s < 4; ++s) MarkScale(s, false);
   writeclip.Caption = "Copy &To";
   readclip.Caption = "Paste &From";
+  previewchange.Caption = "Pre&view Change";
   continue_.Caption = "&Screen";
   contprinter.Caption = "&Printer";
   continueprint.Caption = "C&ontinue";
@@ -103,6 +105,7 @@ void frmroundoff::Declare(ControlTable& table) {
     });
   table.Add("writeclip", writeclip).Click([this] { writeclip_Click(); });
   table.Add("readclip", readclip).Click([this] { readclip_Click(); });
+  table.Add("previewchange", previewchange).Click([this] { previewchange_Click(); });
   table.Add("framescreen", framescreen);
   table.Add("frameprint", frameprint);
   table.Add("framecancel", framecancel);
@@ -114,6 +117,7 @@ void frmroundoff::Declare(ControlTable& table) {
 
 void frmroundoff::Load() {
   Class& c = Current();
+  opened_ = {c.RoundTable, c.RoundScale, c.RoundMode};
   if (c.RoundMode == 2) c.RoundMode = c.Method == 2 || c.Method == 3 ? 1 : 0;
   if (c.RoundMode != 0) UseLetterValuesAsScale();
   mesage.Caption = kExplanation;
@@ -318,6 +322,22 @@ void frmroundoff::readclip_Click() {
     grdgrade.SetTextMatrix(row, kMinimum, lines[static_cast<std::size_t>(row) - 1]);
   changed_ = true;
   ShowScaleButtons();
+}
+
+// Against what was in force when the Portal opened: the buttons of this Portal act at once.
+void frmroundoff::previewchange_Click() {
+  PreviewChange(
+      [this] {
+        Class& c = Current();
+        c.RoundTable = opened_.table;
+        c.RoundScale = opened_.scale;
+        c.RoundMode = opened_.mode;
+      },
+      [this] {
+        if (!changed_) return;
+        CopyGridTo(kTemporaryScale);
+        Current().RoundScale = kTemporaryScale;
+      });
 }
 
 void frmroundoff::leave_Click(std::string_view next) {

@@ -23,7 +23,7 @@ struct frmroundoff : Portal {
   Grid grdgrade;                           // "Letter", "Number", " Min. Value"
   std::array<CommandButton, 4> usescale;   // 0 is the default scale
   std::array<CommandButton, 4> savescale;  // 0 is not used
-  CommandButton writeclip, readclip;
+  CommandButton writeclip, readclip, previewchange;
   Frame framescreen, framecancel, frameprint;  // the ways out, from the menu and from the summary
   CommandButton continue_, contprinter, continueprint, cancel;
 
@@ -38,6 +38,13 @@ struct frmroundoff : Portal {
   void continueprint_Click();
 
  private:
+  // The rounding that was in force when the Portal opened.
+  struct Rounding {
+    decltype(Class::RoundTable) table{};
+    i16 scale = 0, mode = 0;
+  };
+  void previewchange_Click();
+  Rounding opened_;
   bool grdgrade_KeyPress(unsigned char character);
   void ShowMode();
   void FillGrid();

@@ -3,6 +3,7 @@
 
 #include <algorithm>
 
+#include "averages/portals/change_preview.h"
 #include "averages/portals/clipboard_column.h"
 #include "averages/portals/type_grid.h"
 #include "base/number_text.h"
@@ -22,6 +23,7 @@ WeightsForm::WeightsForm(std::string_view name, Grid& grid, int columns,
   frombd.Caption = "Paste &From";
   types.Caption = "T&ypes";
   print.Caption = "&Print";
+  previewchange.Caption = "Pre&view Change";
   exit.Caption = "C&ontinue";
   cancel.Caption = "&Cancel";
   dropyn.Caption = "Drop Single Lowest Grade";
@@ -57,6 +59,7 @@ void WeightsForm::DeclareBoxes(ControlTable& table) {
 }
 
 void WeightsForm::DeclareFoot(ControlTable& table) {
+  table.Add("previewchange", previewchange).Click([this] { previewchange_Click(); });
   table.Add("exit", exit).Click([this] { exit_Click(); });
   table.Add("cancel", cancel).Click([this] { cancel_Click(); });
 }
@@ -228,17 +231,38 @@ bool WeightsForm::ReadWeights(std::vector<Currency>& weights) const {
   return true;
 }
 
+bool WeightsForm::TakeWeights(std::vector<Currency>& weights) {
+  if (SumIsHundred() && ReadWeights(weights)) return true;
+  ShowMessage("The weights, excluding 'Extra Credit', must equal 100", BoxIcon::kCritical,
+              "Note to the Teacher ");
+  typing_.first_key = true;
+  SetFocus(grid_);
+  return false;
+}
+
+// As they would be taken, without the question whether they are saved.
+void WeightsForm::previewchange_Click() {
+  TypeSums drops{};
+  if (!TakeDrops(drops)) return;
+  std::vector<Currency> weights;
+  const bool taken = TakeWeights(weights);
+  if (taken) {
+    PreviewChange([] {},
+                  [&] {
+                    Current().TypeWeights = drops;
+                    PutInForce(weights);
+                    PutBoxesInForce();
+                  });
+  }
+  if (droptype.Value) drop_.Show();
+}
+
 void WeightsForm::exit_Click() {
   totals_by_type_.Close();
   TypeSums drops{};
   if (!TakeDrops(drops)) return;
   std::vector<Currency> weights;
-  if (!SumIsHundred() || !ReadWeights(weights)) {
-    ShowMessage("The weights, excluding 'Extra Credit', must equal 100", BoxIcon::kCritical,
-                "Note to the Teacher ");
-    typing_.first_key = true;
-    return SetFocus(grid_);
-  }
+  if (!TakeWeights(weights)) return;
   Accept(weights, drops);
   if (DefaultMethod == 5)
     Unload();  // the summary stands below
@@ -260,10 +284,15 @@ void WeightsForm::Accept(const std::vector<Currency>& weights, const TypeSums& d
     SaveChangedClass();
     Work() = 2;
   }
+  PutBoxesInForce();
+  drop_.Close();
+}
+
+void WeightsForm::PutBoxesInForce() {
+  Class& c = Current();
   c.AverageFlag1 = labs.Value ? kTrue : kFalse;
   c.AverageFlag2 = dropyn.Value ? kTrue : kFalse;
   c.AverageFlag4 = droptype.Value ? kTrue : kFalse;
-  drop_.Close();
 }
 
 void WeightsForm::cancel_Click() {

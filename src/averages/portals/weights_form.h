@@ -19,7 +19,8 @@ struct WeightsForm : Portal {
   void QueryUnload() override { cancel_Click(); }
 
   Label totals, extra;  // sums of the new weights without and of extra credit
-  CommandButton newwt, equal, oldwt, clearwt, paste, frombd, types, print, exit, cancel;
+  CommandButton newwt, equal, oldwt, clearwt, paste, frombd, types, print;
+  CommandButton previewchange, exit, cancel;
   CheckBox dropyn, droptype, labs;
 
   void newwt_Click();
@@ -32,6 +33,7 @@ struct WeightsForm : Portal {
   void print_Click();
   void droptype_Click();
   void dropyn_Click();
+  void previewchange_Click();
   void exit_Click();
   void cancel_Click();
 
@@ -75,6 +77,8 @@ struct WeightsForm : Portal {
   void ClearDropBoxes();
   bool TakeDrops(TypeSums& drops);
   bool ReadWeights(std::vector<Currency>& weights) const;
+  bool TakeWeights(std::vector<Currency>& weights);
+  void PutBoxesInForce();
   void Accept(const std::vector<Currency>& weights, const TypeSums& drops);
 
   Grid& grid_;
