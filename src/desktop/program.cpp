@@ -6,11 +6,12 @@
 #include <QTimer>
 #include <memory>
 
-#include "desktop/basics/appearance.h"
 #include "desktop/basics/palette_icon.h"
+#include "desktop/platform/post.h"
 #include "desktop/platform/qt_socket.h"
 #include "desktop/platform/qt_surroundings.h"
 #include "desktop/portal/wheel_guard.h"
+#include "desktop/style/appearance.h"
 #include "desktop/window/frame_window.h"
 #include "desktop/window/help_window.h"
 #include "shell/program.h"
@@ -19,7 +20,7 @@
 namespace tallyroll {
 
 int RunProgram(QApplication& application, bool dark, const std::string& file) {
-  SetAppearance(application, dark);
+  auto* appearance = new Appearance(application, dark);  // the application's
   WheelGuard::Install();
   application.setWindowIcon(PaletteIcon(QStringLiteral("tallyroll"), QPalette(Qt::white)));
   // The frame ends the program; the greeting, which may be the only window, must not.
@@ -29,6 +30,7 @@ int RunProgram(QApplication& application, bool dark, const std::string& file) {
   QtSurroundings surroundings;
   SetPlatform(&surroundings);
   MakeSocket = MakeQtSocket;
+  PreparePost();
   FrameForm = std::make_unique<MDIForm1>();
   int result = 0;
   {
@@ -40,6 +42,7 @@ int RunProgram(QApplication& application, bool dark, const std::string& file) {
       FrameForm->Load(file);
       window.Sync();
     });
+    QTimer::singleShot(0, appearance, &Appearance::FollowDesktop);
     result = QApplication::exec();
   }
   ResetProgram();

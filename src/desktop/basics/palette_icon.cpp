@@ -3,10 +3,14 @@
 #include "desktop/basics/palette_icon.h"
 
 #include <QFile>
+#include <QGuiApplication>
 #include <QIconEngine>
 #include <QPainter>
 #include <QSvgRenderer>
 #include <map>
+#include <optional>
+
+#include "desktop/style/tokens.h"
 
 namespace tallyroll {
 namespace {
@@ -28,19 +32,18 @@ QPixmap DrawIcon(QByteArray svg, const QColor& line, const QColor& accent, const
 // Sixteen icons in every size that any screen could ask for would be half of a program's start.
 class PaletteIconEngine : public QIconEngine {
  public:
-  PaletteIconEngine(QByteArray svg, const QPalette& palette)
-      : svg_(std::move(svg)),
-        line_(palette.color(QPalette::Active, QPalette::ButtonText)),
-        off_(palette.color(QPalette::Disabled, QPalette::ButtonText)),
-        accent_(QLatin1StringView(kAccent)) {
-    const bool on_dark = palette.color(QPalette::Active, QPalette::Button).lightness() < 128;
-    if (on_dark) accent_ = QColor(QLatin1StringView(kAccentOnDark));
-  }
+  // Without a palette it takes the program's.
+  PaletteIconEngine(QByteArray svg, std::optional<QPalette> palette)
+      : svg_(std::move(svg)), palette_(std::move(palette)) {}
 
   QPixmap pixmap(const QSize& size, QIcon::Mode mode, QIcon::State) override {
+    const QPalette palette = palette_ ? *palette_ : QGuiApplication::palette();
     const bool off = mode == QIcon::Disabled;
-    QPixmap& drawn = drawn_[{size.width(), size.height(), off}];
-    if (drawn.isNull()) drawn = DrawIcon(svg_, off ? off_ : line_, off ? off_ : accent_, size);
+    const auto group = off ? QPalette::Disabled : QPalette::Active;
+    const QColor line = palette.color(group, QPalette::ButtonText);
+    const QColor accent = off ? line : TokensOf(palette).focus;
+    QPixmap& drawn = drawn_[{size.width(), size.height(), line.rgb(), accent.rgb()}];
+    if (drawn.isNull()) drawn = DrawIcon(svg_, line, accent, size);
     return drawn;
   }
 
@@ -53,16 +56,24 @@ class PaletteIconEngine : public QIconEngine {
 
  private:
   QByteArray svg_;
-  QColor line_, off_, accent_;
-  std::map<std::tuple<int, int, bool>, QPixmap> drawn_;
+  std::optional<QPalette> palette_;
+  std::map<std::tuple<int, int, QRgb, QRgb>, QPixmap> drawn_;
 };
+
+QIcon IconOf(const QString& name, const std::optional<QPalette>& palette) {
+  QFile file(QStringLiteral(":/icons/%1.svg").arg(name));
+  if (!file.open(QIODevice::ReadOnly)) return {};
+  return QIcon(new PaletteIconEngine(file.readAll(), palette));
+}
 
 }  // namespace
 
 QIcon PaletteIcon(const QString& name, const QPalette& palette) {
-  QFile file(QStringLiteral(":/icons/%1.svg").arg(name));
-  if (!file.open(QIODevice::ReadOnly)) return {};
-  return QIcon(new PaletteIconEngine(file.readAll(), palette));
+  return IconOf(name, palette);
+}
+
+QIcon ThemeIcon(const QString& name) {
+  return IconOf(name, std::nullopt);
 }
 
 }  // namespace tallyroll

@@ -8,11 +8,12 @@
 
 namespace tallyroll {
 
-// The blue that icons and links have on a dark ground.
-inline constexpr char kAccentOnDark[] = "#7db8f0";
-
 // The icon of that name in the colours of the palette, greyed for what is disabled. Null when there
 // is none of that name.
 QIcon PaletteIcon(const QString& name, const QPalette& palette);
+
+// The same in the colours that the program has just then, so that it need not be made anew when
+// they change.
+QIcon ThemeIcon(const QString& name);
 
 }  // namespace tallyroll

@@ -5,6 +5,7 @@
 #include "desktop/grid/grid_widget.h"
 #include "desktop/portal/card_drag.h"
 #include "desktop/portal/control_binding.h"
+#include "desktop/portal/empty_texts.h"
 
 namespace tallyroll {
 namespace {
@@ -17,6 +18,9 @@ class GridBinding : public Binding<Grid, GridWidget> {
  public:
   GridBinding(Grid& control, ControlRow& row, GridWidget& widget, BindingOwner& owner)
       : Binding(control, row, widget, owner) {
+    const QString portal = widget.window()->objectName();
+    widget.Keep(portal + QLatin1Char('.') + widget.objectName());
+    widget.SetEmptyText(EmptyTextOf(portal, widget.objectName()));
     widget.SetGrid(&control);
     widget.SetEnterDoubleClicks(static_cast<bool>(row.dbl_click));
     QObject::connect(&widget, &GridWidget::currentCellChanged, this,
@@ -36,6 +40,9 @@ class GridBinding : public Binding<Grid, GridWidget> {
     const int whole = widget_.sizeHint().width();
     const int widest = widget_.fontMetrics().averageCharWidth() * kWholeUpTo;
     widget_.setMinimumWidth(std::min(whole, widest));
+    // Beyond its last column a sheet ends.
+    if (control_.Cols() > 0)
+      widget_.setMaximumWidth(std::max(widget_.WholeWidth(), widget_.minimumWidth()));
   }
 
  private:

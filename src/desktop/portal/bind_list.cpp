@@ -2,10 +2,12 @@
 // List boxes.
 #include <QListWidget>
 #include <QMouseEvent>
+#include <QPainter>
 
 #include "desktop/basics/text_conversion.h"
 #include "desktop/portal/card_drag.h"
 #include "desktop/portal/control_binding.h"
+#include "desktop/portal/empty_texts.h"
 #include "desktop/portal/list_columns.h"
 
 namespace tallyroll {
@@ -18,6 +20,7 @@ class ListBinding : public Binding<ListBox, QListWidget> {
     list.setItemDelegate(columns_);
     list.installEventFilter(this);
     list.viewport()->installEventFilter(this);
+    ShowWhileEmpty(list, EmptyTextOf(list.window()->objectName(), list.objectName()));
     if (row.drag_drop) LetCardsMove();
     if (control.MultiSelect) list.setSelectionMode(QAbstractItemView::ExtendedSelection);
     QObject::connect(&list, &QListWidget::currentRowChanged, this, [this] {
@@ -61,6 +64,8 @@ class ListBinding : public Binding<ListBox, QListWidget> {
 
   bool eventFilter(QObject* watched, QEvent* event) override {
     if (event->type() == QEvent::FocusIn && watched == &widget_) return TakeFocus(event);
+    if (event->type() == QEvent::Paint && watched == widget_.viewport() && widget_.count() == 0)
+      SayWhatWillStandHere();
     if (event->type() == QEvent::KeyPress) by_mouse_ = false;
     if (event->type() == QEvent::MouseButtonPress) {
       press_is_told_ = false;
@@ -80,6 +85,14 @@ class ListBinding : public Binding<ListBox, QListWidget> {
       return item ? CardPicture(widget_, item->text()) : QPixmap();
     };
     cards->dropped = [this](const std::string& source, const QPoint&) { UserDropped(source); };
+  }
+
+  // A list says it by its description, to the eye as to a screen reader.
+  void SayWhatWillStandHere() const {
+    QPainter painter(widget_.viewport());
+    painter.setPen(widget_.palette().color(QPalette::PlaceholderText));
+    painter.drawText(widget_.viewport()->rect().adjusted(8, 8, -8, -8),
+                     Qt::AlignCenter | Qt::TextWordWrap, widget_.accessibleDescription());
   }
 
   // With the focus the list makes its first line the current one, which nobody chose.

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Pictures: ornaments, and sheets of paper that scroll.
+#include <QPainter>
 #include <QScrollArea>
 
 #include "desktop/portal/control_binding.h"
@@ -23,10 +24,27 @@ class SheetBinding : public Binding<PictureBox, QScrollArea> {
     area.setAlignment(Qt::AlignCenter);
     area.setWidgetResizable(false);
     area.setWidget(view_);
+    area.viewport()->installEventFilter(this);
   }
 
  protected:
   void ShowValue() override { view_->ShowSheet(control_); }
+
+  // The sheet lies on its desk and throws a shadow.
+  bool eventFilter(QObject* watched, QEvent* event) override {
+    if (event->type() != QEvent::Paint || watched != widget_.viewport())
+      return ControlBinding::eventFilter(watched, event);
+    QPainter painter(widget_.viewport());
+    painter.fillRect(widget_.viewport()->rect(), widget_.palette().color(QPalette::Dark));
+    constexpr int kDepth = 6, kDarkest = 36;
+    const QRect sheet = view_->geometry().translated(0, 1);
+    painter.setPen(Qt::NoPen);
+    for (int i = kDepth; i > 0; --i) {
+      painter.setBrush(QColor(0, 0, 0, kDarkest / kDepth));
+      painter.drawRoundedRect(sheet.adjusted(-i, -i, i, i), i, i);
+    }
+    return true;
+  }
 
  private:
   SheetView* view_;  // the area's

@@ -4,20 +4,28 @@
 #include <QAbstractItemView>
 #include <QAction>
 #include <QActionGroup>
+#include <QApplication>
 #include <QCoreApplication>
 #include <QFile>
 #include <QLabel>
 #include <QLayout>
+#include <QToolButton>
 #include <utility>
 
+#include "desktop/basics/palette_icon.h"
 #include "desktop/basics/text_conversion.h"
 #include "desktop/grid/cell_list.h"
 #include "desktop/grid/grid_widget.h"
 #include "desktop/grid/seats_widget.h"
 #include "desktop/letter/rich_text_edit.h"
 #include "desktop/portal/chart_widget.h"
+#include "desktop/portal/code_key.h"
 #include "desktop/portal/code_page_text_edit.h"
 #include "desktop/portal/date_field.h"
+#include "desktop/portal/telling_label.h"
+#include "desktop/style/program_style.h"
+#include "desktop/portal/folding_text.h"
+#include "desktop/portal/total_figure.h"
 
 namespace tallyroll {
 namespace {
@@ -28,10 +36,14 @@ QWidget* MakeOwnWidget(const QString& class_name, QWidget* parent) {
       class_name == QLatin1String("GridWidget"))
     return new GridWidget(parent);
   if (class_name == QLatin1String("tallyroll::SeatsWidget")) return new SeatsWidget(parent);
+  if (class_name == QLatin1String("tallyroll::TellingLabel")) return new TellingLabel(parent);
   if (class_name == QLatin1String("tallyroll::ChartWidget")) return new ChartWidget(parent);
   if (class_name == QLatin1String("tallyroll::RichTextEdit")) return new RichTextEdit(parent);
   if (class_name == QLatin1String("tallyroll::CellList")) return new CellList(parent);
   if (class_name == QLatin1String("QPlainTextEdit")) return new CodePageTextEdit(parent);
+  if (class_name == QLatin1String("tallyroll::TotalFigure")) return new TotalFigure(parent);
+  if (class_name == QLatin1String("tallyroll::FoldingText")) return new FoldingText(parent);
+  if (class_name == QLatin1String("tallyroll::CodeKey")) return new CodeKey(parent);
   if (class_name == QLatin1String("tallyroll::DateArrow")) return new DateArrow(parent);
   if (class_name == QLatin1String("QDateEdit")) return new DateField(parent);
   return nullptr;
@@ -41,6 +53,35 @@ bool IsOfClass(const QObject& object, const QString& class_name) {
   // A line in a form is a frame without a class of its own.
   if (class_name == QLatin1String("Line")) return true;
   return class_name == QLatin1String(object.metaObject()->className());
+}
+
+// What a label's words are for, which the style draws them by, and the picture of a tool.
+bool IsOwnProperty(const QObject& object, const QByteArray& property) {
+  return (property == "textUse" && qobject_cast<const QLabel*>(&object)) ||
+         (property == "iconName" && qobject_cast<const QToolButton*>(&object));
+}
+
+// The lengths in a form are those beside the usual font; they grow and shrink with it.
+void ScaleToFont(const QObjectList& objects, QDialog& dialog) {
+  const auto* style = qobject_cast<const ProgramStyle*>(QApplication::style());
+  if (!style) return;
+  const auto scaled = [style](int length) {
+    return length == QWIDGETSIZE_MAX ? length : style->measures().Px(length);
+  };
+  for (QObject* object : objects) {
+    auto* widget = qobject_cast<QWidget*>(object);
+    if (!widget || widget == &dialog) continue;
+    const QSize least = widget->minimumSize(), most = widget->maximumSize();
+    widget->setMinimumSize(scaled(least.width()), scaled(least.height()));
+    widget->setMaximumSize(scaled(most.width()), scaled(most.height()));
+  }
+  dialog.resize(scaled(dialog.width()), scaled(dialog.height()));
+}
+
+void DrawTools(const QObjectList& objects) {
+  for (QObject* object : objects)
+    if (auto* tool = qobject_cast<QToolButton*>(object))
+      tool->setIcon(ThemeIcon(tool->property("iconName").toString()));
 }
 
 // A list does not take its name from its label by itself, as a field does.
@@ -80,7 +121,9 @@ LoadedForm FormLoader::Load(const QString& file, QDialog& dialog) {
   dialog_ = nullptr;
   // Its place in the form is one on the designer's desk: the dialog shall open over its window.
   dialog.setAttribute(Qt::WA_Moved, false);
+  ScaleToFont(form_.objects, dialog);
   PrepareLabels(form_.objects);
+  DrawTools(form_.objects);
   ComplainOfDynamicProperties();
   return std::exchange(form_, {});
 }
@@ -135,6 +178,7 @@ void FormLoader::ComplainOfDynamicProperties() {
     for (const QByteArray& property : object->dynamicPropertyNames()) {
       // The toolkit's own notes; it notes a layout's margins besides setting them.
       if (property.startsWith("_q_")) continue;
+      if (IsOwnProperty(*object, property)) continue;
       if (qobject_cast<const QLayout*>(object) && property.endsWith("Margin")) continue;
       form_.complaints
           << tr("%1 has no property %2").arg(object->objectName(), QString::fromUtf8(property));

@@ -14,7 +14,8 @@ constexpr int kMargin = 4;
 
 // Where the text begins, from the left edge of the line: behind its box to tick, if it has one.
 int TextLeft(const QStyleOptionViewItem& line, const QStyle& style) {
-  if (!(line.features & QStyleOptionViewItem::HasCheckIndicator)) return kMargin;
+  if (!(line.features & QStyleOptionViewItem::HasCheckIndicator))
+    return style.pixelMetric(QStyle::PM_FocusFrameHMargin, &line, line.widget) + 1;
   const QRect box = style.subElementRect(QStyle::SE_ItemViewItemCheckIndicator, &line, line.widget);
   return box.right() - line.rect.left() + 2 * kMargin;
 }

@@ -7,6 +7,7 @@
 #include <QKeyEvent>
 #include <QPushButton>
 #include <QShortcutEvent>
+#include <QToolButton>
 #include <utility>
 
 #include "desktop/basics/key_mapping.h"
@@ -31,6 +32,11 @@ class Silence {
  private:
   int& count_;
 };
+
+QAbstractButton* PressedByEnter(QObject& watched) {
+  if (auto* button = qobject_cast<QPushButton*>(&watched)) return button;
+  return qobject_cast<QToolButton*>(&watched);
+}
 
 }  // namespace
 
@@ -236,7 +242,7 @@ bool PortalDialog::eventFilter(QObject* watched, QEvent* event) {
   const auto& key = static_cast<const QKeyEvent&>(*event);
   ControlBinding* binding = BindingOf(qobject_cast<QWidget*>(watched));
   if (binding && binding->widget() == watched && PassKey(*binding, key)) return true;
-  auto* button = qobject_cast<QPushButton*>(watched);
+  auto* button = PressedByEnter(*watched);
   if (button && (key.key() == Qt::Key_Return || key.key() == Qt::Key_Enter)) {
     button->click();
     return true;

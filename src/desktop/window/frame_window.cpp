@@ -17,12 +17,14 @@
 #include "desktop/basics/text_conversion.h"
 #include "desktop/basics/window_places.h"
 #include "desktop/window/about_box.h"
+#include "desktop/window/appearance_menu.h"
 #include "desktop/window/class_window_view.h"
 #include "desktop/window/help_topics.h"
 #include "desktop/window/menu_view.h"
 #include "desktop/window/message_moment.h"
 #include "desktop/window/start_page.h"
 #include "desktop/window/tile_windows.h"
+#include "shell/data_folder.h"
 #include "shell/shell_state.h"
 
 namespace tallyroll {
@@ -63,6 +65,7 @@ FrameWindow::FrameWindow() {
   setCentralWidget(pages_);
 
   menu_ = new MenuView(FrameForm->menu, this);
+  AddAppearanceMenu(*menu_->Action(QStringLiteral("mnuHelp"))->menu());
   menu_->ShowIn(menuBar());
   shown_menu_ = menu_;
   AddWindowKeys();
@@ -120,6 +123,7 @@ void FrameWindow::Connect(ClassWindowView* view) {
 }
 
 void FrameWindow::Press(const QString& entry) {
+  if (entry == QLatin1String(kSampleEntry)) return Run([] { FrameForm->OpenRecent(SamplePath()); });
   Run([&entry] { FrameForm->ClickMenu(entry.toStdString()); });
 }
 

@@ -29,9 +29,13 @@ class ToolbarView : public QToolBar {
 
  protected:
   void changeEvent(QEvent* event) override;
+  void contextMenuEvent(QContextMenuEvent* event) override;
+  void resizeEvent(QResizeEvent* event) override;
 
  private:
   void AddButton(const ToolButton& button);
+  void AddRoom();
+  void ShowWords();
   void DrawIcons();
 
   const std::vector<ToolButton>* buttons_;

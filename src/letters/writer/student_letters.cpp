@@ -196,7 +196,6 @@ void frmwrdproc::mnuemail_Click() {
   if (!body) return;
   if (WriteTempFile(*body) != 0) return TellSaveFailure(TempFilePath());
   Draft = MailDraft();
-  Draft.body_file = TempFilePath();
   Draft.letter = true;
   ShowPortal("frmSendMail");
 }

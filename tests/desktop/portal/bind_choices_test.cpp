@@ -240,6 +240,8 @@ TEST_F(BindChoicesTest, DoubleClickOnALine) {
 TEST_F(BindChoicesTest, AClickBelowTheLastLineKeepsTheChoice) {
   portal.list.ListIndex = 1;
   Open();
+  list().setMinimumHeight(200);
+  QCoreApplication::processEvents();
   Focus("list");
   QTest::mouseClick(list().viewport(), Qt::LeftButton, {},
                     QPoint(5, list().viewport()->height() - 2));

@@ -8,8 +8,8 @@
 #include <QSvgRenderer>
 #include <QToolButton>
 
-#include "desktop/basics/appearance.h"
 #include "desktop/basics/palette_icon.h"
+#include "desktop/style/appearance.h"
 #include "desktop/window/toolbar_view.h"
 #include "tests/desktop/window/frame_fixture.h"
 
@@ -48,6 +48,54 @@ TEST_F(ToolbarTest, FollowsWhatIsEnabled) {
   EXPECT_TRUE(Button("Save")->isEnabled());
 }
 
+TEST_F(ToolbarTest, ADisabledButtonTellsWhy) {
+  buttons[1].enabled = false;
+  view.Sync();
+  EXPECT_EQ(Button("Save")->toolTip(),
+            QStringLiteral("Save this Class\nThis class has no student yet."));
+  EXPECT_EQ(Button("Save")->accessibleName(), QStringLiteral("Save this Class"));
+  buttons[1].enabled = true;
+  view.Sync();
+  EXPECT_EQ(Button("Save")->toolTip(), QStringLiteral("Save this Class"));
+}
+
+TEST(ToolbarWords, StandBelowTheIconsWhereThereIsRoomAndTheyAreWanted) {
+  const Form1 form;
+  QWidget window;
+  ToolbarView bar(form.Toolbar2, &window);
+  const auto words_at = [&](int width, int height) {
+    window.resize(width, height);
+    bar.resize(width, 60);
+    window.show();
+    QCoreApplication::processEvents();
+    return bar.toolButtonStyle() == Qt::ToolButtonTextUnderIcon;
+  };
+  EXPECT_TRUE(words_at(1100, 700));
+  EXPECT_FALSE(words_at(1000, 700));
+  EXPECT_FALSE(words_at(1100, 500));
+  Appearance::Instance()->SetWordsInToolbar(false);
+  EXPECT_FALSE(words_at(1100, 700));
+  Appearance::Instance()->SetWordsInToolbar(true);
+  EXPECT_TRUE(words_at(1100, 700));
+}
+
+TEST(ToolbarWords, ExitAndHelpStandAtTheFarEnd) {
+  const Form1 form;
+  QWidget window;
+  window.resize(1300, 700);
+  ToolbarView bar(form.Toolbar2, &window);
+  bar.resize(1300, 60);
+  window.show();
+  QCoreApplication::processEvents();
+  const auto place = [&bar](const char* key) {
+    auto* action = bar.findChild<QAction*>(QString::fromLatin1(key));
+    return bar.widgetForAction(action)->geometry();
+  };
+  EXPECT_GT(place("Help").right(), 1280);
+  EXPECT_LT(place("Exit").right(), place("Help").left() + 1);
+  EXPECT_GT(place("Exit").left() - place("Graph").right(), 100);
+}
+
 TEST_F(ToolbarTest, TellsWhichButtonWasPressed) {
   QSignalSpy pressed(&view, &ToolbarView::Pressed);
   Button("Help")->click();
@@ -67,7 +115,7 @@ TEST_F(ToolbarTest, ButtonsTakeTheFocusByKey) {
 
 TEST_F(ToolbarTest, DrawsItsIconsAnewForAnotherPalette) {
   const QImage light = Button("Save")->icon().pixmap(24).toImage();
-  view.setPalette(DarkPalette());
+  view.setPalette(PaletteOf(DarkTokens()));
   EXPECT_NE(Button("Save")->icon().pixmap(24).toImage(), light);
 }
 
@@ -96,11 +144,12 @@ TEST_F(FrameTest, EveryButtonHasAnIconThatCanBeSeenInLightAndDark) {
     EXPECT_TRUE(QSvgRenderer(QStringLiteral(":/icons/%1.svg").arg(key)).isValid());
     const QPalette light(Qt::black, Qt::white);
     const int on_light = Lightness(PaletteIcon(key, light).pixmap(48));
-    const int on_dark = Lightness(PaletteIcon(key, DarkPalette()).pixmap(48));
+    const int on_dark = Lightness(PaletteIcon(key, PaletteOf(DarkTokens())).pixmap(48));
     EXPECT_GE(on_light, 0);
     EXPECT_LT(on_light, 128);
     EXPECT_GT(on_dark, 170);
-    const int off = Lightness(PaletteIcon(key, DarkPalette()).pixmap(48, 48, QIcon::Disabled));
+    const int off =
+        Lightness(PaletteIcon(key, PaletteOf(DarkTokens())).pixmap(48, 48, QIcon::Disabled));
     EXPECT_LT(off, on_dark - 30);
     ++icons;
   }

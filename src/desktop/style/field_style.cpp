@@ -1,0 +1,164 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// Fields, choices, dates, and the frames of lists and sheets.
+#include <QComboBox>
+#include <QDateTimeEdit>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPainter>
+
+#include "desktop/style/controls.h"
+#include "desktop/style/shapes.h"
+
+namespace tallyroll {
+namespace {
+
+constexpr double kFieldRadius = 6, kFrameRadius = 4;
+constexpr double kArrowRoom = 28, kBesideText = 8;
+
+struct FieldLook {
+  QColor fill, edge;
+  double width = 1;
+};
+
+FieldLook LookOfField(const StyleBrush& b, bool read_only) {
+  FieldLook look{b.enabled && !read_only ? b.t.surface : b.t.window, b.t.border, 1};
+  if (!b.enabled) look.edge = b.t.line;
+  if (read_only && b.enabled) look.edge = b.t.strong_line;
+  if (b.hover && !read_only) look.edge = Mix(b.t.border, b.t.text, 0.33);
+  if (b.focus) look = {look.fill, b.t.focus, 2};
+  return look;
+}
+
+void DrawFieldBox(StyleBrush& b, const QRect& rect, bool read_only) {
+  const FieldLook look = LookOfField(b, read_only);
+  DrawBox(b.painter, rect, b.m.Px(kFieldRadius), look.fill, look.edge, look.width);
+}
+
+bool IsDate(const QWidget* widget) {
+  return qobject_cast<const QDateTimeEdit*>(widget) != nullptr;
+}
+
+// A figure that is only shown, and a text that explains: a ground without a line.
+void DrawShown(const QStyleOption& option, StyleBrush& b) {
+  const bool explains = b.widget->property("textUse").toString() == QLatin1String("help");
+  DrawBox(b.painter, option.rect, b.m.Px(explains ? kFieldRadius : kFrameRadius),
+          explains ? b.t.accent_soft : b.t.total);
+}
+
+}  // namespace
+
+bool DrawField(QStyle::PrimitiveElement element, const QStyleOption& option, StyleBrush& brush) {
+  switch (element) {
+    case QStyle::PE_PanelLineEdit:
+    case QStyle::PE_FrameLineEdit: {
+      // The field of a choice or a date stands in a box that is drawn already.
+      const auto* frame = qstyleoption_cast<const QStyleOptionFrame*>(&option);
+      if (!frame || frame->lineWidth == 0) return true;
+      DrawFieldBox(brush, option.rect, option.state & QStyle::State_ReadOnly);
+      return true;
+    }
+    case QStyle::PE_Frame:
+      return DrawFrame(option, brush);
+    default:
+      return false;
+  }
+}
+
+bool DrawFrame(const QStyleOption& option, StyleBrush& brush) {
+  const QWidget* widget = brush.widget;
+  if (qobject_cast<const QLabel*>(widget)) {
+    DrawShown(option, brush);
+    return true;
+  }
+  if (widget && widget->isWindow()) {
+    DrawBox(brush.painter, option.rect, 0, QColor(), brush.t.strong_line, 1);
+    return true;
+  }
+  if (!brush.enabled) {
+    DrawBox(brush.painter, option.rect, brush.m.Px(kFrameRadius), brush.t.window, brush.t.line, 1);
+    return true;
+  }
+  const bool focus = brush.focus;
+  DrawBox(brush.painter, option.rect, brush.m.Px(kFrameRadius), brush.t.surface,
+          focus ? brush.t.focus : brush.t.border, focus ? 2 : 1);
+  return true;
+}
+
+bool DrawChoice(const QStyleOptionComplex& option, StyleBrush& brush) {
+  const auto* combo = qstyleoption_cast<const QStyleOptionComboBox*>(&option);
+  if (!combo) return false;
+  const bool date = IsDate(brush.widget);
+  // A date's field has the focus for it.
+  const bool field_has_focus =
+      brush.enabled && brush.widget && brush.widget->isAncestorOf(brush.widget->focusWidget()) &&
+      brush.widget->focusWidget() && brush.widget->focusWidget()->hasFocus();
+  FieldLook look = LookOfField(brush, false);
+  if (field_has_focus) look = {look.fill, brush.t.focus, 2};
+  if (brush.hover && !combo->editable) look.fill = Mix(brush.t.surface, brush.t.hover, 0.5);
+  if (combo->frame)
+    DrawBox(brush.painter, combo->rect, brush.m.Px(kFieldRadius), look.fill, look.edge, look.width);
+  const QRect arrow = brush.style.subControlRect(QStyle::CC_ComboBox, combo,
+                                                 QStyle::SC_ComboBoxArrow, brush.widget);
+  const QColor sign = brush.enabled ? brush.t.muted : brush.t.off;
+  if (!date) {
+    DrawArrow(brush.painter, arrow, Qt::DownArrow, sign, brush.m.Px(4));
+    return true;
+  }
+  QRectF box(0, 0, brush.m.Px(16), brush.m.Px(16));
+  box.moveCenter(QRectF(arrow).center());
+  DrawCalendar(brush.painter, box, sign);
+  return true;
+}
+
+bool DrawChoiceText(const QStyleOption& option, StyleBrush& brush) {
+  const auto* combo = qstyleoption_cast<const QStyleOptionComboBox*>(&option);
+  if (!combo) return false;
+  if (combo->editable) return true;
+  const QRect place = brush.style.subControlRect(QStyle::CC_ComboBox, combo,
+                                                 QStyle::SC_ComboBoxEditField, brush.widget);
+  brush.painter.save();
+  brush.painter.setPen(brush.Text());
+  const QString text =
+      combo->fontMetrics.elidedText(combo->currentText, Qt::ElideRight, place.width());
+  brush.painter.drawText(place, Qt::AlignVCenter | Qt::AlignLeft | Qt::TextSingleLine, text);
+  brush.painter.restore();
+  return true;
+}
+
+std::optional<QRect> ChoicePart(const QStyleOptionComplex& option, QStyle::SubControl part,
+                                const Measures& m) {
+  const QRect& whole = option.rect;
+  const int arrow = std::min(m.Px(kArrowRoom), whole.width());
+  switch (part) {
+    case QStyle::SC_ComboBoxFrame:
+    case QStyle::SC_ComboBoxListBoxPopup:
+      return whole;
+    case QStyle::SC_ComboBoxArrow:
+      return QStyle::visualRect(
+          option.direction, whole,
+          QRect(whole.right() + 1 - arrow, whole.top(), arrow, whole.height()));
+    case QStyle::SC_ComboBoxEditField:
+      return QStyle::visualRect(option.direction, whole,
+                                whole.adjusted(m.Px(kBesideText), 2, -arrow, -2));
+    default:
+      return std::nullopt;
+  }
+}
+
+std::optional<QSize> FieldSize(QStyle::ContentsType type, const QSize& contents, const Measures& m,
+                               const QWidget* widget) {
+  const int height = std::max(m.Control(), contents.height() + 4);
+  switch (type) {
+    case QStyle::CT_LineEdit:
+      return QSize(contents.width() + 2 * m.Px(kBesideText), height);
+    case QStyle::CT_ComboBox:
+      return QSize(contents.width() + m.Px(kBesideText + kArrowRoom + 4), height);
+    case QStyle::CT_SpinBox:
+      if (!IsDate(widget)) return std::nullopt;
+      return QSize(contents.width() + m.Px(kBesideText + kArrowRoom), height);
+    default:
+      return std::nullopt;
+  }
+}
+
+}  // namespace tallyroll

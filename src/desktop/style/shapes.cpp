@@ -1,0 +1,67 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "desktop/style/shapes.h"
+
+#include <QPainterPath>
+
+namespace tallyroll {
+namespace {
+
+QPen RoundPen(const QColor& color, double width) {
+  return QPen(color, width, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin);
+}
+
+}  // namespace
+
+SmoothEdges::SmoothEdges(QPainter& painter) : painter_(painter) {
+  painter_.save();
+  painter_.setRenderHint(QPainter::Antialiasing);
+}
+
+void DrawBox(QPainter& painter, const QRectF& rect, double radius, const QColor& fill,
+             const QColor& line, double width) {
+  const SmoothEdges smooth(painter);
+  painter.setBrush(fill.isValid() ? QBrush(fill) : QBrush(Qt::NoBrush));
+  painter.setPen(line.isValid() ? QPen(line, width) : QPen(Qt::NoPen));
+  const double inset = line.isValid() ? width / 2 : 0;
+  painter.drawRoundedRect(rect.adjusted(inset, inset, -inset, -inset), radius - inset,
+                          radius - inset);
+}
+
+void DrawArrow(QPainter& painter, const QRectF& box, Qt::ArrowType way, const QColor& color,
+               double size) {
+  const SmoothEdges smooth(painter);
+  painter.translate(box.center());
+  if (way == Qt::UpArrow) painter.rotate(180);
+  if (way == Qt::LeftArrow) painter.rotate(90);
+  if (way == Qt::RightArrow) painter.rotate(-90);
+  painter.setPen(RoundPen(color, size / 3.2));
+  painter.setBrush(Qt::NoBrush);
+  const QPointF points[] = {{-size, -size / 2}, {0, size / 2}, {size, -size / 2}};
+  painter.drawPolyline(points, 3);
+}
+
+void DrawTick(QPainter& painter, const QRectF& box, const QColor& color) {
+  const SmoothEdges smooth(painter);
+  const double side = box.width();
+  painter.setPen(RoundPen(color, side / 8));
+  painter.setBrush(Qt::NoBrush);
+  const QPointF points[] = {box.topLeft() + QPointF(side * 0.25, side * 0.53),
+                            box.topLeft() + QPointF(side * 0.43, side * 0.71),
+                            box.topLeft() + QPointF(side * 0.76, side * 0.32)};
+  painter.drawPolyline(points, 3);
+}
+
+void DrawCalendar(QPainter& painter, const QRectF& box, const QColor& color) {
+  const SmoothEdges smooth(painter);
+  const double side = box.width();
+  painter.translate(box.topLeft());
+  painter.setPen(RoundPen(color, side / 12));
+  painter.setBrush(Qt::NoBrush);
+  painter.drawRoundedRect(QRectF(side * 0.12, side * 0.2, side * 0.76, side * 0.7), side * 0.1,
+                          side * 0.1);
+  painter.drawLine(QPointF(side * 0.12, side * 0.42), QPointF(side * 0.88, side * 0.42));
+  for (const double x : {0.34, 0.66})
+    painter.drawLine(QPointF(side * x, side * 0.1), QPointF(side * x, side * 0.28));
+}
+
+}  // namespace tallyroll

@@ -1,0 +1,12 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// Where the teacher chooses how the program looks.
+#pragma once
+
+class QMenu;
+
+namespace tallyroll {
+
+// Adds "Appearance" at the end of the menu: light or dark, and how much stands on the screen.
+void AddAppearanceMenu(QMenu& menu);
+
+}  // namespace tallyroll

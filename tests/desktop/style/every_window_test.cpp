@@ -1,0 +1,102 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// Every window has the one look: nothing in it has a colour, a font or a margin of its own, it fits
+// a small screen at each density, and its words stand whole where there is room.
+#include <QAbstractButton>
+#include <QApplication>
+#include <QCalendarWidget>
+#include <QComboBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QToolTip>
+
+#include "desktop/style/appearance.h"
+#include "tests/desktop/every_window.h"
+
+namespace tallyroll {
+namespace {
+
+// A screen of 1024 x 640 without the title and the borders of the window.
+constexpr QSize kSmallRoom(1024 - 16, 640 - 40);
+
+class EveryWindowTest : public EveryWindow {
+ protected:
+  ~EveryWindowTest() override { Appearance::Instance()->SetDensity(Density::kNormal); }
+};
+
+// What the toolkit builds inside a calendar is the style's affair.
+bool IsOfCalendar(const QWidget* widget) {
+  for (; widget; widget = widget->parentWidget())
+    if (qobject_cast<const QCalendarWidget*>(widget)) return true;
+  return false;
+}
+
+QString FaultOf(const QWidget& widget) {
+  const QPalette expected = QApplication::palette(&widget);
+  const auto* label = qobject_cast<const QLabel*>(&widget);
+  const bool has_use = label && label->property("textUse").isValid();
+  if (!widget.styleSheet().isEmpty()) return QStringLiteral("a style sheet");
+  if (widget.testAttribute(Qt::WA_SetPalette)) return QStringLiteral("a palette of its own");
+  if (widget.testAttribute(Qt::WA_SetFont) && !has_use &&
+      widget.font().family() == QApplication::font().family())
+    return QStringLiteral("a font of its own");
+  if (widget.palette().color(QPalette::Window) != expected.color(QPalette::Window))
+    return QStringLiteral("a ground of its own");
+  return {};
+}
+
+TEST_F(EveryWindowTest, NoWidgetHasALookOfItsOwn) {
+  ForEach([](const std::string& name, PortalDialog& window) {
+    for (const QWidget* each : window.findChildren<QWidget*>()) {
+      if (IsOfCalendar(each)) continue;
+      const QString fault = FaultOf(*each);
+      EXPECT_TRUE(fault.isEmpty())
+          << name << ": " << each->objectName().toStdString() << " has " << fault.toStdString();
+    }
+  });
+  EXPECT_GE(walked, 35);
+}
+
+TEST_F(EveryWindowTest, AnOwnColourOrFontIsNoticed) {
+  QLabel label;
+  label.show();
+  EXPECT_EQ(FaultOf(label), QString());
+  QPalette red = label.palette();
+  red.setColor(QPalette::WindowText, Qt::red);
+  label.setPalette(red);
+  EXPECT_EQ(FaultOf(label), QStringLiteral("a palette of its own"));
+  QLabel bold;
+  QFont font = bold.font();
+  font.setBold(true);
+  bold.setFont(font);
+  EXPECT_EQ(FaultOf(bold), QStringLiteral("a font of its own"));
+}
+
+TEST_F(EveryWindowTest, EachFitsASmallScreenAtEveryDensity) {
+  for (const Density density : {Density::kCompact, Density::kNormal, Density::kRoomy}) {
+    Appearance::Instance()->SetDensity(density);
+    ForEach([density](const std::string& name, PortalDialog& window) {
+      const QSize least = window.minimumSizeHint();
+      EXPECT_LE(least.width(), kSmallRoom.width()) << name << " at " << static_cast<int>(density);
+      EXPECT_LE(least.height(), kSmallRoom.height()) << name << " at " << static_cast<int>(density);
+    });
+  }
+}
+
+// A caption needs its width; a label that wraps needs its height.
+TEST_F(EveryWindowTest, NoCaptionIsCut) {
+  ForEach([](const std::string& name, PortalDialog& window) {
+    for (const auto* label : window.findChildren<QLabel*>()) {
+      if (!label->isVisible() || label->text().isEmpty() || label->wordWrap()) continue;
+      EXPECT_GE(label->width() + 1, label->sizeHint().width())
+          << name << ": " << label->objectName().toStdString();
+    }
+    for (const auto* button : window.findChildren<QAbstractButton*>()) {
+      if (!button->isVisible() || button->text().isEmpty()) continue;
+      EXPECT_GE(button->width() + 1, button->minimumSizeHint().width())
+          << name << ": " << button->objectName().toStdString();
+    }
+  });
+}
+
+}  // namespace
+}  // namespace tallyroll

@@ -1,0 +1,120 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// Borders and the buttons of a window stand out from their ground by 3 to 1, light or dark.
+#include <gtest/gtest.h>
+
+#include <QApplication>
+#include <QComboBox>
+#include <QDateEdit>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QPushButton>
+#include <QVBoxLayout>
+#include <algorithm>
+
+#include "desktop/grid/cell_list.h"
+#include "desktop/grid/grid_widget.h"
+#include "desktop/style/program_style.h"
+#include "desktop/style/tokens.h"
+
+namespace tallyroll {
+namespace {
+
+class DarkOutlines : public testing::Test {
+ protected:
+  explicit DarkOutlines(const Tokens& tokens = DarkTokens()) {
+    QApplication::setPalette(PaletteOf(tokens));
+  }
+  ~DarkOutlines() override { QApplication::setPalette(before_); }
+
+  // The highest contrast to the window of what is passed from the left into the widget.
+  template <typename W>
+  double ContrastOfBorder(bool focused = false) {
+    ProgramStyle style;
+    QWidget window;
+    auto* widget = new W;
+    if constexpr (std::is_same_v<W, QDateEdit>) widget->setCalendarPopup(true);
+    auto* other = new QPushButton;
+    auto* rows = new QVBoxLayout(&window);
+    rows->setContentsMargins(20, 20, 20, 20);
+    rows->addWidget(widget);
+    rows->addWidget(other);
+    for (QWidget* each : {static_cast<QWidget*>(widget), static_cast<QWidget*>(other), &window})
+      each->setStyle(&style);
+    window.resize(300, 200);
+    window.show();
+    (focused ? static_cast<QWidget*>(widget) : other)->setFocus();
+    QApplication::processEvents();
+    const QImage picture = window.grab().toImage();
+    const QColor ground = picture.pixelColor(2, 2);
+    const QPoint middle = widget->mapTo(&window, QPoint(0, widget->height() / 2));
+    double best = 1;
+    for (int x = -2; x < 4; ++x)
+      best = std::max(best, Contrast(picture.pixelColor(middle + QPoint(x, 0)), ground));
+    widget->setStyle(nullptr);
+    other->setStyle(nullptr);
+    window.setStyle(nullptr);
+    return best;
+  }
+
+ private:
+  QPalette before_ = QApplication::palette();
+};
+
+TEST_F(DarkOutlines, FieldsAndListsHaveABorderThatIsSeen) {
+  EXPECT_GE(ContrastOfBorder<QLineEdit>(), 3);
+  EXPECT_GE(ContrastOfBorder<QComboBox>(), 3);
+  EXPECT_GE(ContrastOfBorder<QDateEdit>(), 3);
+  EXPECT_GE(ContrastOfBorder<QListWidget>(), 3);
+  EXPECT_GE(ContrastOfBorder<GridWidget>(), 3);
+  EXPECT_GE(ContrastOfBorder<QPushButton>(), 3);
+}
+
+class LightOutlines : public DarkOutlines {
+ protected:
+  LightOutlines() : DarkOutlines(LightTokens()) {}
+};
+
+TEST_F(LightOutlines, FieldsAndListsHaveABorderThatIsSeen) {
+  EXPECT_GE(ContrastOfBorder<QLineEdit>(), 3);
+  EXPECT_GE(ContrastOfBorder<QComboBox>(), 3);
+  EXPECT_GE(ContrastOfBorder<QDateEdit>(), 3);
+  EXPECT_GE(ContrastOfBorder<QListWidget>(), 3);
+  EXPECT_GE(ContrastOfBorder<GridWidget>(), 3);
+  EXPECT_GE(ContrastOfBorder<QPushButton>(), 3);
+}
+
+TEST_F(DarkOutlines, TheFieldWithTheFocusToo) {
+  EXPECT_GE(ContrastOfBorder<QLineEdit>(true), 3);
+  EXPECT_GE(ContrastOfBorder<QComboBox>(true), 3);
+  EXPECT_GE(ContrastOfBorder<QDateEdit>(true), 3);
+}
+
+TEST_F(DarkOutlines, TheCellInWorkHasABorderThatIsSeen) {
+  EXPECT_GE(ContrastOfBorder<CellList>(), 3);
+}
+
+// What is seen of a colour that lets some of the ground through.
+QColor Over(const QColor& ground, const QColor& color) {
+  const auto mix = [&](int below, int above) {
+    return below + (above - below) * color.alpha() / 255;
+  };
+  return QColor(mix(ground.red(), color.red()), mix(ground.green(), color.green()),
+                mix(ground.blue(), color.blue()));
+}
+
+TEST_F(DarkOutlines, TheButtonsOfAClassWindowAreDrawnInLightLines) {
+  const ProgramStyle style;
+  const QColor button = PaletteOf(DarkTokens()).color(QPalette::Button);
+  for (const auto icon : {QStyle::SP_TitleBarMinButton, QStyle::SP_TitleBarNormalButton,
+                          QStyle::SP_TitleBarCloseButton}) {
+    const QImage picture = style.standardIcon(icon, nullptr, nullptr).pixmap(16, 16).toImage();
+    double best = 1;
+    for (int x = 0; x < picture.width(); ++x)
+      for (int y = 0; y < picture.height(); ++y)
+        best = std::max(best, Contrast(Over(button, picture.pixelColor(x, y)), button));
+    EXPECT_GE(best, 3) << icon;
+  }
+}
+
+}  // namespace
+}  // namespace tallyroll
