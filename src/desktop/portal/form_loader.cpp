@@ -22,10 +22,10 @@
 #include "desktop/portal/code_key.h"
 #include "desktop/portal/code_page_text_edit.h"
 #include "desktop/portal/date_field.h"
-#include "desktop/portal/telling_label.h"
-#include "desktop/style/program_style.h"
 #include "desktop/portal/folding_text.h"
+#include "desktop/portal/telling_label.h"
 #include "desktop/portal/total_figure.h"
+#include "desktop/style/program_style.h"
 
 namespace tallyroll {
 namespace {
