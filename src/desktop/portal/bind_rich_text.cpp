@@ -23,11 +23,10 @@ class RichTextBinding : public Binding<RichTextBox, RichTextEdit> {
     FillAfresh();
     connect(edit.document(), &QTextDocument::contentsChange, this,
             [this](int at, int, int added) { NoteChange(at, added); });
-    connect(&edit, &QTextEdit::textChanged, this, [this] {
-      // Marks of spelling are told as changes too.
-      if (!writing_ && TakeChanges()) UserDid({&ControlRow::change});
-    });
+    // Marks of spelling are told as changes too, and the caret may move before or behind the text.
+    connect(&edit, &QTextEdit::textChanged, this, [this] { TellChange(); });
     const auto moved = [this] {
+      TellChange();
       if (!writing_) UserDid({&ControlRow::click});
     };
     connect(&edit, &QTextEdit::cursorPositionChanged, this, moved);
@@ -148,11 +147,16 @@ class RichTextBinding : public Binding<RichTextBox, RichTextEdit> {
     tail_ = changed_ ? std::min(tail_, last - end) : last - end;
     changed_ = true;
   }
-  void ForgetChanges() { changed_ = false; }
+  void ForgetChanges() { changed_ = untold_ = false; }
 
-  // True when the document is another than it was.
-  bool TakeChanges() {
-    if (!std::exchange(changed_, false)) return false;
+  void TellChange() {
+    if (writing_) return;
+    TakeChanges();
+    if (std::exchange(untold_, false)) UserDid({&ControlRow::change});
+  }
+
+  void TakeChanges() {
+    if (!std::exchange(changed_, false)) return;
     const QTextDocument& document = *widget_.document();
     const int count = document.blockCount();
     const int old_count = static_cast<int>(shown_.paragraphs.size());
@@ -164,10 +168,10 @@ class RichTextBinding : public Binding<RichTextBox, RichTextEdit> {
       now.push_back(ParagraphOf(block, widget_.Base()));
     const auto first = shown_.paragraphs.begin() + head;
     const auto end = shown_.paragraphs.end() - tail;
-    if (std::equal(first, end, now.begin(), now.end())) return false;
+    if (std::equal(first, end, now.begin(), now.end())) return;
     Exchange(shown_.paragraphs, head, tail, now);
     Exchange(control_.Document.paragraphs, head, tail, std::move(now));
-    return true;
+    untold_ = true;
   }
 
   static void Exchange(Paragraphs& all, int head, int tail, Paragraphs now) {
@@ -198,7 +202,8 @@ class RichTextBinding : public Binding<RichTextBox, RichTextEdit> {
   TextStyle style_;
   bool spelling_ = false;
   bool writing_ = false;
-  bool changed_ = false;
+  bool changed_ = false;  // since the last look
+  bool untold_ = false;   // what the last look found
   int head_ = 0, tail_ = 0;
 };
 

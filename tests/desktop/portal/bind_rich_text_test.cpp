@@ -81,7 +81,7 @@ TEST_F(BindRichText, ParagraphsComeAndGoWithTheKeys) {
   Key(Qt::Key_End);
   Key(Qt::Key_Return);
   EXPECT_EQ(Held(), "one\n\ntwo\nthree");
-  Key(Qt::Key_Delete);
+  Key(Qt::Key_Backspace);
   Key(Qt::Key_Delete);
   EXPECT_EQ(Held(), "onetwo\nthree");
   EXPECT_EQ(Held(), Shown());
