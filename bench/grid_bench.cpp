@@ -5,6 +5,8 @@
 
 #include <QAbstractTableModel>
 #include <QApplication>
+#include <QKeyEvent>
+#include <QMouseEvent>
 #include <QScrollBar>
 #include <QTableView>
 #include <memory>
@@ -115,6 +117,71 @@ void ScrollClassGrid(benchmark::State& state) {
   ScrollOn(state, widget, *widget.verticalScrollBar(), static_cast<int>(state.range(0)));
 }
 BENCHMARK(ScrollClassGrid)->Arg(1)->Arg(20)->Unit(benchmark::kMillisecond)->UseRealTime();
+
+// What one press of a key and one move of the pointer cost until they are painted.
+template <typename Act>
+void ActInClassGrid(benchmark::State& state, Act act) {
+  GridOfClass open;
+  open.window.showform3();
+  GridWidget widget;
+  widget.SetGrid(&open.window.Grid1);
+  widget.resize(kWindow);
+  widget.show();
+  widget.setFocus();
+  QApplication::processEvents();
+  int step = 0;
+  for (auto _ : state) {
+    act(widget, step++);
+    QApplication::processEvents();
+  }
+}
+
+void PressKey(QWidget& widget, Qt::Key key) {
+  QKeyEvent press(QEvent::KeyPress, key, Qt::NoModifier);
+  QApplication::sendEvent(&widget, &press);
+}
+
+void KeyInClassGrid(benchmark::State& state) {
+  ActInClassGrid(state, [](GridWidget& widget, int step) {
+    PressKey(widget, step % 40 < 20 ? Qt::Key_Down : Qt::Key_Up);
+  });
+}
+BENCHMARK(KeyInClassGrid)->Unit(benchmark::kMillisecond)->UseRealTime();
+
+void KeyThatScrollsClassGrid(benchmark::State& state) {
+  ActInClassGrid(state, [](GridWidget& widget, int step) {
+    PressKey(widget, step % 1800 < 900 ? Qt::Key_Down : Qt::Key_Up);
+  });
+}
+BENCHMARK(KeyThatScrollsClassGrid)->Unit(benchmark::kMillisecond)->UseRealTime();
+
+void HoverOverClassGrid(benchmark::State& state) {
+  ActInClassGrid(state, [](GridWidget& widget, int step) {
+    const QPointF place(500 + step % 7 * 60, 120 + step % 30 * 20);
+    QMouseEvent move(QEvent::MouseMove, place, widget.viewport()->mapToGlobal(place), Qt::NoButton,
+                     Qt::NoButton, Qt::NoModifier);
+    QApplication::sendEvent(widget.viewport(), &move);
+  });
+}
+BENCHMARK(HoverOverClassGrid)->Unit(benchmark::kMillisecond)->UseRealTime();
+
+void RefillOfClassGrid(benchmark::State& state) {
+  GridOfClass open;
+  open.window.showform3();
+  GridWidget widget;
+  widget.SetGrid(&open.window.Grid1);
+  widget.resize(kWindow);
+  widget.show();
+  QApplication::processEvents();
+  int mark = 0;
+  for (auto _ : state) {
+    Current().Students[3].Marks[3] = ++mark % 2 == 0 ? "80" : "81";
+    open.window.showform3();
+    widget.UpdateFromGrid();
+    QApplication::processEvents();
+  }
+}
+BENCHMARK(RefillOfClassGrid)->Unit(benchmark::kMillisecond)->UseRealTime();
 
 }  // namespace
 }  // namespace tallyroll

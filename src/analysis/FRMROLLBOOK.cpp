@@ -4,8 +4,10 @@
 #include <algorithm>
 
 #include "analysis/grade_order.h"
+#include "analysis/grade_tip.h"
 #include "base/number_text.h"
 #include "base/text.h"
+#include "grades/mark_notes.h"
 #include "grades/marks.h"
 #include "store/program_state.h"
 
@@ -33,6 +35,25 @@ FRMROLLBOOK::FRMROLLBOOK() : Portal("FRMROLLBOOK") {
   mnudate.Caption = "By &Date";
   mnutype.Caption = "By &Type";
   mnunone.Caption = "&No Sort";
+  Grid1.Notes.Of = [this](int row, int col) { return NoteOf(row, col); };
+  Grid1.Notes.Tip = [this](int row, int col) {
+    return row == 0 && col >= kFixed ? TipOfGrade(GradeIn(col)) : std::string();
+  };
+}
+
+int FRMROLLBOOK::GradeIn(int col) const {
+  return grades_[static_cast<std::size_t>(col - kFixed)];
+}
+
+// What is red here is the roll book's own rule, which its styles tell; an absence keeps the usual
+// colour.
+CellNote FRMROLLBOOK::NoteOf(int row, int col) const {
+  if (row < 1 || col < kFixed) return {};
+  const Instrument& grade = Current().Instruments[static_cast<std::size_t>(GradeIn(col))];
+  const CellNote note = NoteOfMark(Grid1.TextMatrix(row, col), BoundsOf(grade));
+  const bool fails = Grid1.Style(row, col) == CellStyle::kFailing;
+  if (note.mark == CellMark::kAlarm || note.mark == CellMark::kAbove) return note;
+  return {CellMark::kNone, fails ? "failing" : note.mark == CellMark::kFailing ? "" : note.words};
 }
 
 void FRMROLLBOOK::Declare(ControlTable& table) {
@@ -66,11 +87,11 @@ void FRMROLLBOOK::Show(i16 mode) {
 
 void FRMROLLBOOK::Fill() {
   const Class& c = Current();
-  std::vector<int> grades = GradesAsTheyStand();
-  if (mnudate.Value) SortByDate(grades);
-  if (mnutype.Value) SortByType(grades);
+  grades_ = GradesAsTheyStand();
+  if (mnudate.Value) SortByDate(grades_);
+  if (mnutype.Value) SortByType(grades_);
   Grid1.SetRedraw(false);
-  Grid1.SetSize(c.NumStudents + 1, static_cast<int>(grades.size()) + kFixed);
+  Grid1.SetSize(c.NumStudents + 1, static_cast<int>(grades_.size()) + kFixed);
   Grid1.FixedRows = 1;
   Grid1.FixedCols = kFixed;
   Grid1.Row = std::clamp(Grid1.Row, std::min(1, Grid1.Rows() - 1), Grid1.Rows() - 1);
@@ -79,8 +100,8 @@ void FRMROLLBOOK::Fill() {
   LayOutStudentColumns(Grid1, roster.mode);
   for (int i = 1; i <= c.NumStudents; ++i)
     FillStudentCells(Grid1, i, roster.mode, i, c.Students[static_cast<std::size_t>(i)]);
-  for (std::size_t k = 0; k < grades.size(); ++k)
-    FillGrade(static_cast<int>(k) + kFixed, grades[k]);
+  for (std::size_t k = 0; k < grades_.size(); ++k)
+    FillGrade(static_cast<int>(k) + kFixed, grades_[k]);
   Grid1.SetRedraw(true);
 }
 

@@ -2,6 +2,8 @@
 // FRMROLLBOOK: the View Roll Book Portal. It shows every mark of the class and changes none.
 #pragma once
 
+#include <vector>
+
 #include "analysis/student_columns.h"
 
 namespace tallyroll {
@@ -21,6 +23,10 @@ struct FRMROLLBOOK : Portal {
   void Show(i16 mode);
   void Fill();
   void FillGrade(int col, int grade);
+  int GradeIn(int col) const;
+  CellNote NoteOf(int row, int col) const;
+
+  std::vector<int> grades_;  // as their columns stand
 };
 
 // Whether a mark is shown as failing: "NON" and "CUT" are, and a number below the lowest passing

@@ -21,7 +21,7 @@ struct ChartFrame {
 // A place of the picture that tells something: a point of a set, or a dot.
 struct ChartSpot {
   std::vector<PrintPoint> outline;
-  int set = 0;
+  int set = 0;  // behind the last set stands the thin line
   int point = 0;
   int dot = -1;  // -1: it is a point
 };

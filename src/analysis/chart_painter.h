@@ -38,26 +38,33 @@ class ChartPainter {
   // The text, or its beginning with three points where it is too wide.
   std::string Fitted(std::string_view text, double size, double room);
 
+  // A text that would leave the frame or lie over another one is not written: in the smallest
+  // frames only some find room.
   void Text(std::string_view text, double x, double y, double size);
   void TextUpwards(std::string_view text, double x, double y, double size);
+  // Lines and areas end at the frame.
   void Line(PrintPoint from, PrintPoint to, double width, PrintColor color);
   void Fill(const std::vector<PrintPoint>& corners, PrintColor color);
 
-  // Takes the title's line off the rest.
+  // Takes the title's line off the rest, where that leaves the points their room.
   void DrawTitle();
-  // Rows of entries at the foot, taken off the rest.
+  // Rows of entries at the foot, taken off the rest in the same way.
   void DrawLegendBelow(const std::vector<LegendEntry>& entries);
   void DrawEntry(const LegendEntry& entry, double x, double y, double room);
 
-  void AddSpot(ChartSpot spot) { spots_.push_back(std::move(spot)); }
+  void AddSpot(ChartSpot spot);
   std::vector<ChartSpot> TakeSpots() { return std::move(spots_); }
 
  private:
+  // Whether the place is free and within the frame; then it is taken.
+  bool TakePlace(double left, double top, double right, double bottom);
+
   const Chart& chart_;
   PrintTarget& target_;
   const ChartColors& colors_;
-  ChartFrame rest_;
+  ChartFrame frame_, rest_;
   double size_, gap_;
+  std::vector<ChartFrame> texts_;  // where they stand
   std::vector<ChartSpot> spots_;
 
   // The target's own, given back at the end.

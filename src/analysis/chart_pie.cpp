@@ -50,8 +50,9 @@ void DrawLegend(ChartPainter& painter) {
   const double width = std::min(wanted, rest.width * kLegendShare);
   const auto rows = static_cast<double>(chart.legend.size());
   const double step = std::min(line * 1.2, rest.height / std::max(rows, 1.0));
+  if (step < line || rest.width * kLegendShare < 2 * line) return;  // no room in which a word could be read
   double y = rest.top + std::max((rest.height - rows * step) / 2, 0.0);
-  for (std::size_t i = 0; i < chart.legend.size() && step >= line; ++i, y += step)
+  for (std::size_t i = 0; i < chart.legend.size(); ++i, y += step)
     painter.DrawEntry({chart.legend[i], painter.colors().slices[i % kChartSlices]},
                       rest.left + rest.width - width, y, width);
   rest.width -= width + painter.gap();
@@ -86,8 +87,10 @@ void DrawPie(ChartPainter& painter) {
   if (whole <= 0) return;
   const ChartFrame& rest = painter.rest();
   const double line = painter.LineHeight(painter.size());
-  const double radius =
-      std::max(std::min(rest.width, rest.height) / 2 - 1.2 * line, 1.0) / (1 + kApart);
+  const double half = std::min(rest.width, rest.height) / 2;
+  // In a small frame the slices go to the edge, and those at it find no room for their values.
+  const double around = 1.2 * line > half / 2 ? 0 : 1.2 * line;
+  const double radius = (half - around) / (1 + kApart);
   const PrintPoint centre{rest.left + rest.width / 2, rest.top + rest.height / 2};
   std::vector<Box> taken;
   double from = 0;

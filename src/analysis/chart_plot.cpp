@@ -14,11 +14,17 @@ constexpr double kSmallestLabel = 6;
 constexpr double kBarsShare = 0.8;  // of a slot
 constexpr double kGridWidth = 5, kThinWidth = 15, kLineWidth = 30;
 constexpr double kMarkRadius = 45;
-constexpr double kDotsShare = 0.15;  // of the height
+constexpr double kLeastSlot = 1;      // twips, below which no label can be meant
+constexpr double kMostAround = 0.15;  // of the height, for what stands above or below the points
+constexpr double kLeastShare = 0.1;   // of the height, that the points keep
+constexpr double kDotsShare = 0.15;   // of the height
+constexpr double kMostForAxis = 0.4;  // of the width, for the texts of the axis
+constexpr double kThinReach = 60;     // from the thin line to where the pointer finds its points
 
 // How the labels stand below the points. They get smaller before they turn, and turn before some
 // are left out.
 struct LabelPlan {
+  bool shown = true;  // in the smallest frames the points need the room
   double size = 0;
   bool upwards = false;
   std::size_t every = 1;
@@ -28,7 +34,8 @@ struct LabelPlan {
 LabelPlan PlanLabels(ChartPainter& painter, double slot) {
   const std::vector<std::string>& labels = painter.chart().labels;
   const double most_height = painter.rest().height / 4;
-  LabelPlan plan{painter.size(), false, 1, 0};
+  LabelPlan plan{.size = painter.size()};
+  if (painter.LineHeight(plan.size) > most_height || slot < kLeastSlot) return {.shown = false};
   // Text is as wide as its font is large.
   const double widest_of_a_point = painter.Widest(labels, plan.size) / plan.size;
   const double fitting = (slot - painter.gap()) / std::max(widest_of_a_point, 1.0);
@@ -68,6 +75,7 @@ class PlotPainter {
     DrawLabels();
     DrawValues();
     AddPointSpots();
+    AddThinSpots();
     DrawDots(p_, dots_, slot_);
   }
 
@@ -123,7 +131,11 @@ class PlotPainter {
   void LayOut() {
     FindAxis();
     plot_ = p_.rest();
-    const double axis_width = p_.Widest(axis_texts_, p_.size()) + p_.gap();
+    double axis_width = p_.Widest(axis_texts_, p_.size()) + p_.gap();
+    if (axis_width > plot_.width * kMostForAxis) {
+      axis_texts_.clear();
+      axis_width = 0;
+    }
     plot_.left += axis_width;
     plot_.width = std::max(plot_.width - axis_width, 1.0);
     slot_ = plot_.width / static_cast<double>(Count());
@@ -133,14 +145,18 @@ class PlotPainter {
     if (!chart_.dots.empty()) {
       dots_ = plot_;
       dots_.height = plot_.height * kDotsShare;
-      plot_.top += dots_.height + p_.gap();
-      plot_.height -= dots_.height + p_.gap();
+      const double taken = dots_.height + std::min(p_.gap(), dots_.height / 2);
+      plot_.top += taken;
+      plot_.height -= taken;
     }
+    const double least = plot_.height * kLeastShare, most = plot_.height * kMostAround;
     const double value_room = line + (chart_.kind == ChartKind::kLine ? kMarkRadius : 0);
-    const double above = values_fit_ ? value_room : line / 2;
-    const double below = (values_fit_ && axis_.bottom < 0 ? value_room : 0) + p_.gap();
+    if (value_room > most) values_fit_ = false;
+    const double above = values_fit_ ? value_room : std::min(line / 2, most);
+    const double below =
+        (values_fit_ && axis_.bottom < 0 ? value_room : 0) + std::min(p_.gap(), most / 2);
     label_top_ = plot_.top + plot_.height - labels_.height - (labels_.every > 1 ? line : 0);
-    plot_.height = std::max(label_top_ - below - plot_.top - above, 1.0);
+    plot_.height = std::max(label_top_ - below - plot_.top - above, least);
     plot_.top += above;
   }
 
@@ -209,6 +225,7 @@ class PlotPainter {
   }
 
   void DrawLabels() {
+    if (!labels_.shown) return;
     for (std::size_t i = 0; i < Count() && i < chart_.labels.size(); i += labels_.every) {
       const double room = labels_.upwards ? labels_.height : slot_;
       const std::string label = p_.Fitted(chart_.labels[i], labels_.size, room);
@@ -256,6 +273,16 @@ class PlotPainter {
         spot.outline = Rectangle(x, plot_.top, x + part, plot_.top + plot_.height);
         p_.AddSpot(std::move(spot));
       }
+    }
+  }
+
+  // Above those of the points: the line is thin, and what it crosses is wide.
+  void AddThinSpots() {
+    for (std::size_t i = 0; i < chart_.thin_line.size() && i < Count(); ++i) {
+      if (std::isnan(chart_.thin_line[i])) continue;
+      const double y = Height(chart_.thin_line[i]), reach = slot_ / 2;
+      p_.AddSpot({Rectangle(Middle(i) - reach, y - kThinReach, Middle(i) + reach, y + kThinReach),
+                  static_cast<int>(chart_.sets.size()), static_cast<int>(i), -1});
     }
   }
 

@@ -85,8 +85,10 @@ std::string Percent(const ComparedFigures& figures, int value) {
 }  // namespace
 
 bool StillThere(const ComparedGrade& compared) {
-  return IsOpen(compared.slot) && compared.grade >= 1 &&
-         compared.grade <= GradeCount(Classes[static_cast<std::size_t>(compared.slot)]);
+  if (!IsOpen(compared.slot)) return false;
+  const Class& c = Classes[static_cast<std::size_t>(compared.slot)];
+  return c.FileName == compared.file && compared.grade >= 1 && compared.grade <= GradeCount(c) &&
+         TrimRight(GradeOf(compared).title) == compared.title;
 }
 
 ComparedFigures FiguresOf(const ComparedGrade& compared) {

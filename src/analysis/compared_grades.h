@@ -15,6 +15,8 @@ struct ComparedGrade {
   int slot = 0;
   int grade = 0;
   std::string name;  // of the class
+  // What stood there when it was chosen: the slot's file and the grade's title.
+  std::string file = {}, title = {};
 };
 
 struct ComparedFigures {
@@ -26,7 +28,7 @@ struct ComparedFigures {
   std::optional<double> deviation;
 };
 
-// The class is still open and has the grade.
+// The class is still open in its slot, and the grade stands where it stood.
 bool StillThere(const ComparedGrade& compared);
 
 ComparedFigures FiguresOf(const ComparedGrade& compared);

@@ -114,9 +114,9 @@ void frmcompare::continue1_Click() {
     labelclass[i].Visible = Combo1[i].Visible = i < slots.size();
     Combo1[i].List.clear();
     if (i >= slots.size()) continue;
-    compared_.push_back({slots[i], 0, names[i]});
-    labelclass[i].Caption = WithoutMnemonic(names[i]);
     const Class& c = Classes[static_cast<std::size_t>(slots[i])];
+    compared_.push_back({slots[i], 0, names[i], c.FileName, {}});
+    labelclass[i].Caption = WithoutMnemonic(names[i]);
     for (int grade = 1; grade <= GradeCount(c); ++grade)
       Combo1[i].List.emplace_back(TrimRight(c.Instruments[static_cast<std::size_t>(grade)].title));
     Combo1[i].ListIndex = -1;
@@ -127,11 +127,14 @@ void frmcompare::continue1_Click() {
 }
 
 void frmcompare::continue2_Click() {
-  for (std::size_t i = 0; i < compared_.size(); ++i) compared_[i].grade = Combo1[i].ListIndex + 1;
   for (std::size_t i = 0; i < compared_.size(); ++i) {
-    if (compared_[i].grade >= 1) continue;
-    ShowMessage("You must choose a Testing Instrument");
-    return SetFocus(Combo1[i]);
+    const int line = Combo1[i].ListIndex;
+    if (line < 0) {
+      ShowMessage("You must choose a Testing Instrument");
+      return SetFocus(Combo1[i]);
+    }
+    compared_[i].grade = line + 1;
+    compared_[i].title = Combo1[i].List[static_cast<std::size_t>(line)];
   }
   if (!AllThere()) return;
   ShowPanels();

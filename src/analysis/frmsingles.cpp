@@ -7,10 +7,11 @@
 #include <utility>
 
 #include "analysis/grade_order.h"
+#include "analysis/grade_tip.h"
 #include "base/number_text.h"
 #include "base/run_time_error.h"
 #include "base/text.h"
-#include "grades/grade_types.h"
+#include "grades/mark_notes.h"
 #include "grades/marks.h"
 #include "store/program_state.h"
 
@@ -30,15 +31,6 @@ Currency ValueForRank(std::string_view mark) {
   }
 }
 
-std::string TypeName(const std::string& typecode) {
-  TypeCodes codes;
-  TypeTexts names;
-  MakeTypeCodes(codes);
-  MakeTypeNames(names);
-  const TypeSet types = TypesByCode(codes).Of(typecode);
-  return types.empty() ? std::string() : std::string(Trim(names[*types.begin()]));
-}
-
 }  // namespace
 
 frmsingles::frmsingles() : Portal("frmsingles") {
@@ -51,6 +43,14 @@ frmsingles::frmsingles() : Portal("frmsingles") {
   mnuheighest.Caption = "Rank - &Highest to Lowest";
   mnulowest.Caption = "Rank - &Lowest to Highest";
   mnunone.Caption = "&No Sort";
+  grid1.Notes.Of = [this](int row, int col) {
+    if (row < 1 || col != kMark || grade_ == 0) return CellNote();
+    const Instrument& grade = Current().Instruments[static_cast<std::size_t>(grade_)];
+    return NoteOfMark(grid1.TextMatrix(row, col), BoundsOf(grade));
+  };
+  grid1.Notes.Tip = [this](int row, int col) {
+    return row == 0 && col == kMark && grade_ > 0 ? TipOfGrade(grade_) : std::string();
+  };
 }
 
 void frmsingles::Declare(ControlTable& table) {
@@ -109,7 +109,7 @@ void frmsingles::FillBoxes() {
   const Instrument& grade = Current().Instruments[static_cast<std::size_t>(grade_)];
   title.Caption = Trim(grade.title);
   code.Caption = Trim(grade.code);
-  typecat.Caption = TypeName(grade.typecode);
+  typecat.Caption = TypeNameOf(grade.typecode);
   testdate.Caption = Trim(grade.testdate);
 }
 

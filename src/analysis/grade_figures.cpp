@@ -13,8 +13,6 @@
 namespace tallyroll {
 namespace {
 
-constexpr double kUsualPassingPercent = 65;
-
 const Instrument& GradeAt(int grade) {
   return Current().Instruments[static_cast<std::size_t>(grade)];
 }
@@ -82,11 +80,6 @@ double Between(const std::vector<Currency>& sorted, double share) {
 
 bool IsAbsence(std::string_view mark) {
   return KindOfMark(TrimRight(mark)) != MarkKind::kGraded;
-}
-
-std::string PassingGrade(const Instrument& grade) {
-  std::string lowpass(Trim(grade.lowpass));
-  return lowpass.empty() ? PlainNumberText(grade.mvalue * kUsualPassingPercent / 100) : lowpass;
 }
 
 GradeHead HeadOfGrade(const Instrument& grade) {

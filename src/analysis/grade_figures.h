@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "base/currency.h"
+#include "grades/mark_notes.h"
 #include "store/records.h"
 
 namespace tallyroll {
@@ -16,9 +17,6 @@ namespace tallyroll {
 // "NON", "CUT", "EXC", "NEW" and "ABS" are students who were not present; every other text of a
 // mark is a grade, an empty one too.
 bool IsAbsence(std::string_view mark);
-
-// The lowest passing score as text: that of the grade, or 65 percent of its maximum.
-std::string PassingGrade(const Instrument& grade);
 
 struct GradeHead {
   std::string title;

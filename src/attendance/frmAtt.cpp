@@ -53,6 +53,7 @@ frmAtt::frmAtt() : Portal("frmAtt") {
                  "L - Late",
                  "Delete Entry (Backspace)"};
   Combo1.Over = &Grid1;
+  Grid1.Notes = NotesOfMonth(Grid1, month, [this] { return FirstOf(MonthOf(attdate)); });
   Combo1.Visible = false;
 }
 
@@ -205,10 +206,7 @@ void frmAtt::mnuPrint_Click() {
     StoreMonth(Grid1, month);
     Store();
   }
-  if (PrintMonth)
-    PrintMonth(FirstOf(MonthOf(attdate)));
-  else
-    ClassWindow().ShowStatus(kPortalNotAvailable);
+  if (PrintMonth) PrintMonth(FirstOf(MonthOf(attdate)));
 }
 
 void frmAtt::mnucancel_Click() {

@@ -3,6 +3,8 @@
 // student, and below the totals of each day.
 #pragma once
 
+#include <functional>
+
 #include "platform/grid.h"
 
 namespace tallyroll {
@@ -21,6 +23,10 @@ void BuildMonthGrid(Grid& grid, const MonthWindow& month);
 void FillMonthGrid(Grid& grid, const MonthWindow& month);
 // The marks of the month go back into the term table.
 void StoreMonth(const Grid& grid, const MonthWindow& month);
+
+// What the month tells beside its texts; the grid and the month must outlive it. `first` gives the
+// day serial of the first of the month.
+GridNotes NotesOfMonth(const Grid& grid, const MonthWindow& month, std::function<double()> first);
 
 // A student's day, where a mark can stand.
 bool IsDayCell(const Grid& grid, int row, int col);

@@ -14,6 +14,7 @@ constexpr std::size_t kLastMinimum = 12;
 constexpr Currency kHalf = Currency::FromScaled(5000);
 constexpr Currency kSmallest = Currency::FromScaled(1);
 constexpr Currency kLowAverage = Currency::FromScaled(40'0000);
+constexpr float kLargestMinimum = 9e14f;  // that Currency holds
 
 double TowardMinusInfinity(Currency value) {
   constexpr std::int64_t kUnit = 10000;
@@ -31,29 +32,62 @@ Currency ToTwoDecimals(Currency average) {
 // A minimum is read to the four decimals of an average, so that 92.3 is reached by 92.3, which no
 // Single holds exactly. One beyond Currency, from a damaged file, is compared as it is.
 bool Reaches(Currency value, float minimum) {
-  constexpr float kLargest = 9e14f;
-  if (!(std::abs(minimum) < kLargest)) return value.ToDouble() >= double{minimum};
+  if (!(std::abs(minimum) < kLargestMinimum)) return value.ToDouble() >= double{minimum};
   return value >= Currency::FromDouble(double{minimum});
 }
 
+void TellMinimum(AverageListener& listener, StepRule rule, Currency value, std::size_t row,
+                 float minimum) {
+  const bool shown = std::abs(minimum) < kLargestMinimum;
+  listener.Take({.rule = rule,
+                 .weight = shown ? Currency::FromDouble(double{minimum}) : Currency(),
+                 .before = value,
+                 .row = row});
+}
+
 // The rows are tried from the top; nothing asks that the minimums fall.
-std::size_t FirstRowReached(Currency value) {
+std::size_t FirstRowReached(Currency value, AverageListener* listener) {
   const Class& c = Current();
   const bool known = c.RoundScale >= 0 && static_cast<std::size_t>(c.RoundScale) < 5;
   const auto& scale = c.RoundTable[known ? static_cast<std::size_t>(c.RoundScale) : 0];
   std::size_t row = 0;
-  while (row <= kLastMinimum && !Reaches(value, scale[row])) ++row;
+  while (row <= kLastMinimum && !Reaches(value, scale[row])) {
+    if (listener) TellMinimum(*listener, StepRule::kMinimumMissed, value, row, scale[row]);
+    ++row;
+  }
+  if (listener && row <= kLastMinimum)
+    TellMinimum(*listener, StepRule::kMinimumReached, value, row, scale[row]);
+  if (listener && row > kLastMinimum)
+    listener->Take({.rule = StepRule::kNoMinimum, .before = value, .row = row});
   return row;
 }
 
-FinalGrade GradeOf(Currency average, i16 whole) {
+// The whole number plays no part where a table of minimums decides.
+void TellRounding(AverageListener& listener, Currency average, i16 whole) {
+  listener.Take({.rule = StepRule::kTwoDecimals, .before = ExactAverage, .after = average});
+  if (average > kLowAverage && Current().RoundMode != kSkipRounding) return;
+  listener.Take(
+      {.rule = StepRule::kWholeNumber, .before = average, .after = Currency::FromWhole(whole)});
+}
+
+FinalGrade GradeOf(Currency average, i16 whole, AverageListener* listener) {
   if (average <= kLowAverage) {
+    if (listener)
+      listener->Take({.rule = StepRule::kLowAverage,
+                      .before = average,
+                      .after = Currency::FromWhole(whole),
+                      .row = kLowAverageLabel});
     const ShortText number = SignedNumberText(whole);
     return {number, number, kLowAverageLabel};
   }
   const bool skip = Current().RoundMode == kSkipRounding;
-  const std::size_t row = FirstRowReached(skip ? Currency::FromWhole(whole) : average);
+  const std::size_t row = FirstRowReached(skip ? Currency::FromWhole(whole) : average, listener);
   const int value = skip ? whole : FinalValues[row];
+  if (listener)
+    listener->Take({.rule = StepRule::kFinalGrade,
+                    .before = average,
+                    .after = Currency::FromWhole(value),
+                    .row = row});
   return {PlainNumberText(value), SignedNumberText(value), row};
 }
 
@@ -64,7 +98,7 @@ std::string FinalGrade::Text() const {
   return number.str().append(between).append(FinalLabels[label]);
 }
 
-AverageError RoundedGrade(FinalGrade& grade) {
+AverageError RoundedGrade(FinalGrade& grade, AverageListener* listener) {
   Class& c = Current();
   try {
     if (CurrentStudent < 1 || CurrentStudent > UpperBound(c.Students)) {
@@ -72,7 +106,9 @@ AverageError RoundedGrade(FinalGrade& grade) {
     }
     const Currency average = ToTwoDecimals(ExactAverage);
     // The smallest addition makes every .50 go up.
-    grade = GradeOf(average, (average + kSmallest).ToWhole16());
+    const i16 whole = (average + kSmallest).ToWhole16();
+    if (listener) TellRounding(*listener, average, whole);
+    grade = GradeOf(average, whole, listener);
     ExactAverage = average;
   } catch (const RunTimeError& fault) {
     return {fault.number, CurrentStudent, 0};
@@ -82,14 +118,14 @@ AverageError RoundedGrade(FinalGrade& grade) {
   return {};
 }
 
-AverageError AverageStudent(StudentAverage& student) {
+AverageError AverageStudent(StudentAverage& student, AverageListener* listener) {
   const TypeSums type_weights = Current().TypeWeights;
   const Currency before = ExactAverage;
   student = StudentAverage();
-  AverageError error = ComputeAverage(student.points, student.totals);
+  AverageError error = ComputeAverage(student.points, student.totals, listener);
   if (error) return error;
   student.computed = ExactAverage;
-  error = RoundedGrade(student.grade);
+  error = RoundedGrade(student.grade, listener);
   student.exact = ExactAverage;
   if (!error) return error;
   student = StudentAverage();

@@ -34,7 +34,7 @@ struct FinalGrade {
 
 // Rounds ExactAverage to two decimals in place, gives the final grade by the rounding scale in
 // force, and writes Marks[0] of CurrentStudent. An average beyond 16 bits changes nothing.
-AverageError RoundedGrade(FinalGrade& grade);
+AverageError RoundedGrade(FinalGrade& grade, AverageListener* listener = nullptr);
 
 // All that an average gives for one student.
 struct StudentAverage {
@@ -47,6 +47,6 @@ struct StudentAverage {
 
 // Averages CurrentStudent by the class's method and rounds. An error changes nothing, not even one
 // that is met only in rounding.
-AverageError AverageStudent(StudentAverage& student);
+AverageError AverageStudent(StudentAverage& student, AverageListener* listener = nullptr);
 
 }  // namespace tallyroll

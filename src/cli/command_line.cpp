@@ -35,7 +35,7 @@ int RunChosen(const ChosenCommand& chosen, std::istream& in, std::ostream& out, 
   if (!result.note.empty()) WriteReason(result.note, err);
   const bool whole = !result.stream || result.stream(out, err);
   out << result.text << std::flush;
-  if (out) return whole ? 0 : kRefused;
+  if (out) return whole && !result.failed ? 0 : kRefused;
   WriteReason("standard output: cannot be written", err);
   return kRefused;
 }
@@ -60,9 +60,14 @@ int RunCommandLine(int argc, const char* const* argv, std::istream& in, std::ost
   AddImportCommand(app, chosen);
   AddExportCommand(app, chosen);
   AddSeatingCommand(app, chosen);
+  AddExplainCommand(app, chosen);
+  AddUnusualCommand(app, chosen);
+  AddHistoryCommand(app, chosen);
   AddRowsCommand(app, chosen);
+  AddExchangeCommand(app, chosen);
   AddLettersCommand(app, chosen);
   AddLabelsCommand(app, chosen);
+  AddMailCommand(app, chosen);
   std::string reason;
   const ParsedLine parsed = parser.Parse(argc, argv, out, reason);
   if (parsed == ParsedLine::kWrong) return RefuseCommandLine(reason, err);

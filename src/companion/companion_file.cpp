@@ -6,6 +6,7 @@
 
 #include "base/number_text.h"
 #include "companion/class_mark.h"
+#include "companion/mail_journal_layout.h"
 
 namespace tallyroll {
 namespace {
@@ -17,6 +18,14 @@ constexpr const char* kSteps[] = {
     " student TEXT NOT NULL, other TEXT NOT NULL)",
     // By what the class is known: one row, or none in a companion of the first layout.
     "CREATE TABLE known_class (file TEXT NOT NULL, students TEXT NOT NULL)",
+    // The identifiers of other school systems.
+    "CREATE TABLE foreign_id (system TEXT NOT NULL, kind TEXT NOT NULL, own TEXT NOT NULL,"
+    " foreign_id TEXT NOT NULL, PRIMARY KEY (system, kind, own))",
+    // What changed from save to save, and whether the class may keep it in spite of its password.
+    "CREATE TABLE change (number INTEGER PRIMARY KEY, time TEXT NOT NULL, student TEXT NOT NULL,"
+    " name TEXT NOT NULL, grade TEXT NOT NULL, code TEXT NOT NULL, field TEXT NOT NULL,"
+    " old TEXT NOT NULL, new TEXT NOT NULL); CREATE TABLE history_agreed (agreed INTEGER NOT NULL)",
+    kMailJournalTable,
 };
 constexpr auto kLayout = static_cast<std::int64_t>(std::size(kSteps));
 

@@ -7,6 +7,7 @@
 #include <memory>
 
 #include "desktop/basics/palette_icon.h"
+#include "desktop/platform/post.h"
 #include "desktop/platform/qt_socket.h"
 #include "desktop/platform/qt_surroundings.h"
 #include "desktop/portal/wheel_guard.h"
@@ -29,6 +30,7 @@ int RunProgram(QApplication& application, bool dark, const std::string& file) {
   QtSurroundings surroundings;
   SetPlatform(&surroundings);
   MakeSocket = MakeQtSocket;
+  PreparePost();
   FrameForm = std::make_unique<MDIForm1>();
   int result = 0;
   {

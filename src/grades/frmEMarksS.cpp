@@ -2,6 +2,7 @@
 #include "grades/frmEMarksS.h"
 
 #include "base/text.h"
+#include "grades/mark_notes.h"
 #include "grades/marks.h"
 #include "grades/student_grid.h"
 #include "platform/surroundings.h"
@@ -44,6 +45,11 @@ frmEMarksS::frmEMarksS()
   HelpContext = 320;
   Exitt.Caption = "E&xit";
   cancel.Caption = "&Cancel";
+  grdgrade.Notes.Of = [this](int row, int col) {
+    if (row < 1 || col != kMarkColumn) return CellNote();
+    const Instrument& grade = Current().Instruments[static_cast<std::size_t>(row)];
+    return NoteOfMark(grdgrade.TextMatrix(row, col), BoundsOf(grade));
+  };
 }
 
 void frmEMarksS::Declare(ControlTable& table) {

@@ -4,6 +4,7 @@
 #include <array>
 
 #include "base/text.h"
+#include "grades/mark_notes.h"
 #include "grades/marks.h"
 #include "platform/class_window.h"
 #include "store/class_format.h"
@@ -63,6 +64,10 @@ frmMgrade::frmMgrade() : Portal("frmMgrade") {
   mnuprevious.Caption = "&Previous";
   mnunextt.Caption = "&Next";
   mnuexit.Caption = "E&xit";
+  grdgrade.Notes.Of = [this](int row, int col) {
+    return row < 1 || col + 1 < grdgrade.Cols() ? CellNote()
+                                                : NoteOfMark(grdgrade.TextMatrix(row, col), {});
+  };
 }
 
 void frmMgrade::Declare(ControlTable& table) {

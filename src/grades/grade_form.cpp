@@ -32,6 +32,9 @@ GradeForm::GradeForm(std::string_view name)
     : Portal(name), marks(*this, Grid1, kMarkColumn, [this] { MarksChanged(); }) {
   title.MaxLength = mvalue.MaxLength = lowpass.MaxLength = kLongestText;
   code.MaxLength = kLongestGradeCode;
+  Grid1.Notes.Of = [this](int row, int col) {
+    return row < 1 || col != kMarkColumn ? CellNote() : NoteOfMark(MarkCell(row), Bounds());
+  };
 }
 
 void GradeForm::DeclareHeader(ControlTable& table, std::string_view title_name) {
@@ -61,11 +64,17 @@ void GradeForm::DeclareHeader(ControlTable& table, std::string_view title_name) 
       })
       .KeyDown(on_return_to(lowpass));
   table.Add("lowpass", lowpass)
-      .Change([this] { HeaderChanged(); })
+      .Change([this] {
+        Grid1.NotesChanged();
+        HeaderChanged();
+      })
       .GotFocus([this] { SelectAll(lowpass); })
       .KeyDown(on_return_to(ttypelist));
   table.Add("ttypelist", ttypelist)
-      .Change([this] { HeaderChanged(); })
+      .Change([this] {
+        Grid1.NotesChanged();
+        HeaderChanged();
+      })
       .KeyDown(on_return_to(Grid1));
 }
 
@@ -77,6 +86,7 @@ bool GradeForm::mvalue_KeyPress(unsigned char key) {
 
 void GradeForm::mvalue_Change() {
   lowpass.Text = PlainNumberText(LeadingNumber(mvalue.Text) * kUsualPassOf100 / 100);
+  Grid1.NotesChanged();
   HeaderChanged();
 }
 
@@ -182,6 +192,11 @@ std::size_t GradeForm::TypeOfCode(std::string_view typecode) const {
 std::string GradeForm::ChosenTypecode() const {
   const bool none = Blank(ttypelist.Text);
   return std::string(Left(none ? DefaultTypeLabel(kNoType) : ttypelist.Text, 2));
+}
+
+MarkBounds GradeForm::Bounds() const {
+  const bool extra = Trim(ChosenTypecode()) == kExtraCreditCode;
+  return BoundsOf(extra ? "0" : lowpass.Text, mvalue.Text);
 }
 
 std::string GradeForm::DateTextOfPicker() const {

@@ -7,6 +7,7 @@
 #include <string>
 
 #include "grades/mark_entry.h"
+#include "grades/mark_notes.h"
 #include "store/records.h"
 
 namespace tallyroll {
@@ -48,6 +49,7 @@ struct GradeForm : Portal {
   // The first two characters of the chosen label; those of the no-type entry when none is chosen.
   std::string ChosenTypecode() const;
   std::string DateTextOfPicker() const;
+  MarkBounds Bounds() const;  // of what is typed
 
   bool DatePicked = false;  // by the teacher, since the header was filled
 

@@ -6,8 +6,6 @@
 
 namespace tallyroll {
 
-inline constexpr std::string_view kPortalNotAvailable = "This portal is not available yet.";
-
 class ClassWindowCalls {
  public:
   virtual ~ClassWindowCalls() = default;

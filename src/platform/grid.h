@@ -10,6 +10,7 @@
 
 #include "base/short_text.h"
 #include "platform/controls.h"
+#include "platform/grid_notes.h"
 
 namespace tallyroll {
 
@@ -65,6 +66,9 @@ class Grid : public Control {
   int MouseCol = -1;
   // A second, smaller line of a cell, where the screen shows cells as cards; may be null.
   std::function<std::string(int row, int col)> SmallLine;
+  GridNotes Notes;
+  // What the notes are made from has changed, and no text with it.
+  void NotesChanged() { Touch(); }
 
  private:
   struct Column {

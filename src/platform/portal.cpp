@@ -4,7 +4,6 @@
 #include <utility>
 
 #include "platform/chart.h"
-#include "platform/class_window.h"
 #include "platform/rich_text_box.h"
 #include "platform/surroundings.h"
 
@@ -39,10 +38,7 @@ const Control* Portal::TakeFocusRequest() {
 void ShowPortal(std::string_view name) {
   for (std::string next(name); !next.empty();) {
     const std::unique_ptr<Portal> portal = MakePortal ? MakePortal(next) : nullptr;
-    if (!portal) {
-      ClassWindow().ShowStatus(kPortalNotAvailable);
-      return;
-    }
+    if (!portal) return;
     portal->Load();
     if (!portal->Unloaded()) Platform().ShowModal(*portal);
     next = portal->Next();

@@ -14,10 +14,10 @@
 
 namespace tallyroll {
 
-using ControlPointer = std::variant<Label*, TextBox*, CommandButton*, CheckBox*, OptionButton*,
-                                    ListBox*, ComboBox*, struct Frame*, Pages*, TabStrip*,
-                                    DTPicker*, PictureBox*, ProgressBar*, Grid*, struct Graph*,
-                                    struct RichTextBox*>;
+using ControlPointer =
+    std::variant<Label*, TextBox*, CommandButton*, CheckBox*, OptionButton*, ListBox*, ComboBox*,
+                 struct Frame*, Pages*, TabStrip*, DTPicker*, PictureBox*, ProgressBar*, Grid*,
+                 struct Graph*, struct RichTextBox*>;
 
 // Keys that a Portal asks for by name; characters come by KeyPress.
 enum class Key {

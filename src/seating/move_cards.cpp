@@ -20,7 +20,7 @@ std::string Place(Seat seat) {
 }  // namespace
 
 std::string frmseating::CardLine(int row, int col) const {
-  const int student = StudentOfLabel(Current(), plan_.At({row, col}));
+  const int student = sitting_[static_cast<std::size_t>(col * plan_.rows + row)];
   return student == 0 ? "" : CardDetails(student, details.Value);
 }
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "seating/seating_chart.h"
 
+#include <map>
 #include <utility>
 
 #include "base/text.h"
@@ -69,6 +70,18 @@ int StudentOfLabel(const Class& c, std::string_view label) {
   for (int i = 1; i <= c.NumStudents; ++i)
     if (SeatLabel(c.Students[static_cast<std::size_t>(i)]) == label) return i;
   return 0;
+}
+
+std::vector<int> StudentsOfLabels(const Class& c, const std::vector<std::string>& labels) {
+  std::map<std::string, int, std::less<>> first;
+  for (int i = 1; i <= c.NumStudents; ++i)
+    first.emplace(SeatLabel(c.Students[static_cast<std::size_t>(i)]), i);
+  std::vector<int> students;
+  for (const std::string& label : labels) {
+    const auto found = label.empty() ? first.end() : first.find(label);
+    students.push_back(found == first.end() ? 0 : found->second);
+  }
+  return students;
 }
 
 }  // namespace tallyroll

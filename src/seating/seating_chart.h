@@ -66,5 +66,7 @@ bool Unseat(SeatPlan& plan, Seat from);
 
 // The student of a label: of several with the same label the first. 0 for none.
 int StudentOfLabel(const Class& c, std::string_view label);
+// The same for many at once.
+std::vector<int> StudentsOfLabels(const Class& c, const std::vector<std::string>& labels);
 
 }  // namespace tallyroll

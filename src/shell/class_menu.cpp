@@ -8,6 +8,7 @@
 #include "platform/surroundings.h"
 #include "roster/frmEdit.h"
 #include "shell/shell_state.h"
+#include "shell/undo_command.h"
 #include "store/frmpassword.h"
 #include "store/settings.h"
 #include "store/text/grade_file.h"
@@ -82,6 +83,8 @@ constexpr ClassMenuRow kRows[] = {
      .status = "Write all grades and their titles to a text file", .portal = "frmtxt", .action = [](Form1& window) { window.ExportStudents(kExportGrades); }},
     {.level = 3, .name = "mnutestingInstwithout", .caption = "Names, ID's plus Testing Instruments without Headers",
      .status = "Write all grades to a text file", .portal = "frmtxt", .action = [](Form1& window) { window.ExportStudents(kExportGradesPlain); }},
+    {.level = 2, .name = "mnuSchoolSystems", .caption = "&School Systems...", .status = "Take marks from another school system, or give them out to it",
+     .portal = "frmexchange"},
     {.level = 1},
     {.level = 1, .name = "mnuFont", .caption = "Printer &Font", .status = "Choose the font of printed pages",
      .action = [](Form1&) { Platform().FontDialog(PrinterFontName, PrinterFontSize); }},
@@ -166,6 +169,10 @@ constexpr ClassMenuRow kRows[] = {
      .action = [](Form1& window) { window.SetNameMode(73); }},
 
     {.level = 0, .name = "mnuEditing", .caption = "&Edit"},
+    {.level = 1, .name = "mnuundo", .caption = "&Undo", .status = "Take the last change of this class back",
+     .shortcut = "Ctrl+Z", .action = [](Form1& window) { window.mnuundo_Click(); }},
+    {.level = 1, .name = "mnuredo", .caption = "&Redo", .status = "Make the change again that was taken back",
+     .shortcut = "Ctrl+Shift+Z", .action = [](Form1& window) { window.mnuredo_Click(); }},
     {.level = 1, .name = "mnuFind", .caption = "&Find...", .status = "Find a student, a grade, a command or a class",
      .shortcut = "Ctrl+F", .action = [](Form1&) { RunFind(FindFirst::kStudents); }},
     {.level = 1, .name = "mnuCommand", .caption = "&Command...", .status = "Give any command by its name",
@@ -202,6 +209,16 @@ constexpr ClassMenuRow kRows[] = {
     {.level = 1, .name = "mnuSeating", .caption = "&Seating Chart", .status = "Seat the students of this class",
      .portal = "frmseating"},
 
+    {.level = 0, .name = "mnuInsight", .caption = "&Insight"},
+    {.level = 1, .name = "mnuexplain", .caption = "&Explain Average", .status = "How the average of a student came about, and what it would take",
+     .shortcut = "Ctrl+Shift+E", .portal = "frmexplain", .action = [](Form1& window) { window.ExplainStudent(); }},
+    {.level = 1, .name = "mnuhistory", .caption = "&History", .status = "What changed from save to save",
+     .shortcut = "Ctrl+H", .portal = "frmhistory"},
+    {.level = 1, .name = "mnustudenthistory", .caption = "History of this &Student", .status = "What changed of the student in whose row you are",
+     .portal = "frmhistory", .action = [](Form1& window) { window.ShowHistoryOfStudent(); }},
+    {.level = 1, .name = "mnuunusual", .caption = "&Unusual Marks", .status = "Marks that may be slips of the hand",
+     .portal = "frmunusual", .action = [](Form1& window) { window.ShowUnusual(); }},
+
     {.level = 0, .name = "mnuWindow", .caption = "&Window"},
     {.level = 1, .name = "mnucascade", .caption = "&Cascade", .status = "Lay the class windows one behind the other",
      .action = [](Form1&) { Screen->Arrange(Arrangement::kCascade); }},
@@ -219,6 +236,7 @@ constexpr ClassMenuRow kRows[] = {
 // clang-format on
 
 void Run(Form1& window, const ClassMenuRow& row) {
+  const StepOfCommand step(NameOfCommand(row.name, row.caption));
   if (row.method >= 0) DefaultMethod = static_cast<i16>(row.method);
   if (row.action)
     row.action(window);

@@ -17,15 +17,22 @@ namespace tallyroll {
 namespace {
 
 constexpr const char* kSample = "/Sample8.TYR";
+constexpr const char* kSampleLetters = "/letters";
 
 // A sample that stands there already may hold a teacher's trials and is left alone.
 void CopySample() {
   std::error_code ignored;
   std::filesystem::copy_file(ProgramFolder + kSample, DataFolder + kSample,
                              std::filesystem::copy_options::skip_existing, ignored);
+  std::filesystem::copy(ProgramFolder + kSampleLetters, DataFolder + kSampleLetters,
+                        std::filesystem::copy_options::skip_existing, ignored);
 }
 
 }  // namespace
+
+std::string SamplePath() {
+  return DataFolder + kSample;
+}
 
 void MakeDataFolder() {
   const std::string folder = Platform().ProfileFolder() + "/Tallyroll";

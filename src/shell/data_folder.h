@@ -2,7 +2,12 @@
 // The folder in which class files are looked for first.
 #pragma once
 
+#include <string>
+
 namespace tallyroll {
+
+// Where the sample class lies for a teacher to try everything with.
+std::string SamplePath();
 
 // On a first run: makes DataFolder below the user's profile, copies the sample class there, and
 // keeps the folder in the settings. Where none can be made the program's own folder serves.

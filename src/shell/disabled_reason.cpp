@@ -42,6 +42,8 @@ std::string DisabledReason(const Menu& menu, std::string_view name) {
   if (off->name == "mnupasschange" || off->name == "mnupassdelete")
     return "The class has no password.";
   if (IsAmong(kWithMethod, off->name)) return "No averages have been made up yet.";
+  if (off->name == "mnuundo") return "Nothing was changed since the class was opened.";
+  if (off->name == "mnuredo") return "Nothing was taken back.";
   return "The class has no students yet.";
 }
 

@@ -4,9 +4,13 @@
 #include <algorithm>
 
 #include "attendance/summary_periods.h"
+#include "averages/explained/explain_student.h"
 #include "base/number_text.h"
+#include "insight/chosen_cell.h"
+#include "insight/frmhistory.h"
 #include "platform/portal.h"
 #include "platform/surroundings.h"
+#include "shell/class_grid_notes.h"
 #include "shell/class_menu.h"
 #include "shell/class_toolbar.h"
 #include "shell/shell_state.h"
@@ -46,7 +50,9 @@ std::string_view NameModeEntry(i16 mode) {
 }  // namespace
 
 Form1::Form1() : menu(MakeClassMenu(*this)), Toolbar2(MakeClassToolbar(*this)) {
+  Grid1.Notes = NotesOfClassGrid(*this);
   EnableClassMenus(false);
+  ShowSteps();
   menu.Enable("mnuoptions", false);
   menu.Enable("mnuprtgrade", false);
 }
@@ -105,6 +111,7 @@ void Form1::SetNameMode(i16 mode) {
 // left in work.
 void Form1::TakeUpClass() {
   EndStatus();
+  EndMarks();
   if (!Tag.empty()) CurrentClass = static_cast<i16>(Slot());
 }
 
@@ -175,6 +182,26 @@ void Form1::mnuStatistic_Click() {
   CurrentStudent = 0;
   RunPortal("frmstatistic", 0, AfterPortal::kRefill);
   if (CurrentStudent > 0) RunPortal("frmgraph", 0, AfterPortal::kRefill);
+}
+
+void Form1::ExplainStudent() {
+  const int student = Grid1.Row - Grid1.FixedRows + 1;
+  CurrentStudent = static_cast<i16>(student <= Current().NumStudents ? student : 0);
+  RunPortal("frmexplain", kExplainStudent, AfterPortal::kRefill);
+}
+
+void Form1::ShowHistoryOfStudent() {
+  const int student = Grid1.Row - Grid1.FixedRows + 1;
+  CurrentStudent = static_cast<i16>(student <= Current().NumStudents ? student : 0);
+  RunPortal("frmhistory", kHistoryOfStudent, AfterPortal::kRefill);
+}
+
+void Form1::ShowUnusual() {
+  ChosenCell = {};
+  RunPortal("frmunusual", 0, AfterPortal::kRefill);
+  if (ChosenCell.student == 0) return;
+  Grid1.Row = ChosenCell.student + Grid1.FixedRows - 1;
+  Grid1.Col = ChosenCell.grade + Grid1.FixedCols - 1;
 }
 
 }  // namespace tallyroll

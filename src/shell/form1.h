@@ -6,11 +6,13 @@
 #include <memory>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include "platform/grid.h"
 #include "platform/surroundings.h"
 #include "shell/menu.h"
+#include "shell/undo_steps.h"
 #include "store/program_state.h"
 
 namespace tallyroll {
@@ -53,6 +55,8 @@ class Form1 {
   int SlotIndex = -1;
   BoxAnswer SaveAnswer = BoxAnswer::kOk;  // of the save prompt
   bool SaveCancelled = false;             // the Save As dialog was cancelled
+  UndoSteps Steps;                        // what was done to the class since it was opened
+  bool SavedInCommand = false;            // by the command that runs
 
   // What a screen calls. Load acts on PendingAction; a window that got no class has an empty Tag
   // afterwards and is to be destroyed.
@@ -80,6 +84,12 @@ class Form1 {
   void mnuAverage_Click();  // the Portal of the current method
   void mnuStatistic_Click();
   void mnuattsumm_Click();
+  void ExplainStudent();        // in whose row the current cell stands
+  void ShowHistoryOfStudent();  // in whose row the current cell stands
+  void ShowUnusual();
+  void mnuundo_Click();
+  void mnuredo_Click();
+  void ShowSteps();  // in the captions of Undo and Redo
   void SetNameMode(i16 mode);
   void ImportText();              // students from a text file, into this class or a new one
   void ImportGrades(int by);      // kGradesById or kGradesByName
@@ -91,6 +101,8 @@ class Form1 {
 
  private:
   int Slot() const;  // from Tag
+  void ShowStepTaken(std::string_view told, std::string_view step);
+  void EndMarks();
   void TakeUpClass();
   void ShowHint(std::string_view text);  // what the pointer is over, unless a message stands
   void CheckNameMode();
@@ -114,8 +126,9 @@ class Form1 {
   void AskToSave();
   void SavePassword();
 
-  bool message_stands_ = false;  // StatusText is a message, which no hint replaces
-  std::string save_title_;       // title of the save dialog; empty is the dialog's own
+  std::vector<std::pair<int, int>> came_back_;  // cells that Undo or Redo changed, row and column
+  bool message_stands_ = false;                 // StatusText is a message, which no hint replaces
+  std::string save_title_;  // title of the save dialog; empty is the dialog's own
 };
 
 }  // namespace tallyroll

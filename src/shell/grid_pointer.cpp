@@ -2,6 +2,7 @@
 // What a double click on the class grid does, and what the status bar says it would do.
 #include "roster/frmEdit.h"
 #include "shell/form1.h"
+#include "shell/undo_command.h"
 
 namespace tallyroll {
 namespace {
@@ -39,13 +40,17 @@ void Form1::Grid1_DblClick() {
       return ClickMenu("mnuAdd");
     case Spot::kNewGrade:
       return ClickMenu("mnuMarks");
-    case Spot::kStudent:
+    case Spot::kStudent: {
+      const StepOfCommand step(NameOfCommand("mnuEdit", ""));
       CurrentStudent = ItemOrNone(row - 1, Current().NumStudents);
       return RunPortal("frmEdit", kEditStudent, AfterPortal::kRefill);
-    case Spot::kGrade:
+    }
+    case Spot::kGrade: {
+      const StepOfCommand step(NameOfCommand("mnuEMarksT", ""));
       CurrentStudent = ItemOrNone(col - 1, Current().NumInstruments);
       return RunPortal("frmEmarks", ItemOrNone(row - 1, Current().NumStudents),
                        AfterPortal::kRefill);
+    }
   }
 }
 

@@ -22,6 +22,7 @@
 #include "averages/portals/frmroundoff.h"
 #include "averages/portals/frmscrnavg.h"
 #include "averages/portals/frmweights.h"
+#include "exchange/frmexchange.h"
 #include "find/frmfind.h"
 #include "grades/frmEMarksS.h"
 #include "grades/frmEmarks.h"
@@ -30,7 +31,11 @@
 #include "grades/frmcategories.h"
 #include "grades/frmdGrade.h"
 #include "grades/frmletter.h"
+#include "insight/frmexplain.h"
+#include "insight/frmhistory.h"
+#include "insight/frmunusual.h"
 #include "letters/mail/frmSendMail.h"
+#include "letters/mail/frmSendMany.h"
 #include "letters/writer/frmreplace.h"
 #include "letters/writer/frmwrdproc.h"
 #include "printing/frmmargins.h"
@@ -53,7 +58,7 @@ namespace {
 
 struct PortalRow {
   std::string_view name;
-  std::unique_ptr<Portal> (*make)() = nullptr;  // null while the Portal is not built
+  std::unique_ptr<Portal> (*make)() = nullptr;
 };
 
 template <typename P>
@@ -103,38 +108,37 @@ constexpr std::array kPortals{
     PortalRow{"frmgraph", Make<frmgraph>},
     PortalRow{"frmgrone", Make<frmgrone>},
     PortalRow{"frmcompare", Make<frmcompare>},
+    PortalRow{"frmexchange", Make<frmexchange>},
     PortalRow{"frmwrdproc", Make<frmwrdproc>},
     PortalRow{"frmreplace", Make<frmreplace>},
     PortalRow{"frmseating", Make<frmseating>},
     PortalRow{"frmtxt", Make<frmtxt>},
+    PortalRow{"frmexplain", Make<frmexplain>},
+    PortalRow{"frmunusual", Make<frmunusual>},
+    PortalRow{"frmhistory", Make<frmhistory>},
     PortalRow{"frmfind", Make<frmfind>},
     PortalRow{"frmSendMail", Make<frmSendMail>},
+    PortalRow{"frmSendMany", Make<frmSendMany>},
 };
 // clang-format on
 
-std::vector<std::string_view> NamesOf(bool built) {
+std::vector<std::string_view> AllNames() {
   std::vector<std::string_view> names;
-  for (const PortalRow& row : kPortals)
-    if ((row.make != nullptr) == built) names.push_back(row.name);
+  for (const PortalRow& row : kPortals) names.push_back(row.name);
   return names;
 }
 
-const std::vector<std::string_view> built_portals = NamesOf(true);
-const std::vector<std::string_view> missing_portals = NamesOf(false);
+const std::vector<std::string_view> portal_names = AllNames();
 
 }  // namespace
 
 const std::vector<std::string_view>& PortalNames() {
-  return built_portals;
-}
-
-const std::vector<std::string_view>& MissingPortals() {
-  return missing_portals;
+  return portal_names;
 }
 
 std::unique_ptr<Portal> MakePortalByName(std::string_view name) {
   for (const PortalRow& row : kPortals)
-    if (row.name == name && row.make) return row.make();
+    if (row.name == name) return row.make();
   return nullptr;
 }
 

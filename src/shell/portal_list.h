@@ -10,12 +10,9 @@
 
 namespace tallyroll {
 
-// Every Portal that can be opened.
 const std::vector<std::string_view>& PortalNames();
-// Portals that menus already name and that are not built yet.
-const std::vector<std::string_view>& MissingPortals();
 
-// A new Portal of that name; null when it is not built.
+// A new Portal of that name; null when there is none.
 std::unique_ptr<Portal> MakePortalByName(std::string_view name);
 
 }  // namespace tallyroll

@@ -3,6 +3,7 @@
 
 #include "attendance/term_table.h"
 #include "averages/engine/average_state.h"
+#include "insight/chosen_cell.h"
 #include "letters/mail/mail_draft.h"
 #include "printing/page/print_job.h"
 #include "roster/chosen_students.h"
@@ -19,6 +20,7 @@ void ResetProgram() {
   ResetAttendance();
   ResetAverages();
   ResetPrinting();
+  ResetInsight();
   Draft = MailDraft();
   ResetShell();
 }

@@ -3,6 +3,7 @@
 #include "base/code_page.h"
 #include "base/text.h"
 #include "companion/companion_at_save.h"
+#include "insight/history_at_save.h"
 #include "shell/recent_list.h"
 #include "shell/shell_state.h"
 #include "store/class_defaults.h"
@@ -62,12 +63,14 @@ std::string Form1::setsave() {
 
 bool Form1::Save() {
   CompanionAtSave companion(CurrentClassFile().path, Current().FileName);
+  const HistoryAtSave history(CurrentClassFile().path);
   WriteClassFile();
   if (FileErrorCode != 0) return false;
   // Before anything that writes to the companion: from here on it knows the class by its new bytes.
-  const std::string told = companion.Saved();
+  const std::string told = companion.Saved() + history.Saved(Current().FileName);
   if (!told.empty()) ShowStatus(StatusText + told);
   Current().Changed = kFalse;
+  SavedInCommand = true;
   AddRecentFile(Current().FileName);
   FrameForm->RebuildRecentMenu();
   return true;

@@ -292,20 +292,71 @@ TEST(ChartDrawing, ASpotTellsWhatThePortalSaysOrItsValue) {
   EXPECT_EQ(TellSpot(chart, {{}, 0, 1, -1}), "ONE.TYR, Q2: 5");
 }
 
+// However small the frame: nothing beside it, no text over another, and the points are there.
 TEST(ChartDrawing, AnyFrameTakesAnyChart) {
-  for (const double width : {300.0, 1500.0, 6000.0, 20000.0}) {
-    for (const double height : {300.0, 1500.0, 6000.0}) {
-      const ChartFrame frame{0, 0, width, height};
+  for (const double width : {1.0, 60.0, 300.0, 700.0, 1500.0, 6000.0, 20000.0}) {
+    for (const double height : {1.0, 60.0, 300.0, 700.0, 1500.0, 6000.0}) {
+      const ChartFrame frame{500, 900, width, height};
       for (const ChartKind kind : {ChartKind::kBar, ChartKind::kLine, ChartKind::kPie}) {
         for (const std::size_t points : {0U, 1U, 9U, 300U}) {
+          SCOPED_TRACE(testing::Message() << width << " x " << height << ", " << points
+                                          << " points, kind " << static_cast<int>(kind));
           Chart chart = ChartOf(std::vector<double>(points, 7), kind);
           chart.legend = chart.labels;
           const Drawn drawn = Draw(chart, frame);
-          EXPECT_FALSE(drawn.page.shapes.empty());
+          ExpectInOrder(drawn, frame);
+          EXPECT_GT(drawn.page.shapes.size(), points == 0 ? 0u : 1u);
+          for (const ChartSpot& spot : drawn.spots)
+            ExpectInside(BoxOf(spot.outline), frame, "spot");
+          if (testing::Test::HasFailure()) return;
         }
       }
     }
   }
+}
+
+TEST(ChartDrawing, AnyFrameTakesAllThatAChartCanHold) {
+  for (const double width : {60.0, 300.0, 900.0, 2500.0}) {
+    for (const double height : {60.0, 300.0, 900.0, 2500.0}) {
+      const ChartFrame frame{500, 900, width, height};
+      for (const ChartKind kind : {ChartKind::kBar, ChartKind::kLine}) {
+        SCOPED_TRACE(testing::Message() << width << " x " << height);
+        Chart chart = ChartOf({12, -30, 0, 99, 327, 5}, kind);
+        for (int set = 1; set < 5; ++set)
+          chart.sets.push_back({"A CLASS OF NO SHORT NAME", {1, 2, 3, -4, 5, 6}, {}});
+        chart.sets[0].name = "ONE.TYR";
+        chart.thin_line = {1, 50, -30, 4, 5, 327};
+        chart.thin_name = "Average of the class";
+        for (int i = 0; i < 60; ++i) chart.dots.push_back({i % 6, i / 60.0, "dot"});
+        ExpectInOrder(Draw(chart, frame), frame);
+        if (testing::Test::HasFailure()) return;
+      }
+    }
+  }
+}
+
+// At 300 by 300 pixels a chart of nine ranges still says what it is about.
+TEST(ChartDrawing, ASmallFrameKeepsTitleAndAxis) {
+  const Drawn drawn = Draw(ChartOf(std::vector<double>(9, 3)), {0, 0, 4500, 4500});
+  EXPECT_TRUE(HasText(drawn, "QUIZ 1"));
+  EXPECT_TRUE(HasText(drawn, "0"));
+  EXPECT_TRUE(HasText(drawn, "Q9"));
+}
+
+TEST(ChartDrawing, TheThinLineTellsItsPoints) {
+  Chart chart = ChartOf({80, 90, 70});
+  chart.sets[0].tells = {"a", "b", "c"};
+  chart.thin_line = {85, std::numeric_limits<double>::quiet_NaN(), 200.0 / 3};
+  chart.thin_name = "Average of the class";
+  const Drawn drawn = Draw(chart);
+  ASSERT_EQ(drawn.spots.size(), 3u + 2u);  // a gap has nothing to tell
+  EXPECT_EQ(TellSpot(chart, drawn.spots[3]), "Average of the class, Q1: 85");
+  EXPECT_EQ(TellSpot(chart, drawn.spots[4]), "Average of the class, Q3: 66.67");
+  // It lies where the line does, the bar of 80 reaching not so high.
+  const Box thin = BoxOf(drawn.spots[3].outline);
+  const Box bar = BarsOf(drawn, kLightChart.sets[0])[0];
+  EXPECT_LT((thin.top + thin.bottom) / 2, bar.top);
+  EXPECT_EQ(TellSpot(chart, drawn.spots[0]), "a");
 }
 
 TEST(ChartDrawing, LeavesTheTargetAsItWas) {

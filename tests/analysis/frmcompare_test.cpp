@@ -37,6 +37,7 @@ TEST_F(FrmcompareTest, TakesTwoOpenClasses) {
   portal.Load();
   EXPECT_TRUE(portal.Unloaded());
   EXPECT_EQ(screen.boxes.back().icon, BoxIcon::kInformation);
+  EXPECT_EQ(screen.boxes.back().title, "Note to the Teacher");
 }
 
 TEST_F(FrmcompareTest, AtLeastTwoMustBeChosen) {
@@ -46,6 +47,8 @@ TEST_F(FrmcompareTest, AtLeastTwoMustBeChosen) {
   driver->Check("Listfiles", 0);
   screen.ExpectBox("You must choose at least 2 classes to compare.");
   driver->Press("continue1");
+  EXPECT_EQ(screen.boxes.back().title, "Note to the Teacher");
+  EXPECT_EQ(screen.boxes.back().buttons, BoxButtons::kOk);
   EXPECT_TRUE(driver->Visible("framefiles"));
   driver->Check("Listfiles", 1);
   driver->Press("continue1");
@@ -74,6 +77,7 @@ TEST_F(FrmcompareTest, EachClassNeedsAGrade) {
   driver->Choose("Combo1_1", 0);
   screen.ExpectBox("You must choose a Testing Instrument");
   driver->Press("continue2");
+  EXPECT_EQ(screen.boxes.back().title, "Note to the Teacher");
   EXPECT_EQ(driver->Focused(), "Combo1_2");
   EXPECT_TRUE(driver->Visible("framegrades"));
 }
@@ -163,6 +167,42 @@ TEST_F(FrmcompareTest, AGradeThatIsGoneMeanwhileIsTold) {
   Classes[1].NumInstruments = 0;
   screen.ExpectBox("The class ONE.TYR was closed or changed. Choose the classes again.");
   driver->Press("continue3");
+}
+
+// Closed and opened again in the slot of another class, or ordered anew, while the Portal stands.
+TEST_F(FrmcompareTest, AClassThatIsAnotherOneMeanwhileIsTold) {
+  frmcompare portal;
+  ChooseBoth(portal);
+  Classes[2].FileName = "/b/OTHER.TYR";
+  screen.ExpectBox("The class TWO.TYR was closed or changed. Choose the classes again.");
+  driver->Press("continue3");
+  EXPECT_EQ(screen.boxes.back().title, "Note to the Teacher");
+  EXPECT_TRUE(driver->Visible("framefiles"));
+  EXPECT_EQ(portal.Listfiles.List, Texts({"Class ONE.TYR", "Class OTHER.TYR"}));
+}
+
+TEST_F(FrmcompareTest, AGradeThatIsAnotherOneMeanwhileIsTold) {
+  frmcompare portal;
+  ChooseBoth(portal);
+  driver->Press("continue3");
+  Classes[1].Instruments[1].title = "Quiz 2";
+  screen.ExpectBox("The class ONE.TYR was closed or changed. Choose the classes again.");
+  driver->Press("printgr");
+  EXPECT_TRUE(screen.print_jobs.empty());
+  EXPECT_TRUE(driver->Visible("framefiles"));
+}
+
+TEST_F(FrmcompareTest, AGradeThatMovedBetweenListAndChoiceIsTold) {
+  frmcompare portal;
+  Open(portal);
+  driver->Check("Listfiles", 0);
+  driver->Check("Listfiles", 1);
+  driver->Press("continue1");
+  driver->Choose("Combo1_1", 0);
+  driver->Choose("Combo1_2", 0);
+  Classes[1].Instruments[1].title = "Quiz 2";
+  screen.ExpectBox("The class ONE.TYR was closed or changed. Choose the classes again.");
+  driver->Press("continue2");
 }
 
 TEST_F(FrmcompareTest, EqualFileNamesAreToldApartByTheirFolders) {

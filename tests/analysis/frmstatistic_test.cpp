@@ -104,8 +104,13 @@ TEST_F(FrmstatisticTest, ComparingTakesTwoClassesWithGrades) {
   frmstatistic portal;
   Open(portal);
   screen.ExpectBox("You must first open at least two class files with data for comparison.");
+  const auto expect_information = [&] {
+    EXPECT_EQ(screen.boxes.back().icon, BoxIcon::kInformation);
+    EXPECT_EQ(screen.boxes.back().title, "Note to the Teacher");
+    EXPECT_EQ(screen.boxes.back().buttons, BoxButtons::kOk);
+  };
   driver->Press("compare");
-  EXPECT_EQ(screen.boxes.back().icon, BoxIcon::kInformation);
+  expect_information();
   OpenSlot(2, "/a/TWO.TYR");
   screen.ExpectBox("You must first open at least two class files with data for comparison.");
   CurrentClass = 1;
@@ -116,6 +121,7 @@ TEST_F(FrmstatisticTest, ComparingTakesTwoClassesWithGrades) {
   screen.ExpectBox(
       "If any class is open without grades you must first enter grades for that class.");
   driver->Press("compare");
+  expect_information();
   Classes[2].SlotState = 0;
   screen.ExpectPortal("frmcompare", [](PortalDriver& work) { work.Press("exit"); });
   driver->Choose("lsttitles", 0);

@@ -2,7 +2,6 @@
 // How one Portal hands over to another, and keeps small ones beside itself.
 #include "platform/portal.h"
 
-#include "platform/class_window.h"
 #include "tests/support/portal_test.h"
 
 namespace tallyroll {
@@ -47,14 +46,9 @@ TEST_F(PortalShowing, APortalHandsOverToTheNextOneOnceItIsGone) {
   EXPECT_EQ(screen.WindowsShown(), 2);
 }
 
-TEST_F(PortalShowing, OneThatIsNotBuiltSaysSo) {
-  struct Noting : ClassWindowCalls {
-    void ShowStatus(std::string_view text) override { status = text; }
-    std::string status;
-  } window;
-  SetClassWindow(&window);
+TEST_F(PortalShowing, ANameThatNoPortalBearsShowsNothing) {
   ShowPortal("missing");
-  EXPECT_EQ(window.status, kPortalNotAvailable);
+  EXPECT_EQ(screen.WindowsShown(), 0);
 }
 
 TEST_F(PortalShowing, OneBesideStaysWithItsKeeper) {

@@ -78,6 +78,7 @@ TEST_F(CommandsTest, EntriesOpenTheirPortalInItsMode) {
       {"mnuBio", "frmtxt", 441},
       {"mnutestingInst", "frmtxt", 541},
       {"mnutestingInstwithout", "frmtxt", 561},
+      {"mnuSchoolSystems", "frmexchange", 0},
       {"mnuAdd", "frmAdd", 0},
       {"mmucomment", "frmEdit", 27},
       {"mnuDelete", "frmdelete", 0},
@@ -238,16 +239,6 @@ TEST_F(CommandsTest, PasswordThatWasCancelledSavesNothing) {
   Current().Changed = kTrue;
   Click("mnupassenter");
   EXPECT_EQ(Current().Changed, kTrue);
-}
-
-TEST_F(CommandsTest, MissingPortalSaysSoAndDoesNothingElse) {
-  MakePortal = [](std::string_view) -> std::unique_ptr<Portal> { return nullptr; };
-  for (const char* entry : {"mnuMarks", "mnuSeating", "mnuStatistic", "mnumargins"}) {
-    window->StatusText.clear();
-    window->ClickMenu(entry);
-    EXPECT_EQ(window->StatusText, "This portal is not available yet.") << entry;
-  }
-  EXPECT_EQ(Current().Changed, kFalse);
 }
 
 TEST_F(CommandsTest, PrinterEntriesAskForFontPaperAndMargins) {

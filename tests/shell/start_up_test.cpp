@@ -30,11 +30,14 @@ class StartUpTest : public ShellTest {
 
 TEST_F(StartUpTest, FirstRunMakesTheDataFolderWithTheSample) {
   WriteFile(Path("Sample8.TYR"), "sample");
+  std::filesystem::create_directory(Path("letters"));
+  WriteFile(Path("letters/Progress.rtf"), "{\\rtf1}");
   ExpectGreeting();
   FrameForm->Load("");
   EXPECT_EQ(DataFolder, Path("Tallyroll"));
   EXPECT_EQ(screen.settings.at("TALLYRLG8/startup/DIRFILE"), Path("Tallyroll"));
   EXPECT_TRUE(std::filesystem::exists(Path("Tallyroll/Sample8.TYR")));
+  EXPECT_TRUE(std::filesystem::exists(Path("Tallyroll/letters/Progress.rtf")));
   EXPECT_EQ(std::filesystem::current_path(), Path("Tallyroll"));
   EXPECT_EQ(ProgramFolder, folder);
   EXPECT_EQ(frame_screen.calls, std::vector<std::string>{"frame shown"});

@@ -1,6 +1,7 @@
 # SPDX-License-Identifier: GPL-3.0-or-later
 # The printer is a queue whose end is a socket of this story: what arrives there is what was printed.
 import collections
+import json
 import socket
 import subprocess
 
@@ -67,6 +68,60 @@ def print_from_preview(this, program, printer):
     program.window("Printer Portal")
 
 
+HEADS = ("95 - 100", "90 - 94", "85 - 89", "80 - 84", "75 - 79", "70 - 74", "65 - 69", "55 - 64", "0 - 54")
+
+
+def print_distribution(this, program, printer):
+    """The table of ranges and the figures, line by line, and the graph."""
+    program.keys("alt+v", "s")
+    program.window("Statistics Portal")
+    program.await_focus(Atspi.Role.LIST, "TITLES")
+    program.keys("Home", "alt+o")
+    told = json.loads(command_line("statistics", "--grade", "1", "--json", this.path("MATH.TYR")))[0]
+    title = f"Graph Portal - {told['title'].upper()}"
+    program.window(title)
+    program.keys("alt+d")
+    program.window("Tallyroll Printing")
+    program.keys("Return")
+    sheet = subprocess.run(["pdftotext", "-layout", "-", "-"], input=printer.next_job(), capture_output=True,
+                           check=True).stdout.decode()
+    lines = [" ".join(line.split()) for line in sheet.splitlines()]
+    wanted = [f"{head} {count}" for head, count in zip(HEADS, told["ranges"])]
+    wanted += [f"The number of students {what} was {told[key]}" for what, key in
+               (("present", "present"), ("absent", "absent"), ("who passed", "passed"), ("who failed", "failed"))]
+    wanted += [f"The percent of students who passed was {told['perpassed']} %",
+               f"The percent of students who failed was {told['perfailed']} %",
+               f"The lowest grade was {told['lowest']}", f"The highest grade was {told['highest']}",
+               f"The standard deviation was {told['std']}", f"The class average was {told['average']}"]
+    expect("the distribution", [line for line in wanted if line not in lines], [])
+    expect("its order", sorted(wanted, key=lines.index), wanted)
+    expect("its head", any(line.endswith(f"{told['title']} Statistics:") for line in lines), True)
+    program.window(title)
+    program.keys("alt+g")
+    expect("the graph's words", words(printer.next_job())["95-100"], 1)
+    program.window(title)
+    program.keys("alt+x")
+    program.frame("MATH.TYR")
+
+
+def print_chart(this, program, printer):
+    """The seats as the command line writes them."""
+    program.keys("alt+t", "s")
+    program.window("Seating Chart Portal")
+    program.keys("alt+p")
+    program.window("Tallyroll Printing")
+    program.keys("Return")
+    out = this.path("chart.pdf")
+    command_line("seating", "--chart", "1", "--out", out, this.path("MATH.TYR"))
+    with open(out, "rb") as file:
+        wanted = words(file.read())
+    missing = wanted - words(printer.next_job())
+    expect("the seating chart", dict(missing), {})
+    program.window("Seating Chart Portal")
+    program.keys("alt+x")
+    program.frame("MATH.TYR")
+
+
 def tell(this):
     printer = Printer()
     program = this.start(this.sample("MATH.TYR"))
@@ -77,6 +132,8 @@ def tell(this):
     print_from_preview(this, program, printer)
     program.keys("Escape")
     program.frame("MATH.TYR")
+    print_distribution(this, program, printer)
+    print_chart(this, program, printer)
     program.keys("ctrl+q")
     program.ended()
 

@@ -10,19 +10,23 @@ namespace {
 
 class ItemsAverage {
  public:
-  explicit ItemsAverage(TypeTotals& totals) : totals_(totals) {
+  ItemsAverage(TypeTotals& totals, AverageListener* listener)
+      : totals_(totals), listener_(listener) {
     low_.fill(kNoLowest);
     if (class_.AverageFlag2) FlagEveryType(type_weights_);
   }
 
-  void Take(const SheetRow& row, Currency weight) {
-    Standing mark{row, weight};
+  void Take(int grade, const SheetRow& row, Currency weight) {
+    Standing mark{grade, row, weight};
     if (row.kind == MarkKind::kLeftOut && !row.IsExtraCredit()) {
+      const Currency total = total_;
       total_ -= weight;
       mark.special = true;
       mark.droppable = class_.AverageFlag1 != 0;
+      if (listener_) Tell(StepRule::kLeftOut, mark, weight, total, total_);
     } else if (row.kind == MarkKind::kZero) {
       mark.droppable = false;
+      if (listener_) Tell(StepRule::kZero, mark, Currency(), points_, points_);
     } else {
       Grade(mark);
     }
@@ -30,19 +34,26 @@ class ItemsAverage {
   }
 
   Currency Average() {
-    if (class_.AverageFlag2) PickSingleLowestType(low_, type_weights_);
+    if (class_.AverageFlag2) PickSingleLowestType(low_, type_weights_, listener_);
     for (std::size_t t = 1; t <= kGradeTypes; ++t) {
       if (IsDropped(t)) Drop(t);
     }
     // Without anything left to weigh, extra credit counts for nothing either.
-    if (total_ < Currency::FromWhole(1)) return Currency();
-    return PercentOf(points_, total_) + extra_;
+    if (total_ < Currency::FromWhole(1)) {
+      if (listener_) listener_->Take({.rule = StepRule::kNothingToWeigh, .before = total_});
+      return Currency();
+    }
+    const Currency share = PercentOf(points_, total_);
+    const Currency average = share + extra_;
+    if (listener_) TellShare(share, average);
+    return average;
   }
 
   const TypeSums& type_weights() const { return type_weights_; }
 
  private:
   struct Standing {
+    int grade;
     const SheetRow& row;
     Currency weight;
     Currency value{};
@@ -57,9 +68,15 @@ class ItemsAverage {
     const Currency weighted = Weighted(mark.weight, mark.percent);
     if (mark.row.IsExtraCredit()) {
       mark.special = mark.row.kind == MarkKind::kLeftOut;
+      const Currency extra = extra_;
       extra_ += weighted;
+      if (!listener_) return;
+      Tell(mark.special ? StepRule::kExtraLeftOut : StepRule::kExtraMark, mark, weighted, extra,
+           extra_);
     } else {
+      const Currency points = points_;
       points_ += weighted;
+      if (listener_) Tell(StepRule::kCounted, mark, weighted, points, points_);
     }
   }
 
@@ -79,6 +96,7 @@ class ItemsAverage {
   bool IsLowest(const Standing& mark, std::size_t t) {
     if (class_.AverageFlag1 && mark.special) {
       low_[t] = kLeftOutIsLowest;
+      if (listener_) TellLowest(StepRule::kAbsenceLowest, mark, t);
       return true;
     }
     if (mark.percent >= low_[t]) return false;
@@ -86,6 +104,7 @@ class ItemsAverage {
     low_weight_[t] = mark.weight;
     low_value_[t] = mark.value;
     low_max_[t] = mark.row.Max();
+    if (listener_) TellLowest(StepRule::kLowest, mark, t);
     return true;
   }
 
@@ -98,12 +117,53 @@ class ItemsAverage {
     --totals_.counts[t];
     totals_.sums[t] -= low_value_[t];
     totals_.maxes[t] -= low_max_[t];
-    points_ -= Weighted(low_weight_[t], low_[t]);
+    const Currency weighted = Weighted(low_weight_[t], low_[t]);
+    const Currency points = points_;
+    points_ -= weighted;
     total_ -= low_weight_[t];
+    if (!listener_) return;
+    listener_->Take({.rule = StepRule::kDropped,
+                     .type = t,
+                     .value = low_value_[t],
+                     .most = low_max_[t],
+                     .percent = low_[t],
+                     .weight = low_weight_[t],
+                     .part = weighted,
+                     .before = points,
+                     .after = points_});
+  }
+
+  void Tell(StepRule rule, const Standing& mark, Currency part, Currency before, Currency after) {
+    listener_->Take({.rule = rule,
+                     .grade = mark.grade,
+                     .value = mark.value,
+                     .most = mark.row.Max(),
+                     .percent = mark.percent,
+                     .weight = mark.weight,
+                     .part = part,
+                     .before = before,
+                     .after = after});
+  }
+
+  void TellLowest(StepRule rule, const Standing& mark, std::size_t t) {
+    listener_->Take({.rule = rule,
+                     .grade = mark.grade,
+                     .type = t,
+                     .value = mark.value,
+                     .percent = mark.percent});
+  }
+
+  void TellShare(Currency share, Currency average) {
+    listener_->Take(
+        {.rule = StepRule::kDivided, .weight = total_, .before = points_, .after = share});
+    if (extra_ == Currency()) return;
+    listener_->Take(
+        {.rule = StepRule::kExtraAdded, .part = extra_, .before = share, .after = average});
   }
 
   const Class& class_ = Current();
   TypeTotals& totals_;
+  AverageListener* const listener_;
   TypeSums type_weights_ = class_.TypeWeights;
   Currency points_;
   Currency extra_;
@@ -116,15 +176,16 @@ class ItemsAverage {
 
 }  // namespace
 
-AverageError AverageByItems(TypeTotals& totals) {
+AverageError AverageByItems(TypeTotals& totals, AverageListener* listener) {
   return Computed(totals, [&](int& grade) {
     const MarkSheet sheet;
-    ItemsAverage items(totals);
+    ItemsAverage items(totals, listener);
     for (grade = 1; grade <= sheet.Count(); ++grade) {
-      items.Take(sheet.Row(grade), ItemOf(Current().Weights, grade));
+      items.Take(grade, sheet.Row(grade), ItemOf(Current().Weights, grade));
     }
     grade = 0;
     ExactAverage = items.Average();
+    if (listener) listener->Take({.rule = StepRule::kAverage, .after = ExactAverage});
     if (Current().AverageFlag2) Current().TypeWeights = items.type_weights();
   });
 }

@@ -45,17 +45,17 @@ AverageError ComputeAverage(TypeTotals& totals) {
   return ComputeAverage(dropped, totals);
 }
 
-AverageError ComputeAverage(Points& points, TypeTotals& totals) {
+AverageError ComputeAverage(Points& points, TypeTotals& totals, AverageListener* listener) {
   points = Points();
   switch (Current().Method) {
     case 1:
-      return AverageByTypes(totals);
+      return AverageByTypes(totals, listener);
     case 2:
-      return AverageByPoints(points, totals);
+      return AverageByPoints(points, totals, listener);
     case 3:
-      return AverageByPointsAndTypes(points, totals);
+      return AverageByPointsAndTypes(points, totals, listener);
     default:
-      return AverageByItems(totals);
+      return AverageByItems(totals, listener);
   }
 }
 

@@ -9,6 +9,7 @@
 
 #include <string>
 
+#include "averages/engine/average_listener.h"
 #include "averages/engine/average_state.h"
 #include "grades/type_totals.h"
 
@@ -45,13 +46,17 @@ struct Points {
 
 // By Method; a class without a method is averaged by its items. Without points, which only the
 // point methods have, they are dropped.
+// `listener` may be null; otherwise it is told each step.
 AverageError ComputeAverage(TypeTotals& totals);
-AverageError ComputeAverage(Points& points, TypeTotals& totals);
+AverageError ComputeAverage(Points& points, TypeTotals& totals,
+                            AverageListener* listener = nullptr);
 
 // The methods 0 to 3. Each sets ExactAverage and fills `totals`.
-AverageError AverageByItems(TypeTotals& totals);
-AverageError AverageByTypes(TypeTotals& totals);
-AverageError AverageByPoints(Points& points, TypeTotals& totals);
-AverageError AverageByPointsAndTypes(Points& points, TypeTotals& totals);
+AverageError AverageByItems(TypeTotals& totals, AverageListener* listener = nullptr);
+AverageError AverageByTypes(TypeTotals& totals, AverageListener* listener = nullptr);
+AverageError AverageByPoints(Points& points, TypeTotals& totals,
+                             AverageListener* listener = nullptr);
+AverageError AverageByPointsAndTypes(Points& points, TypeTotals& totals,
+                                     AverageListener* listener = nullptr);
 
 }  // namespace tallyroll

@@ -9,7 +9,8 @@ void FlagEveryType(TypeSums& type_weights) {
   }
 }
 
-void PickSingleLowestType(const TypeSums& lowest, TypeSums& type_weights) {
+void PickSingleLowestType(const TypeSums& lowest, TypeSums& type_weights,
+                          AverageListener* listener) {
   Currency best = kNoLowest;
   std::size_t type = 0;
   for (std::size_t t = 1; t <= kGradeTypes; ++t) {
@@ -20,6 +21,8 @@ void PickSingleLowestType(const TypeSums& lowest, TypeSums& type_weights) {
     }
   }
   if (best > kLeftOutIsLowest && type != 0) type_weights[type] = kMayDrop;
+  if (listener && best == kLeftOutIsLowest)
+    listener->Take({.rule = StepRule::kNoneDropped, .type = type});
 }
 
 }  // namespace tallyroll

@@ -2,6 +2,7 @@
 // The lowest grades, of which one a type, or one in all, is dropped.
 #pragma once
 
+#include "averages/engine/average_listener.h"
 #include "grades/type_totals.h"
 
 namespace tallyroll {
@@ -23,6 +24,7 @@ void FlagEveryType(TypeSums& type_weights);
 
 // Leaves the drop flag on the one type whose lowest percent is least; the earlier on a tie. Where
 // a left-out mark stands as the lowest no type keeps it: the absence is what was dropped.
-void PickSingleLowestType(const TypeSums& lowest, TypeSums& type_weights);
+void PickSingleLowestType(const TypeSums& lowest, TypeSums& type_weights,
+                          AverageListener* listener = nullptr);
 
 }  // namespace tallyroll

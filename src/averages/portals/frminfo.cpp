@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "averages/portals/frminfo.h"
 
+#include "averages/explained/explain_student.h"
 #include "platform/class_window.h"
 #include "platform/surroundings.h"
 
@@ -12,6 +13,7 @@ frminfo::frminfo() : StudentScreen("frminfo", list1, "Codes") {
   mnuprevious.Caption = "&Previous";
   mnuext.Caption = "&Next";
   mnugraph.Caption = "&Graph";
+  explain.Caption = "&Explain Average";
 }
 
 void frminfo::Declare(ControlTable& table) {
@@ -20,6 +22,7 @@ void frminfo::Declare(ControlTable& table) {
   table.Add("mnugraph", mnugraph).Click([this] { mnugraph_Click(); });
   DeclareList(table, "list1");
   DeclareRecord(table);
+  table.Add("explain", explain).Click([] { ShowExplanation(CurrentStudent); });
   table.Add("exit", exit).Click([this] { exit_Click(); });
 }
 

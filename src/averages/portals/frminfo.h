@@ -15,7 +15,7 @@ struct frminfo : StudentScreen {
   void Load() override;
 
   ListBox list1;
-  CommandButton mnuprevious, mnuext, mnugraph;  // entries of its menu
+  CommandButton mnuprevious, mnuext, mnugraph, explain;  // entries of its menu
 
   void mnugraph_Click();
 };

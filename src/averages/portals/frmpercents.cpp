@@ -43,6 +43,10 @@ frmpercents::frmpercents() : WeightsForm("frmpercents", typegrid, 5, "6z") {
   HelpContext = 510;
   redist.Caption =
       "Disallow redist. of weights across Types when student has only ABS/EXC in a Type";
+  typegrid.Notes.Of = [this](int row, int) {
+    const bool idle = row >= 1 && items_[static_cast<std::size_t>(row)] == 0;
+    return idle ? CellNote{CellMark::kMuted, "no grade of this type"} : CellNote();
+  };
 }
 
 void frmpercents::Declare(ControlTable& table) {

@@ -137,7 +137,7 @@ void frmpoints::frombd_Click() {
 }
 
 void frmpoints::print_Click() {
-  PrintOrTell({.title = " Points Printout",
+  PrintGrid({.title = " Points Printout",
                .head = {"NAME", "Types", "MAX PTS.", "COUNT IN"},
                .second_head = {"", "", "", "TOTAL PTS."},
                .rows = RowsToPrint(grdgrade)});

@@ -2,6 +2,7 @@
 #include "averages/portals/frmscrnavg.h"
 
 #include "averages/average_settings.h"
+#include "averages/explained/explain_student.h"
 #include "averages/rounding.h"
 #include "base/number_text.h"
 #include "base/text.h"
@@ -23,6 +24,7 @@ frmscrnavg::frmscrnavg() : StudentScreen("frmscrnavg", lstName, "Code") {
   avg_label.Caption = "Exact Average";
   PREVIOUS.Caption = "&Previous";
   nextt.Caption = "&Next";
+  explain.Caption = "&Explain Average";
 }
 
 void frmscrnavg::Declare(ControlTable& table) {
@@ -35,6 +37,7 @@ void frmscrnavg::Declare(ControlTable& table) {
   table.Add("suggr", suggr);
   table.Add("PREVIOUS", PREVIOUS).Click([this] { ShowPrevious(); });
   table.Add("nextt", nextt).Click([this] { ShowNext(); });
+  table.Add("explain", explain).Click([] { ShowExplanation(CurrentStudent); });
   table.Add("exit", exit).Click([this] { exit_Click(); });
 }
 

@@ -14,7 +14,7 @@ struct frmscrnavg : StudentScreen {
   ListBox lstName;
   Label lname, fname;
   Label avg_label, avg, suggr;
-  CommandButton PREVIOUS, nextt;
+  CommandButton PREVIOUS, nextt, explain;
 
  protected:
   void ShowMore() override;

@@ -3,6 +3,7 @@
 
 #include "averages/portals/type_grid.h"
 #include "base/text.h"
+#include "grades/mark_notes.h"
 #include "grades/marks.h"
 #include "store/class_format.h"
 #include "store/student_names.h"
@@ -30,6 +31,11 @@ StudentScreen::StudentScreen(std::string_view name, ListBox& students,
                              std::string_view code_heading)
     : Portal(name), students_(students), code_heading_(code_heading) {
   exit.Caption = "E&xit";
+  grdgrade.Notes.Of = [this](int row, int col) {
+    if (row < 1 || col != kMarkColumn) return CellNote();
+    const Instrument& grade = Current().Instruments[static_cast<std::size_t>(row)];
+    return NoteOfMark(grdgrade.TextMatrix(row, col), BoundsOf(grade));
+  };
 }
 
 // A list that gets the focus may stand on its first line before anything is chosen.

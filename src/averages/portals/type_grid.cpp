@@ -3,7 +3,6 @@
 
 #include "base/text.h"
 #include "grades/marks.h"
-#include "platform/class_window.h"
 #include "store/program_state.h"
 
 namespace tallyroll {
@@ -49,11 +48,8 @@ std::vector<std::vector<std::string>> RowsToPrint(const Grid& grid) {
   return rows;
 }
 
-void PrintOrTell(const PrintedTable& table) {
-  if (PrintTable)
-    PrintTable(table);
-  else
-    ClassWindow().ShowStatus(kPortalNotAvailable);
+void PrintGrid(const PrintedTable& table) {
+  if (PrintTable) PrintTable(table);
 }
 
 TypeNames::TypeNames() {

@@ -26,8 +26,8 @@ bool GoToNextRow(Grid& grid);
 
 // The rows of a grid below its headings, as they go to paper.
 std::vector<std::vector<std::string>> RowsToPrint(const Grid& grid);
-// Prints a table; where nothing can be printed the status bar says so.
-void PrintOrTell(const PrintedTable& table);
+// Prints a table where the program can print.
+void PrintGrid(const PrintedTable& table);
 
 // Names and codes of the types of the current class.
 class TypeNames {

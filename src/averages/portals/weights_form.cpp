@@ -185,7 +185,7 @@ void WeightsForm::ClearDropBoxes() {
 }
 
 void WeightsForm::print_Click() {
-  PrintOrTell(Printout());
+  PrintGrid(Printout());
 }
 
 void WeightsForm::droptype_Click() {

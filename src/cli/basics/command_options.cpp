@@ -78,6 +78,10 @@ CommandOption Command::AddOption(const std::string& name, std::vector<std::strin
   return CommandOption(app_->add_option(name, values, help));
 }
 
+void Command::RequireCommand() {
+  app_->require_subcommand(1);
+}
+
 CommandOption Command::AddFlag(const std::string& name, bool& value, const std::string& help) {
   return CommandOption(app_->add_flag(name, value, help));
 }

@@ -47,6 +47,8 @@ class Command {
   explicit Command(CLI::App& app) : app_(&app) {}
 
   Command AddCommand(const std::string& name, const std::string& help);
+  // One of its commands must follow.
+  void RequireCommand();
   CommandOption AddOption(const std::string& name, std::string& value, const std::string& help);
   CommandOption AddOption(const std::string& name, int& value, const std::string& help);
   CommandOption AddOption(const std::string& name, i16& value, const std::string& help);

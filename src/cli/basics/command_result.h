@@ -13,6 +13,7 @@ struct CommandResult {
   bool refused = false;
   std::string text;       // UTF-8
   std::string note = {};  // a line on standard error all the same
+  bool failed = false;    // not all went well: the text is put out, and the exit status is 1
   // Instead of a text: writes the output as it comes. False when a part of it was refused, which
   // it has told.
   std::function<bool(std::ostream& out, std::ostream& err)> stream = {};

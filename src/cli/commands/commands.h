@@ -27,8 +27,13 @@ void AddCompareCommand(Command& app, ChosenCommand& chosen);
 void AddImportCommand(Command& app, ChosenCommand& chosen);
 void AddExportCommand(Command& app, ChosenCommand& chosen);
 void AddSeatingCommand(Command& app, ChosenCommand& chosen);
+void AddExplainCommand(Command& app, ChosenCommand& chosen);
+void AddUnusualCommand(Command& app, ChosenCommand& chosen);
+void AddHistoryCommand(Command& app, ChosenCommand& chosen);
 void AddRowsCommand(Command& app, ChosenCommand& chosen);
+void AddExchangeCommand(Command& app, ChosenCommand& chosen);
 void AddLettersCommand(Command& app, ChosenCommand& chosen);
 void AddLabelsCommand(Command& app, ChosenCommand& chosen);
+void AddMailCommand(Command& app, ChosenCommand& chosen);
 
 }  // namespace tallyroll

@@ -47,11 +47,10 @@ std::string ReadFormLetter(const LettersOptions& options, LetterReading& letter)
 }
 
 // A code that nobody knows would reach the families as it stands.
-MergedLetters MergeAll(const LettersOptions& options, const LetterReading& letter) {
+MergedLetters MergeAll(const LetterReading& letter, const std::vector<i16>& students) {
   MergedLetters merged;
   merged.notes = letter.left_out;
-  merged.refusal = TakeStudents(options.students, merged.students);
-  if (!merged.refusal.empty()) return merged;
+  merged.students = students;
   const std::vector<std::string> warnings = LetterWarnings(letter.text, merged.students);
   const std::size_t unknown = UnknownCodes(letter.text).size();
   if (unknown > 0) merged.refusal = Utf8FromCodePage(warnings.front());
@@ -140,7 +139,10 @@ CommandResult MakeLetters(const LettersOptions& options) {
   LetterReading letter;
   reason = ReadFormLetter(options, letter);
   if (!reason.empty()) return Refused(options.letter, reason);
-  MergedLetters merged = MergeAll(options, letter);
+  std::vector<i16> students;
+  reason = TakeStudents(options.students, students);
+  if (!reason.empty()) return Refused(options.file, reason);
+  MergedLetters merged = MergeAll(letter, students);
   if (!merged.refusal.empty()) return Refused(options.letter, merged.refusal);
   return WriteLetters(options, merged);
 }

@@ -169,7 +169,7 @@ void AddReportCommand(Command& app, ChosenCommand& chosen) {
   Command command = app.AddCommand("report", "Writes a report as text, HTML or PDF");
   const auto options = std::make_shared<ReportOptions>();
   command.AddOption("FILE", options->file, "the class file").Required();
-  command.AddOption("--code", options->code, "the report's code, 1 to 24").Required();
+  command.AddOption("--code", options->code, "the report's code, 1 to 25").Required();
   command.AddOption("--out", options->out, "the file to write: .txt, .htm or .pdf");
   command.AddOption("--format", options->format, "whatever the file's name says")
       .OneOf({"text", "html", "pdf"});

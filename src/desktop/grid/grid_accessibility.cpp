@@ -34,8 +34,12 @@ class GridCellInterface : public QAccessibleInterface,
   int indexOfChild(const QAccessibleInterface*) const override { return -1; }
 
   QString text(QAccessible::Text type) const override {
-    if (type != QAccessible::Name || !isValid()) return {};
-    return FromText(widget_->grid()->TextMatrix(row_, col_)).trimmed();
+    if (!isValid()) return {};
+    if (type == QAccessible::Name)
+      return FromText(widget_->grid()->TextMatrix(row_, col_)).trimmed();
+    if (type != QAccessible::Description) return {};
+    const QString told = isSelected() ? widget_->Told() : QString();
+    return told.isEmpty() ? State() : told;
   }
   void setText(QAccessible::Text, const QString&) override {}
   QRect rect() const override {
@@ -51,7 +55,10 @@ class GridCellInterface : public QAccessibleInterface,
     QAccessible::State state;
     state.readOnly = true;
     state.focusable = role() == QAccessible::Cell;
-    state.focused = isSelected() && widget_->hasFocus();
+    const Grid& grid = *widget_->grid();
+    state.selectable = role() == QAccessible::Cell;
+    state.selected = state.selectable && isSelected();
+    state.focused = grid.Row == row_ && grid.Col == col_ && widget_->hasFocus();
     state.invisible = widget_->CellRect(row_, col_).isEmpty();
     return state;
   }
@@ -62,9 +69,7 @@ class GridCellInterface : public QAccessibleInterface,
     if (type == QAccessible::ActionInterface) return static_cast<QAccessibleActionInterface*>(this);
     return nullptr;
   }
-  bool isSelected() const override {
-    return isValid() && widget_->grid()->Row == row_ && widget_->grid()->Col == col_;
-  }
+  bool isSelected() const override { return isValid() && widget_->Range().Contains(row_, col_); }
   QList<QAccessibleInterface*> columnHeaderCells() const override;
   QList<QAccessibleInterface*> rowHeaderCells() const override;
   int columnIndex() const override { return col_; }
@@ -83,6 +88,19 @@ class GridCellInterface : public QAccessibleInterface,
   QStringList keyBindingsForAction(const QString&) const override { return {}; }
 
  private:
+  // What the eye learns of a colour, a chip or the line below a head.
+  QString State() const {
+    const GridNotes& notes = widget_->grid()->Notes;
+    if (role() == QAccessible::ColumnHeader && notes.Tip) {
+      QString tip = FromText(notes.Tip(row_, col_));
+      if (!tip.isEmpty()) return tip.replace(QLatin1Char('\n'), QLatin1String(", "));
+    }
+    if (const CellNote note = NoteOf(notes, row_, col_); !note.words.empty())
+      return FromText(note.words);
+    return widget_->grid()->Style(row_, col_) == CellStyle::kFailing ? QStringLiteral("failing")
+                                                                     : QString();
+  }
+
   QPointer<GridWidget> widget_;
   int row_;
   int col_;
@@ -140,10 +158,20 @@ class GridInterface : public QAccessibleWidget, public QAccessibleTableInterface
     return Heading(widget()->grid()->FixedRows - 1, col);
   }
   QString rowDescription(int row) const override { return Heading(row, 0); }
-  int selectedCellCount() const override { return focusChild() ? 1 : 0; }
+  int selectedCellCount() const override { return focusChild() ? widget()->Range().Count() : 0; }
   QList<QAccessibleInterface*> selectedCells() const override {
-    QAccessibleInterface* cell = focusChild();
-    return cell ? QList<QAccessibleInterface*>{cell} : QList<QAccessibleInterface*>{};
+    QList<QAccessibleInterface*> cells;
+    if (!focusChild()) return cells;
+    const CellRange range = widget()->Range();
+    for (int row = range.top; row <= range.bottom; ++row)
+      for (int col = range.left; col <= range.right; ++col) cells << cellAt(row, col);
+    return cells;
+  }
+  QString text(QAccessible::Text type) const override {
+    const QString text = QAccessibleWidget::text(type);
+    const QString notice = widget()->NoticeShown();
+    if (type != QAccessible::Description || notice.isEmpty()) return text;
+    return text.isEmpty() ? notice : text + QLatin1Char(' ') + notice;
   }
   int selectedColumnCount() const override { return 0; }
   int selectedRowCount() const override { return 0; }

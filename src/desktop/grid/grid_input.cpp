@@ -1,5 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // What mouse and keyboard do in the grid.
+#include <QClipboard>
+#include <QGuiApplication>
 #include <QHelpEvent>
 #include <QKeyEvent>
 #include <QMouseEvent>
@@ -17,7 +19,8 @@ bool GridWidget::event(QEvent* event) {
   // An arrow key that reached the edge stays in the grid instead of moving the focus.
   if (event->type() == QEvent::ShortcutOverride) {
     const auto& key = static_cast<const QKeyEvent&>(*event);
-    if (grid_ && TargetOf(key)) event->accept();
+    if (grid_ && (TargetOf(key) || key.matches(QKeySequence::Copy) || IsZoomKey(key)))
+      event->accept();
   }
   return QAbstractScrollArea::event(event);
 }
@@ -30,20 +33,28 @@ bool GridWidget::viewportEvent(QEvent* event) {
   }
   if (grid_ && event->type() == QEvent::Leave) {
     grid_->MouseRow = grid_->MouseCol = -1;
+    pointer_.reset();
+    SetHover({});
     Q_EMIT hovered(-1, -1);
   }
   return QAbstractScrollArea::viewportEvent(event);
 }
 
+// What the Portal tells of the cell, otherwise a text that is cut.
+QString GridWidget::ToolTipOf(int row, int col) const {
+  if (grid_->Notes.Tip)
+    if (const QString tip = FromText(grid_->Notes.Tip(row, col)); !tip.isEmpty()) return tip;
+  if (IsCut(row, col)) return FromText(grid_->TextMatrix(row, col));
+  return FromText(NoteOf(grid_->Notes, row, col).words);
+}
+
 void GridWidget::ShowToolTip(const QPoint& place, const QPoint& global) {
   MeasureIfChanged();
   const Cell cell = CellAt(place);
-  if (cell.row < 0 || !IsCut(cell.row, cell.col)) {
-    QToolTip::hideText();
-    return;
-  }
-  const QString text = FromText(grid_->TextMatrix(cell.row, cell.col));
-  QToolTip::showText(global, text.toHtmlEscaped(), viewport(), CellRect(cell.row, cell.col));
+  const QString text = cell.row < 0 ? QString() : ToolTipOf(cell.row, cell.col);
+  if (text.isEmpty()) return QToolTip::hideText();
+  QToolTip::showText(global, text.toHtmlEscaped().replace(QLatin1Char('\n'), QLatin1String("<br>")),
+                     viewport(), CellRect(cell.row, cell.col));
 }
 
 void GridWidget::PointAt(const QPoint& place) {
@@ -57,15 +68,24 @@ void GridWidget::mousePressEvent(QMouseEvent* event) {
   if (!grid_ || event->button() != Qt::LeftButton) return;
   pressed_here_ = true;
   PointAt(event->position().toPoint());
+  if (TakeBorder(event->position().toPoint())) return;
   const int row = grid_->MouseRow, col = grid_->MouseCol;
   if (row < 0) return;
-  if (row >= grid_->FixedRows && col >= grid_->FixedCols) MoveTo(row, col);
+  if (row >= grid_->FixedRows && col >= grid_->FixedCols) {
+    Extend(event->modifiers() & Qt::ShiftModifier);
+    MoveTo(row, col);
+  }
   Q_EMIT cellClicked(row, col);
 }
 
 void GridWidget::mouseMoveEvent(QMouseEvent* event) {
   if (!grid_) return;
-  PointAt(event->position().toPoint());
+  const QPoint place = event->position().toPoint();
+  PointAt(place);
+  pointer_ = place;
+  if (resizing_.col >= 0) return DrawBorder(place);
+  viewport()->setCursor(BorderAt(place) >= 0 ? Qt::SplitHCursor : Qt::ArrowCursor);
+  SetHover({grid_->MouseRow, grid_->MouseCol});
   Q_EMIT hovered(grid_->MouseRow, grid_->MouseCol);
 }
 
@@ -74,6 +94,12 @@ void GridWidget::mouseDoubleClickEvent(QMouseEvent* event) {
   if (!pressed_here_) return mousePressEvent(event);
   if (!grid_ || event->button() != Qt::LeftButton) return;
   PointAt(event->position().toPoint());
+  // A border that is clicked twice goes back to where it was made.
+  if (const int col = BorderAt(event->position().toPoint()); col >= 0) {
+    resizing_ = {};
+    kept_.ForgetWidth(*grid_, col);
+    return ApplyFonts();
+  }
   if (grid_->MouseRow >= 0) Q_EMIT cellDoubleClicked(grid_->MouseRow, grid_->MouseCol);
 }
 
@@ -84,17 +110,36 @@ void GridWidget::DoubleClick(int row, int col) {
   Q_EMIT cellDoubleClicked(row, col);
 }
 
+// A move with Shift selects from where the first one began; any other ends the selection.
+void GridWidget::Extend(bool with_shift) {
+  const CellRange before = Range();
+  if (!with_shift)
+    anchor_.reset();
+  else if (!anchor_)
+    anchor_ = Cell{grid_->Row, grid_->Col};
+  if (!before.IsOneCell()) UpdateCells(before);
+}
+
+void GridWidget::CopyRange() const {
+  const CellRange range = Range();
+  if (range.top < 0 || range.bottom >= grid_->Rows() || range.right >= grid_->Cols()) return;
+  QGuiApplication::clipboard()->setMimeData(TableOf(*grid_, range));
+}
+
 void GridWidget::keyPressEvent(QKeyEvent* event) {
   if (!grid_) return event->ignore();
   MeasureIfChanged();
   const int key = event->key();
   const bool presses = key == Qt::Key_Return || key == Qt::Key_Enter || key == Qt::Key_Space;
+  if (event->matches(QKeySequence::Copy)) return CopyRange();
+  if (IsZoomKey(*event)) return ZoomBy(*event);
   if (KeyOf(*event) == Key::kF4) {
     Q_EMIT listAsked();
   } else if (presses && enter_double_clicks_ && grid_->Row < grid_->Rows() &&
              grid_->Col < grid_->Cols()) {
     DoubleClick(grid_->Row, grid_->Col);
   } else if (const std::optional<Cell> target = TargetOf(*event)) {
+    Extend(event->modifiers() & Qt::ShiftModifier);
     MoveTo(target->row, target->col);
   } else {
     event->ignore();

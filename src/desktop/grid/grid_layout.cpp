@@ -61,6 +61,18 @@ int GridAxis::Next(int from, int step) const {
   return from;
 }
 
+GridAxis GridAxis::With(int index, int size) const {
+  GridAxis axis(*this);
+  const int more = size - SizeOf(index);
+  for (auto i = static_cast<std::size_t>(index) + 1; i < axis.offsets_.size(); ++i)
+    axis.offsets_[i] += more;
+  return axis;
+}
+
+GridAxis GridAxis::WithLeast(int index, int size) const {
+  return SizeOf(index) == 0 || SizeOf(index) >= size ? *this : With(index, size);
+}
+
 int PixelsOfTwips(int twips, int logical_dpi, double font_points) {
   return static_cast<int>(
       std::lround(twips * (logical_dpi * font_points) / (kTwipsToTheInch * kDesignPoints)));

@@ -40,8 +40,13 @@ class GridAxis {
   int FirstToShow(int index, int first, int extent) const;
   // Those that can be seen within `extent`, hidden ones left out.
   std::vector<Band> Visible(int first, int extent) const;
+  // The same with one of another size; with one that is at least so large, unless it is hidden.
+  GridAxis With(int index, int size) const;
+  GridAxis WithLeast(int index, int size) const;
   // The next one in a direction that is neither fixed nor hidden; `from` when there is none.
   int Next(int from, int step) const;
+
+  friend bool operator==(const GridAxis&, const GridAxis&) = default;
 
  private:
   int Offset(int index) const { return offsets_[static_cast<std::size_t>(index)]; }

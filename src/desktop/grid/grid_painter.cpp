@@ -1,56 +1,18 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "desktop/grid/grid_painter.h"
 
-#include <QFontMetricsF>
 #include <algorithm>
-#include <cmath>
 
 #include "base/text.h"
-#include "desktop/basics/text_conversion.h"
+#include "desktop/grid/grid_grounds.h"
 
 namespace tallyroll {
 namespace {
 
-constexpr int kCellMargin = 4;
-constexpr int kCenteredMargin = 1;
-
-// The painter takes QString; this one stands on the stack for any usual cell.
-class StackText {
- public:
-  explicit StackText(std::string_view text) {
-    if (text.size() > buffer_.size()) {
-      text_ = FromText(text);
-      return;
-    }
-    const auto& characters = CodePageCharacters();
-    for (std::size_t i = 0; i < text.size(); ++i)
-      buffer_[i] = QChar(characters[static_cast<unsigned char>(text[i])]);
-    text_ = QString::fromRawData(buffer_.data(), static_cast<qsizetype>(text.size()));
-  }
-  const QString& text() const { return text_; }
-
- private:
-  std::array<QChar, 64> buffer_;
-  QString text_;
-};
-
-void DrawText(QPainter& painter, const CellFont& font, std::string_view text, ColumnAlign align,
-              const QRect& cell) {
-  // Blanks in front are part of a heading's look; behind they would push a number off its edge.
-  const std::string_view shown = TrimRight(text);
-  if (shown.empty()) return;
-  const int room = RoomForText(cell.width(), align);
-  const int width = font.WidthOf(shown);
-  const int y = cell.top() + (cell.height() - font.Height()) / 2 + font.Ascent();
-  int x = cell.left() + (cell.width() - room) / 2;
-  if (width > room) {
-    painter.drawText(QPointF(x, y), font.Elided(shown, room));
-    return;
-  }
-  if (align == ColumnAlign::kRight) x += room - width;
-  if (align == ColumnAlign::kCenter) x += (room - width) / 2;
-  painter.drawText(QPointF(x, y), StackText(shown).text());
-}
+constexpr double kShade = 8;
+constexpr double kRing = 2;
+constexpr double kRingRadius = 2.5;
+constexpr double kNoticeMargin = 12;
 
 class Painting {
  public:
@@ -58,180 +20,184 @@ class Painting {
       : painter_(painter),
         picture_(picture),
         grid_(picture.grid),
-        rows_(Within(picture.rows.Visible(picture.grid.TopRow, view.height()), area.top(),
-                     area.bottom())),
-        columns_(Within(picture.columns.Visible(picture.grid.LeftCol, view.width()), area.left(),
-                        area.right())),
+        bands_(BandsWithin(picture, view, area)),
         view_(view),
-        area_(area) {}
+        area_(area),
+        cells_(painter, picture.grid, picture.colors, picture.fonts) {}
 
   void Run() {
-    painter_.fillRect(area_, picture_.colors.Look(CellStyle::kPlain).background);
-    PaintCells();
+    PaintGrounds(painter_, picture_, bands_, area_);
     PaintLines();
+    PaintRing();
+    PaintCells();
     PaintMergedRow();
-    PaintCurrentCell();
+    PaintShade();
+    PaintNotice();
   }
 
  private:
-  static std::vector<Band> Within(std::vector<Band> bands, int from, int to) {
-    std::erase_if(bands, [&](const Band& b) { return b.start > to || b.start + b.size <= from; });
-    return bands;
-  }
-
-  bool IsFixed(int row, int col) const { return row < grid_.FixedRows || col < grid_.FixedCols; }
-
-  const CellLook& LookOf(int row, int col) const {
-    const CellStyle style = grid_.Style(row, col);
-    if (style == CellStyle::kPlain && IsFixed(row, col)) return picture_.colors.Heading();
-    return picture_.colors.Look(style);
+  const Tokens& tokens() const { return picture_.colors.tokens(); }
+  static QRect CellOf(const Band& row, const Band& column) {
+    return {column.start, row.start, column.size, row.size};
   }
 
   void PaintCells() {
-    for (const Band& row : rows_) {
+    for (const Band& row : bands_.rows) {
       if (grid_.MergeRow(row.index)) continue;
-      for (const Band& column : columns_) PaintCell(row, column);
+      for (const Band& column : bands_.columns) PaintCell(row, column);
     }
   }
 
   void PaintCell(const Band& row, const Band& column) {
-    const QRect cell(column.start, row.start, column.size, row.size);
-    const CellLook& look = LookOf(row.index, column.index);
-    if (look.background != picture_.colors.Look(CellStyle::kPlain).background)
-      painter_.fillRect(cell, look.background);
-    const std::string_view text = grid_.TextMatrix(row.index, column.index);
-    if (text.empty()) return;
-    DrawText(painter_, Use(look), text, grid_.ColAlignment(column.index), cell);
+    const QRect cell = CellOf(row, column);
+    if (row.index < grid_.FixedRows) {
+      const bool named_below = row.index + 1 < grid_.FixedRows && column.index < grid_.FixedCols &&
+                               Trim(grid_.TextMatrix(row.index + 1, column.index)).empty();
+      if (!named_below)
+        cells_.Head(row.index, column.index, picture_.focused && IsCurrentColumn(column), cell);
+    } else if (column.index < grid_.FixedCols) {
+      cells_.Pinned(row.index, column.index, IsCurrentRow(row), cell);
+    } else {
+      cells_.Mark(row.index, column.index, NoteOf(grid_.Notes, row.index, column.index), cell);
+    }
   }
 
-  // Sets font and pen only when they change: most neighbours look the same.
-  const CellFont& Use(const CellLook& look) {
-    if (&look != in_use_) {
-      painter_.setPen(look.text);
-      painter_.setFont((look.bold ? picture_.fonts.bold : picture_.fonts.plain).font());
-      in_use_ = &look;
-    }
-    return look.bold ? picture_.fonts.bold : picture_.fonts.plain;
+  bool IsCurrentRow(const Band& row) const {
+    return HasCurrentCell(grid_) && row.index == grid_.Row;
+  }
+  bool IsCurrentColumn(const Band& column) const {
+    return HasCurrentCell(grid_) && column.index == grid_.Col;
   }
 
   void PaintLines() {
-    lines_.clear();
-    const int right = columns_.empty() ? 0 : columns_.back().start + columns_.back().size - 1;
-    const int bottom = rows_.empty() ? 0 : rows_.back().start + rows_.back().size - 1;
-    for (const Band& row : rows_) {
-      const int y = row.start + row.size - 1;
-      lines_.push_back(QLine(area_.left(), y, right, y));
+    std::vector<QLine> faint, strong;
+    const int right = bands_.columns.empty() ? -1 : EndOf(bands_.columns.back()) - 1;
+    const int bottom = bands_.rows.empty() ? -1 : EndOf(bands_.rows.back()) - 1;
+    const int left = std::max(area_.left(), 0), top = std::max(area_.top(), 0);
+    for (const Band& row : bands_.rows) {
+      const bool last_head = row.index == grid_.FixedRows - 1;
+      const bool fifth = row.index >= grid_.FixedRows && (row.index - grid_.FixedRows + 1) % 5 == 0;
+      // The two lines of a head are one over the pinned columns.
+      const bool within_head = row.index < grid_.FixedRows - 1;
+      const int from = within_head ? std::max(left, picture_.columns.FixedSize()) : left;
+      const int y = EndOf(row) - 1;
+      if (from <= right) (last_head || fifth ? strong : faint).emplace_back(from, y, right, y);
     }
-    for (const Band& column : columns_) {
-      const int x = column.start + column.size - 1;
-      lines_.push_back(QLine(x, area_.top(), x, bottom));
+    for (const Band& column : bands_.columns) {
+      const bool edge = column.start + column.size == picture_.columns.FixedSize();
+      const int x = EndOf(column) - 1;
+      (edge ? strong : faint).emplace_back(x, top, x, bottom);
     }
-    painter_.setPen(picture_.colors.Line());
-    painter_.drawLines(lines_.data(), static_cast<int>(lines_.size()));
-    in_use_ = nullptr;
+    painter_.setPen(tokens().grid_line);
+    painter_.drawLines(faint.data(), static_cast<int>(faint.size()));
+    painter_.setPen(tokens().strong_line);
+    painter_.drawLines(strong.data(), static_cast<int>(strong.size()));
   }
 
-  // Over the cells and their lines, which a heading covers.
+  // Round the cell in work; and where its row and its column begin.
+  void PaintRing() {
+    if (!HasCurrentCell(grid_)) return;
+    const auto is = [](int index) { return [index](const Band& b) { return b.index == index; }; };
+    const auto row = std::find_if(bands_.rows.begin(), bands_.rows.end(), is(grid_.Row));
+    const auto column = std::find_if(bands_.columns.begin(), bands_.columns.end(), is(grid_.Col));
+    const QColor color = picture_.focused ? tokens().focus : tokens().border;
+    const int bar = picture_.fonts.Px(2);
+    if (column != bands_.columns.end() && grid_.FixedRows > 0)
+      painter_.fillRect(column->start, picture_.rows.FixedSize() - bar, column->size - 1, bar,
+                        color);
+    if (row != bands_.rows.end() && grid_.FixedCols > 0 && picture_.columns.FixedSize() > 0)
+      painter_.fillRect(0, row->start, picture_.fonts.Px(3), row->size - 1, color);
+    if (row == bands_.rows.end() || column == bands_.columns.end()) return;
+    const QRectF ring = QRectF(CellOf(*row, *column)).adjusted(0, 0, -1, -1);
+    painter_.setRenderHint(QPainter::Antialiasing);
+    painter_.setPen(QPen(color, kRing));
+    painter_.setBrush(tokens().surface);
+    painter_.drawRoundedRect(ring.adjusted(1, 1, -1, -1), kRingRadius, kRingRadius);
+    painter_.setRenderHint(QPainter::Antialiasing, false);
+  }
+
+  // A heading covers the lines below it.
   void PaintMergedRow() {
-    const auto row = std::find_if(rows_.begin(), rows_.end(),
+    const auto row = std::find_if(bands_.rows.begin(), bands_.rows.end(),
                                   [this](const Band& b) { return grid_.MergeRow(b.index); });
-    if (row == rows_.end()) return;
+    if (row == bands_.rows.end()) return;
     // All columns in view, not only those to be painted: the heading is centred over what is seen.
     const std::vector<Band> columns = picture_.columns.Visible(grid_.LeftCol, view_.width());
     for (const HeadingSpan& span : MergedSpans(grid_, columns)) {
       const Band& first = columns[static_cast<std::size_t>(span.first)];
       const Band& last = columns[static_cast<std::size_t>(span.last)];
-      const int right = std::min(last.start + last.size, view_.width());
-      PaintHeading(first.index, span.first != span.last,
-                   QRect(first.start, row->start, right - first.start, row->size), row->index);
+      if (first.index < grid_.FixedCols) continue;  // named below
+      const int right = std::min(EndOf(last), view_.width());
+      const QRect cell(first.start, row->start, right - first.start, row->size);
+      painter_.fillRect(cell.adjusted(0, 0, -1, -1), tokens().header);
+      cells_.GroupHead(grid_.TextMatrix(row->index, first.index), cell);
     }
   }
 
-  void PaintHeading(int col, bool merged, const QRect& cell, int row) {
-    const CellLook& look = LookOf(row, col);
-    painter_.fillRect(cell.adjusted(0, 0, -1, -1), look.background);
-    const std::string_view text = grid_.TextMatrix(row, col);
-    DrawText(painter_, Use(look), merged ? Trim(text) : text,
-             merged ? ColumnAlign::kCenter : grid_.ColAlignment(col), cell);
+  void PaintShade() {
+    const int edge = picture_.columns.FixedSize();
+    const QRect shade(edge, 0, ShadeWidth(picture_.fonts), view_.height());
+    if (grid_.LeftCol <= grid_.FixedCols || edge == 0 || !shade.intersects(area_)) return;
+    QLinearGradient fade(shade.topLeft(), shade.topRight());
+    fade.setColorAt(0, QColor(0, 0, 0, tokens().dark ? 90 : 36));
+    fade.setColorAt(1, QColor(0, 0, 0, 0));
+    const int bottom = bands_.rows.empty() ? 0 : EndOf(bands_.rows.back());
+    painter_.fillRect(shade & area_ & QRect(0, 0, view_.width(), bottom), fade);
   }
 
-  void PaintCurrentCell() {
-    if (!picture_.focus_frame.isValid() || IsFixed(grid_.Row, grid_.Col)) return;
-    const auto is = [](int index) { return [index](const Band& b) { return b.index == index; }; };
-    const auto row = std::find_if(rows_.begin(), rows_.end(), is(grid_.Row));
-    const auto column = std::find_if(columns_.begin(), columns_.end(), is(grid_.Col));
-    if (row == rows_.end() || column == columns_.end()) return;
-    painter_.setPen(QPen(picture_.focus_frame, 2, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin));
-    painter_.drawRect(column->start + 1, row->start + 1, column->size - 3, row->size - 3);
+  void PaintNotice() {
+    if (picture_.empty.isEmpty()) return;
+    const CellFont& font = picture_.fonts.plain;
+    const int top = picture_.rows.FixedSize();
+    const bool has_rows = picture_.rows.TotalSize() > top;
+    const int left = has_rows ? picture_.columns.FixedSize() : 0;
+    const int margin = picture_.fonts.Px(kNoticeMargin);
+    const QRect room = QRect(left, top, view_.width() - left, view_.height() - top)
+                           .adjusted(margin, 2, -margin, -2);
+    const QFontMetrics metrics(font.font());
+    QRect words = metrics.boundingRect(room, Qt::AlignCenter | Qt::TextWordWrap, picture_.empty);
+    words = words.adjusted(-margin, -margin / 2, margin, margin / 2) & room;
+    painter_.fillRect(words, has_rows ? tokens().surface : tokens().window);
+    painter_.setFont(font.font());
+    painter_.setPen(tokens().muted);
+    painter_.drawText(room, Qt::AlignCenter | Qt::TextWordWrap, picture_.empty);
   }
 
   QPainter& painter_;
   const GridPicture& picture_;
   const Grid& grid_;
-  std::vector<Band> rows_;
-  std::vector<Band> columns_;
+  GridBands bands_;
   QSize view_;
   QRect area_;
-  std::vector<QLine> lines_;
-  const CellLook* in_use_ = nullptr;
+  CellPainter cells_;
 };
 
 }  // namespace
 
-int RoomForText(int cell_width, ColumnAlign align) {
-  return cell_width - 2 * (align == ColumnAlign::kCenter ? kCenteredMargin : kCellMargin);
+int ShadeWidth(const GridFonts& fonts) {
+  return fonts.Px(kShade);
 }
 
 GridAxis WidenedForTexts(const Grid& grid, const GridAxis& columns, const GridFonts& fonts,
-                         int width) {
+                         int width, const std::vector<bool>& set) {
   int spare = width - columns.TotalSize();
   if (spare <= 0) return columns;
   std::vector<int> sizes;
   for (int col = 0; col < grid.Cols(); ++col) {
+    const auto at = static_cast<std::size_t>(col);
     const int size = columns.SizeOf(col);
     sizes.push_back(size);
     if (size == 0 || grid.ColAlignment(col) != ColumnAlign::kLeft) continue;
+    if (at < set.size() && set[at]) continue;
     int widest = 0;
     for (int row = 0; row < grid.Rows(); ++row)
-      widest = std::max(widest, fonts.plain.WidthOf(grid.TextMatrix(row, col)));
+      widest = std::max(widest, WidthWanted(grid, fonts, row, col));
     const int lacking = widest - RoomForText(size, ColumnAlign::kLeft);
     const int given = std::clamp(lacking, 0, spare);
     sizes.back() += given;
     spare -= given;
   }
   return GridAxis(std::move(sizes), columns.Fixed());
-}
-
-CellFont::CellFont(const QFont& font) : font_(font) {
-  const QFontMetricsF metrics(font);
-  widths_.fill(kNotMeasured);
-  ascent_ = static_cast<int>(std::lround(metrics.ascent()));
-  height_ = static_cast<int>(std::lround(metrics.height()));
-}
-
-float CellFont::WidthOf(unsigned char character) const {
-  float& width = widths_[character];
-  if (width == kNotMeasured) {
-    const QChar shown(CodePageCharacters()[character]);
-    width = static_cast<float>(QFontMetricsF(font_).horizontalAdvance(shown));
-  }
-  return width;
-}
-
-int CellFont::WidthOf(std::string_view text) const {
-  float width = 0;
-  for (const char c : text) width += WidthOf(static_cast<unsigned char>(c));
-  return static_cast<int>(std::ceil(width));
-}
-
-QString CellFont::Elided(std::string_view text, int width) const {
-  return QFontMetrics(font_).elidedText(FromText(text), Qt::ElideRight, width);
-}
-
-GridFonts::GridFonts(const QFont& font) : plain(font) {
-  QFont heavy = font;
-  heavy.setBold(true);
-  bold = CellFont(heavy);
 }
 
 std::vector<HeadingSpan> MergedSpans(const Grid& grid, const std::vector<Band>& columns) {

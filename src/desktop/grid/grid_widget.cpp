@@ -46,44 +46,81 @@ GridWidget::~GridWidget() = default;
 void GridWidget::SetGrid(Grid* grid) {
   grid_ = grid;
   shown_ = {};
+  anchor_.reset();
+  hover_ = {};
+  prints_.clear();
   if (!grid) return;
   Measure();
   UpdateFromGrid();
   viewport()->update();
 }
 
+void GridWidget::Keep(const QString& name) {
+  kept_ = KeptGrid(name);
+  ApplyFonts();
+}
+
 void GridWidget::UpdateFromGrid() {
   if (!grid_ || !grid_->Redraw()) return;
   const bool refilled = shown_.revision != grid_->Revision();
-  MeasureIfChanged();
+  const bool other_measures = MeasureIfChanged();
   const bool moved = shown_.row != grid_->Row || shown_.col != grid_->Col;
   const bool scrolled = shown_.top_row != grid_->TopRow || shown_.left_col != grid_->LeftCol;
   // A view that the logic set is obeyed; otherwise the current cell stays in sight.
   if (moved && !scrolled) ShowCell(grid_->Row, grid_->Col);
   ClampView();
   SetScrollBars();
-  shown_ = {grid_->Revision(), grid_->Row, grid_->Col, grid_->TopRow, grid_->LeftCol};
-  if (refilled || moved || scrolled) viewport()->update();
+  const bool same_view = shown_.top_row == grid_->TopRow && shown_.left_col == grid_->LeftCol;
+  const Shown before = std::exchange(
+      shown_, {grid_->Revision(), grid_->Row, grid_->Col, grid_->TopRow, grid_->LeftCol});
+  if (moved && !moving_) anchor_.reset();
+  if (other_measures || !same_view) {
+    viewport()->update();
+    prints_ = PrintsOfView();
+  } else {
+    if (refilled) UpdateWhatChanged();
+    if (moved) {
+      UpdateCross(before.row, before.col);
+      UpdateCross(grid_->Row, grid_->Col);
+    }
+  }
   if (moved && hasFocus()) NoteFocus(*this);
 }
 
-void GridWidget::Measure() {
-  if (!grid_) return;
+// True when a row or a column stands elsewhere than before.
+bool GridWidget::Measure() {
+  if (!grid_) return false;
   const int text_height = std::max(fonts_.plain.Height(), fonts_.bold.Height());
-  const double points = QFontInfo(font()).pointSizeF();
-  rows_ = RowsOf(*grid_, logicalDpiY(), points, text_height);
-  const GridAxis columns = ColumnsOf(*grid_, logicalDpiX(), points);
+  GridAxis rows = RowsOf(*grid_, logicalDpiY(), fonts_.points, text_height);
+  const bool two_lines = grid_->Notes.AboveHead || grid_->Notes.BelowHead;
+  if (two_lines && grid_->FixedRows > 0)
+    rows = rows.WithLeast(grid_->FixedRows - 1, fonts_.bold.Height() + fonts_.small.Height() + 4);
+  GridAxis columns = ColumnsOf(*grid_, logicalDpiX(), fonts_.points);
+  std::vector<bool> set(static_cast<std::size_t>(grid_->Cols()));
+  for (int col = 0; col < grid_->Cols(); ++col) {
+    const std::optional<int> twips = kept_.WidthOf(*grid_, col);
+    if (!twips) continue;
+    set[static_cast<std::size_t>(col)] = true;
+    columns = columns.With(col, PixelsOfTwips(*twips, logicalDpiX(), fonts_.points));
+  }
   natural_width_ = columns.TotalSize();
-  columns_ = WidenedForTexts(*grid_, columns, fonts_, viewport()->width());
+  columns = WidenedForTexts(*grid_, columns, fonts_, viewport()->width(), set);
   measured_ = grid_->Revision();
+  const bool same = rows == rows_ && columns == columns_;
+  rows_ = std::move(rows);
+  columns_ = std::move(columns);
+  return !same;
 }
 
 // The logic may have changed the grid since it was shown; no event may meet old measures.
-void GridWidget::MeasureIfChanged() {
+bool GridWidget::MeasureIfChanged() {
   const bool fits = rows_.Count() == grid_->Rows() && columns_.Count() == grid_->Cols() &&
                     rows_.Fixed() == grid_->FixedRows && columns_.Fixed() == grid_->FixedCols;
-  if (measured_ != grid_->Revision() || !fits) Measure();
+  const bool other_measures = (measured_ != grid_->Revision() || !fits) && Measure();
+  // Who meets a changed grid on the way to a repaint leaves the rest to the repaint.
+  if (other_measures) viewport()->update();
   ClampView();
+  return other_measures;
 }
 
 void GridWidget::ClampView() {
@@ -121,22 +158,25 @@ void GridWidget::scrollContentsBy(int, int) {
   const int dx = columns_.Start(left, grid_->LeftCol) - columns_.Start(left, left);
   grid_->TopRow = shown_.top_row = top;
   grid_->LeftCol = shown_.left_col = left;
-  const int fixed_width = columns_.FixedSize(), fixed_height = rows_.FixedSize();
-  // Moves the pixels that stay in view, so that only what comes into view is painted.
-  if (dy != 0) viewport()->scroll(0, -dy, viewport()->rect().adjusted(0, fixed_height, 0, 0));
-  if (dx != 0) {
-    viewport()->scroll(-dx, 0, viewport()->rect().adjusted(fixed_width, 0, 0, 0));
-    viewport()->update(0, 0, viewport()->width(), fixed_height);
-  }
+  ScrollPixels(dx, dy);
+  prints_ = shown_.revision == grid_->Revision() ? PrintsOfView() : std::vector<std::size_t>();
+  if (pointer_) Hover(*pointer_);
 }
 
 void GridWidget::MoveTo(int row, int col) {
   if (!grid_ || (row == grid_->Row && col == grid_->Col)) return;
+  const CellRange before = Range();
   grid_->Row = row;
   grid_->Col = col;
   MeasureIfChanged();
   ShowCell(row, col);
+  moving_ = true;
   UpdateFromGrid();
+  moving_ = false;
+  if (!before.IsOneCell() || !Range().IsOneCell()) {
+    UpdateCells(before);
+    UpdateCells(Range());
+  }
   Q_EMIT currentCellChanged(row, col);
 }
 
@@ -168,22 +208,26 @@ GridWidget::Cell GridWidget::CellAt(const QPoint& place) const {
 }
 
 bool GridWidget::IsCut(int row, int col) const {
-  const bool bold = colors_.Look(grid_->Style(row, col)).bold;
-  const CellFont& cell_font = bold ? fonts_.bold : fonts_.plain;
-  return cell_font.WidthOf(grid_->TextMatrix(row, col)) >
+  return WidthWanted(*grid_, fonts_, row, col) >
          RoomForText(CellRect(row, col).width(), grid_->ColAlignment(col));
+}
+
+CellRange GridWidget::Range() const {
+  if (!grid_) return {};
+  const Cell from = anchor_.value_or(Cell{grid_->Row, grid_->Col});
+  return RangeBetween(from.row, from.col, grid_->Row, grid_->Col);
 }
 
 void GridWidget::paintEvent(QPaintEvent* event) {
   if (grid_ && !grid_->Redraw()) return;
   QPainter painter(viewport());
   if (!grid_) {
-    painter.fillRect(event->rect(), palette().color(QPalette::Base));
+    painter.fillRect(event->rect(), colors_.tokens().window);
     return;
   }
   MeasureIfChanged();
-  const QColor frame = palette().color(hasFocus() ? QPalette::Highlight : QPalette::Mid);
-  const GridPicture picture{*grid_, rows_, columns_, colors_, fonts_, frame};
+  const GridPicture picture{*grid_,     rows_,   columns_,   colors_,    fonts_,
+                            hasFocus(), Range(), hover_.row, hover_.col, NoticeShown()};
   // Scrolling sideways asks for a strip and the headings; their common rectangle is everything.
   for (const QRect& area : event->region()) {
     painter.setClipRect(area);
@@ -202,6 +246,8 @@ void GridWidget::resizeEvent(QResizeEvent* event) {
   SetScrollBars();
   shown_.top_row = grid_->TopRow;
   shown_.left_col = grid_->LeftCol;
+  prints_ = PrintsOfView();
+  viewport()->update();
 }
 
 QSize GridWidget::sizeHint() const {
@@ -224,22 +270,17 @@ void GridWidget::changeEvent(QEvent* event) {
   QAbstractScrollArea::changeEvent(event);
   const auto type = event->type();
   if (type == QEvent::PaletteChange || type == QEvent::StyleChange) colors_ = GridColors(palette());
-  if (type == QEvent::FontChange || type == QEvent::StyleChange) {
-    fonts_ = GridFonts(font());
-    Measure();
-    updateGeometry();
-    if (grid_) SetScrollBars();
-  }
+  if (type == QEvent::FontChange || type == QEvent::StyleChange) ApplyFonts();
   viewport()->update();
 }
 
 void GridWidget::focusInEvent(QFocusEvent*) {
-  viewport()->update();
+  ShowFocus();
   NoteFocus(*this);
 }
 
 void GridWidget::focusOutEvent(QFocusEvent*) {
-  viewport()->update();
+  ShowFocus();
 }
 
 }  // namespace tallyroll

@@ -7,6 +7,7 @@
 
 #include "desktop/grid/grid_layout.h"
 #include "desktop/grid/grid_painter.h"
+#include "desktop/grid/kept_grid.h"
 #include "platform/grid.h"
 
 namespace tallyroll {
@@ -25,6 +26,15 @@ class GridWidget : public QAbstractScrollArea {
   // Shows what changed since the last time. While Redraw is off nothing happens.
   void UpdateFromGrid();
 
+  // Under this name its widths and its size are kept between runs.
+  void Keep(const QString& name);
+  // In one sentence, what will stand here; shown while the grid has no row behind its heads.
+  void SetEmptyText(const QString& text);
+  // The same whatever the grid holds; empty for nothing.
+  void SetNotice(const QString& text);
+  // What of the two is shown now.
+  QString NoticeShown() const;
+
   // Whether Enter and the blank stand for a double click on the current cell. Off, Enter is left
   // to the dialog.
   void SetEnterDoubleClicks(bool on) { enter_double_clicks_ = on; }
@@ -42,6 +52,15 @@ class GridWidget : public QAbstractScrollArea {
   Cell CellAt(const QPoint& place) const;
   // Whether the text is wider than its cell, so that its end does not show.
   bool IsCut(int row, int col) const;
+  // What is selected with Shift, otherwise the current cell.
+  CellRange Range() const;
+  // 1 is the usual size.
+  void SetZoom(double zoom);
+  double Zoom() const { return kept_.zoom(); }
+
+  // What a screen reader adds to the current cell.
+  void SetTold(const QString& told) { told_ = told; }
+  const QString& Told() const { return told_; }
 
   QSize sizeHint() const override;
   // With all its columns and room for a scroll bar.
@@ -65,7 +84,9 @@ class GridWidget : public QAbstractScrollArea {
   void keyPressEvent(QKeyEvent* event) override;
   void mousePressEvent(QMouseEvent* event) override;
   void mouseMoveEvent(QMouseEvent* event) override;
+  void mouseReleaseEvent(QMouseEvent* event) override;
   void mouseDoubleClickEvent(QMouseEvent* event) override;
+  void wheelEvent(QWheelEvent* event) override;
   void focusInEvent(QFocusEvent* event) override;
   void focusOutEvent(QFocusEvent* event) override;
   void changeEvent(QEvent* event) override;
@@ -79,13 +100,37 @@ class GridWidget : public QAbstractScrollArea {
     int top_row = -1;
     int left_col = -1;
   };
+  // A column whose border is drawn along.
+  struct Resizing {
+    int col = -1;
+    int from = 0;   // where it was taken hold of
+    int width = 0;  // and how wide the column was
+  };
 
-  void Measure();
-  void MeasureIfChanged();
+  bool Measure();
+  bool MeasureIfChanged();
   void ClampView();
   void SetScrollBars();
   void ShowCell(int row, int col);
+  void ScrollPixels(int dx, int dy);
+  void ApplyFonts();
+  void ShowFocus();
+  void UpdateCells(const CellRange& cells);
+  void UpdateCross(int row, int col);
+  void UpdateWhatChanged();
+  std::vector<std::size_t> PrintsOfView() const;
+  void Hover(const QPoint& place);
+  void SetHover(const Cell& cell);
   void PointAt(const QPoint& place);
+  void Extend(bool with_shift);
+  void CopyRange() const;
+  // Ctrl with plus, minus or 0.
+  static bool IsZoomKey(const QKeyEvent& event);
+  void ZoomBy(const QKeyEvent& event);
+  QString ToolTipOf(int row, int col) const;
+  int BorderAt(const QPoint& place) const;
+  bool TakeBorder(const QPoint& place);
+  void DrawBorder(const QPoint& place);
   void DoubleClick(int row, int col);
   void ShowToolTip(const QPoint& place, const QPoint& global);
   std::optional<Cell> TargetOf(const QKeyEvent& event) const;
@@ -93,8 +138,17 @@ class GridWidget : public QAbstractScrollArea {
   int EdgeOf(const GridAxis& axis, int direction) const;
 
   Grid* grid_ = nullptr;
+  KeptGrid kept_;
+  QString empty_text_;
+  QString notice_;
+  Resizing resizing_;
+  std::optional<Cell> anchor_;       // where the selection with Shift began
+  std::optional<QPoint> pointer_;    // in the viewport
+  Cell hover_;                       // what it rests on
+  std::vector<std::size_t> prints_;  // of the cells in view, as they are painted
   bool enter_double_clicks_ = true;
   bool setting_bars_ = false;
+  bool moving_ = false;        // by what the user did, not by the logic
   bool pressed_here_ = false;  // a first press, which a double click needs
   Shown shown_;
   std::uint64_t measured_ = 0;
@@ -103,6 +157,7 @@ class GridWidget : public QAbstractScrollArea {
   int natural_width_ = 0;  // of the columns as the logic set them
   GridFonts fonts_;
   GridColors colors_;
+  QString told_;
 };
 
 }  // namespace tallyroll

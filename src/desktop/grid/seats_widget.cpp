@@ -4,6 +4,7 @@
 #include <QPaintEvent>
 #include <QPainter>
 #include <algorithm>
+#include <cmath>
 
 #include "desktop/basics/text_conversion.h"
 
@@ -17,12 +18,11 @@ constexpr int kPadding = 4;        // above and below the words of the head
 constexpr double kSmallest = 0.6;  // of the font, before a text is cut
 
 // A font in which a text is no wider than the room, as far as it can still be read.
-QFont Fitting(QFont font, const QString& text, int room) {
+QFont Narrower(QFont font, int width, int room) {
   const double points = font.pointSizeF();
-  for (double size = points; size > points * kSmallest; size -= 0.5) {
-    font.setPointSizeF(size);
-    if (QFontMetrics(font).horizontalAdvance(text) <= room) break;
-  }
+  // Text is as wide as its font is large; steps of half a point, since each size costs a font.
+  const double fitting = std::floor(points * room / width * 2) / 2;
+  font.setPointSizeF(std::max(fitting, points * kSmallest));
   return font;
 }
 
@@ -112,8 +112,14 @@ void SeatsWidget::PaintCard(QPainter& painter, const QRect& card, int row, int c
   bold.setBold(true);
   const int line = card.height() / 3;
   const auto write = [&](const QFont& with, const QString& text, int place) {
-    painter.setFont(Fitting(with, text, card.width()));
-    const QString shown = painter.fontMetrics().elidedText(text, Qt::ElideRight, card.width());
+    if (text.isEmpty()) return;
+    painter.setFont(with);
+    const int width = painter.fontMetrics().horizontalAdvance(text);
+    QString shown = text;
+    if (width > card.width()) {
+      painter.setFont(Narrower(with, width, card.width()));
+      shown = painter.fontMetrics().elidedText(text, Qt::ElideRight, card.width());
+    }
     painter.drawText(QRect(card.left(), card.top() + place * line, card.width(), line),
                      Qt::AlignCenter, shown);
   };

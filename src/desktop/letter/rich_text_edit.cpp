@@ -21,7 +21,7 @@ namespace tallyroll {
 namespace {
 
 constexpr double kPaperEdge = 24;  // units of the document between the paper's edge and its text
-constexpr double kTwipsAnInch = 1440;
+constexpr double kTwipsAnInchOfLetter = 1440;
 constexpr int kMostSuggestions = 6;
 constexpr const char* kRichFormats[] = {"text/rtf", "application/rtf", "text/richtext"};
 
@@ -76,7 +76,7 @@ void RichTextEdit::LayOut() {
   device_.SetZoom(zoom_);
   document()->documentLayout()->setPaintDevice(&device_);
   const double dpi = viewport()->logicalDpiX() * zoom_;
-  const double width = paper_ * dpi / kTwipsAnInch + 2 * kPaperEdge * zoom_;
+  const double width = paper_ * dpi / kTwipsAnInchOfLetter + 2 * kPaperEdge * zoom_;
   const int line = static_cast<int>(std::lround(width));
   if (paper_ > 0) {
     setLineWrapMode(QTextEdit::FixedPixelWidth);

@@ -40,11 +40,11 @@ QStringList ProgramFolders() {
           beside + QStringLiteral("/../../sample")};
 }
 
-// True: the form does not fit, and the Portal is not available.
+// True: the form does not fit, and the Portal cannot be shown.
 bool ReportComplaints(const PortalDialog& dialog, const Portal& portal) {
   for (const QString& complaint : dialog.Complaints())
     qCritical("%s: %s", portal.Name().c_str(), qUtf8Printable(complaint));
-  if (!dialog.Complaints().isEmpty()) ClassWindow().ShowStatus(kPortalNotAvailable);
+  if (!dialog.Complaints().isEmpty()) ClassWindow().ShowStatus("This portal cannot be shown: its form does not fit.");
   return !dialog.Complaints().isEmpty();
 }
 

@@ -6,6 +6,7 @@
 
 #include "desktop/basics/text_conversion.h"
 #include "desktop/portal/control_binding.h"
+#include "desktop/portal/telling_label.h"
 
 namespace tallyroll {
 namespace {
@@ -22,7 +23,11 @@ class LabelBinding : public Binding<Label, QLabel> {
  protected:
   void ShowValue() override {
     const QString text = LinesFromText(control_.Caption);
-    if (widget_.text() != text) widget_.setText(text);
+    if (widget_.text() == text) return;
+    if (auto* telling = qobject_cast<TellingLabel*>(&widget_))
+      telling->Tell(text);
+    else
+      widget_.setText(text);
   }
 };
 

@@ -5,6 +5,7 @@
 #include "desktop/grid/grid_widget.h"
 #include "desktop/portal/card_drag.h"
 #include "desktop/portal/control_binding.h"
+#include "desktop/portal/empty_texts.h"
 
 namespace tallyroll {
 namespace {
@@ -17,6 +18,9 @@ class GridBinding : public Binding<Grid, GridWidget> {
  public:
   GridBinding(Grid& control, ControlRow& row, GridWidget& widget, BindingOwner& owner)
       : Binding(control, row, widget, owner) {
+    const QString portal = widget.window()->objectName();
+    widget.Keep(portal + QLatin1Char('.') + widget.objectName());
+    widget.SetEmptyText(EmptyTextOf(portal, widget.objectName()));
     widget.SetGrid(&control);
     widget.SetEnterDoubleClicks(static_cast<bool>(row.dbl_click));
     QObject::connect(&widget, &GridWidget::currentCellChanged, this,

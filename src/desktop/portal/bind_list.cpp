@@ -7,6 +7,7 @@
 #include "desktop/basics/text_conversion.h"
 #include "desktop/portal/card_drag.h"
 #include "desktop/portal/control_binding.h"
+#include "desktop/portal/empty_texts.h"
 #include "desktop/portal/list_columns.h"
 
 namespace tallyroll {
@@ -19,6 +20,7 @@ class ListBinding : public Binding<ListBox, QListWidget> {
     list.setItemDelegate(columns_);
     list.installEventFilter(this);
     list.viewport()->installEventFilter(this);
+    ShowWhileEmpty(list, EmptyTextOf(list.window()->objectName(), list.objectName()));
     if (row.drag_drop) LetCardsMove();
     if (control.MultiSelect) list.setSelectionMode(QAbstractItemView::ExtendedSelection);
     QObject::connect(&list, &QListWidget::currentRowChanged, this, [this] {

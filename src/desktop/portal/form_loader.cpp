@@ -19,8 +19,12 @@
 #include "desktop/grid/seats_widget.h"
 #include "desktop/letter/rich_text_edit.h"
 #include "desktop/portal/chart_widget.h"
+#include "desktop/portal/code_key.h"
 #include "desktop/portal/code_page_text_edit.h"
 #include "desktop/portal/date_field.h"
+#include "desktop/portal/folding_text.h"
+#include "desktop/portal/telling_label.h"
+#include "desktop/portal/total_figure.h"
 #include "desktop/style/program_style.h"
 
 namespace tallyroll {
@@ -32,10 +36,14 @@ QWidget* MakeOwnWidget(const QString& class_name, QWidget* parent) {
       class_name == QLatin1String("GridWidget"))
     return new GridWidget(parent);
   if (class_name == QLatin1String("tallyroll::SeatsWidget")) return new SeatsWidget(parent);
+  if (class_name == QLatin1String("tallyroll::TellingLabel")) return new TellingLabel(parent);
   if (class_name == QLatin1String("tallyroll::ChartWidget")) return new ChartWidget(parent);
   if (class_name == QLatin1String("tallyroll::RichTextEdit")) return new RichTextEdit(parent);
   if (class_name == QLatin1String("tallyroll::CellList")) return new CellList(parent);
   if (class_name == QLatin1String("QPlainTextEdit")) return new CodePageTextEdit(parent);
+  if (class_name == QLatin1String("tallyroll::TotalFigure")) return new TotalFigure(parent);
+  if (class_name == QLatin1String("tallyroll::FoldingText")) return new FoldingText(parent);
+  if (class_name == QLatin1String("tallyroll::CodeKey")) return new CodeKey(parent);
   if (class_name == QLatin1String("tallyroll::DateArrow")) return new DateArrow(parent);
   if (class_name == QLatin1String("QDateEdit")) return new DateField(parent);
   return nullptr;

@@ -4,6 +4,7 @@
 
 #include <QAction>
 #include <QCloseEvent>
+#include <QContextMenuEvent>
 #include <QCursor>
 #include <QLabel>
 #include <QMdiArea>
@@ -28,6 +29,7 @@ ClassWindowView::ClassWindowView(Form1& form) : form_(&form) {
   grid_ = new GridWidget(page);
   grid_->setObjectName(QStringLiteral("Grid1"));
   grid_->setAccessibleName(tr("Students and grades"));
+  grid_->Keep(QStringLiteral("Form1.Grid1"));
   grid_->SetGrid(&form.Grid1);
   status_ = new QLabel(page);
   status_->setObjectName(QStringLiteral("StatusBar1"));
@@ -69,11 +71,23 @@ void ClassWindowView::Sync() {
   if (form_ == nullptr) return;
   menu_->Sync();
   toolbar_->Sync();
+  grid_->SetNotice(Notice());
   grid_->UpdateFromGrid();
   if (const QString title = Title(); title != windowTitle()) setWindowTitle(title);
   moment_->Follow(form_->MessagesTold);
   const QString status = hint_.isEmpty() ? FromText(form_->StatusText) : hint_;
   if (status != status_->text()) status_->setText(status);
+}
+
+// What will stand in a class that has nothing yet, and the way there.
+QString ClassWindowView::Notice() const {
+  const Class& c = Classes[static_cast<std::size_t>(LeadingNumber(form_->Tag))];
+  if (form_->Tag.empty()) return {};
+  if (c.NumStudents == 0)
+    return tr("No students yet - double click on the head above to enter one");
+  if (c.NumInstruments == 0)
+    return tr("No grades yet - double click on Testing Instruments to enter one");
+  return {};
 }
 
 // An asterisk marks what is not saved yet.
@@ -121,6 +135,26 @@ void ClassWindowView::closeEvent(QCloseEvent* event) {
   // The class is asked first; when it may go, the frame takes this window down.
   event->ignore();
   if (form_ != nullptr) Q_EMIT CloseAsked();
+}
+
+// What can be asked about the student in a row. The entries are the menu's own, so they are enabled
+// with it.
+void ClassWindowView::contextMenuEvent(QContextMenuEvent* event) {
+  if (form_ == nullptr) return;
+  const bool keyboard = event->reason() == QContextMenuEvent::Keyboard;
+  GridWidget::Cell cell{form_->Grid1.Row, form_->Grid1.Col};
+  if (!keyboard) cell = grid_->CellAt(grid_->viewport()->mapFromGlobal(event->globalPos()));
+  const int student = cell.row - form_->Grid1.FixedRows + 1;
+  if (student < 1 ||
+      student > Classes[static_cast<std::size_t>(LeadingNumber(form_->Tag))].NumStudents)
+    return QMdiSubWindow::contextMenuEvent(event);
+  grid_->MoveTo(cell.row, std::max(cell.col, form_->Grid1.FixedCols));
+  QMenu asked(this);
+  asked.setObjectName(QStringLiteral("asked"));
+  asked.addAction(menu_->Action(QStringLiteral("mnuexplain")));
+  asked.addAction(menu_->Action(QStringLiteral("mnustudenthistory")));
+  const QPoint below = grid_->viewport()->mapToGlobal(grid_->CellRect(cell.row, cell.col).center());
+  asked.exec(keyboard ? below : event->globalPos());
 }
 
 void ClassWindowView::PointAt() {

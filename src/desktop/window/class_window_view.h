@@ -42,9 +42,11 @@ class ClassWindowView : public QMdiSubWindow {
 
  protected:
   void closeEvent(QCloseEvent* event) override;
+  void contextMenuEvent(QContextMenuEvent* event) override;
 
  private:
   QString Title() const;
+  QString Notice() const;
   void EndStatus();
   void PointAt();
   void SwitchBetweenGridAndToolbar();

@@ -24,6 +24,7 @@
 #include "desktop/window/message_moment.h"
 #include "desktop/window/start_page.h"
 #include "desktop/window/tile_windows.h"
+#include "shell/data_folder.h"
 #include "shell/shell_state.h"
 
 namespace tallyroll {
@@ -122,6 +123,7 @@ void FrameWindow::Connect(ClassWindowView* view) {
 }
 
 void FrameWindow::Press(const QString& entry) {
+  if (entry == QLatin1String(kSampleEntry)) return Run([] { FrameForm->OpenRecent(SamplePath()); });
   Run([&entry] { FrameForm->ClickMenu(entry.toStdString()); });
 }
 

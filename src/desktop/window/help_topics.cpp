@@ -18,6 +18,7 @@ constexpr std::array kContexts = {
     140,  // recent classes, several classes at a time
     150,  // starting the program: frmstartup
     160,  // text files: frmtxt
+    165,  // other school systems: frmexchange
     200,  // the class window: Form1
     210,  // all keys
     215,  // finding students, grades, commands and classes: frmfind
@@ -46,6 +47,7 @@ constexpr std::array kContexts = {
     430,  // title and progress of a printout: printmsg
     440,  // preview: frmprintpre
     470,  // sending a report by mail: frmSendMail
+    475,  // sending to several: frmSendMany
     500,  // weights of grades: frmweights, frmdropgrade, frmtotals
     510,  // weights of types: frmpercents
     520,  // points: frmpoints
@@ -63,6 +65,10 @@ constexpr std::array kContexts = {
     650,  // one grade of all students: frmsingles
     700,  // letters: frmwrdproc
     710,  // find and replace: frmreplace
+    810,  // explaining an average: frmexplain
+    820,  // unusual marks: frmunusual
+    830,  // undo and redo
+    840,  // the history of a class: frmhistory
 };
 
 }  // namespace

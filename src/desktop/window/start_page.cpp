@@ -2,47 +2,62 @@
 // What the frame shows while no class is open: how to begin, and the recent files.
 #include "desktop/window/start_page.h"
 
-#include <QCommandLinkButton>
-#include <QEvent>
+#include <QApplication>
 #include <QHBoxLayout>
-#include <QKeyEvent>
 #include <QLabel>
 #include <QPainter>
+#include <QTimer>
 #include <QVBoxLayout>
 
-#include "desktop/basics/palette_icon.h"
 #include "desktop/basics/text_conversion.h"
+#include "desktop/style/tokens.h"
+#include "desktop/window/page_button.h"
+#include "shell/data_folder.h"
+#include "shell/recent_facts.h"
+#include "store/safe_file.h"
+#include "store/settings.h"
 
 namespace tallyroll {
 
 namespace {
 
 constexpr int kRecentFiles = 5;
-constexpr int kRowSpacing = 8;
+constexpr int kWidest = 880;
+constexpr int kEmptyCardHeight = 212;
+constexpr int kIconSide = 56;
 
-QLabel* Heading(const QString& text, double scale) {
-  auto* label = new QLabel(text);
-  QFont font = label->font();
-  font.setPointSizeF(font.pointSizeF() * scale);
-  font.setBold(true);
-  label->setFont(font);
-  return label;
-}
-
-// Shows where the keyboard is and takes Enter, which a command link by itself does not.
-class PageButton : public QCommandLinkButton {
- protected:
-  void keyPressEvent(QKeyEvent* event) override {
-    if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) return click();
-    QCommandLinkButton::keyPressEvent(event);
+// A text of the page in the size of its use, which follows the window's font.
+class PageText : public QLabel {
+ public:
+  PageText(const QString& text, TextUse use) : QLabel(text), use_(use) {}
+  QSize sizeHint() const override {
+    const QFontMetrics metrics(FontFor(font(), use_));
+    return metrics.size(Qt::TextSingleLine, text()) + QSize(2, 2);
   }
-  void paintEvent(QPaintEvent* event) override {
-    QCommandLinkButton::paintEvent(event);
-    if (!hasFocus()) return;
+  QSize minimumSizeHint() const override { return {1, sizeHint().height()}; }
+
+ protected:
+  void paintEvent(QPaintEvent*) override {
+    const Tokens t = TokensOf(palette());
     QPainter painter(this);
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(QPen(palette().color(QPalette::Highlight), 2));
-    painter.drawRoundedRect(QRectF(rect()).adjusted(1, 1, -1, -1), 4, 4);
+    painter.setFont(FontFor(font(), use_));
+    painter.setPen(use_ == TextUse::kText ? t.muted : t.text);
+    painter.drawText(rect(), Qt::AlignLeft | Qt::AlignVCenter, text());
+  }
+
+ private:
+  TextUse use_;
+};
+
+// The program's own icon.
+class PageIcon : public QWidget {
+ public:
+  PageIcon() { setFixedSize(kIconSide, kIconSide); }
+
+ protected:
+  void paintEvent(QPaintEvent*) override {
+    QPainter painter(this);
+    QApplication::windowIcon().paint(&painter, rect());
   }
 };
 
@@ -52,7 +67,7 @@ QString Plain(QString text) {
 }
 
 // "&2. /home/ann/MATH.TYR" stands as the file's name above its folder.
-void ShowRecent(QCommandLinkButton* button, const QString& caption) {
+void ShowRecent(PageButton* button, const QString& caption) {
   if (button->property("caption") == caption) return;
   button->setProperty("caption", caption);
   const QString path = caption.mid(caption.indexOf(QStringLiteral(". ")) + 2)
@@ -63,45 +78,36 @@ void ShowRecent(QCommandLinkButton* button, const QString& caption) {
   button->setAccessibleName(path);
 }
 
+QVBoxLayout* Column(int spacing) {
+  auto* column = new QVBoxLayout;
+  column->setSpacing(spacing);
+  return column;
+}
+
 }  // namespace
 
 StartPage::StartPage(const Menu& menu, QWidget* parent) : QWidget(parent), menu_(menu) {
-  auto* begin = new QVBoxLayout;
-  begin->setSpacing(kRowSpacing);
-  begin->addWidget(Heading(tr("Begin"), 1.2));
-  AddBeginning(QStringLiteral("mnuwizard"), QStringLiteral("New"), tr("New class with the &wizard"),
-               tr("A few questions lead you to your first class."), begin);
-  AddBeginning(QStringLiteral("mnuown"), QStringLiteral("Student"), tr("New class on &my own"),
-               tr("Type in the students one after another."), begin);
-  AddBeginning(QStringLiteral("mnuOpen"), QStringLiteral("Open"), tr("&Open a class..."),
-               tr("Go on with a class that you saved before."), begin);
-  begin->addStretch();
-
-  auto* recent = new QVBoxLayout;
-  recent->setSpacing(kRowSpacing);
-  recent_heading_ = Heading(tr("Recent classes"), 1.2);
-  recent->addWidget(recent_heading_);
-  for (int i = 0; i < kRecentFiles; ++i) {
-    recent_.push_back(AddButton(QStringLiteral("mnuFileList%1").arg(i), recent));
-  }
-  no_recent_ = new QLabel(tr("Classes that you open or save will be listed here."));
-  no_recent_->setWordWrap(true);
-  recent->addWidget(no_recent_);
-  recent->addStretch();
-
   auto* columns = new QHBoxLayout;
-  columns->setSpacing(48);  // between the columns; they would take it over for their rows
-  columns->addLayout(begin, 1);
-  columns->addLayout(recent, 1);
+  columns->setSpacing(32);
+  columns->addLayout(MakeBeginnings(), 1);
+  columns->addLayout(MakeRecent(), 1);
+
+  auto* words = Column(2);
+  words->addWidget(new PageText(tr("Welcome to Tallyroll"), TextUse::kDisplay));
+  words->addWidget(new PageText(tr("Your grade book: students, grades, attendance and averages."),
+                                TextUse::kText));
+  auto* title = new QHBoxLayout;
+  title->setSpacing(16);
+  title->addWidget(new PageIcon);
+  title->addLayout(words, 1);
 
   auto* page = new QWidget;
-  page->setMaximumWidth(920);
+  page->setMaximumWidth(kWidest);
   auto* rows = new QVBoxLayout(page);
   rows->setSpacing(8);
   rows->addStretch(1);
-  rows->addWidget(Heading(tr("Welcome to Tallyroll"), 2.2));
-  rows->addWidget(new QLabel(tr("Your grade book: students, grades, attendance and averages.")));
-  rows->addSpacing(24);
+  rows->addLayout(title);
+  rows->addSpacing(28);
   rows->addLayout(columns);
   rows->addStretch(2);
 
@@ -110,33 +116,69 @@ StartPage::StartPage(const Menu& menu, QWidget* parent) : QWidget(parent), menu_
   centre->addStretch(1);
   centre->addWidget(page, 12);
   centre->addStretch(1);
-  DrawIcons();
   Sync();
 }
 
-QCommandLinkButton* StartPage::AddButton(const QString& entry, QVBoxLayout* column) {
-  auto* button = new PageButton;
+QVBoxLayout* StartPage::MakeBeginnings() {
+  auto* begin = Column(10);
+  begin->addWidget(new PageText(tr("Begin"), TextUse::kHeading));
+  AddBeginning(QStringLiteral("mnuwizard"), QStringLiteral("New"), tr("New class with the &wizard"),
+               tr("A few questions lead you to your first class."), begin);
+  AddBeginning(QStringLiteral("mnuown"), QStringLiteral("Student"), tr("New class on &my own"),
+               tr("Type in the students one after another."), begin);
+  AddBeginning(QStringLiteral("mnuOpen"), QStringLiteral("Open"), tr("&Open a class..."),
+               tr("Go on with a class that you saved before."), begin);
+  sample_ = AddBeginning(QString::fromLatin1(kSampleEntry), QStringLiteral("Grades"),
+                         tr("Look at the &sample class"),
+                         tr("A finished class to try everything with."), begin);
+  begin->addStretch();
+  return begin;
+}
+
+QVBoxLayout* StartPage::MakeRecent() {
+  auto* recent = Column(10);
+  recent->addWidget(new PageText(tr("Recent classes"), TextUse::kHeading));
+  auto* card = new PageCard;
+  auto* lines = new QVBoxLayout(card);
+  lines->setContentsMargins(6, 6, 6, 6);
+  lines->setSpacing(0);
+  for (int i = 0; i < kRecentFiles; ++i) {
+    auto* line = new PageButton(PageButton::Kind::kLine, QStringLiteral("Grades"));
+    recent_.push_back(line);
+    AddButton(line, QStringLiteral("mnuFileList%1").arg(i), lines);
+  }
+  no_recent_ = new QLabel(tr("Classes that you open or save will be listed here."));
+  no_recent_->setWordWrap(true);
+  no_recent_->setAlignment(Qt::AlignCenter);
+  no_recent_->setForegroundRole(QPalette::PlaceholderText);
+  no_recent_->setMinimumHeight(kEmptyCardHeight);
+  lines->addWidget(no_recent_);
+  recent->addWidget(card);
+  recent->addStretch();
+  return recent;
+}
+
+void StartPage::AddButton(PageButton* button, const QString& entry, QVBoxLayout* column) {
   button->setObjectName(entry);
-  button->setIconSize(QSize(24, 24));
   connect(
       button, &QCommandLinkButton::clicked, this, [this, entry] { Q_EMIT Pressed(entry); },
       Qt::QueuedConnection);
   column->addWidget(button);
-  return button;
 }
 
-void StartPage::AddBeginning(const QString& entry, const QString& icon, const QString& title,
-                             const QString& description, QVBoxLayout* column) {
-  QCommandLinkButton* button = AddButton(entry, column);
+PageButton* StartPage::AddBeginning(const QString& entry, const QString& icon, const QString& title,
+                                    const QString& description, QVBoxLayout* column) {
+  auto* button = new PageButton(PageButton::Kind::kCard, icon);
+  AddButton(button, entry, column);
   button->setText(title);
   button->setDescription(description);
-  button->setProperty("icon_name", icon);
-  beginnings_.push_back(button);
+  if (beginnings_ == nullptr) beginnings_ = button;
+  return button;
 }
 
 void StartPage::Sync() {
   bool any = false;
-  for (QCommandLinkButton* button : recent_) {
+  for (PageButton* button : recent_) {
     const MenuEntry* entry = menu_.Find(button->objectName().toStdString());
     const bool shown = entry != nullptr && entry->visible && !entry->caption.empty();
     if (shown) ShowRecent(button, FromText(entry->caption));
@@ -146,23 +188,20 @@ void StartPage::Sync() {
   no_recent_->setVisible(!any);
 }
 
-void StartPage::changeEvent(QEvent* event) {
-  if (event->type() == QEvent::PaletteChange) DrawIcons();
-  QWidget::changeEvent(event);
+// The files are asked once the page stands: a folder that is far away must not hold it up.
+void StartPage::TellFacts() {
+  for (int i = 0; i < kRecentFiles; ++i) {
+    const std::string& path = RecentFiles[static_cast<std::size_t>(i)];
+    if (!path.empty())
+      recent_[static_cast<std::size_t>(i)]->SetFacts(FromText(TextOfFacts(FactsOfFile(path))));
+  }
+  sample_->setVisible(PathExists(SamplePath()));
 }
 
 void StartPage::showEvent(QShowEvent* event) {
-  beginnings_.front()->setFocus();
+  beginnings_->setFocus();
   QWidget::showEvent(event);
-}
-
-void StartPage::DrawIcons() {
-  for (QCommandLinkButton* button : beginnings_) {
-    button->setIcon(PaletteIcon(button->property("icon_name").toString(), palette()));
-  }
-  for (QCommandLinkButton* button : recent_) {
-    button->setIcon(PaletteIcon(QStringLiteral("Grades"), palette()));
-  }
+  QTimer::singleShot(0, this, &StartPage::TellFacts);
 }
 
 }  // namespace tallyroll

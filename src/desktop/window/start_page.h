@@ -7,11 +7,15 @@
 
 #include "shell/menu.h"
 
-class QCommandLinkButton;
 class QLabel;
 class QVBoxLayout;
 
 namespace tallyroll {
+
+class PageButton;
+
+// The one way to begin that no menu has.
+inline constexpr char kSampleEntry[] = "sample";
 
 // Another picture of the frame's menu: each button presses the entry it stands for.
 class StartPage : public QWidget {
@@ -28,20 +32,21 @@ class StartPage : public QWidget {
   void Pressed(const QString& entry);
 
  protected:
-  void changeEvent(QEvent* event) override;
   void showEvent(QShowEvent* event) override;
 
  private:
-  QCommandLinkButton* AddButton(const QString& entry, QVBoxLayout* column);
-  void AddBeginning(const QString& entry, const QString& icon, const QString& title,
-                    const QString& description, QVBoxLayout* column);
-  void DrawIcons();
+  QVBoxLayout* MakeBeginnings();
+  QVBoxLayout* MakeRecent();
+  void AddButton(PageButton* button, const QString& entry, QVBoxLayout* column);
+  PageButton* AddBeginning(const QString& entry, const QString& icon, const QString& title,
+                           const QString& description, QVBoxLayout* column);
+  void TellFacts();
 
   const Menu& menu_;
-  QLabel* recent_heading_;
-  QLabel* no_recent_;
-  std::vector<QCommandLinkButton*> beginnings_;
-  std::vector<QCommandLinkButton*> recent_;
+  QLabel* no_recent_ = nullptr;
+  PageButton* beginnings_ = nullptr;  // the first of them
+  PageButton* sample_ = nullptr;
+  std::vector<PageButton*> recent_;
 };
 
 }  // namespace tallyroll

@@ -70,9 +70,7 @@ class CanvasReader {
     return source_.RawCell(row, 0).starts_with("    ") ||
            LowerCase(source_.Cell(row, 0)) == "points possible";
   }
-  bool IsHeadLine(std::size_t row) const {
-    return source_.Cell(row, 0).empty() || IsPoints(row);
-  }
+  bool IsHeadLine(std::size_t row) const { return source_.Cell(row, 0).empty() || IsPoints(row); }
 
   void ReadGradeTitle(std::size_t column) {
     const std::string title = source_.Title(column);

@@ -24,8 +24,8 @@ std::string CsvWriter::Utf8(bool mark) const {
 MarksByCell::MarksByCell(const ForeignTable& table)
     : grades_(table.grades.size()), marks_(table.students.size() * table.grades.size()) {
   for (const ForeignMark& mark : table.marks)
-    marks_[static_cast<std::size_t>(mark.student) * grades_ + static_cast<std::size_t>(mark.grade)] =
-        &mark;
+    marks_[static_cast<std::size_t>(mark.student) * grades_ +
+           static_cast<std::size_t>(mark.grade)] = &mark;
 }
 
 const ForeignMark* MarksByCell::Of(std::size_t student, std::size_t grade) const {

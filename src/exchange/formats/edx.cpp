@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Open edX: its grade report, whose grades are parts of 1, and the file of bulk grades, which can go
-// back with new marks.
+// Open edX: its grade report, whose grades are parts of 1, and the file of bulk grades, which can
+// go back with new marks.
 #include <algorithm>
 #include <map>
 
@@ -76,8 +76,9 @@ class EdxReader {
     const std::string course = CellOf(row, "course_id");
     if (table_.course.empty()) table_.course = course;
     if (course != table_.course) {
-      table_.faults.push_back({source_.LineOf(row), static_cast<int>(*source_.Find("course_id")) + 1,
-                               course, "is another course than on the lines above"});
+      table_.faults.push_back({source_.LineOf(row),
+                               static_cast<int>(*source_.Find("course_id")) + 1, course,
+                               "is another course than on the lines above"});
       return;
     }
     ForeignStudent student;
@@ -144,8 +145,8 @@ ForeignFile WriteEdx(const ForeignTable& table) {
   CsvWriter out;
   out.Row({"user_id", "username", "student_key", "course_id", "track", "cohort"});
   for (const std::size_t g : grades)
-    for (const char* part : {"name-", "grade-", "original_grade-", "previous_override-",
-                             "new_override-"})
+    for (const char* part :
+         {"name-", "grade-", "original_grade-", "previous_override-", "new_override-"})
       out.Add(part + table.grades[g].key);
   out.EndRow();
   const MarksByCell marks(table);

@@ -43,19 +43,21 @@ std::optional<Currency> PlainNumber(const std::string& text) {
 std::optional<Currency> ForeignNumber(std::string_view text) {
   text = Trim(text);
   if (text.empty() || text.size() > kLongestNumber) return std::nullopt;
-  std::string plain(text);
-  if (plain.front() == '+') plain.erase(0, 1);
-  std::ranges::replace(plain, ',', '.');
-  const std::size_t digits = plain.starts_with('-') ? 1 : 0;
-  const auto points = std::ranges::count(plain, '.');
-  const bool only_digits = std::all_of(plain.begin() + static_cast<std::ptrdiff_t>(digits),
-                                       plain.end(), [](char c) {
-                                         return c == '.' || IsDigitOfNumber(c);
-                                       });
-  if (!only_digits || points > 1 || !std::ranges::any_of(plain, IsDigitOfNumber))
-    return std::nullopt;
-  if (plain.ends_with('.')) plain.pop_back();
-  if (plain[digits] == '.') plain.insert(digits, "0");
+  const bool minus = text.front() == '-';
+  if (minus || text.front() == '+') text.remove_prefix(1);
+  std::string whole;
+  std::string decimals;
+  bool behind_point = false;
+  for (const char c : text) {
+    const bool point = c == '.' || c == ',';
+    if (point ? behind_point : !IsDigitOfNumber(c)) return std::nullopt;
+    behind_point = behind_point || point;
+    if (!point) (behind_point ? decimals : whole) += c;
+  }
+  if (whole.empty() && decimals.empty()) return std::nullopt;
+  std::string plain = minus ? "-" : "";
+  plain += whole.empty() ? "0" : whole;
+  if (!decimals.empty()) plain.append(1, '.').append(decimals);
   return PlainNumber(plain);
 }
 

@@ -16,15 +16,15 @@ struct ForeignGrade {
   std::string key;  // the other system's own identifier; empty where it gives none
   std::optional<Currency> maximum;
   std::string category;
-  std::string date;       // of a class file
+  std::string date;       // "2026-09-01"; empty where there is none
   bool fraction = false;  // marks are parts of 1
   int column = 0;         // of the file, from 1; 0 where it has lines for grades
   int line = 1;
 };
 
 struct ForeignStudent {
-  std::string key;    // the other system's own identifier
-  std::string id;     // the school's
+  std::string key;  // the other system's own identifier
+  std::string id;   // the school's
   std::string login;
   std::string email;
   std::string lastname, firstname;
@@ -54,6 +54,8 @@ struct ForeignTable {
   std::string refusal;  // why nothing can be used, as the end of a sentence
   std::string course;   // the other system's identifier of the course
   std::string section;  // what the class is called
+  std::string school;
+  std::string today;  // "2026-09-01", for what needs a date and has none
   std::vector<ForeignGrade> grades;
   std::vector<ForeignStudent> students;
   std::vector<ForeignMark> marks;

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The grade file of Moodle: fields of the user under translated titles, then columns for items, each
-// with its kind in brackets.
+// The grade file of Moodle: fields of the user under translated titles, then columns for items,
+// each with its kind in brackets.
 #include <algorithm>
 #include <array>
 
@@ -15,7 +15,7 @@ using Titles = std::vector<std::string_view>;
 
 // English, German, French and Spanish, in the code page.
 const Titles kFirstNames = {"First name", "Vorname", "Pr\xE9nom", "Nombre"};
-const Titles kLastNames = {"Last name", "Surname", "Nachname", "Nom",
+const Titles kLastNames = {"Last name",      "Surname",     "Nachname", "Nom",
                            "Nom de famille", "Apellido(s)", "Apellidos"};
 const Titles kIdNumbers = {"ID number", "ID-Nummer", "Num\xE9ro d'identification",
                            "N\xFAmero de ID"};
@@ -25,15 +25,14 @@ const Titles kUserNames = {"Username", "Anmeldename", "Nom d'utilisateur", "Nomb
 constexpr std::string_view kLastDownload = "Last downloaded from this course";
 constexpr std::array<std::string_view, 4> kMarkKinds = {" (Real)", " (Punkte)", " (Brut)",
                                                         " (Note)"};
-constexpr std::array<std::string_view, 3> kFeedbackKinds = {" (Feedback)",
-                                                            " (Retroalimentaci\xF3n)",
-                                                            " (Commentaires)"};
+constexpr std::array<std::string_view, 3> kFeedbackKinds = {
+    " (Feedback)", " (Retroalimentaci\xF3n)", " (Commentaires)"};
 // The same mark once more, in another form.
 constexpr std::array<std::string_view, 4> kOtherKinds = {" (Percentage)", " (Letter)",
                                                          " (Prozentsatz)", " (Pourcentage)"};
 constexpr std::array<std::string_view, 12> kModules = {
-    "Assignment", "Quiz",     "Forum",    "Lesson",   "Workshop",   "SCORM package",
-    "H5P",        "Glossary", "Database", "Aufgabe",  "Test",       "External tool"};
+    "Assignment", "Quiz",     "Forum",    "Lesson",  "Workshop", "SCORM package",
+    "H5P",        "Glossary", "Database", "Aufgabe", "Test",     "External tool"};
 constexpr std::string_view kCourseTotal = "Course total";
 
 template <typename Kinds>
@@ -66,7 +65,8 @@ class MoodleReader {
     user_ = source_.FindAny(kUserNames);
     if (!id_ && !mail_ && !user_ && !last_) {
       table_.refusal =
-          "has none of the columns \"ID number\", \"Email address\", \"Username\" and \"Last name\"";
+          "has none of the columns \"ID number\", \"Email address\", \"Username\" and \"Last "
+          "name\"";
       return std::move(table_);
     }
     for (std::size_t column = 0; column < source_.columns(); ++column) ReadTitle(column);
@@ -124,8 +124,7 @@ class MoodleReader {
       const std::size_t before = table_.marks.size();
       TakeMark(source_, row, item.column, place, item.grade, table_);
       const std::string comment = CellAt(row, item.feedback);
-      if (table_.marks.size() > before)
-        table_.marks.back().comment = comment;
+      if (table_.marks.size() > before) table_.marks.back().comment = comment;
     }
   }
 

@@ -3,8 +3,10 @@
 
 #include <filesystem>
 
+#include "base/code_page.h"
 #include "base/text.h"
 #include "letters/mail/mail_draft.h"
+#include "letters/mail/mail_settings.h"
 #include "platform/surroundings.h"
 #include "printing/page/print_job.h"
 #include "printing/reports/report_codes.h"
@@ -30,6 +32,9 @@ frmSendMail::frmSendMail() : Portal("frmSendMail") {
   Caption = "E-mail Portal";
   HelpContext = kMailTopic;
   FileAdd.Caption = "Add Fi&le...";
+  attachpdf.Caption = "Attach this report as PDF";
+  authorityframe.Caption = "Certificate Authority of the School";
+  FileAuthority.Caption = "&Browse...";
   auth.Caption = "Authentication Needed";
   loginauth.Caption = "Login";
   insert.Caption = "Insert Recipient &Font Information";
@@ -37,9 +42,12 @@ frmSendMail::frmSendMail() : Portal("frmSendMail") {
   connect.Caption = "&Connect Using Dail-Up";
   disconnect.Caption = "&Disconnect Dail-Up Connection";
   cmdSend.Caption = "&Send";
+  cmdCancel.Caption = "Cancel Sendin&g";
+  cmdMany.Caption = "Send to Sever&al...";
   cmdClose.Caption = "&Exit";
   loginauth.Visible = false;
-  disconnect.Enabled = false;
+  disconnect.Enabled = cmdCancel.Enabled = false;
+  Connection.List = {"As told (plain)", "TLS", "STARTTLS"};
 }
 
 frmSendMail::~frmSendMail() = default;
@@ -52,6 +60,11 @@ void frmSendMail::Declare(ControlTable& table) {
   table.Add("txtSubject", txtSubject);
   table.Add("attachFile", attachFile);
   table.Add("FileAdd", FileAdd).Click([this] { FileAdd_Click(); });
+  table.Add("attachpdf", attachpdf);
+  table.Add("Connection", Connection).Change([this] { Connection_Change(); });
+  table.Add("authorityframe", authorityframe);
+  table.Add("authority", authority);
+  table.Add("FileAuthority", FileAuthority).Click([this] { FileAuthority_Click(); });
   table.Add("auth", auth).Change([this] { auth_Change(); });
   table.Add("loginauth", loginauth);
   table.Add("txtusername", txtusername);
@@ -63,6 +76,8 @@ void frmSendMail::Declare(ControlTable& table) {
   table.Add("connect", connect).Click([this] { connect_Click(); });
   table.Add("disconnect", disconnect).Click([this] { disconnect_Click(); });
   table.Add("cmdSend", cmdSend).Click([this] { cmdSend_Click(); });
+  table.Add("cmdCancel", cmdCancel).Click([this] { cmdCancel_Click(); });
+  table.Add("cmdMany", cmdMany).Click([this] { cmdMany_Click(); });
   table.Add("cmdClose", cmdClose).Click([this] { QueryUnload(); });
 }
 
@@ -71,7 +86,14 @@ void frmSendMail::Load() {
   txtHost.Text = MailServer;
   txtSender.Text = SenderAddress;
   txtSubject.Text = Draft.subject;
-  txtMessage.Text = ReadWholeFile(body_file_).bytes;
+  ReadText();
+  student_ = CurrentStudent;
+  Connection.ListIndex = static_cast<int>(StoredMailSecurity());
+  Connection.Text = Connection.List[static_cast<std::size_t>(Connection.ListIndex)];
+  authority_path_ = StoredMailAuthority();
+  authority.Text = PathForDisplay(authority_path_);
+  Connection_Change();
+  cmdMany.Enabled = !Draft.letter || Draft.text_of;
   FillCombo1();
   if (!Draft.recipient.empty()) txtRecipient.Text = Draft.recipient;
   if (MakeSocket) socket_ = MakeSocket();
@@ -82,6 +104,21 @@ void frmSendMail::Load() {
     };
   }
   FocusFirstEmpty();
+}
+
+// A letter may hold what the code page does not; it is then written as UTF-8 with its mark.
+void frmSendMail::ReadText() {
+  constexpr std::string_view kUtf8Mark = "\xEF\xBB\xBF";
+  txtMessage.Text = ReadWholeFile(body_file_).bytes;
+  if (!txtMessage.Text.starts_with(kUtf8Mark)) return;
+  const auto text = CodePageTextFromUtf8(txtMessage.Text.substr(kUtf8Mark.size()));
+  if (!text) return;
+  txtMessage.Text = text->text;
+  if (!text->lacking.empty())
+    ShowMessage(
+        "The letter has characters that a message here cannot hold. A question mark stands for "
+        "each of them.",
+        BoxIcon::kExclamation);
 }
 
 void frmSendMail::FillCombo1() {
@@ -109,6 +146,14 @@ void frmSendMail::Combo1_Change() {
   txtRecipient.Text = Trim(Current().Students[student].email);
 }
 
+// A report as PDF needs a message in parts, which the plain dialogue does not know.
+void frmSendMail::Connection_Change() {
+  const bool plain = Security() == MailSecurity::kPlain;
+  authorityframe.Visible = !plain;
+  attachpdf.Enabled = !plain && !Draft.letter;
+  if (!attachpdf.Enabled) attachpdf.Value = false;
+}
+
 void frmSendMail::auth_Change() {
   loginauth.Visible = auth.Value;
   if (auth.Value) SetFocus(txtusername);
@@ -117,6 +162,8 @@ void frmSendMail::auth_Change() {
 // What was typed into the boxes is kept for the next message, the password never.
 void frmSendMail::QueryUnload() {
   if (socket_) socket_->Close();
+  background_.Stop();
+  StoreMailSettings(Security(), PathOfBox(authority_path_, authority));
   MailServer = txtHost.Text;
   SenderAddress = txtSender.Text;
   Platform().WriteSetting(kApplicationKey, "startup", "POP", MailServer);

@@ -3,7 +3,11 @@
 // preview fills this first; the Portal clears it when it closes.
 #pragma once
 
+#include <functional>
 #include <string>
+#include <vector>
+
+#include "store/records.h"
 
 namespace tallyroll {
 
@@ -14,6 +18,9 @@ struct MailDraft {
   std::string recipient;  // an address, in the code page; empty: that of the student in work
   std::string subject;
   bool letter = false;  // not the report of the preview: there is none to attach
+  // To send a letter to several: the students, and the text for each of them.
+  std::vector<i16> students = {};
+  std::function<std::string(i16 student)> text_of = {};
 };
 
 extern MailDraft Draft;  // set before ShowPortal("frmSendMail"); cleared when that closes

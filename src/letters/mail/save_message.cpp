@@ -37,6 +37,10 @@ std::string AsRichText(std::string_view text) {
 
 }  // namespace
 
+std::string PathOfBox(const std::string& chosen, const TextBox& box) {
+  return box.Text == PathForDisplay(chosen) ? chosen : Utf8FromCodePage(box.Text);
+}
+
 void frmSendMail::insert_Click() {
   const std::string end = "\r\n";
   if (!txtMessage.Text.empty()) txtMessage.Text += end;
@@ -70,14 +74,31 @@ void frmSendMail::save_Click() {
   if (ReplaceFile(path, bytes, OldTail::kDrop) != 0) ShowMessage("File Error");
 }
 
-void frmSendMail::FileAdd_Click() {
+namespace {
+
+// A file of any kind, shown in the box; a path may hold what a box does not.
+void ChooseFile(std::string& path, TextBox& box) {
   FileDialogRequest request;
   request.filter = "All Files (*.*)|*.*";
   request.file_must_exist = true;
-  const std::optional<std::string> path = Platform().FileDialog(request);
-  if (!path || path->empty()) return;
-  attach_path_ = *path;
-  attachFile.Text = PathForDisplay(*path);
+  const std::optional<std::string> chosen = Platform().FileDialog(request);
+  if (!chosen || chosen->empty()) return;
+  path = *chosen;
+  box.Text = PathForDisplay(path);
+}
+
+}  // namespace
+
+void frmSendMail::FileAdd_Click() {
+  ChooseFile(attach_path_, attachFile);
+}
+
+void frmSendMail::FileAuthority_Click() {
+  ChooseFile(authority_path_, authority);
+}
+
+std::string frmSendMail::AttachedPath() const {
+  return PathOfBox(attach_path_, attachFile);
 }
 
 }  // namespace tallyroll

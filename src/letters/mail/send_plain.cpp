@@ -6,9 +6,13 @@
 #include "base/number_text.h"
 #include "base/text.h"
 #include "letters/mail/frmSendMail.h"
+#include "letters/mail/mail_draft.h"
 #include "letters/mail/mail_host.h"
+#include "letters/mail/student_report.h"
 #include "letters/mail/uuencode.h"
 #include "platform/surroundings.h"
+#include "store/program_state.h"
+#include "store/student_names.h"
 
 namespace tallyroll {
 namespace {
@@ -18,7 +22,7 @@ constexpr std::size_t kLongestShownReply = 1000;
 
 }  // namespace
 
-bool frmSendMail::Validate() {
+bool frmSendMail::Validate(Recipients recipients) {
   const auto refuse = [this](const TextBox& box, std::string_view why) {
     ShowMessage(why);
     SetFocus(box);
@@ -27,12 +31,30 @@ bool frmSendMail::Validate() {
   if (txtHost.Text.empty())
     return refuse(txtHost, "You must fill in the Outgoing Mail (SMTP) Sever Box. ");
   if (txtSender.Text.empty()) return refuse(txtSender, "You must fill in the From Address Box.");
-  if (txtRecipient.Text.empty())
+  if (recipients == Recipients::kOne && txtRecipient.Text.empty())
     return refuse(txtRecipient, "You must fill in the To Address Box.");
   if (auth.Value && txtusername.Text.empty())
     return refuse(txtusername, "You must fill in the User Name Box.");
   if (auth.Value && txtpassword.Text.empty())
     return refuse(txtpassword, "You must fill in the Password Box.");
+  return true;
+}
+
+bool frmSendMail::GoesToTheRightOne() {
+  const Class& c = Current();
+  if (Draft.letter || !IsOnSingleStudents() || student_ < 1 || student_ > c.NumStudents)
+    return true;
+  const std::string to = LowerCase(Trim(txtRecipient.Text));
+  const auto has_it = [&to](const Student& each) { return LowerCase(Trim(each.email)) == to; };
+  const Student& shown = c.Students[static_cast<std::size_t>(student_)];
+  if (has_it(shown)) return true;
+  for (i16 i = 1; i <= c.NumStudents; ++i) {
+    const Student& other = c.Students[static_cast<std::size_t>(i)];
+    if (!has_it(other)) continue;
+    return Ask("The report is on " + PlainName(shown) + ", and the address is that of " +
+                   PlainName(other) + ". Send it there all the same?",
+               BoxButtons::kYesNo, BoxIcon::kExclamation) == BoxAnswer::kYes;
+  }
   return true;
 }
 
@@ -50,9 +72,7 @@ bool frmSendMail::PasswordMayTravel(const std::string& host) {
 bool frmSendMail::ReadAttachment() {
   attachment_.clear();
   if (attachFile.Text.empty()) return true;
-  const bool chosen = !attach_path_.empty() && attachFile.Text == PathForDisplay(attach_path_);
-  const UuencodedText file =
-      UuencodeFile(chosen ? attach_path_ : Utf8FromCodePage(attachFile.Text));
+  const UuencodedText file = UuencodeFile(AttachedPath());
   if (file.error != 0) {
     ShowMessage("File Error: " + PlainNumberText(file.error));
     SetFocusAndSelect(attachFile);
@@ -63,9 +83,19 @@ bool frmSendMail::ReadAttachment() {
 }
 
 void frmSendMail::cmdSend_Click() {
-  if (!Validate()) return;
+  if (!Validate() || !GoesToTheRightOne()) return;
+  if (socket_) socket_->Close();
+  background_.Stop();
+  ShowSending(false);
   status.Caption.clear();
   txtmessage1 = txtMessage.Text;
+  if (Security() == MailSecurity::kPlain)
+    SendPlain();
+  else
+    SendProtected();
+}
+
+void frmSendMail::SendPlain() {
   const MailHost host = MailHostOf(txtHost.Text, kPlainPort);
   if (host.port == 0 || host.name.empty()) {
     ShowMessage("The port behind the server's name must be a number from 1 to 65535.");
@@ -73,7 +103,6 @@ void frmSendMail::cmdSend_Click() {
   }
   if (!ReadAttachment() || !PasswordMayTravel(host.name)) return;
   if (!socket_) return SocketFailed(kSocketNoNetwork, {});
-  socket_->Close();
   received_.clear();
   dialogue_.Reset();
   socket_->Connect(host.name, host.port);

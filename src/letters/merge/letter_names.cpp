@@ -14,7 +14,7 @@ namespace tallyroll {
 namespace {
 
 constexpr i16 kFirstModeById = 73;
-constexpr std::size_t kLongestPart = 100;  // of a file name, in bytes of the code page
+constexpr std::size_t kLongestPart = 60;  // of a file name, in characters
 
 // What some file system refuses within a name stands as "-", and no blank or point ends a part.
 std::string FilePart(std::string_view text) {

@@ -18,6 +18,10 @@ bool HasText(const std::vector<Paragraph>& paragraphs) {
   });
 }
 
+bool IsControlByte(char c) {
+  return static_cast<unsigned char>(c) < ' ';
+}
+
 bool ChangesPageOrStyle(RtfKind kind) {
   return kind != RtfKind::kText && kind != RtfKind::kByte;
 }
@@ -181,6 +185,7 @@ void RtfInterpreter::AppendFontBytes() {
   has_style_ = false;
   const std::string text = Utf8FromUtf16(decoder_.Decode(bytes_, page));
   name += text.substr(0, text.find(';'));
+  std::replace_if(name.begin(), name.end(), IsControlByte, ' ');
   name = Trim(name);
 }
 
@@ -268,8 +273,10 @@ void RtfInterpreter::SetAside(RtfAside aside, std::vector<Paragraph> paragraphs)
                                             : counts.footnotes;
   std::vector<Paragraph>& place = aside == RtfAside::kHeader ? headers_ : behind_;
   // The left and the right page often have the same.
-  const auto same = std::search(place.begin(), place.end(), paragraphs.begin(), paragraphs.end());
-  if (aside != RtfAside::kFootnote && same != place.end()) return;
+  constexpr std::size_t kFew = 100;
+  if (aside != RtfAside::kFootnote && place.size() < kFew &&
+      std::search(place.begin(), place.end(), paragraphs.begin(), paragraphs.end()) != place.end())
+    return;
   ++count;
   place.insert(place.end(), paragraphs.begin(), paragraphs.end());
 }

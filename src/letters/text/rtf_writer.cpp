@@ -28,7 +28,7 @@ std::string RtfUnit(char16_t unit) {
   if (unit == u'\t') return "\\tab ";
   if (unit == u'\n') return "\\line ";
   if (unit == u'\\' || unit == u'{' || unit == u'}') return {'\\', static_cast<char>(unit)};
-  if (unit < 0x80) return {1, static_cast<char>(unit)};
+  if (unit < 0x80) return std::string(1, static_cast<char>(unit));
   const auto byte = unit >= 0xA0 ? CodePageOf(unit) : std::nullopt;
   if (byte) return HexByte(*byte);
   return RtfWord("u", static_cast<std::int16_t>(unit)) + "?";

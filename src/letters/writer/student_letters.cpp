@@ -2,10 +2,12 @@
 // Letters and labels for the chosen students: printed, saved, mailed.
 #include <algorithm>
 #include <filesystem>
+#include <optional>
 
 #include "base/code_page.h"
 #include "base/number_text.h"
 #include "base/text.h"
+#include "letters/mail/mail_draft.h"
 #include "letters/merge/letter_names.h"
 #include "letters/merge/merge.h"
 #include "letters/page/print_letters.h"
@@ -16,6 +18,7 @@
 #include "platform/surroundings.h"
 #include "printing/page/print_job.h"
 #include "printing/print_command.h"
+#include "printing/temp_file.h"
 #include "roster/chosen_students.h"
 #include "store/class_file.h"
 #include "store/program_state.h"
@@ -39,6 +42,24 @@ std::string Joined(const std::vector<std::string>& lines) {
   if (lines.size() > kMostLines)
     text += "... and " + PlainNumberText(static_cast<int>(lines.size() - kMostLines)) + " more\n";
   return text;
+}
+
+// A letter as the text of a message; nothing when the teacher would rather not lose what a message
+// has no character for.
+std::optional<std::string> MessageOf(const RichText& letter) {
+  const auto text = CodePageTextFromUtf8(Utf8FromUtf16(PlainText(letter)));
+  if (!text) return std::nullopt;
+  if (!text->lacking.empty() &&
+      Ask("A message cannot hold " + PlainNumberText(static_cast<int>(text->lacking.size())) +
+              " of the letter's characters; \"?\" will stand in their place. Go on?",
+          BoxButtons::kYesNo, BoxIcon::kQuestion) != BoxAnswer::kYes)
+    return std::nullopt;
+  std::string lines;
+  for (const char character : text->text) {
+    if (character == '\n') lines += '\r';
+    lines += character;
+  }
+  return lines;
 }
 
 // Files that are there already are gone over only with the teacher's leave.
@@ -171,9 +192,11 @@ void frmwrdproc::mnuemail_Click() {
   if (!ReadyToLeave(students)) return;
   CurrentStudent = students.front();
   const MergedLetter merged = MergeLetter(RichTextBox1.Document, students.front());
-  const std::string path = ProgramFolder + "/tempfile";
-  if (ReplaceFile(path, PlainTextFile(merged.text), OldTail::kDrop) != 0)
-    return TellSaveFailure(path);
+  const std::optional<std::string> body = MessageOf(merged.text);
+  if (!body) return;
+  if (WriteTempFile(*body) != 0) return TellSaveFailure(TempFilePath());
+  Draft = MailDraft();
+  Draft.letter = true;
   ShowPortal("frmSendMail");
 }
 

@@ -63,4 +63,8 @@ void WriteOneContactForm(TextReport& text);
 void PrintClassInformation(ReportPass& pass);
 void WriteClassInformation(TextReport& text);
 
+// 25: how one student's average came about.
+void PrintExplained(ReportPass& pass);
+void WriteExplained(TextReport& text);
+
 }  // namespace tallyroll

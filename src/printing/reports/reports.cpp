@@ -42,6 +42,7 @@ constexpr std::array kReports = {
     Report{22, 3, PrintClassInformation, WriteClassInformation},
     Report{23, 3, PrintRoster, WriteRoster},
     Report{24, 2, PrintAttendanceSummaryForStudent, WriteAttendanceSummaryForStudent, true},
+    Report{25, 4, PrintExplained, WriteExplained, true},
 };
 
 // Runs a writer to its end. One that cannot go on tells the teacher why, and the run is cancelled.

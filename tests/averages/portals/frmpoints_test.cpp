@@ -155,13 +155,6 @@ TEST_F(FrmPointsTest, PrintHandsTheTableOver) {
   EXPECT_FALSE(portal.Unloaded());
 }
 
-TEST_F(FrmPointsTest, WhereNothingCanBePrintedPrintSaysSo) {
-  PrintTable = nullptr;
-  Open(portal);
-  driver->Press("print");
-  EXPECT_EQ(window.status, kPortalNotAvailable);
-}
-
 TEST_F(FrmPointsTest, ContinueSavesOnYes) {
   Class& c = Current();
   c.AverageSettings = "1,1,1,1,1,2,2";

@@ -1,7 +1,14 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include <nlohmann/json.hpp>
+#include <gmock/gmock.h>
 
+#include <cstdlib>
+#include <map>
+#include <nlohmann/json.hpp>
+#include <sstream>
+
+#include "companion/seat_wishes.h"
 #include "tests/cli/run_cli.h"
+#include "tests/support/pdf_words.h"
 
 namespace tallyroll {
 namespace {
@@ -103,6 +110,90 @@ TEST_F(SeatingCommandTest, SizesThatNoChartHasAreWrong) {
 TEST_F(SeatingCommandTest, OnlyAPdfIsWritten) {
   const std::string file = Build(kSeatedClass), out = Path("chart.txt");
   ExpectRefused(RunCli({"seating", file, "--out", out}), out + ": a chart's file must end in .pdf");
+}
+
+// The page as another program reads it: the class, the front, the heads of the rows, each card on
+// its seat from the board on, and below who has none.
+TEST_F(SeatingCommandTest, ThePageIsWrittenAsPdf) {
+  const std::string pdf = Path("chart.pdf");
+  const CliRun run = RunCli({"seating", "--chart", "1", "--out", pdf, Build(kSeatedClass)});
+  EXPECT_EQ(run.status, 0);
+  EXPECT_EQ(run.err, "");
+  EXPECT_EQ(run.out, "");
+  EXPECT_EQ(PdfInfo(pdf, "Pages"), "1");
+  EXPECT_TRUE(PdfInfo(pdf, "Page size").starts_with("612 x 792")) << PdfInfo(pdf, "Page size");
+  std::string words;
+  for (const std::string& word : WordsOf(PdfText(pdf))) words += word + ' ';
+  for (const char* part : {"Chart Form", "Algebra - Chart 1", "FRONT OF THE ROOM 1 2 ", "Abe, Bo 5",
+                           "Cho, Di 6", "Without a seat: Eng, Fa"}) {
+    EXPECT_NE(words.find(part), std::string::npos) << part << " in " << words;
+  }
+  EXPECT_LT(words.find("Abe,"), words.find("Cho,"));
+}
+
+TEST_F(SeatingCommandTest, AWideChartLiesAcrossTheSheet) {
+  const std::string pdf = Path("wide.pdf"), wide = Path("wide.TYR");
+  ASSERT_EQ(RunCli({"seating", Build(kSeatedClass), "--new", "2x9", "--fill", "sorted",
+                    "--out-class", wide})
+                .err,
+            "");
+  EXPECT_EQ(RunCli({"seating", "--out", pdf, "--text", wide}).status, 0);
+  std::istringstream size(PdfInfo(pdf, "Page size"));
+  double width = 0, height = 0;
+  std::string by;
+  size >> width >> by >> height;
+  EXPECT_GT(width, height);
+  EXPECT_GT(height, 0);
+}
+
+TEST_F(SeatingCommandTest, ACopyOnPaperIsNotWrittenOverAClass) {
+  const std::string file = Build(kSeatedClass, "chart.pdf");
+  const std::string before = Get(file);
+  EXPECT_EQ(RunCli({"seating", "--out", file, file}).status, 1);
+  EXPECT_EQ(Get(file), before);
+}
+
+// Of three rows the first is the front; side by side are neighbours in one row of the chart.
+TEST_F(SeatingCommandTest, TheWishesOfTheCompanionAreMet) {
+  const std::string file = Build(kSeatedClass), out = Path("new.TYR");
+  ASSERT_EQ(KeepSeatWishes(file, {{"beside", "5", "6"}, {"front", "7", ""}}), "");
+  for (const char* seed : {"1", "2", "3"}) {
+    const CliRun run = RunCli({"seating", file, "--new", "3x4", "--fill", "wishes", "--seed", seed,
+                               "--out-class", out, "--force"});
+    EXPECT_EQ(run.err, "");
+    EXPECT_EQ(run.out, "");
+    std::map<std::string, std::pair<int, int>> seats;
+    const json shown = json::parse(RunCli({"seating", "--json", out}).out);
+    for (const json& seat : shown["seats"]) seats[seat["id"]] = {seat["row"], seat["column"]};
+    ASSERT_EQ(seats.size(), 3u);
+    EXPECT_EQ(seats["5"].first, seats["6"].first);
+    EXPECT_EQ(std::abs(seats["5"].second - seats["6"].second), 1);
+    EXPECT_EQ(seats["7"].first, 0);
+  }
+}
+
+TEST_F(SeatingCommandTest, WishesThatCannotBeMetAreListed) {
+  const std::string file = Build(kSeatedClass);
+  ASSERT_EQ(KeepSeatWishes(file, {{"front", "5", ""}, {"back", "5", ""}}), "");
+  const CliRun run = RunCli({"seating", file, "--new", "3x3", "--fill", "wishes", "--seed", "8",
+                             "--out-class", Path("new.TYR")});
+  EXPECT_EQ(run.status, 0);
+  EXPECT_THAT(run.out, testing::AnyOf("Not met: Abe, Bo: at the front\n",
+                                      "Not met: Abe, Bo: at the back\n"));
+}
+
+// Wishes beside another class's file say nothing of these students.
+TEST_F(SeatingCommandTest, WishesThatCannotBeReadAreNoReasonToSeatWithoutThem) {
+  const std::string other = Build(R"({"Students": [{"lastname": "Zed", "id": "5"}]})", "other.TYR");
+  ASSERT_EQ(KeepSeatWishes(other, {{"front", "5", ""}}), "");
+  const std::string file = Build(kSeatedClass);
+  std::filesystem::copy_file(Path("other.tyx"), Path("class.tyx"));
+  const std::vector<std::string> line = {"seating", file,     "--new",       "3x3",
+                                         "--fill",  "wishes", "--out-class", Path("new.TYR")};
+  ExpectRefused(RunCli(line), file + ": the wishes cannot be read: it belongs to another class");
+  Put("class.tyx", std::string(500, 'x'));
+  ExpectRefused(RunCli(line), file + ": the wishes cannot be read: it is damaged");
+  EXPECT_FALSE(std::filesystem::exists(Path("new.TYR")));
 }
 
 }  // namespace

@@ -118,6 +118,24 @@ TEST_F(ChartWidgetTest, ThePointerTellsAndADoubleClickOpens) {
   EXPECT_EQ(Told(), "mid: 4");
 }
 
+// The line runs at 3 through the bar of 4, whose spot is as wide and high as its room.
+TEST_F(ChartWidgetTest, ThePointerFindsTheThinLineBeforeTheBarsBehindIt) {
+  portal.Graph1.chart.thin_line = {3, 3, 3};
+  portal.Graph1.chart.thin_name = "Average";
+  portal.Graph1.Draw();
+  widget().ShowChart(&portal.Graph1.chart, portal.Graph1.Revision);
+  const QPoint on_line = widget().PlaceOf(widget().Spots()[3 + 1]);
+  QTest::mouseMove(&widget(), on_line);
+  EXPECT_EQ(Told(), "Average, mid: 3");
+  QTest::mouseMove(&widget(), on_line + QPoint(0, 30));
+  EXPECT_EQ(Told(), "mid: 4");
+  widget().setFocus();
+  Key(Qt::Key_Up);
+  EXPECT_EQ(Told(), "Average, mid: 3");
+  Key(Qt::Key_Right);
+  EXPECT_EQ(Told(), "Average, high: 3");
+}
+
 TEST_F(ChartWidgetTest, TheSpotsFollowTheSizeOfTheWindow) {
   const QPoint before = widget().PlaceOf(Dot(1));
   dialog->resize(900, 700);

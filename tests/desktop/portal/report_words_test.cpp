@@ -115,7 +115,7 @@ TEST_P(ReportWordsTest, ThePdfHoldsWhatItsPagesWereDrawnWith) {
 
 INSTANTIATE_TEST_SUITE_P(EveryReport, ReportWordsTest,
                          testing::Values(1, 2, 3, 4, 8, 10, 12, 13, 14, 15, 16, 17, 18, 19, 20, 21,
-                                         22, 23, 24));
+                                         22, 23, 24, 25));
 
 }  // namespace
 }  // namespace tallyroll

@@ -41,8 +41,6 @@ TEST(WalkPortals, EveryPortalFitsItsForm) {
 TEST(WalkPortals, EveryFormBelongsToAPortal) {
   QStringList known;
   for (const std::string_view name : PortalNames()) known << FromText(name) + QStringLiteral(".ui");
-  for (const std::string_view name : MissingPortals())
-    known << FromText(name) + QStringLiteral(".ui");
   for (const QString& file : QDir(QStringLiteral(":/forms")).entryList())
     EXPECT_TRUE(known.contains(file)) << file.toStdString();
   EXPECT_FALSE(known.isEmpty());

@@ -12,6 +12,9 @@
 #include <QSignalSpy>
 #include <QTest>
 
+#include "desktop/window/page_button.h"
+#include "shell/data_folder.h"
+#include "shell/recent_facts.h"
 #include "store/settings.h"
 #include "tests/desktop/window/frame_fixture.h"
 
@@ -121,6 +124,40 @@ TEST_F(StartPageTest, CanBeWorkedByKeyboard) {
     EXPECT_TRUE(button->focusPolicy() & Qt::TabFocus) << button->objectName().toStdString();
   }
   EXPECT_EQ(window->focusWidget(), Button("mnuwizard"));
+}
+
+TEST_F(StartPageTest, TellsOfARecentClassWhatItsFileSays) {
+  RecentFiles[0] = WriteClass("MATH.TYR");
+  RecentFiles[1] = Path("GONE.TYR");
+  FrameForm->RebuildRecentMenu();
+  window->Sync();
+  window->hide();
+  window->show();
+  Settle();
+  const auto facts = [this](const char* entry) {
+    return dynamic_cast<PageButton*>(Button(entry))->facts();
+  };
+  EXPECT_TRUE(facts("mnuFileList0").contains(QStringLiteral("2 students")));
+  EXPECT_EQ(Button("mnuFileList0")->accessibleDescription(), facts("mnuFileList0"));
+  EXPECT_EQ(facts("mnuFileList1"), QStringLiteral("Not found"));
+}
+
+TEST_F(StartPageTest, OpensTheSampleWhereThereIsOne) {
+  DataFolder = folder;
+  window->hide();
+  window->show();
+  Settle();
+  EXPECT_FALSE(Button("sample")->isVisible());
+  std::filesystem::rename(WriteClass("MATH.TYR"), SamplePath());
+  window->hide();
+  window->show();
+  Settle();
+  EXPECT_TRUE(Button("sample")->isVisible());
+  Button("sample")->setFocus();
+  QTest::keyClick(Button("sample"), Qt::Key_Return);
+  Settle();
+  ASSERT_NE(ClassWindows[1], nullptr);
+  EXPECT_EQ(ClassWindows[1]->Caption, "SAMPLE8.TYR");
 }
 
 TEST_F(StartPageTest, ShowsWhereTheKeyboardIs) {

@@ -79,6 +79,7 @@ TEST_F(FrmSendMailTest, ANameBringsItsAddress) {
 
 TEST_F(FrmSendMailTest, WhatIsMissingIsToldInItsOrder) {
   Open();
+  driver->Choose("Connection", 0);
   driver->Tick("auth");
   const auto refused = [this](const char* text, const char* box) {
     for (const char* button : {"cmdSend", "connect"}) {
@@ -290,6 +291,26 @@ TEST_F(FrmSendMailTest, ThePasswordIsInNoSetting) {
   SaveProgramSettings();
   for (const auto& [key, value] : screen.settings)
     EXPECT_EQ(value.find("unheard-of"), std::string::npos) << key;
+}
+
+TEST_F(FrmSendMailTest, AReportIsNotSentToAnotherOnesAddressUnasked) {
+  Job.ReportCode = 13;
+  OpenFilled();
+  driver->Choose("Combo1", 0);
+  const std::string question =
+      "The report is on O'Hara, Bo, and the address is that of Ng, Ada. Send it there all the "
+      "same?";
+  screen.ExpectBox(question, BoxAnswer::kNo);
+  driver->Press("cmdSend");
+  EXPECT_EQ(socket->connections, 0);
+  screen.ExpectBox(question, BoxAnswer::kYes);
+  driver->Press("cmdSend");
+  EXPECT_EQ(socket->connections, 1);
+  driver->Type("txtRecipient", "counsellor@school.org");
+  driver->Press("cmdSend");
+  driver->Choose("Combo1", 1);
+  driver->Press("cmdSend");
+  EXPECT_EQ(socket->connections, 3);
 }
 
 TEST_F(FrmSendMailTest, ThereIsNothingToDial) {

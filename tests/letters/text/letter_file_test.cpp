@@ -8,6 +8,7 @@
 #include "store/safe_file.h"
 #include "tests/letters/letter_texts.h"
 #include "tests/support/portal_test.h"
+#include "tests/support/refusing_disk.h"
 
 namespace tallyroll {
 namespace {
@@ -37,7 +38,7 @@ TEST_F(LetterFileTest, APlainTextIsSetInCourier) {
 
 TEST_F(LetterFileTest, APlainTextComesBackByteForByte) {
   for (const std::string bytes : {"", "a", "a\r\n", "a\r\n\r\nb", "M\xFCller \x80",
-                                  "\xEF\xBB\xBF\xCE\xB1", "a\tb", "a\r\n\fb\r\n\f\f"}) {
+                                  "\xEF\xBB\xBF\xCE\xB1", "a\tb", "a\r\n\fb\r\n\f\r\n\f"}) {
     Put("a.txt", bytes);
     EXPECT_EQ(PlainTextFile(ReadLetter(Path("a.txt")).text), bytes);
   }
@@ -77,6 +78,25 @@ TEST_F(LetterFileTest, TheOldLetterStaysWholeWhereTheNewOneCannotBeWritten) {
   EXPECT_EQ(WriteLetter(Path("a.txt"), RichTextOf(u"new")), kErrorPermission);
   EXPECT_EQ(ReadWholeFile(Path("a.txt")).bytes, "old");
   EXPECT_EQ(WriteLetter(Path("gone/a.txt"), RichTextOf(u"new")), kErrorPathNotFound);
+}
+
+TEST_F(LetterFileTest, AFullDiskKeepsTheOldLetter) {
+  Put("a.rtf", "{\\rtf1 old}");
+  {
+    const SmallFiles disk(100);
+    EXPECT_EQ(WriteLetter(Path("a.rtf"), RichTextOf(std::u16string(500, u'x'))), kErrorDiskFull);
+  }
+  EXPECT_EQ(ReadWholeFile(Path("a.rtf")).bytes, "{\\rtf1 old}");
+}
+
+TEST_F(LetterFileTest, AFolderThatMayNotBeWrittenKeepsTheOldLetter) {
+  Put("a.rtf", "{\\rtf1 old}");
+  {
+    const ReadOnlyFolder locked(folder);
+    if (!locked.Refuses()) GTEST_SKIP() << "nobody is refused here";
+    EXPECT_NE(WriteLetter(Path("a.rtf"), RichTextOf(u"new")), 0);
+  }
+  EXPECT_EQ(ReadWholeFile(Path("a.rtf")).bytes, "{\\rtf1 old}");
 }
 
 }  // namespace

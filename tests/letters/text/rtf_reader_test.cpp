@@ -113,7 +113,7 @@ TEST(RtfReader, TheFilesOwnCodePage) {
 }
 
 TEST(RtfReader, UnicodeIsSigned) {
-  EXPECT_EQ(WordsOfBody("\\u321?od\\u378\\'9f"), "łodź");
+  EXPECT_EQ(WordsOfBody("\\u322?od\\u378\\'9f"), "łodź");
   EXPECT_EQ(WordsOfBody("\\u-4064?"), "\uF020");
   EXPECT_EQ(WordsOfBody("\\u-3913?"), "•");
 }

@@ -4,9 +4,11 @@
 #include <filesystem>
 #include <fstream>
 
+#include "letters/merge/merge.h"
 #include "letters/text/letter_file.h"
 #include "printing/page/print_job.h"
 #include "roster/chosen_students.h"
+#include "shell/portal_list.h"
 #include "store/safe_file.h"
 #include "tests/roster/roster_test.h"
 
@@ -18,6 +20,7 @@ class FrmWrdProcTest : public RosterTest {
   FrmWrdProcTest() {
     NameMode = 57;
     DataFolder = ProgramFolder = folder;
+    MakePortal = MakePortalByName;
     Enrol("Ng", "Ada", "1");
     Enrol("Orr", "Cy", "2");
     Enrol("Ng", "Bo", "3");
@@ -255,6 +258,29 @@ TEST_F(FrmWrdProcTest, EmailIsForOneStudent) {
   driver->Press("Email");
 }
 
+TEST_F(FrmWrdProcTest, TheLetterOfOneStudentBecomesAMessage) {
+  Current().Students[1].email = "ada@example.org";
+  ChooseStudents({1});
+  Write("Dear <First Name>,\nhello");
+  screen.ExpectPortal("frmSendMail", [](PortalDriver& mail) {
+    EXPECT_EQ(mail.Text("txtMessage"), "Dear Ada,\r\nhello");
+    EXPECT_EQ(mail.Text("txtRecipient"), "ada@example.org");
+    mail.Press("cmdClose");
+  });
+  driver->Press("mnuemail");
+  EXPECT_EQ(driver->portal().Caption, "Tallyroll Word Processor");
+}
+
+TEST_F(FrmWrdProcTest, WhatAMessageHasNoCharacterForIsToldBefore) {
+  ChooseStudents({1});
+  Open(portal);
+  portal.RichTextBox1.Load(RichTextOf(u"\u0391\u0392"));
+  screen.ExpectBox(
+      "A message cannot hold 2 of the letter's characters; \"?\" will stand in their place. Go on?",
+      BoxAnswer::kNo);
+  driver->Press("Email");
+}
+
 TEST_F(FrmWrdProcTest, LettersArePrintedForEachChosenStudent) {
   ChooseStudents({1, 2});
   Write("Dear <first name> <ID Number>!");
@@ -284,9 +310,16 @@ TEST_F(FrmWrdProcTest, APrintThatIsCalledOffPrintsNothing) {
 TEST_F(FrmWrdProcTest, AnUnknownCodeIsToldBeforeAnythingLeaves) {
   ChooseStudents({1});
   Write("Dear <Nickname>");
-  screen.ExpectFileDialog(Path("never.pdf"));
+  std::string told;
+  for (const std::string& line : LetterWarnings(portal.RichTextBox1.Document, {1}))
+    told += line + "\n";
+  EXPECT_NE(told.find("<Nickname>"), std::string::npos);
+  screen.ExpectBox(told + "Go on?", BoxAnswer::kNo);
   driver->Press("mnupdf");
-  EXPECT_FALSE(screen.boxes.empty());
+  screen.ExpectBox(told + "Go on?", BoxAnswer::kNo);
+  driver->Press("mnuPrint");
+  EXPECT_TRUE(screen.file_dialogs.empty());
+  EXPECT_TRUE(screen.print_jobs.empty());
 }
 
 TEST_F(FrmWrdProcTest, LettersAreSavedBesideTheChosenName) {

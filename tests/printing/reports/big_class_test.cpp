@@ -87,7 +87,7 @@ TEST_F(FullestClassTest, TextsEndWithTheLastStudent) {
 // The information on the class names no student.
 INSTANTIATE_TEST_SUITE_P(EveryCode, BigClassTest,
                          testing::Values(1, 2, 3, 4, 8, 9, 10, 11, 12, 13, 14, 15, 16, 17, 18, 19,
-                                         20, 21, 23, 24),
+                                         20, 21, 23, 24, 25),
                          [](const auto& code) { return "Code" + PlainNumberText(code.param); });
 
 }  // namespace

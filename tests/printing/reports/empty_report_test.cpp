@@ -48,7 +48,7 @@ TEST_P(EmptyReportTest, WithStudentsAndNothingElse) {
 // The reports on one grade and one period cannot be chosen in such a class.
 INSTANTIATE_TEST_SUITE_P(EveryCode, EmptyReportTest,
                          testing::Values(1, 2, 3, 4, 8, 11, 12, 13, 14, 15, 16, 17, 18, 19, 20, 21,
-                                         22, 23, 24),
+                                         22, 23, 24, 25),
                          [](const auto& code) { return "Code" + PlainNumberText(code.param); });
 
 class EmptyTableTest : public ClassBuilder {};

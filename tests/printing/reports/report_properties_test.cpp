@@ -14,7 +14,7 @@ namespace tallyroll {
 namespace {
 
 constexpr std::array kCodes = {1,  2,  3,  4,  8,  9,  10, 11, 12, 13, 14,
-                               15, 16, 17, 18, 19, 20, 21, 22, 23, 24};
+                               15, 16, 17, 18, 19, 20, 21, 22, 23, 24, 25};
 
 class ReportPropertiesTest : public ReportTest, public testing::WithParamInterface<int> {
  protected:

@@ -127,7 +127,7 @@ TEST_P(ReportRectanglesTest, NorWithOtherFontsAndMargins) {
 
 INSTANTIATE_TEST_SUITE_P(EveryCode, ReportRectanglesTest,
                          testing::Values(1, 2, 3, 4, 8, 9, 10, 11, 12, 13, 14, 15, 16, 17, 18, 19,
-                                         20, 21, 22, 23, 24),
+                                         20, 21, 22, 23, 24, 25),
                          [](const auto& code) { return "Code" + PlainNumberText(code.param); });
 
 }  // namespace

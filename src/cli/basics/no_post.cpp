@@ -1,0 +1,12 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "cli/basics/post.h"
+
+namespace tallyroll {
+
+void BecomeProgramThatSends() {}
+
+std::unique_ptr<MailSender> OpenMailSender(const MailAccount& /*account*/) {
+  return nullptr;
+}
+
+}  // namespace tallyroll

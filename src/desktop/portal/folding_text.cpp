@@ -1,0 +1,111 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "desktop/portal/folding_text.h"
+
+#include <QKeyEvent>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QSettings>
+
+#include "desktop/style/tokens.h"
+
+namespace tallyroll {
+namespace {
+
+constexpr int kFoldPadding = 10;
+constexpr int kFoldRadius = 6;
+constexpr int kUsualWidth = 460;
+
+QString FirstSentence(const QString& text) {
+  const auto end = text.indexOf(QLatin1String(". "));
+  return end < 0 ? text : text.left(end + 1);
+}
+
+}  // namespace
+
+FoldingText::FoldingText(QWidget* parent) : QLabel(parent) {
+  setWordWrap(true);
+  setFocusPolicy(Qt::TabFocus);
+  setCursor(Qt::PointingHandCursor);
+  setToolTip(tr("Click to show more or less of this text"));
+  QSizePolicy policy(QSizePolicy::Preferred, QSizePolicy::Fixed);
+  policy.setHeightForWidth(true);
+  setSizePolicy(policy);
+}
+
+QString FoldingText::SettingsKey() const {
+  return QStringLiteral("Read/%1.%2").arg(window()->objectName(), objectName());
+}
+
+void FoldingText::SetFolded(bool folded) {
+  if (folded == folded_) return;
+  folded_ = folded;
+  updateGeometry();
+  update();
+}
+
+QString FoldingText::ShownText() const {
+  return folded_ ? FirstSentence(text()) : text();
+}
+
+QFont FoldingText::TextFont() const {
+  return FontFor(font(), TextUse::kSmall);
+}
+
+QRect FoldingText::TextRect(int width) const {
+  const QFontMetrics metrics(TextFont());
+  const QRect room(0, 0, width - 2 * kFoldPadding, 10000);
+  return metrics.boundingRect(room, Qt::TextWordWrap, ShownText());
+}
+
+// The words, and the line that says what a click does.
+int FoldingText::heightForWidth(int width) const {
+  return TextRect(width).height() + QFontMetrics(TextFont()).height() + 2 * kFoldPadding;
+}
+
+QSize FoldingText::sizeHint() const {
+  return {kUsualWidth, heightForWidth(kUsualWidth)};
+}
+
+QSize FoldingText::minimumSizeHint() const {
+  return {kUsualWidth / 2, QFontMetrics(TextFont()).height() * 2 + 2 * kFoldPadding};
+}
+
+void FoldingText::paintEvent(QPaintEvent*) {
+  const Tokens t = TokensOf(palette());
+  QPainter painter(this);
+  painter.setRenderHint(QPainter::Antialiasing);
+  painter.setPen(hasFocus() ? QPen(t.focus, 2) : QPen(Qt::NoPen));
+  painter.setBrush(t.accent_soft);
+  painter.drawRoundedRect(QRectF(rect()).adjusted(1, 1, -1, -1), kFoldRadius, kFoldRadius);
+  painter.setFont(TextFont());
+  painter.setPen(t.text);
+  const QRect room = rect().adjusted(kFoldPadding, kFoldPadding, -kFoldPadding, -kFoldPadding);
+  painter.drawText(room, Qt::TextWordWrap, ShownText());
+  painter.setPen(t.focus);
+  painter.drawText(room, Qt::AlignLeft | Qt::AlignBottom, folded_ ? tr("More...") : tr("Less"));
+}
+
+void FoldingText::showEvent(QShowEvent* event) {
+  QLabel::showEvent(event);
+  if (!event->spontaneous()) SetFolded(QSettings().value(SettingsKey()).toBool());
+}
+
+// Who has seen it once has read it.
+void FoldingText::hideEvent(QHideEvent* event) {
+  QLabel::hideEvent(event);
+  if (!event->spontaneous() && !text().isEmpty()) QSettings().setValue(SettingsKey(), true);
+}
+
+void FoldingText::keyPressEvent(QKeyEvent* event) {
+  const int key = event->key();
+  if (key == Qt::Key_Space || key == Qt::Key_Return || key == Qt::Key_Enter)
+    return SetFolded(!folded_);
+  QLabel::keyPressEvent(event);
+}
+
+void FoldingText::mouseReleaseEvent(QMouseEvent* event) {
+  if (event->button() == Qt::LeftButton && rect().contains(event->position().toPoint()))
+    SetFolded(!folded_);
+}
+
+}  // namespace tallyroll

@@ -1,0 +1,27 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// TotalFigure: a label for a sum that must be 100. It turns from red to green when it is, and tells
+// beside it what is missing.
+#pragma once
+
+#include <QLabel>
+
+namespace tallyroll {
+
+class TotalFigure : public QLabel {
+  Q_OBJECT
+
+ public:
+  using QLabel::QLabel;
+
+  bool IsReached() const;
+  // "15 missing", "5 too much"; empty when it is reached or no number.
+  QString Remainder() const;
+
+  QSize sizeHint() const override;
+  QSize minimumSizeHint() const override { return sizeHint(); }
+
+ protected:
+  void paintEvent(QPaintEvent* event) override;
+};
+
+}  // namespace tallyroll

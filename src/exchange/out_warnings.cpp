@@ -1,0 +1,206 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "exchange/out_warnings.h"
+
+#include <algorithm>
+#include <map>
+
+#include "base/number_text.h"
+#include "base/text.h"
+#include "exchange/formats/foreign_mark.h"
+
+namespace tallyroll {
+namespace {
+
+std::string Quoted(std::string_view text) {
+  return "\"" + std::string(text) + "\"";
+}
+
+// "Final Score" becomes "Final-Score": the words stay, the other side no longer knows them.
+std::string WithoutTotalWords(std::string title) {
+  for (const char* second : {" Score", " Points", " Grade", " Status"})
+    for (const char* first : {"Current", "Final", "Override"}) {
+      const std::string words = std::string(first) + second;
+      for (std::size_t at = title.find(words); at != std::string::npos; at = title.find(words))
+        title[at + std::string_view(first).size()] = '-';
+    }
+  return title;
+}
+
+std::string WithoutBrackets(std::string title) {
+  std::ranges::replace(title, '[', '(');
+  std::ranges::replace(title, ']', ')');
+  return title;
+}
+
+std::string WithoutHash(std::string_view title) {
+  while (!title.empty() && (title.front() == '#' || title.front() == '*' || title.front() == ' '))
+    title.remove_prefix(1);
+  return title.empty() ? "Grade" : std::string(title);
+}
+
+// "Essay (2)" becomes "Essay - 2".
+std::string WithoutKeyEnd(const std::string& title) {
+  const std::size_t open = title.rfind(" (");
+  return title.substr(0, open) + " - " + title.substr(open + 2, title.size() - open - 3);
+}
+
+bool HasTooManyDecimals(const ForeignMark& mark, int most) {
+  const std::optional<Currency> number = NumberOfMark(mark.text);
+  return number && RoundedTo(*number, most) != *number;
+}
+
+bool IsLetterOfGrades(std::string_view text) {
+  return !text.empty() && text[0] >= 'A' && text[0] <= 'F' && text.size() <= 2;
+}
+
+class WarningFinder {
+ public:
+  WarningFinder(ExchangeFormat format, const ForeignTable& table)
+      : format_(format), row_(RowOfFormat(format)), table_(table) {}
+
+  std::vector<OutWarning> Find() {
+    for (int g = 0; g < static_cast<int>(table_.grades.size()); ++g) LookAtGrade(g);
+    for (int g = 0; g < static_cast<int>(table_.grades.size()); ++g) LookAtMarks(g);
+    LookAtStudents();
+    return std::move(found_);
+  }
+
+ private:
+  void Warn(OutTrouble trouble, int grade, std::string text, std::string remedy) {
+    const bool mended = !remedy.empty();
+    found_.push_back({trouble, grade, std::move(text), std::move(remedy), mended});
+  }
+
+  void LookAtGrade(int g) {
+    const ForeignGrade& grade = table_.grades[static_cast<std::size_t>(g)];
+    const std::string& title = grade.title;
+    if (format_ == ExchangeFormat::kCanvas && IsCanvasTotal(title))
+      Warn(OutTrouble::kTotalTitle, g,
+           Quoted(title) + " is taken for one of its totals and dropped.",
+           "Write " + Quoted(WithoutTotalWords(title)) + ".");
+    if (format_ == ExchangeFormat::kCanvas && grade.key.empty() && EndsAsCanvasKey(title))
+      Warn(OutTrouble::kKeyTitle, g,
+           Quoted(title) + " is taken for the assignment with that number.",
+           "Write " + Quoted(WithoutKeyEnd(title)) + ".");
+    if (format_ == ExchangeFormat::kSakai && title.find_first_of("[]") != std::string::npos)
+      Warn(OutTrouble::kBracketTitle, g, Quoted(title) + " ends there at its bracket.",
+           "Write " + Quoted(WithoutBrackets(title)) + ".");
+    if (format_ == ExchangeFormat::kSakai && (title.starts_with('#') || title.starts_with('*')))
+      Warn(OutTrouble::kHashTitle, g, Quoted(title) + " is passed over because of its first sign.",
+           "Write " + Quoted(WithoutHash(title)) + ".");
+    const bool by_title = format_ == ExchangeFormat::kSakai || format_ == ExchangeFormat::kMoodle;
+    if (by_title && ++titles_[title] > 1)
+      Warn(OutTrouble::kTwiceTitle, g, Quoted(title) + " stands twice among the titles.",
+           "Write " + Quoted(title + " - " + PlainNumberText(titles_[title])) + ".");
+    if (format_ == ExchangeFormat::kEdx && grade.key.empty())
+      Warn(OutTrouble::kNoKey, g,
+           Quoted(title) + " is not known there and stays out: take its bulk grades in first.", "");
+  }
+
+  void LookAtMarks(int g) {
+    int decimals = 0;
+    int texts = 0;
+    const std::string& title = table_.grades[static_cast<std::size_t>(g)].title;
+    for (const ForeignMark& mark : table_.marks) {
+      if (mark.grade != g) continue;
+      decimals += HasTooManyDecimals(mark, row_.most_decimals);
+      texts += IsUnreadable(mark.text);
+    }
+    if (decimals > 0)
+      Warn(OutTrouble::kDecimals, g,
+           Quoted(title) + " has " + PlainNumberText(decimals) +
+               " marks with more than two decimals.",
+           "Round them to two.");
+    if (texts > 0)
+      Warn(OutTrouble::kText, g,
+           Quoted(title) + " has " + PlainNumberText(texts) + " marks that are no numbers there.",
+           "Leave them out.");
+  }
+
+  // Letters are numbers to nobody; some systems have them beside.
+  bool IsUnreadable(std::string_view text) const {
+    if (text == row_.excused || NumberOfMark(text)) return false;
+    const bool letters = format_ != ExchangeFormat::kMoodle && format_ != ExchangeFormat::kEdx;
+    return !letters || !IsLetterOfGrades(text);
+  }
+
+  void LookAtStudents() {
+    int without = 0;
+    for (const ForeignStudent& student : table_.students) without += IsLost(student);
+    if (without > 0)
+      Warn(OutTrouble::kNoId, -1,
+           PlainNumberText(without) + " students have neither an ID" +
+               (format_ == ExchangeFormat::kEdx ? " of Open edX and stay out."
+                                                : " nor an e-mail and may not be found there."),
+           "");
+  }
+
+  bool IsLost(const ForeignStudent& student) const {
+    if (format_ == ExchangeFormat::kEdx) return student.key.empty();
+    return student.id.empty() && student.key.empty() &&
+           (student.email.empty() || format_ == ExchangeFormat::kSakai);
+  }
+
+  ExchangeFormat format_;
+  const ExchangeFormatRow& row_;
+  const ForeignTable& table_;
+  std::map<std::string, int> titles_;
+  std::vector<OutWarning> found_;
+};
+
+void MendMarks(const OutWarning& warning, ExchangeFormat format, ForeignTable& table) {
+  const int most = RowOfFormat(format).most_decimals;
+  for (ForeignMark& mark : table.marks)
+    if (mark.grade == warning.grade && HasTooManyDecimals(mark, most))
+      mark.text = PlainNumberText(RoundedTo(*NumberOfMark(mark.text), most));
+}
+
+void DropTexts(const OutWarning& warning, ExchangeFormat format, ForeignTable& table) {
+  const std::string_view excused = RowOfFormat(format).excused;
+  const bool letters = format != ExchangeFormat::kMoodle && format != ExchangeFormat::kEdx;
+  std::erase_if(table.marks, [&](const ForeignMark& mark) {
+    if (mark.grade != warning.grade || mark.text == excused || NumberOfMark(mark.text))
+      return false;
+    return !letters || !IsLetterOfGrades(mark.text);
+  });
+}
+
+}  // namespace
+
+std::vector<OutWarning> WarningsOf(ExchangeFormat format, const ForeignTable& table) {
+  return WarningFinder(format, table).Find();
+}
+
+void Mend(ExchangeFormat format, const OutWarning& warning, ForeignTable& table) {
+  if (warning.grade < 0) return;
+  std::string& title = table.grades[static_cast<std::size_t>(warning.grade)].title;
+  switch (warning.trouble) {
+    case OutTrouble::kTotalTitle:
+      title = WithoutTotalWords(title);
+      return;
+    case OutTrouble::kKeyTitle:
+      title = WithoutKeyEnd(title);
+      return;
+    case OutTrouble::kBracketTitle:
+      title = WithoutBrackets(title);
+      return;
+    case OutTrouble::kHashTitle:
+      title = WithoutHash(title);
+      return;
+    case OutTrouble::kTwiceTitle: {
+      int nth = 0;
+      for (int g = 0; g <= warning.grade; ++g)
+        nth += table.grades[static_cast<std::size_t>(g)].title == title;
+      title += " - " + PlainNumberText(nth);
+      return;
+    }
+    case OutTrouble::kDecimals:
+      return MendMarks(warning, format, table);
+    case OutTrouble::kText:
+      return DropTexts(warning, format, table);
+    default:
+      return;
+  }
+}
+
+}  // namespace tallyroll

@@ -1,0 +1,184 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// How cells are set off, looked at in what is painted and heard as a screen reader does.
+#include <QAccessible>
+#include <QAccessibleTableInterface>
+#include <QHelpEvent>
+#include <QToolTip>
+
+#include "tests/desktop/grid/shown_grid.h"
+
+namespace tallyroll {
+namespace {
+
+class GridLook : public ShownGrid {
+ protected:
+  GridLook() {
+    grid.SetMergeRow(0);
+    grid.SetTextMatrix(0, 0, "     NAME");
+    grid.SetTextMatrix(0, 1, "       ID");
+    for (int row = 2; row < 60; ++row) {
+      grid.SetTextMatrix(row, 0, " " + std::to_string(row - 1) + " Student, Ann");
+      grid.SetTextMatrix(row, 1, "81" + std::to_string(row));
+      for (int col = 2; col < 20; ++col) grid.SetColAlignment(col, ColumnAlign::kRight);
+    }
+    grid.Notes.Of = [this](int row, int col) { return row >= 2 && col == 4 ? note : CellNote(); };
+  }
+  QImage With(CellMark mark, const char* text = "CUT") {
+    note = {mark, "words"};
+    for (int row = 2; row < 10; ++row) grid.SetTextMatrix(row, 4, text);
+    grid.NotesChanged();
+    widget.UpdateFromGrid();
+    return Picture();
+  }
+  QRect Cell(int row, int col) const { return widget.CellRect(row, col).adjusted(2, 2, -3, -3); }
+  // Within this cell from the left: the first pixel that is not its ground.
+  int InkFrom(const QImage& image, const QRect& cell) {
+    const QRgb ground = image.pixel(cell.right(), cell.top());
+    for (int x = cell.left(); x <= cell.right(); ++x)
+      for (int y = cell.top(); y <= cell.bottom(); ++y)
+        if (image.pixel(x, y) != ground) return x;
+    return -1;
+  }
+
+  CellNote note;
+};
+
+TEST_F(GridLook, BeyondTheLastCellIsTheWindow) {
+  grid.SetSize(5, 4);
+  widget.UpdateFromGrid();
+  const QImage picture = Picture();
+  const QColor window = Colors().window;
+  EXPECT_EQ(picture.pixelColor(picture.width() - 3, 5), window);
+  EXPECT_EQ(picture.pixelColor(5, picture.height() - 3), window);
+  EXPECT_EQ(picture.pixelColor(widget.CellRect(3, 3).right() + 3, widget.CellRect(3, 3).top() + 4),
+            window);
+}
+
+TEST_F(GridLook, EveryFifthRowEndsInAStrongerLine) {
+  const QImage picture = Picture();
+  const auto below = [&](int row) {
+    const QRect cell = widget.CellRect(row, 6);
+    return picture.pixelColor(cell.center().x(), cell.bottom());
+  };
+  EXPECT_EQ(below(6), Colors().strong_line);   // the fifth student
+  EXPECT_EQ(below(11), Colors().strong_line);  // the tenth
+  EXPECT_EQ(below(7), Colors().grid_line);
+}
+
+TEST_F(GridLook, AChipStandsOnItsGround) {
+  const Tokens t = Colors();
+  EXPECT_TRUE(Has(With(CellMark::kAlarm), Cell(5, 4), t.danger_soft));
+  EXPECT_TRUE(Has(With(CellMark::kWarning, "ABS"), Cell(5, 4), t.warning_soft));
+  EXPECT_TRUE(Has(With(CellMark::kSoft, "EXC"), Cell(5, 4), t.header));
+  EXPECT_FALSE(Has(With(CellMark::kMuted, "NEW"), Cell(5, 4), t.header));
+  EXPECT_FALSE(Has(With(CellMark::kNone), Cell(5, 4), t.danger_soft));
+}
+
+TEST_F(GridLook, AMarkAboveItsMaximumIsUnderlined) {
+  const auto lines = [&](const QImage& picture) {
+    const QRect cell = Cell(5, 4);
+    int most = 0;
+    for (int y = cell.top(); y <= cell.bottom(); ++y) {
+      int run = 0;
+      for (int x = cell.left(); x <= cell.right(); ++x)
+        run += picture.pixelColor(x, y) == Colors().text ? 1 : 0;
+      most = std::max(most, run);
+    }
+    return most;
+  };
+  const int plain = lines(With(CellMark::kNone, "111"));
+  const int above = lines(With(CellMark::kAbove, "111"));
+  EXPECT_GT(above, plain);
+  EXPECT_GT(above, 10);
+}
+
+TEST_F(GridLook, NamesBeginAtOneEdgeWhateverTheirNumber) {
+  const QImage picture = Picture();
+  const auto name_from = [&](int row) {
+    QRect cell = Cell(row, 0);
+    cell.setLeft(cell.left() + GridFonts(widget.font()).Px(30));
+    return InkFrom(picture, cell);
+  };
+  EXPECT_EQ(name_from(4), name_from(11));
+  EXPECT_EQ(name_from(11), name_from(13));  // the tenth and the twelfth
+}
+
+TEST_F(GridLook, APinnedColumnIsNamedOnTheLineOfTheCodes) {
+  const QImage picture = Picture();
+  EXPECT_EQ(InkFrom(picture, Cell(0, 0)), -1);
+  EXPECT_GT(InkFrom(picture, Cell(1, 0)), 0);
+  EXPECT_EQ(grid.TextMatrix(0, 0), "     NAME");
+}
+
+TEST_F(GridLook, RowAndColumnOfTheCellInWorkAreTinted) {
+  const QColor plain = Picture().pixelColor(widget.CellRect(7, 7).topLeft() + QPoint(3, 3));
+  Click(7, 5);
+  QTest::mouseMove(&widget, QPoint(690, 395));
+  const QImage picture = Picture();
+  const auto corner = [&](int row, int col) {
+    return picture.pixelColor(widget.CellRect(row, col).topLeft() + QPoint(3, 3));
+  };
+  EXPECT_NE(corner(7, 7), plain);
+  EXPECT_NE(corner(9, 5), plain);
+  EXPECT_EQ(corner(9, 7), plain);
+  EXPECT_EQ(corner(7, 0), Colors().selection);
+  EXPECT_EQ(corner(1, 5), Colors().selection);
+}
+
+TEST_F(GridLook, WithoutTheFocusAllOfItIsGrey) {
+  widget.clearFocus();
+  const QImage picture = Picture();
+  EXPECT_FALSE(Has(picture, widget.CellRect(2, 2), Colors().focus));
+  EXPECT_TRUE(Has(picture, widget.CellRect(2, 2), Colors().border));
+}
+
+TEST_F(GridLook, FiguresAreEquallyWide) {
+  for (const char* family : {"Inter", "DejaVu Sans", "Liberation Sans"}) {
+    const CellFont font(QFont(QString::fromLatin1(family), 12));
+    EXPECT_EQ(font.WidthOf("11.1"), font.WidthOf("88.8")) << family;
+  }
+}
+
+TEST_F(GridLook, AScreenReaderHearsTheStateOfACell) {
+  note = {CellMark::kFailing, "failing"};
+  grid.Notes.Tip = [](int row, int col) {
+    return row == 1 && col == 4 ? std::string("Fractions\nMaximum 20") : std::string();
+  };
+  auto* table = QAccessible::queryAccessibleInterface(&widget)->tableInterface();
+  EXPECT_EQ(table->cellAt(5, 4)->text(QAccessible::Description), QStringLiteral("failing"));
+  EXPECT_EQ(table->cellAt(5, 4)->text(QAccessible::Name), QStringLiteral("9"));
+  EXPECT_EQ(table->cellAt(5, 5)->text(QAccessible::Description), QString());
+  EXPECT_EQ(table->cellAt(1, 4)->text(QAccessible::Description),
+            QStringLiteral("Fractions, Maximum 20"));
+  grid.SetStyle(5, 5, CellStyle::kFailing);
+  EXPECT_EQ(table->cellAt(5, 5)->text(QAccessible::Description), QStringLiteral("failing"));
+}
+
+TEST_F(GridLook, AHeadTellsItsGradeWhereThePointerRests) {
+  grid.Notes.Tip = [](int row, int col) {
+    return row == 1 && col == 4 ? std::string("Fractions & more\nMaximum 20") : std::string();
+  };
+  const QPoint place = widget.CellRect(1, 4).center();
+  QHelpEvent help(QEvent::ToolTip, place, widget.viewport()->mapToGlobal(place));
+  QApplication::sendEvent(widget.viewport(), &help);
+  EXPECT_EQ(QToolTip::text(), QStringLiteral("Fractions &amp; more<br>Maximum 20"));
+  QToolTip::hideText();
+}
+
+TEST_F(GridLook, AnEmptyGridSaysWhatWillStandThere) {
+  widget.SetEmptyText(QStringLiteral("Nothing missing"));
+  EXPECT_EQ(widget.NoticeShown(), QString());
+  grid.SetSize(2, 20);
+  widget.UpdateFromGrid();
+  EXPECT_EQ(widget.NoticeShown(), QStringLiteral("Nothing missing"));
+  const QRect below(0, widget.CellRect(1, 2).bottom() + 2, widget.viewport()->width(), 300);
+  EXPECT_TRUE(Has(Picture(), below, Colors().muted));
+  EXPECT_EQ(QAccessible::queryAccessibleInterface(&widget)->text(QAccessible::Description),
+            QStringLiteral("Nothing missing"));
+  grid.SetSize(3, 20);
+  widget.UpdateFromGrid();
+  EXPECT_FALSE(Has(Picture(), below.adjusted(0, 60, 0, 0), Colors().muted));
+}
+
+}  // namespace
+}  // namespace tallyroll

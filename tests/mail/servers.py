@@ -1,0 +1,254 @@
+# SPDX-License-Identifier: GPL-3.0-or-later
+"""Mail servers on loopback, certificates of a story's own, classes, and runs of the command line."""
+import asyncio
+import json
+import os
+import pathlib
+import socket
+import ssl
+import subprocess
+import sys
+import tempfile
+import threading
+import time
+import traceback
+
+CLI = os.environ["TALLYROLL_CLI"]
+PATIENCE = 60
+
+
+class Failure(Exception):
+    pass
+
+
+def expect(what, actual, wanted):
+    if actual != wanted:
+        raise Failure(f"{what}: {actual!r} instead of {wanted!r}")
+
+
+def build_class(path, count, name="Ng"):
+    """Students with the IDs 1 to count, an address and a mark each."""
+    students = [{"lastname": f"{name}{i}", "firstname": "Ad\u00e8le", "id": str(i),
+                 "email": f"parent{i}@home.example", "Marks": ["", "18"]}
+                for i in range(1, count + 1)]
+    record = {"Instruments": [{"title": "\u00c9preuve", "code": "E1", "typecode": "Q ", "mvalue": 20,
+                               "testdate": "9/3/2026"}], "Students": students}
+    subprocess.run([CLI, "build", "-", path], input=json.dumps(record), text=True, check=True,
+                   timeout=PATIENCE)
+    return path
+
+
+def mail(path, *options, wait=True, **popen):
+    """tallyroll-cli mail with the report on each student's grades."""
+    line = [CLI, "mail", path, "--report", "13", "--from", "teacher@school.example", *map(str, options)]
+    process = subprocess.Popen(line, stdout=subprocess.PIPE, stderr=subprocess.PIPE, text=True, **popen)
+    if not wait:
+        return process
+    out, err = process.communicate(timeout=PATIENCE)
+    return process.returncode, out, err
+
+
+def states(out):
+    """The first word of each line."""
+    return [line.split("\t")[0].split(" ")[0].rstrip(":") for line in out.splitlines()]
+
+
+def certificate(folder, name, subject="localhost", days=2, start=None):
+    """Key and certificate that sign themselves."""
+    key, cert = (str(pathlib.Path(folder) / f"{name}.{part}") for part in ("key", "pem"))
+    line = ["openssl", "req", "-x509", "-newkey", "rsa:2048", "-nodes", "-keyout", key, "-out", cert,
+            "-subj", f"/CN={subject}", "-addext", f"subjectAltName=DNS:{subject}"]
+    if start is None:
+        subprocess.run([*line, "-days", str(days)], check=True, capture_output=True, timeout=PATIENCE)
+        return key, cert
+    request = str(pathlib.Path(folder) / f"{name}.csr")
+    config = pathlib.Path(folder) / f"{name}.cnf"
+    config.write_text(f"""[ca]
+default_ca = it
+[it]
+dir = {folder}
+database = {folder}/{name}.index
+new_certs_dir = {folder}
+serial = {folder}/{name}.serial
+default_md = sha256
+policy = any
+x509_extensions = ext
+[any]
+commonName = supplied
+[ext]
+subjectAltName = DNS:{subject}
+basicConstraints = CA:TRUE
+""")
+    (pathlib.Path(folder) / f"{name}.index").write_text("")
+    (pathlib.Path(folder) / f"{name}.serial").write_text("01\n")
+    quiet = {"check": True, "capture_output": True, "timeout": PATIENCE}
+    subprocess.run(["openssl", "req", "-new", "-newkey", "rsa:2048", "-nodes", "-keyout", key, "-out",
+                    request, "-subj", f"/CN={subject}"], **quiet)
+    subprocess.run(["openssl", "ca", "-batch", "-selfsign", "-keyfile", key, "-in", request, "-out", cert,
+                    "-config", str(config), "-startdate", start[0], "-enddate", start[1], "-notext"],
+                   **quiet)
+    return key, cert
+
+
+class Mailbox:
+    """What arrived: sender, recipients, bytes, and whether it was encrypted."""
+
+    def __init__(self):
+        self.arrived = []
+
+    async def handle_DATA(self, server, session, envelope):
+        self.arrived.append((envelope.mail_from, envelope.rcpt_tos, envelope.original_content,
+                             session.ssl is not None))
+        return "250 taken"
+
+
+class AioServer:
+    """python3-aiosmtpd in a thread. `key` and `cert` make it speak TLS, from the first byte on with
+    `at_once`; with `login` it wants a name and a password."""
+
+    def __init__(self, box, key=None, cert=None, at_once=False, login=None):
+        from aiosmtpd.smtp import AuthResult, LoginPassword, SMTP
+        context = None
+        if cert:
+            context = ssl.SSLContext(ssl.PROTOCOL_TLS_SERVER)
+            context.load_cert_chain(cert, key)
+
+        def check(server, session, envelope, mechanism, data):
+            good = isinstance(data, LoginPassword) and (data.login, data.password) == login
+            return AuthResult(success=good, handled=False)
+
+        def make():
+            return SMTP(box, hostname="localhost", tls_context=None if at_once else context,
+                        require_starttls=bool(context) and not at_once,
+                        authenticator=check if login else None, auth_required=bool(login),
+                        auth_require_tls=False)
+        self.loop = asyncio.new_event_loop()
+        ready = threading.Event()
+
+        async def serve():
+            self.server = await self.loop.create_server(make, "127.0.0.1", 0,
+                                                        ssl=context if at_once else None)
+            self.port = self.server.sockets[0].getsockname()[1]
+            ready.set()
+
+        def run():
+            asyncio.set_event_loop(self.loop)
+            self.loop.set_exception_handler(lambda *_: None)  # a client that refuses a certificate
+            self.loop.create_task(serve())
+            self.loop.run_forever()
+        self.thread = threading.Thread(target=run, daemon=True)
+        self.thread.start()
+        ready.wait(PATIENCE)
+
+
+class OpenSmtpd:
+    """The OpenSMTPD of the system on two ports of loopback, passing on what it takes to `box`. Only
+    root may start it."""
+
+    PROGRAM = "/usr/sbin/smtpd"
+
+    @classmethod
+    def is_there(cls):
+        return os.path.exists(cls.PROGRAM) and os.geteuid() == 0
+
+    def __init__(self, folder, box):
+        self.key, self.cert = certificate(folder, "opensmtpd")
+        os.chmod(self.key, 0o600)
+        self.relay = AioServer(box)
+        self.port, self.tls_port = (self.free_port() for _ in range(2))
+        config = pathlib.Path(folder) / "smtpd.conf"
+        config.write_text(f"""pki here cert "{self.cert}"
+pki here key "{self.key}"
+listen on 127.0.0.1 port {self.port} tls pki here hostname localhost
+listen on 127.0.0.1 port {self.tls_port} smtps pki here hostname localhost
+action "on" relay host smtp://127.0.0.1:{self.relay.port}
+match from any for any action "on"
+""")
+        self.process = subprocess.Popen([self.PROGRAM, "-d", "-f", str(config)],
+                                        stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
+        for _ in range(200):
+            try:
+                socket.create_connection(("127.0.0.1", self.port), 1).close()
+                return
+            except OSError:
+                time.sleep(0.05)
+        raise Failure("OpenSMTPD does not come up")
+
+    @staticmethod
+    def free_port():
+        with socket.create_server(("127.0.0.1", 0)) as each:
+            return each.getsockname()[1]
+
+    def stop(self):
+        self.process.terminate()
+        self.process.wait()
+
+
+def wait_for(what, condition, patience=PATIENCE):
+    end = time.monotonic() + patience
+    while not condition():
+        if time.monotonic() > end:
+            raise Failure(f"waited in vain for {what}")
+        time.sleep(0.05)
+
+
+class LineServer:
+    """A server by its lines: `answer(verb, line)` gives the reply, None for the usual one, "" for
+    none, "close" to hang up. `heard` is told each line before it is answered."""
+
+    USUAL = {"EHLO": "250-localhost\r\n250 SIZE 10000000", "HELO": "250 hi", "MAIL": "250 ok",
+             "RCPT": "250 ok", "DATA": "354 go on", "TEXT": "250 taken", "QUIT": "221 bye",
+             "CONNECT": "220 localhost", "RSET": "250 ok"}
+
+    def __init__(self, answer=lambda verb, line: None, heard=lambda verb: None):
+        self.answer, self.heard = answer, heard
+        self.arrived = []  # recipients of what was taken
+        self.socket = socket.create_server(("127.0.0.1", 0))
+        self.port = self.socket.getsockname()[1]
+        threading.Thread(target=self.accept, daemon=True).start()
+
+    def accept(self):
+        while True:
+            connection, _ = self.socket.accept()
+            threading.Thread(target=self.serve, args=(connection,), daemon=True).start()
+
+    def reply(self, connection, verb, line):
+        self.heard(verb)
+        text = self.answer(verb, line)
+        if text is None:
+            text = self.USUAL.get(verb, "250 ok")
+        if text == "close":
+            return False
+        if verb == "TEXT" and text.startswith("250"):
+            self.arrived.append(self.to)
+        if text:
+            connection.sendall(text.encode() + b"\r\n")
+        return True
+
+    def serve(self, connection):
+        with connection, connection.makefile("rb") as lines:
+            try:
+                if not self.reply(connection, "CONNECT", b""):
+                    return
+                for line in lines:
+                    verb = line[:4].decode("latin-1").upper()
+                    if verb == "RCPT":
+                        self.to = line.split(b"<")[1].split(b">")[0].decode()
+                    if not self.reply(connection, verb, line) or verb == "QUIT":
+                        return
+                    if verb == "DATA":
+                        while (text := lines.readline()) not in (b".\r\n", b""):
+                            pass
+                        if not text or not self.reply(connection, "TEXT", b""):
+                            return
+            except OSError:
+                pass
+
+
+def run(tell):
+    with tempfile.TemporaryDirectory() as folder:
+        try:
+            tell(folder)
+        except Exception:  # the whole trace says more than its name
+            traceback.print_exc()
+            sys.exit(1)
