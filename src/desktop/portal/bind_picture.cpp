@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Pictures: ornaments, and sheets of paper that scroll.
+#include <QEvent>
 #include <QPainter>
 #include <QScrollArea>
 
