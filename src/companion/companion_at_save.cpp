@@ -37,9 +37,9 @@ std::string FreeNameBeside(const std::string& companion) {
 std::string LeftByRename(const std::string& class_path) {
   namespace fs = std::filesystem;
   std::error_code error;
-  const fs::path folder = fs::path(class_path).parent_path();
-  for (fs::directory_iterator entry(folder.empty() ? "." : folder, error), end;
-       !error && entry != end; entry.increment(error)) {
+  const fs::path folder = fs::path(CompanionPath(class_path)).parent_path();
+  for (fs::directory_iterator entry(folder, error), end; !error && entry != end;
+       entry.increment(error)) {
     if (entry->path().extension() != ".tyx") continue;
     const auto class_of = [&](const char* ending) {
       return fs::path(entry->path()).replace_extension(ending).string();
@@ -62,8 +62,7 @@ CompanionAtSave::CompanionAtSave(std::string from, std::string to)
 }
 
 std::string CompanionAtSave::Saved() {
-  const bool moves =
-      from_.empty() || CanonicalPath(CompanionPath(from_)) != CanonicalPath(CompanionPath(to_));
+  const bool moves = from_.empty() || CompanionPath(from_) != CompanionPath(to_);
   if (moves || strange_) PutAside();
   if (ours_ && moves) TakeAlong();
   if (ours_ && !off_) {

@@ -7,6 +7,7 @@
 #include "base/number_text.h"
 #include "companion/class_mark.h"
 #include "companion/mail_journal_layout.h"
+#include "store/safe_file.h"
 
 namespace tallyroll {
 namespace {
@@ -94,7 +95,8 @@ bool StandsBeside(const std::string& class_path) {
 }  // namespace
 
 std::string CompanionPath(const std::string& class_path) {
-  return std::filesystem::path(class_path).replace_extension(".tyx").string();
+  // However a class is reached, by a link or by itself, it has one companion.
+  return std::filesystem::path(CanonicalPath(class_path)).replace_extension(".tyx").string();
 }
 
 Companion OpenCompanion(const std::string& class_path) {

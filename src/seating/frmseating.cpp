@@ -159,7 +159,7 @@ void frmseating::ShowPlan() {
 }
 
 void frmseating::ShowSeats() {
-  sitting_ = StudentsOfLabels(Current(), plan_.labels);
+  sitting_ = StudentsOfCards(Current(), plan_.labels);
   Grid1.SetRedraw(false);
   Grid1.SetSize(plan_.rows, plan_.columns);
   Grid1.Clear();

@@ -90,7 +90,7 @@ struct frmseating : Portal {
   Seat CellInWork() const { return {Grid1.Row, Grid1.Col}; }
 
   SeatPlan plan_;
-  std::vector<int> sitting_;             // who sits on each of its seats, as its labels stand
+  std::vector<int> sitting_;             // by seat, as its cards tell
   std::vector<SeatPlan> done_, undone_;  // plans before the last moves, and those taken back
   // The card that the keys carry: a seat, or a line of the list.
   enum class Carried { kNothing, kCard, kLine };

@@ -54,24 +54,33 @@ void Box(PrintTarget& target, double left, double top, double right, double bott
 }
 
 // A name breaks behind its comma; the second line of the card follows.
-std::vector<std::string> LinesOf(const std::string& label) {
+std::vector<std::string> LinesOf(const std::string& label, int student) {
+  if (label.empty()) return {};
   std::vector<std::string> lines;
   const std::size_t comma = label.find(", ");
   lines.push_back(comma == std::string::npos ? label : label.substr(0, comma + 1));
   if (comma != std::string::npos) lines.push_back(label.substr(comma + 2));
-  const int student = StudentOfLabel(Current(), label);
   if (student != 0) lines.push_back(CardDetails(student, false));
   return lines;
 }
 
+// By seat.
+std::vector<std::vector<std::string>> LinesOfCards(const SeatPlan& plan) {
+  const std::vector<int> students = StudentsOfCards(Current(), plan.labels);
+  std::vector<std::vector<std::string>> cards;
+  cards.reserve(students.size());
+  for (std::size_t i = 0; i < students.size(); ++i)
+    cards.push_back(LinesOf(plan.labels[i], students[i]));
+  return cards;
+}
+
 // One size for all cards, small enough for the widest line and the tallest card.
-double FontOfCards(PrintTarget& target, const SeatPlan& plan, double width, double height) {
+double FontOfCards(PrintTarget& target, const std::vector<std::vector<std::string>>& cards,
+                   double width, double height) {
   const FontKept kept(target);
   target.FontBold = true;  // as the names are, which are the widest
   const auto fits = [&] {
-    for (const std::string& label : plan.labels) {
-      if (label.empty()) continue;
-      const auto lines = LinesOf(label);
+    for (const auto& lines : cards) {
       if (target.TextHeight("N") * static_cast<double>(lines.size()) > height) return false;
       for (const std::string& line : lines)
         if (target.TextWidth(line) > width) return false;
@@ -85,7 +94,10 @@ double FontOfCards(PrintTarget& target, const SeatPlan& plan, double width, doub
 class ChartOnPaper {
  public:
   ChartOnPaper(PrintTarget& target, const SeatPlan& plan)
-      : target_(target), plan_(plan), width_(Job.PageTextWidth / double(plan.columns)) {
+      : target_(target),
+        plan_(plan),
+        cards_(LinesOfCards(plan)),
+        width_(Job.PageTextWidth / double(plan.columns)) {
     const double below = target.TextHeight("N") * (kUnseatedLines + 1);
     const double room = Job.PageBottom - target.CurrentY - 2 * target.TextHeight("N") - below;
     height_ = std::min(kTallestSeat, room / plan.rows);
@@ -96,7 +108,7 @@ class ChartOnPaper {
     DrawHeads();
     const FontKept kept(target_);
     top_ = target_.CurrentY;
-    target_.FontSize = FontOfCards(target_, plan_, width_ - 4 * kGap, height_ - 2 * kGap);
+    target_.FontSize = FontOfCards(target_, cards_, width_ - 4 * kGap, height_ - 2 * kGap);
     for (int column = 0; column < plan_.columns; ++column)
       for (int row = 0; row < plan_.rows; ++row) DrawSeat({row, column});
     target_.CurrentX = 0;
@@ -121,8 +133,7 @@ class ChartOnPaper {
   void DrawSeat(Seat seat) {
     const double left = seat.column * width_, top = top_ + seat.row * height_;
     Box(target_, left + kGap, top + kGap / 2, left + width_ - kGap, top + height_ - kGap / 2);
-    if (plan_.At(seat).empty()) return;
-    const auto lines = LinesOf(plan_.At(seat));
+    const auto& lines = cards_[static_cast<std::size_t>(seat.column * plan_.rows + seat.row)];
     const double text = target_.TextHeight("N") * static_cast<double>(lines.size());
     target_.CurrentY = top + (height_ - text) / 2;
     for (std::size_t i = 0; i < lines.size(); ++i) {
@@ -134,6 +145,7 @@ class ChartOnPaper {
 
   PrintTarget& target_;
   const SeatPlan& plan_;
+  std::vector<std::vector<std::string>> cards_;
   double width_, height_ = 0, top_ = 0;
 };
 

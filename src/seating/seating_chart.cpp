@@ -65,21 +65,18 @@ bool Unseat(SeatPlan& plan, Seat from) {
   return true;
 }
 
-int StudentOfLabel(const Class& c, std::string_view label) {
-  if (label.empty()) return 0;
-  for (int i = 1; i <= c.NumStudents; ++i)
-    if (SeatLabel(c.Students[static_cast<std::size_t>(i)]) == label) return i;
-  return 0;
-}
-
-std::vector<int> StudentsOfLabels(const Class& c, const std::vector<std::string>& labels) {
-  std::map<std::string, int, std::less<>> first;
-  for (int i = 1; i <= c.NumStudents; ++i)
-    first.emplace(SeatLabel(c.Students[static_cast<std::size_t>(i)]), i);
+std::vector<int> StudentsOfCards(const Class& c, const std::vector<std::string>& labels) {
+  std::map<std::string, int, std::less<>> owners;
+  for (int i = 1; i <= c.NumStudents; ++i) {
+    const auto [owner, alone] =
+        owners.emplace(SeatLabel(c.Students[static_cast<std::size_t>(i)]), i);
+    if (!alone) owner->second = 0;
+  }
   std::vector<int> students;
+  students.reserve(labels.size());
   for (const std::string& label : labels) {
-    const auto found = label.empty() ? first.end() : first.find(label);
-    students.push_back(found == first.end() ? 0 : found->second);
+    const auto owner = label.empty() ? owners.end() : owners.find(label);
+    students.push_back(owner == owners.end() ? 0 : owner->second);
   }
   return students;
 }

@@ -64,9 +64,8 @@ bool MoveCard(SeatPlan& plan, Seat from, Seat to);
 // From a seat back to the list.
 bool Unseat(SeatPlan& plan, Seat from);
 
-// The student of a label: of several with the same label the first. 0 for none.
-int StudentOfLabel(const Class& c, std::string_view label);
-// The same for many at once.
-std::vector<int> StudentsOfLabels(const Class& c, const std::vector<std::string>& labels);
+// Whose each of these cards is; 0 for no card, and where several students' cards read alike, since
+// then nobody can say.
+std::vector<int> StudentsOfCards(const Class& c, const std::vector<std::string>& labels);
 
 }  // namespace tallyroll

@@ -202,6 +202,20 @@ TEST_F(CompanionAtSaveTest, WhatAnotherClassLeftBehindIsNotTaken) {
   EXPECT_FALSE(Exists("ART.tyx"));
 }
 
+TEST_F(CompanionAtSaveTest, AClassBehindALinkHasOneCompanion) {
+  EXPECT_TRUE(FrameForm->CloseWindow(OpenWithWish("MATH.TYR")));
+  std::filesystem::create_symlink(Path("MATH.TYR"), Path("LINK.TYR"));
+  FrameForm->OpenRecent(Path("LINK.TYR"));
+  Form1& window = *Window(1);
+  EXPECT_EQ(SeatWishes(Path("LINK.TYR")).wishes, kFirstAtTheFront);
+  window.ClickMenu("mnusave");
+  EXPECT_EQ(window.StatusText, "LINK.TYR saved.");
+  EXPECT_EQ(SeatWishes(Path("MATH.TYR")).wishes, kFirstAtTheFront);
+  SaveAs(window, "COPY.TYR");
+  EXPECT_EQ(SeatWishes(Path("COPY.TYR")).wishes, kFirstAtTheFront);
+  EXPECT_FALSE(Exists("LINK.tyx"));
+}
+
 // Signs that mean something in the name by which such a file is opened.
 TEST_F(CompanionAtSaveTest, AProtectedFolderMayBearAnyName) {
   std::filesystem::permissions(folder, std::filesystem::perms(0755));

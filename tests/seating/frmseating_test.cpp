@@ -423,6 +423,15 @@ TEST_F(FrmSeatingTest, TheCardsTellTheIdAndByChoiceMore) {
   EXPECT_EQ(portal.Grid1.SmallLine(0, 0), "1  95");
 }
 
+TEST_F(FrmSeatingTest, CardsThatReadAlikeTellNoId) {
+  At(2).lastname = At(1).lastname;
+  Open();
+  New(1, 3);
+  EXPECT_EQ(portal.Grid1.SmallLine(2, 0), "");
+  EXPECT_EQ(portal.Grid1.SmallLine(1, 0), "");
+  EXPECT_EQ(portal.Grid1.SmallLine(0, 0), "3");
+}
+
 TEST_F(FrmSeatingTest, WishesAreMetAndCanBeMadeAgainByTheirNumber) {
   Open();
   New(2, 3, "bywishes");

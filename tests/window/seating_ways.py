@@ -58,11 +58,9 @@ def filled(program):
     keep(program)
 
 
-def wish(program, student, kind, other=None):
-    """By keys: the lists from their tops down."""
-    wisher = program.widget(Atspi.Role.LIST, "Student")
-    Atspi.Component.grab_focus(wisher)
-    program.await_focus(Atspi.Role.LIST, "Student")
+def wish(program, student, kind, other=None, back=("shift+Tab",)):
+    """By keys: from the list of wishes back to that of students; each list from its top down."""
+    program.keys(*back)
     program.keys("Home", *["Down"] * student, "Tab", "Home", *["Down"] * kind)
     if other is not None:
         program.keys("Tab", "Home", *["Down"] * other)
@@ -77,7 +75,8 @@ def lines(program, name):
 
 def by_wishes(program):
     new_chart(program, 4, 3, "By Wishes")
-    wish(program, 0, 0)  # at the front
+    program.await_label("Student")
+    wish(program, 0, 0, back=())  # at the front
     wish(program, 0, 1)  # at the back, against it
     wait_for("the contradiction", lambda: lines(program, "These cannot all be met"))
     program.keys("alt+t")
@@ -94,11 +93,11 @@ def by_wishes(program):
 def by_keys(program, reader):
     """From the list to a seat, onto a taken one, let go; from seat to seat, and back to the list."""
     new_chart(program, 2, 2, "Individual Method")
-    program.keys("Tab", "Home", "space")
+    program.keys("shift+Tab", "Home", "space")
     reader.await_words("", "Abel, X is taken up: arrows carry, the blank puts down, Escape lets go.")
     program.keys("Down", "space")
     reader.await_words("Abel, X", "Abel, X sits at row 1, seat 2.")
-    program.keys("Tab", "Home", "space", "space")
+    program.keys("shift+Tab", "Home", "space", "space")
     reader.await_words("Bond, X", "Bond, X sits at row 1, seat 2. Abel, X is back on the list.")
     expect("the list", lines(program, "Without a seat"), [f"{n}, X" for n in ("Cole", "Dunn", "Eads", "Fitz", "Abel")])
     program.keys("space", "Right", "Escape")
@@ -108,7 +107,7 @@ def by_keys(program, reader):
     reader.await_words("", "This seat is free.")
     program.keys("Left", "space", "Up", "space")
     reader.await_words("Bond, X", "Bond, X sits at row 1, seat 1.")
-    program.keys("space", "Tab", "space")
+    program.keys("space", "shift+Tab", "space")
     reader.await_words("Without a seat", "Bond, X is back on the list.")
     expect("an empty chart", cards(program, 2, 2), set())
     program.keys("alt+u")

@@ -27,7 +27,9 @@ void Describe(QWidget& widget, const QString& text) {
   auto* list = qobject_cast<QListWidget*>(&widget);
   if (!list || !list->currentItem()) return widget.setAccessibleDescription(text);
   const QSignalBlocker silence(list);
-  list->currentItem()->setData(Qt::AccessibleDescriptionRole, text);
+  for (int row = 0; row < list->count(); ++row)
+    list->item(row)->setData(Qt::AccessibleDescriptionRole,
+                             row == list->currentRow() ? text : QString());
   Note(whole ? whole->child(list->currentRow()) : nullptr, QAccessible::DescriptionChanged);
 }
 
