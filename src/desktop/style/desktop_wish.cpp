@@ -32,6 +32,8 @@ DesktopWish::DesktopWish(QObject* parent) : QObject(parent) {}
 void DesktopWish::Ask() {
   QDBusConnection bus = QDBusConnection::sessionBus();
   if (!bus.isConnected()) return;
+  // A slot is found only once its types have numbers.
+  (void)QMetaType::fromType<QDBusVariant>().id();
   bus.connect(PortalService(), PortalPath(), PortalSettings(), QStringLiteral("SettingChanged"),
               this, SLOT(SettingChanged(QString, QString, QDBusVariant)));
   QDBusMessage question = QDBusMessage::createMethodCall(PortalService(), PortalPath(),

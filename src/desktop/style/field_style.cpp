@@ -155,7 +155,9 @@ std::optional<QSize> FieldSize(QStyle::ContentsType type, const QSize& contents,
       return QSize(contents.width() + m.Px(kBesideText + kArrowRoom + 4), height);
     case QStyle::CT_SpinBox:
       if (!IsDate(widget)) return std::nullopt;
-      return QSize(contents.width() + m.Px(kBesideText + kArrowRoom), height);
+      // Its contents are a field with the height of a control already.
+      return QSize(contents.width() + m.Px(kBesideText + kArrowRoom),
+                   std::max(m.Control(), contents.height()));
     default:
       return std::nullopt;
   }

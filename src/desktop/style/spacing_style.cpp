@@ -16,6 +16,12 @@ bool IsTick(QSizePolicy::ControlType type) {
   return type == QSizePolicy::CheckBox || type == QSizePolicy::RadioButton;
 }
 
+// A list, a sheet, or what holds others.
+bool IsPane(QSizePolicy::ControlType type) {
+  return type == QSizePolicy::DefaultType || type == QSizePolicy::Frame ||
+         type == QSizePolicy::TabWidget;
+}
+
 int SpaceBelow(QSizePolicy::ControlType upper, QSizePolicy::ControlType lower, const Measures& m) {
   if (IsTick(upper) && IsTick(lower)) return 0;
   if (upper == QSizePolicy::GroupBox || lower == QSizePolicy::GroupBox) return m.Px(kGroups);
@@ -28,6 +34,7 @@ int SpaceBelow(QSizePolicy::ControlType upper, QSizePolicy::ControlType lower, c
 
 int SpaceBeside(QSizePolicy::ControlType left, QSizePolicy::ControlType right, const Measures& m) {
   if (left == QSizePolicy::GroupBox || right == QSizePolicy::GroupBox) return m.Px(kGroups);
+  if (IsPane(left) && IsPane(right)) return m.Px(kGroups);
   if (IsTick(left) && IsTick(right)) return m.Px(kRowOfButtons);
   if (left == QSizePolicy::Label || right == QSizePolicy::Label) return m.Px(kLabelToField);
   return m.Px(kFields);
