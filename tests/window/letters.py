@@ -1,14 +1,11 @@
 # SPDX-License-Identifier: GPL-3.0-or-later
-# A form letter is written with formatting and codes, looked at as merged, saved, searched, and goes
-# to five students: as one PDF and as files; labels are asked for. Then it is opened again.
-import subprocess
-
+# A form letter is written with formatting and codes; the two selection keys mark in it, plain
+# letters type, and it is searched and changed with each option.
 from gi.repository import Atspi
 from support import story
-from support.program import expect, text_of, wait_for
+from support.program import text_of, wait_for
 
 PORTAL = "Tallyroll Word Processor"
-CHANGED = "Data has been changed. Save File?  "
 
 
 def letter(program, name="Form letter"):
@@ -30,14 +27,6 @@ def choose_code(program, downs):
     program.keys("Home", *["Down"] * downs, "Return")
 
 
-def choose_students(program, count):
-    program.keys("ctrl+t")
-    program.window("Student Portal")
-    program.await_focus(Atspi.Role.LIST, "Students")
-    program.keys("Home", *["shift+Down"] * (count - 1), "alt+e", "alt+f")
-    program.window(PORTAL)
-
-
 def write(program):
     program.keys("ctrl+b")
     program.type("Progress")
@@ -50,7 +39,7 @@ def write(program):
 
 
 def find_and_replace(program):
-    """With each option; what was replaced is taken back."""
+    """With each option; what was replaced last is taken back."""
     program.keys("ctrl+Home", "ctrl+f")
     program.window("Find and Replace Portal")
     program.fill("SEE")
@@ -70,44 +59,8 @@ def find_and_replace(program):
     await_letter(program, "Progress\nDear <First Name>, call me.")
     program.keys("Escape")
     program.window(PORTAL)
-    program.keys("ctrl+z", "ctrl+z")
-    await_letter(program, "Progress\nDear <First Name>, see us.")
-
-
-def look_as_merged(program, names):
-    program.keys("F5")
-    for i, name in enumerate(names):
-        await_letter(program, f"Progress\nDear {name}, see us.", "Letter as merged")
-        program.keys(*["alt+Next"] * (i + 1 < len(names)))
-    program.keys("F6")
-    program.await_label("Page 1 of 1")
-    program.keys("Escape")
-    await_letter(program, "Progress\nDear <First Name>, see us.")
-
-
-def menu(program, *path):
-    """A command by the mnemonics of the menu."""
-    program.keys(*path)
-
-
-def save_as_pdf(this, program, names):
-    menu(program, "alt+f", "d")
-    path = this.path("all.pdf")
-    program.choose_file("Save As", path)
-    program.window(PORTAL)
-    words = subprocess.run(["pdftotext", "-layout", path, "-"], capture_output=True, text=True,
-                           check=True).stdout
-    expect("pages", words.count("\f"), len(names))
-    expect("the letters in the PDF", [line.strip() for line in words.split("\n") if "Dear" in line],
-           [f"Dear {name}, see us." for name in names])
-
-
-def save_letters(this, program):
-    menu(program, "alt+f", "v")
-    program.choose_file("Save As", this.path("note.rtf"))
-    program.window(PORTAL)
-    files = sorted(p.name for p in this.folder.glob("note_*"))
-    expect("files of letters", len(files), 5)
+    program.keys("ctrl+z")
+    await_letter(program, "Progress\nDear <First Name>, call us.")
 
 
 def selection_keys(program):
@@ -120,7 +73,7 @@ def selection_keys(program):
     program.keys("ctrl+End")
     program.type("SWsw")  # plain letters type
     await_letter(program, "Progress\nDear <First Name>, see us.SWsw")
-    program.keys("ctrl+z")
+    program.keys(*["BackSpace"] * 4)
 
 
 def tell(this):
@@ -131,41 +84,6 @@ def tell(this):
     write(program)
     selection_keys(program)
     find_and_replace(program)
-    program.keys("ctrl+s")
-    program.choose_file("Save As", this.path("form.rtf"))
-    choose_students(program, 5)
-    program.await_label("5 students are chosen")
-    names = [s["firstname"].strip() for s in story_students(this)[:5]]
-    look_as_merged(program, names)
-    save_as_pdf(this, program, names)
-    save_letters(this, program)
-    menu(program, "alt+f", "l")
-    press(program, "Cancel")
-    program.keys("Escape")
-    program.frame("MATH.TYR")
-    again(this, program)
-
-
-def story_students(this):
-    from support.program import dump
-    return dump(this.path("MATH.TYR"))["Students"]
-
-
-def again(this, program):
-    """The saved letter opens as it was; leaving it changed asks."""
-    program.keys("alt+t", "w")
-    program.window(PORTAL)
-    program.keys("ctrl+o")
-    program.choose_file("Open", this.path("form.rtf"))
-    program.window(PORTAL + " form.rtf")
-    await_letter(program, "Progress\nDear <First Name>, see us.")
-    program.type("X")
-    program.keys("Escape")
-    program.box(CHANGED, "Escape")
-    program.window(PORTAL + " form.rtf")
-    program.keys("Escape")
-    program.box(CHANGED, "alt+n")
-    program.frame("MATH.TYR")
 
 
 story.run(tell)

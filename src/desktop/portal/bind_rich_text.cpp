@@ -51,7 +51,8 @@ class RichTextBinding : public Binding<RichTextBox, RichTextEdit> {
       const WritingNow writing(writing_);
       ShowText();
       ShowPlace();
-      if (control_.SelStyle != style_) {
+      // The widget would give it to what is selected.
+      if (control_.SelLength == 0 && control_.SelStyle != style_) {
         style_ = control_.SelStyle;
         widget_.setCurrentCharFormat(FormatOf(style_));
       }
@@ -99,7 +100,8 @@ class RichTextBinding : public Binding<RichTextBox, RichTextEdit> {
     cursor.setPosition(std::clamp(start_, 0, end));
     cursor.setPosition(std::clamp(start_ + length_, 0, end), QTextCursor::KeepAnchor);
     widget_.setTextCursor(cursor);
-    style_ = StyleOf(widget_.currentCharFormat(), widget_.Base());
+    // What is typed at another place looks as that place does.
+    control_.SelStyle = style_ = StyleOf(widget_.currentCharFormat(), widget_.Base());
   }
 
   void FillAfresh() {

@@ -116,6 +116,18 @@ TEST_F(BindRichText, TheSelectionGoesBothWays) {
   EXPECT_EQ(edit().textCursor().selectedText().toStdString(), "two");
 }
 
+TEST_F(BindRichText, WhatIsSelectedByTheLogicKeepsItsLook) {
+  Open(u"");
+  RichText text = RichTextOf(u"one two");
+  Restyle(text, 0, 3, [](TextStyle& style) { style.bold = true; });
+  Act([&] { portal.text.Load(text); });
+  EXPECT_TRUE(portal.text.SelStyle.bold);
+  Act([this] { portal.text.Select(4, 3); });
+  EXPECT_EQ(portal.text.Document, text);
+  EXPECT_FALSE(portal.text.SelStyle.bold);
+  EXPECT_FALSE(edit().document()->isUndoAvailable());
+}
+
 TEST_F(BindRichText, WhatTheLogicPutsInLeavesTheCaretBehindIt) {
   Open(u"one\ntwo");
   Act([this] {
