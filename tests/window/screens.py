@@ -180,6 +180,31 @@ def reports(program):
     program.gone("Printer Portal")
 
 
+def mail(program):
+    program.keys("ctrl+p")
+    program.window("Printer Portal")
+    program.keys("alt+s")
+    program.click(program.widget(Atspi.Role.PUSH_BUTTON, "Choose All"))
+    program.click(program.widget(Atspi.Role.PUSH_BUTTON, "Preview"))
+    program.window("Tallyroll Printing")
+    program.keys("Return")
+    program.window("Print Preview Portal")
+    program.keys("alt+m")
+    program.window("E-mail Portal")
+    program.fill("mail.school.example", "teacher@school.example")
+    program.keys("alt+j")
+    program.type("First term")
+    take(program, "frmSendMail")
+    program.keys("alt+a")
+    program.window("Send to Several")
+    take(program, "frmSendMany")
+    for title in ("E-mail Portal", "Print Preview Portal", "Printer Portal"):
+        program.keys("Escape")
+        program.window(title)
+    program.keys("Escape")
+    program.gone("Printer Portal")
+
+
 def attendance(program):
     """A month with its totals, the range, and both forms of a summary."""
     program.keys("ctrl+d")
@@ -213,6 +238,7 @@ def portals(this):
     portal(program, ["alt+s", "d"], "Delete Portal", "frmdelete", ["Home", "Down"])
     attendance(program)
     reports(program)
+    mail(program)
     text_file(this, program)
     portal(program, ["alt+t", "s"], "Seating Chart Portal", "frmseating")
     program.keys("F1")

@@ -19,7 +19,7 @@ constexpr int kManyTopic = 475;
 constexpr int kStateColumn = 4;
 constexpr int kLongestPause = 3600, kMostADay = 100'000;
 constexpr std::string_view kManyHeads[] = {"Student", "Address", "Subject", "Attachment", "State"};
-constexpr int kManyWidths[] = {2600, 3000, 2200, 2600, 4200};
+constexpr int kManyWidths[] = {2400, 3000, 1800, 2400, 4000};
 
 std::string Number(std::size_t count) {
   return PlainNumberText(static_cast<std::int64_t>(count));
@@ -65,7 +65,6 @@ void frmSendMany::Declare(ControlTable& table) {
 
 void frmSendMany::Load() {
   Grid1.SetSize(1, static_cast<int>(std::size(kManyHeads)));
-  Grid1.FixedCols = 0;
   for (int col = 0; col < Grid1.Cols(); ++col) {
     Grid1.SetTextMatrix(0, col, kManyHeads[col]);
     Grid1.SetColWidth(col, kManyWidths[col]);

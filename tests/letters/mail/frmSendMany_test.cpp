@@ -58,6 +58,7 @@ class FrmSendManyTest : public SmallClassTest {
 
 TEST_F(FrmSendManyTest, TheTableSaysWhoGetsWhat) {
   Open();
+  EXPECT_EQ(portal->Grid1.FixedCols, 1);  // the names stay in view
   EXPECT_EQ(Column(0), (Rows{"Ng, Ada", "O'Hara, B", "Quist, Cy"}));
   EXPECT_EQ(Column(1), (Rows{"ada@home.", "bo@home.o", ""}));
   EXPECT_EQ(Column(2), (Rows{"Marks", "Marks", "Marks"}));
