@@ -27,6 +27,39 @@ constexpr std::array kHistoryColumns = {
     HistoryColumn{"When", 2200}, HistoryColumn{"Student", 2600}, HistoryColumn{"Grade", 2200},
     HistoryColumn{"What", 1400}, HistoryColumn{"Before", 2000},  HistoryColumn{"After", 2000}};
 
+struct FieldWords {
+  std::string_view field, words;
+};
+// Names of fields that a teacher would not know; the others are shown as they are.
+constexpr std::array kFieldWords = {
+    FieldWords{"mvalue", "maximum score"},
+    FieldWords{"dropyn", "may be dropped"},
+    FieldWords{"testdate", "date"},
+    FieldWords{"lowpass", "lowest passing score"},
+    FieldWords{"typecode", "type"},
+    FieldWords{"countflag", "counts in points"},
+    FieldWords{"lastname", "last name"},
+    FieldWords{"firstname", "first name"},
+    FieldWords{"id", "ID"},
+    FieldWords{"phone", "home phone"},
+    FieldWords{"work", "work phone"},
+    FieldWords{"birth", "birth date"},
+    FieldWords{"email", "e-mail"},
+    FieldWords{"termstart", "first day of term"},
+    FieldWords{"termend", "last day of term"},
+    FieldWords{"timed", "time of class"},
+    FieldWords{"RoundMode", "rounding"},
+    FieldWords{"RoundScale", "rounding values"},
+    FieldWords{"FinalGradeForm", "form of final grades"},
+    FieldWords{"PasswordSet", "password"},
+};
+
+std::string_view WordsOfField(std::string_view field) {
+  const auto found = std::find_if(kFieldWords.begin(), kFieldWords.end(),
+                                  [&](const FieldWords& each) { return each.field == field; });
+  return found == kFieldWords.end() ? field : found->words;
+}
+
 // The student of a change by ID, or by name where the ID is empty; 0 when nobody or several are.
 int StudentOfChange(const NamedChange& change) {
   int found = 0;
@@ -138,10 +171,12 @@ void frmhistory::ShowLines() {
   int row = 0;
   for (const KeptChange& line : lines_) {
     ++row;
-    int col = 0;
-    for (const std::string* text : {&line.time, &line.change.name, &line.change.grade,
-                                    &line.change.field, &line.change.before, &line.change.after})
-      Grid1.SetTextMatrix(row, col++, *text);
+    const NamedChange& change = line.change;
+    const std::array<std::string_view, kHistoryColumns.size()> cells = {
+        line.time,     change.name, change.grade, WordsOfField(change.field),
+        change.before, change.after};
+    for (std::size_t i = 0; i < cells.size(); ++i)
+      Grid1.SetTextMatrix(row, static_cast<int>(i), cells[i]);
   }
   Grid1.Row = lines_.empty() ? 0 : 1;
   Grid1.Col = 0;
@@ -176,7 +211,8 @@ void frmhistory::takeback_Click() {
   const NamedChange& change = lines_[static_cast<std::size_t>(at)].change;
   if (const std::string why = TakeBack(change); !why.empty()) return (void)ShowMessage(why);
   Current().Changed = kTrue;
-  const std::string what = change.grade.empty() ? change.field : change.grade;
+  const std::string what(change.grade.empty() ? WordsOfField(change.field)
+                                              : std::string_view(change.grade));
   found.Caption = what + " of " + change.name + " is \"" + change.before + "\" again.";
   ClassWindow().showform3();
 }
