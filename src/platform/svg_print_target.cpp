@@ -11,7 +11,7 @@
 namespace tallyroll {
 namespace {
 
-constexpr double kTwipsPerPoint = 20;
+constexpr double kSvgTwipsPerPoint = 20;
 constexpr double kAscent = 0.905, kLineHeight = 1.149;  // of the font's size
 constexpr double kBoldFactor = 1.06;
 
@@ -31,7 +31,7 @@ int WidthOf(unsigned char character) {
 
 // Points with at most two decimals: a hundredth of a point is seen by nobody.
 std::string Points(double twips) {
-  const double rounded = std::round(twips / kTwipsPerPoint * 100) / 100;
+  const double rounded = std::round(twips / kSvgTwipsPerPoint * 100) / 100;
   return PlainNumberText(rounded == 0 ? 0.0 : rounded);
 }
 
@@ -74,11 +74,11 @@ std::string SvgPrintTarget::File(std::string_view title) const {
 double SvgPrintTarget::TextWidth(std::string_view text) const {
   int thousandths = 0;
   for (const char c : text) thousandths += WidthOf(static_cast<unsigned char>(c));
-  return thousandths * FontSize * kTwipsPerPoint / 1000 * (FontBold ? kBoldFactor : 1);
+  return thousandths * FontSize * kSvgTwipsPerPoint / 1000 * (FontBold ? kBoldFactor : 1);
 }
 
 double SvgPrintTarget::TextHeight(std::string_view /*text*/) const {
-  return FontSize * kTwipsPerPoint * kLineHeight;
+  return FontSize * kSvgTwipsPerPoint * kLineHeight;
 }
 
 double SvgPrintTarget::AverageCharWidth() const {
@@ -86,7 +86,7 @@ double SvgPrintTarget::AverageCharWidth() const {
 }
 
 FontReach SvgPrintTarget::ReachOf(const LetterFont& font) const {
-  const double twips = font.size * kTwipsPerPoint;
+  const double twips = font.size * kSvgTwipsPerPoint;
   return {twips * kAscent, twips * (kLineHeight - kAscent)};
 }
 
@@ -94,13 +94,13 @@ double SvgPrintTarget::LetterWidth(std::u16string_view text, const LetterFont& f
   int thousandths = 0;
   for (const char16_t unit : text)
     thousandths += WidthOf(unit < 256 ? static_cast<unsigned char>(unit) : 255);
-  return thousandths * font.size * kTwipsPerPoint / 1000 * (font.bold ? kBoldFactor : 1);
+  return thousandths * font.size * kSvgTwipsPerPoint / 1000 * (font.bold ? kBoldFactor : 1);
 }
 
 void SvgPrintTarget::DrawLetters(double x, double base, std::u16string_view text,
                                  const LetterFont& font) {
   body_ += "<text x=\"" + Points(x) + "\" y=\"" + Points(base) + "\" font-family=\"" +
-           Escaped(font.name) + "\" font-size=\"" + Points(font.size * kTwipsPerPoint) + "\"" +
+           Escaped(font.name) + "\" font-size=\"" + Points(font.size * kSvgTwipsPerPoint) + "\"" +
            (font.bold ? " font-weight=\"bold\"" : "") +
            (font.italic ? " font-style=\"italic\"" : "") + " fill=\"" + ColorText(ForeColor) +
            "\" xml:space=\"preserve\">" + Escaped(Utf8FromUtf16(text)) + "</text>\n";
@@ -121,18 +121,18 @@ void SvgPrintTarget::FillPolygon(const std::vector<PrintPoint>& corners, PrintCo
 
 void SvgPrintTarget::AddText(std::string_view text, double size, const std::string& place) {
   if (text.empty()) return;
-  body_ += "<text " + place + " font-size=\"" + Points(size * kTwipsPerPoint) + "\"" +
+  body_ += "<text " + place + " font-size=\"" + Points(size * kSvgTwipsPerPoint) + "\"" +
            (FontBold ? " font-weight=\"bold\"" : "") + " fill=\"" + ColorText(ForeColor) +
            "\" xml:space=\"preserve\">" + Escaped(Utf8FromCodePage(text)) + "</text>\n";
 }
 
 void SvgPrintTarget::DrawTextAt(double x, double y, std::string_view text, double size) {
-  const double base = y + size * kTwipsPerPoint * kAscent;
+  const double base = y + size * kSvgTwipsPerPoint * kAscent;
   AddText(text, size, "x=\"" + Points(x) + "\" y=\"" + Points(base) + "\"");
 }
 
 void SvgPrintTarget::PrintUpwards(std::string_view text, double x, double y) {
-  const double base = x + FontSize * kTwipsPerPoint * kAscent;
+  const double base = x + FontSize * kSvgTwipsPerPoint * kAscent;
   AddText(text, FontSize,
           "transform=\"translate(" + Points(base) + "," + Points(y) + ") rotate(-90)\"");
 }

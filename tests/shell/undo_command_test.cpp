@@ -86,7 +86,7 @@ TEST_F(UndoCommandTest, ADeletedStudentComesBackWithEveryMark) {
     work.Press("delete");
     work.Press("exit");
   });
-  screen.ExpectBox("Delete 2 Last02, First02?", BoxAnswer::kOk);
+  screen.ExpectBox("Delete 102 Last02, First02?", BoxAnswer::kOk);
   window.ClickMenu("mnuDelete");
   ASSERT_EQ(Current().NumStudents, 2);
   EXPECT_EQ(window.menu["mnuundo"].caption, "&Undo Delete Student: Last02, First02");

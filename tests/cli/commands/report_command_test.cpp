@@ -220,7 +220,7 @@ TEST_F(ReportCommandTest, TheNameModeNamesAndSorts) {
 // ---- Refusals ----
 
 TEST_F(ReportCommandTest, ACodeThatNoReportHas) {
-  for (const char* code : {"0", "5", "6", "7", "25", "-1"})
+  for (const char* code : {"0", "5", "6", "7", "26", "-1"})
     ExpectRefusal({"--code", code}, "there is no report of this code");
   ExpectWrong({"--code", "one"});
   ExpectWrong({});

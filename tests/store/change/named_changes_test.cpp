@@ -105,8 +105,8 @@ TEST_F(NamedChangesTest, WhatIsToldOfAStudentAndOfTheClass) {
   c.room = "12";
   c.Students[1].phone = "555";
   c.Students[1].lastname = "Nguyen";
-  EXPECT_EQ(Told(), (Texts{"/ room:  -> 12", "Nguyen, Ada/ phone:  -> 555",
-                           "Nguyen, Ada/ lastname: Ng -> Nguyen"}));
+  EXPECT_EQ(Told(), (Texts{"/ room:  -> 12", "Nguyen, Ada/ lastname: Ng -> Nguyen",
+                           "Nguyen, Ada/ phone:  -> 555"}));
 }
 
 TEST_F(NamedChangesTest, StudentsWithoutAnIdAreKnownByName) {
