@@ -72,7 +72,7 @@ struct frmexchange : Portal {
 
   std::string path_;
   std::string bytes_;
-  ChosenStudents chosen_;
+  StudentsByRow chosen_;
   ExchangePreview preview_;
   std::vector<std::size_t> shown_;  // by row of the grid, the change
   OutTable out_;

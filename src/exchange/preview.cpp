@@ -32,7 +32,7 @@ std::optional<i16> WholeScore(Currency maximum) {
 
 class PreviewMaker {
  public:
-  PreviewMaker(ExchangeFormat format, ForeignTable table, const ChosenStudents& chosen)
+  PreviewMaker(ExchangeFormat format, ForeignTable table, const StudentsByRow& chosen)
       : kept_(KeptIdsOf(format)), chosen_(chosen) {
     preview_.refusal = table.refusal;
     preview_.table = std::move(table);
@@ -206,7 +206,7 @@ class PreviewMaker {
   }
 
   KeptIds kept_;
-  const ChosenStudents& chosen_;
+  const StudentsByRow& chosen_;
   ExchangePreview preview_;
 };
 
@@ -232,12 +232,12 @@ bool ExchangePreview::Blocked() const {
   return std::ranges::any_of(changes, Blocks, &Change::kind);
 }
 
-ExchangePreview PreviewOf(ExchangeFormat format, ForeignTable table, const ChosenStudents& chosen) {
+ExchangePreview PreviewOf(ExchangeFormat format, ForeignTable table, const StudentsByRow& chosen) {
   return PreviewMaker(format, std::move(table), chosen).Make();
 }
 
 ExchangePreview PreviewOfFile(ExchangeFormat format, std::string_view bytes,
-                              const ChosenStudents& chosen) {
+                              const StudentsByRow& chosen) {
   return PreviewOf(format, ReadForeign(format, bytes), chosen);
 }
 

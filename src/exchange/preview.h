@@ -50,7 +50,7 @@ struct Change {
 };
 
 // Who is meant by a line about nobody: by the table's student, a student of the class.
-using ChosenStudents = std::map<int, int>;
+using StudentsByRow = std::map<int, int>;
 
 struct ExchangePreview {
   std::string refusal;  // why nothing can be taken, as the end of a sentence
@@ -65,9 +65,9 @@ struct ExchangePreview {
 
 // Of the class in work. The identifiers of the system that its companion keeps are used.
 ExchangePreview PreviewOf(ExchangeFormat format, ForeignTable table,
-                          const ChosenStudents& chosen = {});
+                          const StudentsByRow& chosen = {});
 ExchangePreview PreviewOfFile(ExchangeFormat format, std::string_view bytes,
-                              const ChosenStudents& chosen = {});
+                              const StudentsByRow& chosen = {});
 
 // What a line of the list says, in words.
 std::string GradeTitleOf(const ExchangePreview& preview, const Change& change);

@@ -12,7 +12,7 @@ using ::testing::HasSubstr;
 
 class CanvasPreviewTest : public ExchangeTest {
  protected:
-  static ExchangePreview Preview(const std::string& file, const ChosenStudents& chosen = {}) {
+  static ExchangePreview Preview(const std::string& file, const StudentsByRow& chosen = {}) {
     EXPECT_EQ(RecognisedFormat(file), ExchangeFormat::kCanvas);
     return PreviewOfFile(ExchangeFormat::kCanvas, file, chosen);
   }

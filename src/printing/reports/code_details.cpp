@@ -30,7 +30,7 @@ constexpr std::array kDetailColumns = {
                 [](int i) { return PlainNumberText(GradeInReport(i).mvalue); }},
 };
 constexpr GradeColumns kDetailTable{kDetailColumns, 35 + 6.5 * 4, 35 + 6.5 * 4, 72};
-constexpr double kColumnsOfTable = 66;
+constexpr double kDetailColumnsOfTable = 66;
 
 }  // namespace
 
@@ -38,11 +38,11 @@ Section CodeDetailsSection(PrintTarget& target) {
   return {.rows = GradeCount(Current()),
           .print =
               [&target](int row) {
-                PrintGradeRow(target, kDetailTable, ColumnUnit(kColumnsOfTable), row);
+                PrintGradeRow(target, kDetailTable, ColumnUnit(kDetailColumnsOfTable), row);
               },
           .head =
               [&target] {
-                PrintGradeHead(target, kDetailTable, ColumnUnit(kColumnsOfTable));
+                PrintGradeHead(target, kDetailTable, ColumnUnit(kDetailColumnsOfTable));
                 Rule(target);
               },
           .head_lines = 2};

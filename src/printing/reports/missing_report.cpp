@@ -22,7 +22,7 @@ constexpr std::string_view kNoneOnPaper = " is not missing any Grades";
 constexpr std::string_view kNoneInText = "  is not missing any Grades";
 constexpr int kLinesBesideList = 2;  // the name and the heads
 constexpr int kClassRule = 77, kStudentRule = 80;
-constexpr double kColumnsOfTable = 61;
+constexpr double kMissingColumnsOfTable = 61;
 
 struct MissingColumn {
   double units;  // CharUnits on paper
@@ -54,7 +54,7 @@ std::vector<int> MissingGrades(const Student& student) {
 }
 
 void PrintHead(PrintTarget& target) {
-  const double unit = ColumnUnit(kColumnsOfTable);
+  const double unit = ColumnUnit(kMissingColumnsOfTable);
   PaperLine line(target);
   for (const MissingColumn& column : kMissingColumns) line.Put(column.units * unit, column.head);
   line.End();
@@ -62,7 +62,7 @@ void PrintHead(PrintTarget& target) {
 }
 
 void PrintMissingRow(PrintTarget& target, int grade) {
-  const double unit = ColumnUnit(kColumnsOfTable);
+  const double unit = ColumnUnit(kMissingColumnsOfTable);
   PaperLine line(target);
   for (const MissingColumn& column : kMissingColumns)
     line.Put(column.units * unit, column.value(grade));

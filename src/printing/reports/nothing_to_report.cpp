@@ -3,6 +3,7 @@
 
 #include "base/text.h"
 #include "grades/marks.h"
+#include "printing/reports/report_codes.h"
 #include "printing/reports/reports.h"
 #include "printing/reports/roll_book.h"
 #include "store/program_state.h"
@@ -10,7 +11,7 @@
 namespace tallyroll {
 namespace {
 
-constexpr int kMissing = 2, kRollBook = 3, kRollBookTitles = 4, kClassInformation = 22;
+constexpr int kMissing = 2, kClassInformation = 22;
 
 bool AnyMissing(const Student& student) {
   for (int i = 1; i <= GradeCount(Current()); ++i)

@@ -18,7 +18,7 @@ namespace tallyroll {
 namespace {
 
 constexpr int kOneGradeRule = 80;
-constexpr double kColumnsOfTable = 51;
+constexpr double kOneGradeColumnsOfTable = 51;
 
 struct OneGradeRow {
   std::string label;  // name or ID
@@ -75,7 +75,7 @@ void PrintOneGrade(ReportPass& pass) {
   const std::vector<OneGradeRow> rows = RowsInOrder();
   PaperLine line(target);
   const auto place = [&line](double units, int, std::string_view text) {
-    line.Put(units * ColumnUnit(kColumnsOfTable), text);
+    line.Put(units * ColumnUnit(kOneGradeColumnsOfTable), text);
   };
   PrintSections(pass, {{.rows = static_cast<int>(rows.size()),
                         .print =
