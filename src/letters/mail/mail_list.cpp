@@ -22,7 +22,7 @@ std::string MailCsv(const std::vector<JournalMail>& mails) {
     text += PlainNumberText(mail.run);
     for (const std::string& field : {mail.student, mail.name, mail.address, mail.subject,
                                      mail.attachment, MailStateText(mail), mail.changed})
-      text += "," + CsvField(field);
+      text += "," + CsvTextField(field);
     text += "\r\n";
   }
   return text;
