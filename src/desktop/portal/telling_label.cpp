@@ -26,6 +26,7 @@ void Describe(QWidget& widget, const QString& text) {
   }
   auto* list = qobject_cast<QListWidget*>(&widget);
   if (!list || !list->currentItem()) return widget.setAccessibleDescription(text);
+  if (!list->accessibleDescription().isEmpty()) list->setAccessibleDescription({});
   const QSignalBlocker silence(list);
   for (int row = 0; row < list->count(); ++row)
     list->item(row)->setData(Qt::AccessibleDescriptionRole,
