@@ -141,9 +141,9 @@ void frmpoints::frombd_Click() {
 
 void frmpoints::print_Click() {
   PrintGrid({.title = " Points Printout",
-               .head = {"NAME", "Types", "MAX PTS.", "COUNT IN"},
-               .second_head = {"", "", "", "TOTAL PTS."},
-               .rows = RowsToPrint(grdgrade)});
+             .head = {"NAME", "Types", "MAX PTS.", "COUNT IN"},
+             .second_head = {"", "", "", "TOTAL PTS."},
+             .rows = RowsToPrint(grdgrade)});
 }
 
 void frmpoints::Sumanry_Click() {

@@ -39,6 +39,7 @@ constexpr std::array kEmptyTexts = {
     EmptyText{"frmSendMany", "Grid1", "No letters to send"},
     EmptyText{"frmcategories", "listbasic", kNoTypes},
     EmptyText{"frmcategories", "listcat", kNoTypes},
+    EmptyText{"frmchange", "Grid1", kNoStudents},
     EmptyText{"frmcompare", "Listfiles", "Open two classes to compare them"},
     EmptyText{"frmcompare", "panel", "The figures of each grade chosen"},
     EmptyText{"frmcompare", "table", "How many marks lie in each range"},

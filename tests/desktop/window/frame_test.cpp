@@ -44,7 +44,7 @@ TEST_F(FrameWindowTest, FitsASmallScreenWithAndWithoutAClass) {
 TEST_F(FrameWindowTest, ShowsItsOwnMenuUntilAClassIsOpen) {
   EXPECT_THAT(Headings(), ElementsAre("&File", "&Edit", "&Help"));
   Form1& form = OpenClass("MATH.TYR");
-  EXPECT_EQ(Headings().size(), 11U);
+  EXPECT_EQ(Headings().size(), 12U);
   EXPECT_TRUE(FrameForm->CloseWindow(form));
   EXPECT_THAT(Headings(), ElementsAre("&File", "&Edit", "&Help"));
 }
