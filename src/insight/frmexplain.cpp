@@ -6,7 +6,6 @@
 #include "base/number_text.h"
 #include "base/text.h"
 #include "grades/marks.h"
-#include "platform/surroundings.h"
 #include "printing/page/print_job.h"
 #include "printing/page/report_choice.h"
 #include "printing/print_message.h"
@@ -85,12 +84,14 @@ void frmexplain::Declare(ControlTable& table) {
 
 void frmexplain::Load() {
   const int wanted = OpenState == kExplainStudent ? CurrentStudent : 1;
+  trymark.Enabled = preview.Enabled = PREVIOUS.Enabled = nextt.Enabled = false;
   if (Current().NumStudents == 0 || !HasAverages()) {
-    ShowMessage(
+    lststeps.List = {
         "There are no averages to explain yet: the class needs students, grades, and weights or "
-        "points for them.");
-    return Unload();
+        "points for them."};
+    return SetFocus(exit);
   }
+  preview.Enabled = PREVIOUS.Enabled = nextt.Enabled = true;
   for (int i = 1; i <= Current().NumStudents; ++i)
     lstName.List.push_back(StudentListLine(Current().Students[static_cast<std::size_t>(i)]));
   trymark.MaxLength = kLongestMark;
@@ -169,6 +170,7 @@ void frmexplain::ShowSentences(const ExplainedPage& page) {
 // ---- What would it take ----
 
 void frmexplain::ChooseGrade() {
+  if (student_ == 0) return;
   const auto row = static_cast<std::size_t>(grdgrade.Row);
   const int at_cursor = row < grade_of_row_.size() ? grade_of_row_[row] : 0;
   if (at_cursor > 0) grade_ = at_cursor;

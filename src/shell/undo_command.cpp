@@ -45,6 +45,7 @@ constexpr std::array kCommandNames = {
     CommandName{"mnuimportnames", "Import Students"},
     CommandName{"mnugradesid", "Import Grades"},
     CommandName{"mnugradesname", "Import Grades"},
+    CommandName{"mnuSchoolSystems", "School Systems"},
     CommandName{"mnupassenter", "Enter Password"},
     CommandName{"mnupasschange", "Change Password"},
     CommandName{"mnupassdelete", "Delete Password"},

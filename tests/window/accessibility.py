@@ -7,8 +7,8 @@ from support.program import children, expect, is_shown, states, walk
 ROLE = Atspi.Role
 INPUTS = {ROLE.TEXT, ROLE.PASSWORD_TEXT, ROLE.LIST, ROLE.COMBO_BOX, ROLE.CHECK_BOX,
           ROLE.RADIO_BUTTON, ROLE.SPIN_BUTTON, ROLE.PUSH_BUTTON, ROLE.PAGE_TAB, ROLE.TABLE}
-MENUS = ["File", "Students", "Records", "Make Up Grades", "Display", "View", "Print", "Tools",
-         "Window", "Help"]
+MENUS = ["File", "Students", "Records", "Make Up Grades", "Display", "Edit", "View", "Print",
+         "Tools", "Insight", "Window", "Help"]
 TOOLS = ["New Class by the Wizard", "Open a Class", "Save this Class", "Add Students",
          "Edit Students", "Enter Grades", "Edit Grades", "Enter Daily Attendance",
          "Edit Daily Attendance", "All Information on a Student", "Print", "Make Up Grades",

@@ -11,7 +11,7 @@ namespace {
 
 constexpr std::string_view kExplainedTitle = " Average Explained for ";
 constexpr int kExplainedWidth = 80;
-constexpr std::size_t kExplainedWords = 76;  // characters of a sentence on a line
+constexpr std::size_t kExplainedWords = 70;  // characters of a sentence on a line
 constexpr int kNoteColumn = 5;
 constexpr std::array kExplainedColumns = {1, 34, 42, 50, 60, 70};
 constexpr std::array kExplainedTypeColumns = {1, 34, 42, 52, 62, 70};
