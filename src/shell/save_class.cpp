@@ -67,7 +67,8 @@ bool Form1::Save() {
   WriteClassFile();
   if (FileErrorCode != 0) return false;
   // Before anything that writes to the companion: from here on it knows the class by its new bytes.
-  const std::string told = companion.Saved() + history.Saved(Current().FileName);
+  std::string told = companion.Saved();
+  told += history.Saved(Current().FileName);
   if (!told.empty()) ShowStatus(StatusText + told);
   Current().Changed = kFalse;
   SavedInCommand = true;

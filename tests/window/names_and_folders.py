@@ -31,7 +31,7 @@ def other_case(this, program):
     program.box("b.tyr already exists.\nDo you want to replace it?", "alt+y", title="Save As")
     program.frame("B.TYR", changed=False)
     program.await_label("b.tyr saved.")
-    expect("files", sorted(path.name for path in pathlib.Path(this.path("")).glob("*.[tT]*")),
+    expect("files", sorted(path.name for path in pathlib.Path(this.path("")).glob("*.[tT][yY][rR]")),
            ["A.TYR", "b.tyr"])
 
 

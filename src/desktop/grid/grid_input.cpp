@@ -14,13 +14,20 @@
 #include "desktop/grid/grid_widget.h"
 
 namespace tallyroll {
+namespace {
+
+// Ctrl+Ins copies elsewhere; here it adds students.
+bool IsCopyKey(const QKeyEvent& event) {
+  return event.key() == Qt::Key_C && event.modifiers() == Qt::ControlModifier;
+}
+
+}  // namespace
 
 bool GridWidget::event(QEvent* event) {
   // An arrow key that reached the edge stays in the grid instead of moving the focus.
   if (event->type() == QEvent::ShortcutOverride) {
     const auto& key = static_cast<const QKeyEvent&>(*event);
-    if (grid_ && (TargetOf(key) || key.matches(QKeySequence::Copy) || IsZoomKey(key)))
-      event->accept();
+    if (grid_ && (TargetOf(key) || IsCopyKey(key) || IsZoomKey(key))) event->accept();
   }
   return QAbstractScrollArea::event(event);
 }
@@ -131,7 +138,7 @@ void GridWidget::keyPressEvent(QKeyEvent* event) {
   MeasureIfChanged();
   const int key = event->key();
   const bool presses = key == Qt::Key_Return || key == Qt::Key_Enter || key == Qt::Key_Space;
-  if (event->matches(QKeySequence::Copy)) return CopyRange();
+  if (IsCopyKey(*event)) return CopyRange();
   if (IsZoomKey(*event)) return ZoomBy(*event);
   if (KeyOf(*event) == Key::kF4) {
     Q_EMIT listAsked();

@@ -97,10 +97,9 @@ void FoldingText::hideEvent(QHideEvent* event) {
   if (!event->spontaneous() && !text().isEmpty()) QSettings().setValue(SettingsKey(), true);
 }
 
+// Enter is left to the Portal's button: whoever opens it and presses Enter means that.
 void FoldingText::keyPressEvent(QKeyEvent* event) {
-  const int key = event->key();
-  if (key == Qt::Key_Space || key == Qt::Key_Return || key == Qt::Key_Enter)
-    return SetFolded(!folded_);
+  if (event->key() == Qt::Key_Space) return SetFolded(!folded_);
   QLabel::keyPressEvent(event);
 }
 
