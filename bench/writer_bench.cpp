@@ -23,10 +23,11 @@ const QSize kWriterSize(1000, 720);
 std::u16string LongLetter() {
   std::u16string text;
   for (int i = 0; i < kPages * kParagraphsOfPage; ++i)
-    text += u"Dear <Parent's Name>, your child <First Name> has done well this term, and we "
-            u"should like to see you at the school on Friday. Please bring the report that was "
-            u"sent to you in March, with your signature, and whatever you wish to ask us about "
-            u"the work at home and the marks of the term.\n";
+    text +=
+        u"Dear <Parent's Name>, your child <First Name> has done well this term, and we "
+        u"should like to see you at the school on Friday. Please bring the report that was "
+        u"sent to you in March, with your signature, and whatever you wish to ask us about "
+        u"the work at home and the marks of the term.\n";
   return text;
 }
 

@@ -50,7 +50,8 @@ void DrawLegend(ChartPainter& painter) {
   const double width = std::min(wanted, rest.width * kLegendShare);
   const auto rows = static_cast<double>(chart.legend.size());
   const double step = std::min(line * 1.2, rest.height / std::max(rows, 1.0));
-  if (step < line || rest.width * kLegendShare < 2 * line) return;  // no room in which a word could be read
+  if (step < line || rest.width * kLegendShare < 2 * line)
+    return;  // no room in which a word could be read
   double y = rest.top + std::max((rest.height - rows * step) / 2, 0.0);
   for (std::size_t i = 0; i < chart.legend.size(); ++i, y += step)
     painter.DrawEntry({chart.legend[i], painter.colors().slices[i % kChartSlices]},
