@@ -4,23 +4,15 @@
 #include <cstdlib>
 #include <map>
 #include <nlohmann/json.hpp>
-#include <sstream>
 
 #include "companion/seat_wishes.h"
+#include "tests/cli/commands/seated_class.h"
 #include "tests/cli/run_cli.h"
-#include "tests/support/pdf_words.h"
 
 namespace tallyroll {
 namespace {
 
 using nlohmann::json;
-
-constexpr const char* kSeatedClass = R"({"description": "Algebra", "NumCharts": 2,
-  "ChartRows": [0, 2, 1], "ChartColumns": [0, 2, 1],
-  "Students": [
-    {"lastname": "Abe", "firstname": "Bo", "id": "5", "SeatRow": [0, 1, 0], "SeatColumn": [0, 0, 0]},
-    {"lastname": "Cho", "firstname": "Di", "id": "6", "SeatRow": [0, 0, -1], "SeatColumn": [0, 1, -1]},
-    {"lastname": "Eng", "firstname": "Fa", "id": "7", "SeatRow": [0, -1, -1], "SeatColumn": [0, -1, -1]}]})";
 
 class SeatingCommandTest : public CliTest {};
 
@@ -110,40 +102,6 @@ TEST_F(SeatingCommandTest, SizesThatNoChartHasAreWrong) {
 TEST_F(SeatingCommandTest, OnlyAPdfIsWritten) {
   const std::string file = Build(kSeatedClass), out = Path("chart.txt");
   ExpectRefused(RunCli({"seating", file, "--out", out}), out + ": a chart's file must end in .pdf");
-}
-
-// The page as another program reads it: the class, the front, the heads of the rows, each card on
-// its seat from the board on, and below who has none.
-TEST_F(SeatingCommandTest, ThePageIsWrittenAsPdf) {
-  const std::string pdf = Path("chart.pdf");
-  const CliRun run = RunCli({"seating", "--chart", "1", "--out", pdf, Build(kSeatedClass)});
-  EXPECT_EQ(run.status, 0);
-  EXPECT_EQ(run.err, "");
-  EXPECT_EQ(run.out, "");
-  EXPECT_EQ(PdfInfo(pdf, "Pages"), "1");
-  EXPECT_TRUE(PdfInfo(pdf, "Page size").starts_with("612 x 792")) << PdfInfo(pdf, "Page size");
-  std::string words;
-  for (const std::string& word : WordsOf(PdfText(pdf))) words += word + ' ';
-  for (const char* part : {"Chart Form", "Algebra - Chart 1", "FRONT OF THE ROOM 1 2 ", "Abe, Bo 5",
-                           "Cho, Di 6", "Without a seat: Eng, Fa"}) {
-    EXPECT_NE(words.find(part), std::string::npos) << part << " in " << words;
-  }
-  EXPECT_LT(words.find("Abe,"), words.find("Cho,"));
-}
-
-TEST_F(SeatingCommandTest, AWideChartLiesAcrossTheSheet) {
-  const std::string pdf = Path("wide.pdf"), wide = Path("wide.TYR");
-  ASSERT_EQ(RunCli({"seating", Build(kSeatedClass), "--new", "2x9", "--fill", "sorted",
-                    "--out-class", wide})
-                .err,
-            "");
-  EXPECT_EQ(RunCli({"seating", "--out", pdf, "--text", wide}).status, 0);
-  std::istringstream size(PdfInfo(pdf, "Page size"));
-  double width = 0, height = 0;
-  std::string by;
-  size >> width >> by >> height;
-  EXPECT_GT(width, height);
-  EXPECT_GT(height, 0);
 }
 
 TEST_F(SeatingCommandTest, ACopyOnPaperIsNotWrittenOverAClass) {
