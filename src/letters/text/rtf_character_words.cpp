@@ -55,9 +55,10 @@ void SetColor(RtfInterpreter& rtf, int shift, int value) {
 
 // The number is signed in the file, and one half of a pair above the first 65,536 characters.
 void AddUnicode(RtfInterpreter& rtf, const RtfToken& token) {
-  constexpr char16_t kSymbolBullet = 0xF0B7, kBullet = 0x2022;
+  // A bullet of a sign font, by the font's own place or by that of the western code page.
+  constexpr char16_t kSymbolBullet = 0xF0B7, kSymbolWesternBullet = 0xF095, kBullet = 0x2022;
   auto unit = static_cast<char16_t>(token.number & 0xFFFF);
-  if (unit == kSymbolBullet) unit = kBullet;
+  if (unit == kSymbolBullet || unit == kSymbolWesternBullet) unit = kBullet;
   rtf.AppendUnits(std::u16string_view(&unit, 1));
   rtf.to_skip = rtf.Group().fallbacks;
 }
