@@ -26,7 +26,8 @@ void StoreMonth(const Grid& grid, const MonthWindow& month);
 
 // What the month tells beside its texts; the grid and the month must outlive it. `first` gives the
 // day serial of the first of the month.
-GridNotes NotesOfMonth(const Grid& grid, const MonthWindow& month, std::function<double()> first);
+GridNotes NotesOfMonth(const Grid& grid, const MonthWindow& month,
+                       const std::function<double()>& first);
 
 // A student's day, where a mark can stand.
 bool IsDayCell(const Grid& grid, int row, int col);

@@ -44,7 +44,8 @@ CellNote NoteOfCode(std::string_view text) {
 
 }  // namespace
 
-GridNotes NotesOfMonth(const Grid& grid, const MonthWindow& month, std::function<double()> first) {
+GridNotes NotesOfMonth(const Grid& grid, const MonthWindow& month,
+                       const std::function<double()>& first) {
   const auto day_of = [&month](int col) {
     const int day = col - kFirstDayColumn + 1;
     return day >= 1 && day <= month.monthdays ? day : 0;

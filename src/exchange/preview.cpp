@@ -254,8 +254,7 @@ std::string StudentNameOf(const ExchangePreview& preview, const Change& change) 
     return PlainName(Current().Students[static_cast<std::size_t>(change.student)]);
   if (change.row < 0) return {};
   const ForeignStudent& student = preview.table.students[static_cast<std::size_t>(change.row)];
-  const std::string name =
-      student.lastname + (student.firstname.empty() ? "" : ", ") + student.firstname;
+  std::string name = student.lastname + (student.firstname.empty() ? "" : ", ") + student.firstname;
   if (!name.empty()) return name;
   for (const std::string* other : {&student.id, &student.email, &student.login})
     if (!other->empty()) return *other;

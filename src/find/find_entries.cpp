@@ -54,6 +54,7 @@ using FindOrder = std::tuple<int, int, std::size_t, std::size_t>;
 std::vector<std::size_t> InOrder(std::vector<FindOrder> found) {
   std::ranges::sort(found);
   std::vector<std::size_t> indexes;
+  indexes.reserve(found.size());
   for (const FindOrder& one : found) indexes.push_back(std::get<3>(one));
   return indexes;
 }

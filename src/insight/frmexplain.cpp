@@ -36,7 +36,7 @@ void HeadExplained(Grid& grid, const std::array<std::string_view, N>& heads, int
 
 // The report's own words for a row of the scale.
 std::string GradeWords(std::size_t row) {
-  const std::string label(Trim(FinalLabels[row]));
+  std::string label(Trim(FinalLabels[row]));
   if (Current().RoundMode == kSkipsRounding && row > 0) return label;
   return PlainNumberText(FinalValues[row]) + " " + label;
 }

@@ -23,7 +23,8 @@ std::string TwoDigits(int number) {
 std::string TimeText(double serial) {
   constexpr int kSecondsOfDay = 86400;
   auto second = static_cast<std::int64_t>(std::llround(serial * kSecondsOfDay));
-  const auto day = static_cast<double>(second / kSecondsOfDay);
+  const std::int64_t whole_days = second / kSecondsOfDay;
+  const auto day = static_cast<double>(whole_days);
   second %= kSecondsOfDay;
   const CivilDate date = DateOfSerial(day);
   const int of_day = static_cast<int>(second);

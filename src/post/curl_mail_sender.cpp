@@ -30,7 +30,7 @@ std::size_t ReadText(char* buffer, std::size_t size, std::size_t count, void* us
     work.exchange.TextBegins();
   }
   const std::size_t length = std::min(size * count, work.mail.bytes.size() - work.read);
-  std::memcpy(buffer, work.mail.bytes.data() + work.read, length);
+  work.mail.bytes.copy(buffer, length, work.read);
   work.read += length;
   if (work.read == work.mail.bytes.size()) work.exchange.TextEnds();
   return length;

@@ -20,7 +20,8 @@ std::string Place(Seat seat) {
 }  // namespace
 
 std::string frmseating::CardLine(int row, int col) const {
-  const int student = sitting_[static_cast<std::size_t>(col * plan_.rows + row)];
+  const int seat = col * plan_.rows + row;
+  const int student = sitting_[static_cast<std::size_t>(seat)];
   return student == 0 ? "" : CardDetails(student, details.Value);
 }
 

@@ -133,7 +133,8 @@ class ChartOnPaper {
   void DrawSeat(Seat seat) {
     const double left = seat.column * width_, top = top_ + seat.row * height_;
     Box(target_, left + kGap, top + kGap / 2, left + width_ - kGap, top + height_ - kGap / 2);
-    const auto& lines = cards_[static_cast<std::size_t>(seat.column * plan_.rows + seat.row)];
+    const int card = seat.column * plan_.rows + seat.row;
+    const auto& lines = cards_[static_cast<std::size_t>(card)];
     const double text = target_.TextHeight("N") * static_cast<double>(lines.size());
     target_.CurrentY = top + (height_ - text) / 2;
     for (std::size_t i = 0; i < lines.size(); ++i) {

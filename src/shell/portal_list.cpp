@@ -126,6 +126,7 @@ constexpr std::array kPortals{
 
 std::vector<std::string_view> AllNames() {
   std::vector<std::string_view> names;
+  names.reserve(kPortals.size());
   for (const PortalRow& row : kPortals) names.push_back(row.name);
   return names;
 }

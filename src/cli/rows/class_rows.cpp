@@ -169,6 +169,7 @@ const RowTable& TableOf(std::string_view name) {
 
 std::vector<std::string> RowTables() {
   std::vector<std::string> names;
+  names.reserve(std::size(kRowTables));
   for (const RowTable& table : kRowTables) names.emplace_back(table.name);
   return names;
 }

@@ -101,7 +101,7 @@ class OneRosterWriter {
 
   std::string CategoryOf(const ForeignGrade& grade) {
     const std::string title = grade.category.empty() ? "Grade" : grade.category;
-    const std::string id = StableId("category", title);
+    std::string id = StableId("category", title);
     if (categories_.emplace(id, true).second) Add("categories", {id, "", "", title, ""});
     return id;
   }

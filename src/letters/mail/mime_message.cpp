@@ -112,7 +112,7 @@ std::string RandomName() {
 }  // namespace
 
 std::string HeaderText(std::string_view utf8) {
-  const std::string line = OneLine(utf8);
+  std::string line = OneLine(utf8);
   const bool plain = line.size() <= kPlainSubject && std::ranges::all_of(line, IsPlainLetter) &&
                      line.find("=?") == line.npos && Trim(line) == line;
   if (plain) return line;

@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cmath>
 
 #include "base/date_serial.h"
 #include "base/number_text.h"
@@ -14,7 +15,7 @@ namespace tallyroll {
 namespace {
 
 constexpr std::string_view kLineEnd = "\r\n";
-constexpr std::size_t kLongestReply = 64 * 1024;
+constexpr std::size_t kLongestReply = 65536;
 constexpr i16 kGreeting = 0, kFrom = 1, kTo = 2, kData = 3, kText = 4, kQuit = 5, kGone = 6;
 
 bool Holds(std::string_view text, std::string_view word) {
@@ -101,9 +102,9 @@ bool IsWholeReply(std::string_view received) {
 
 std::string MailDate(double serial) {
   constexpr std::array kDays = {"Sat", "Sun", "Mon", "Tue", "Wed", "Thu", "Fri"};
-  constexpr std::int64_t kSecondsADay = 24 * 60 * 60;
+  constexpr std::int64_t kSecondsADay = 86400;
   // The nearest second: a serial holds fractions of a day.
-  const auto seconds = static_cast<std::int64_t>(serial * kSecondsADay + 0.5);
+  const auto seconds = static_cast<std::int64_t>(std::llround(serial * kSecondsADay));
   const std::int64_t day = seconds / kSecondsADay, time = seconds % kSecondsADay;
   const CivilDate date = DateOfSerial(static_cast<double>(day));
   const auto two = [](std::int64_t number) {

@@ -100,8 +100,8 @@ std::vector<FieldCode> AllFieldCodes() {
 }  // namespace
 
 const std::vector<FieldCode>& FieldCodes() {
-  static const std::vector<FieldCode> kCodes = AllFieldCodes();
-  return kCodes;
+  static const std::vector<FieldCode> codes = AllFieldCodes();
+  return codes;
 }
 
 std::string FieldValue(const FieldCode& code, i16 student) {

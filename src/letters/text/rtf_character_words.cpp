@@ -71,7 +71,7 @@ void SetSize(RtfInterpreter& rtf, const RtfToken& token) {
 }  // namespace
 
 const RtfWords& CharacterWords() {
-  static const RtfWords kWords = {
+  static const RtfWords words = {
       {"b", Switch<&RtfCharacter::bold>},
       {"i", Switch<&RtfCharacter::italic>},
       {"ul", Switch<&RtfCharacter::underline>},
@@ -138,7 +138,7 @@ const RtfWords& CharacterWords() {
       {"ltrmark", AddUnit<0x200E>},
       {"rtlmark", AddUnit<0x200F>},
   };
-  return kWords;
+  return words;
 }
 
 }  // namespace tallyroll

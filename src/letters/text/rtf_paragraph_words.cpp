@@ -85,7 +85,7 @@ void ContinueOnPage(RtfInterpreter& rtf, const RtfToken&) {
 }  // namespace
 
 const RtfWords& ParagraphWords() {
-  static const RtfWords kWords = {
+  static const RtfWords words = {
       {"pard", ResetParagraph},
       {"par", [](RtfInterpreter& rtf, const RtfToken&) { rtf.EndParagraph(); }},
       {"page", BreakPage},
@@ -123,7 +123,7 @@ const RtfWords& ParagraphWords() {
       {"row", [](RtfInterpreter& rtf, const RtfToken&) { rtf.EndRow(); }},
       {"nestrow", [](RtfInterpreter& rtf, const RtfToken&) { rtf.Story().EndRowLine(rtf.Mark()); }},
   };
-  return kWords;
+  return words;
 }
 
 }  // namespace tallyroll

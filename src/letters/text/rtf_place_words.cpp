@@ -57,7 +57,7 @@ void BeginTwice(RtfInterpreter& rtf, const RtfToken&) {
 }  // namespace
 
 const RtfWords& PlaceWords() {
-  static const RtfWords kWords = {
+  static const RtfWords words = {
       {"fonttbl", GoTo<RtfPlace::kFonts>},
       {"colortbl", GoTo<RtfPlace::kColors>},
       {"stylesheet", GoTo<RtfPlace::kNowhere>},
@@ -91,11 +91,11 @@ const RtfWords& PlaceWords() {
       {"annotation", CountAndLeaveOut<&RtfCounts::comments>},
       {"upr", BeginTwice},
   };
-  return kWords;
+  return words;
 }
 
 const RtfWords& StarredWords() {
-  static const RtfWords kWords = {
+  static const RtfWords words = {
       {"shppict", [](RtfInterpreter&, const RtfToken&) {}},
       {"nesttableprops", [](RtfInterpreter&, const RtfToken&) {}},
       {"ud", [](RtfInterpreter& rtf,
@@ -106,7 +106,7 @@ const RtfWords& StarredWords() {
       {"annotation", CountAndLeaveOut<&RtfCounts::comments>},
       {"footnote", PutAside<RtfAside::kFootnote>},
   };
-  return kWords;
+  return words;
 }
 
 }  // namespace tallyroll

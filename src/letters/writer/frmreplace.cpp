@@ -57,7 +57,8 @@ bool frmreplace::IsFound() const {
 void frmreplace::FindNext_Click() {
   if (!letter) return;
   const std::u16string what = Utf16FromCodePage(Text1.Text);
-  const auto from = static_cast<std::size_t>(letter->SelStart + letter->SelLength);
+  const auto from =
+      static_cast<std::size_t>(letter->SelStart) + static_cast<std::size_t>(letter->SelLength);
   const std::size_t at = what.empty() ? kNoPlace : FindText(letter->Document, what, from, Search());
   AllowReplacing(at != kNoPlace);
   if (at != kNoPlace) return letter->Select(at, what.size());

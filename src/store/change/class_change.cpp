@@ -139,8 +139,10 @@ void RedoSection(const SectionChange& change, Blocks& blocks) {
     std::size_t added = 0;
     for (std::size_t i = 0; i < after.size(); ++i) {
       const std::int32_t from = change.source[i];
-      after[i] = from == SectionChange::kAdded ? change.added[added++]
-                                               : std::move(blocks[static_cast<std::size_t>(from)]);
+      if (from == SectionChange::kAdded)
+        after[i] = change.added[added++];
+      else
+        after[i] = std::move(blocks[static_cast<std::size_t>(from)]);
     }
     blocks = std::move(after);
   }

@@ -70,9 +70,9 @@ template <typename Record, typename Visit>
 void ForEachTold(const Record& record, Visit&& visit) {
   ForEachField(record, [&](const char* name, const auto& field) {
     using T = std::remove_cvref_t<decltype(field)>;
-    constexpr bool told =
+    constexpr bool kTold =
         std::is_same_v<T, std::string> || std::is_same_v<T, Currency> || std::is_same_v<T, i16>;
-    if constexpr (told) {
+    if constexpr (kTold) {
       const std::string_view text = name;
       const bool inner = text.starts_with("Reserved") || text.starts_with("Num") ||
                          text.ends_with("Width") || text == "Password" ||
