@@ -81,18 +81,19 @@ void LiveMarks::Declare(ControlTable& table) {
   });
 }
 
-void LiveMarks::FollowGrid(ControlRow& row) {
-  row.got_focus = [this] { away_ = false; };
-  row.lost_focus = [this] { away_ = true; };
-  row.key_press = [this, before = std::move(row.key_press)](unsigned char key) {
-    away_ = false;
-    return before(key);
+// A button only passes the keys on; what else takes them is elsewhere.
+void LiveMarks::FollowFocus(ControlRow& row) {
+  const bool grid = std::holds_alternative<Grid*>(row.control);
+  if (std::holds_alternative<CommandButton*>(row.control)) return;
+  row.got_focus = [this, away = !grid, before = std::move(row.got_focus)] {
+    away_ = away;
+    if (before) before();
   };
 }
 
 void LiveMarks::Follow(ControlTable& table) {
-  FollowGrid(*table.Find(at_.grid));
   for (const auto& row : table.rows()) {
+    FollowFocus(*row);
     for (auto event : {&ControlRow::change, &ControlRow::click}) {
       if (std::function<void()>& handler = (*row).*event)
         handler = [this, before = std::move(handler)] {

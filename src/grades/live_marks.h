@@ -41,7 +41,7 @@ class LiveMarks {
   void TellDoubts() const;
 
  private:
-  void FollowGrid(ControlRow& row);
+  void FollowFocus(ControlRow& row);
   void Settle();
   void ShowProgress();
   void nextempty_Click();
