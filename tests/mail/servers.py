@@ -268,7 +268,7 @@ class LineServer:
                 for line in lines:
                     verb = line[:4].decode("latin-1").upper()
                     if verb == "RCPT":
-                        self.to = line.split(b"<")[1].split(b">")[0].decode()
+                        self.to = line[len("RCPT TO:"):].split()[0].strip(b"<>").decode()
                     if not self.reply(connection, verb, line) or verb == "QUIT":
                         return
                     if verb == "DATA" and self.said.startswith("354"):
