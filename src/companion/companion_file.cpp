@@ -27,6 +27,10 @@ constexpr const char* kSteps[] = {
     " name TEXT NOT NULL, grade TEXT NOT NULL, code TEXT NOT NULL, field TEXT NOT NULL,"
     " old TEXT NOT NULL, new TEXT NOT NULL); CREATE TABLE history_agreed (agreed INTEGER NOT NULL)",
     kMailJournalTable,
+    // The class at each save, and as it was worked on since; each as a class file has it.
+    "CREATE TABLE snapshot (number INTEGER PRIMARY KEY, time TEXT NOT NULL, told TEXT NOT NULL,"
+    " bytes BLOB NOT NULL); CREATE TABLE working_copy (time TEXT NOT NULL, file TEXT NOT NULL,"
+    " bytes BLOB NOT NULL)",
 };
 constexpr auto kLayout = static_cast<std::int64_t>(std::size(kSteps));
 

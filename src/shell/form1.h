@@ -9,6 +9,7 @@
 #include <utility>
 #include <vector>
 
+#include "insight/frmsnapshot.h"
 #include "platform/grid.h"
 #include "platform/surroundings.h"
 #include "shell/menu.h"
@@ -87,6 +88,7 @@ class Form1 {
   void ExplainStudent();        // in whose row the current cell stands
   void ShowHistoryOfStudent();  // in whose row the current cell stands
   void ShowUnusual();
+  void ShowSnapshots();
   void mnuundo_Click();
   void mnuredo_Click();
   void ShowSteps();  // in the captions of Undo and Redo
@@ -125,7 +127,9 @@ class Form1 {
   bool Save();  // WriteClassFile; false when it failed
   void AskToSave();
   void SavePassword();
+  void AskToKeepMarks();
 
+  Beside<frmsnapshot> snapshot_;                // the earlier state that is looked at
   std::vector<std::pair<int, int>> came_back_;  // cells that Undo or Redo changed, row and column
   bool message_stands_ = false;                 // StatusText is a message, which no hint replaces
   std::string save_title_;  // title of the save dialog; empty is the dialog's own

@@ -34,6 +34,8 @@
 #include "grades/frmletter.h"
 #include "insight/frmexplain.h"
 #include "insight/frmhistory.h"
+#include "insight/frmsnapshot.h"
+#include "insight/frmsnapshots.h"
 #include "insight/frmunusual.h"
 #include "letters/mail/frmSendMail.h"
 #include "letters/mail/frmSendMany.h"
@@ -117,6 +119,8 @@ constexpr std::array kPortals{
     PortalRow{"frmexplain", Make<frmexplain>},
     PortalRow{"frmunusual", Make<frmunusual>},
     PortalRow{"frmhistory", Make<frmhistory>},
+    PortalRow{"frmsnapshots", Make<frmsnapshots>},
+    PortalRow{"frmsnapshot", Make<frmsnapshot>},
     PortalRow{"frmchange", Make<frmchange>},
     PortalRow{"frmfind", Make<frmfind>},
     PortalRow{"frmSendMail", Make<frmSendMail>},

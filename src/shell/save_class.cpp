@@ -2,6 +2,8 @@
 // Saving a class, and the question before it is closed.
 #include "base/code_page.h"
 #include "base/text.h"
+#include "companion/change_history.h"
+#include "companion/class_snapshots.h"
 #include "companion/companion_at_save.h"
 #include "insight/history_at_save.h"
 #include "shell/recent_list.h"
@@ -75,6 +77,19 @@ bool Form1::Save() {
   AddRecentFile(Current().FileName);
   FrameForm->RebuildRecentMenu();
   return true;
+}
+
+// Once, when the class gets a password and its companion file shows marks already.
+void Form1::AskToKeepMarks() {
+  const std::string& path = Current().FileName;
+  if (MayKeepMarks(path) || !KeepsMarks(path)) return;
+  const bool keep =
+      Ask("The history and the snapshots of this class are kept in its companion file, where they "
+          "can be read without the password. Keep them?",
+          BoxButtons::kYesNo, BoxIcon::kQuestion) == BoxAnswer::kYes;
+  const std::string fault = keep ? AgreeToHistory(path, true) : ForgetMarks(path);
+  if (!fault.empty())
+    ShowMessage("The companion file could not be changed: " + fault + ".", BoxIcon::kExclamation);
 }
 
 void Form1::saveas() {
