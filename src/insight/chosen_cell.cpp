@@ -2,6 +2,7 @@
 #include "insight/chosen_cell.h"
 
 #include "insight/chosen_snapshot.h"
+#include "insight/kept_work.h"
 
 namespace tallyroll {
 
@@ -10,6 +11,7 @@ CellChoice ChosenCell;
 void ResetInsight() {
   ChosenCell = {};
   ChosenSnapshot = {};
+  WorkFound = {};
 }
 
 }  // namespace tallyroll

@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "insight/frmsnapshot.h"
+#include "insight/kept_work.h"
 #include "platform/grid.h"
 #include "platform/surroundings.h"
 #include "shell/menu.h"
@@ -58,6 +59,8 @@ class Form1 {
   bool SaveCancelled = false;             // the Save As dialog was cancelled
   UndoSteps Steps;                        // what was done to the class since it was opened
   bool SavedInCommand = false;            // by the command that runs
+  KeptWork Work;                          // what of it is not saved, in case the program stops
+  bool WorkWaits = false;                 // a command changed the class, and it is not kept yet
 
   // What a screen calls. Load acts on PendingAction; a window that got no class has an empty Tag
   // afterwards and is to be destroyed.
@@ -117,6 +120,7 @@ class Form1 {
   void OpenNewClass(int pending_action);
   void ReadInto(std::string_view path);
   void ShowOpenedClass();
+  void OfferFoundWork();
   void AppendStudents();  // of ImportFile
   void StartFromText();
   void TransferRoster();

@@ -34,6 +34,7 @@
 #include "grades/frmletter.h"
 #include "insight/frmexplain.h"
 #include "insight/frmhistory.h"
+#include "insight/frmrecover.h"
 #include "insight/frmsnapshot.h"
 #include "insight/frmsnapshots.h"
 #include "insight/frmunusual.h"
@@ -119,6 +120,7 @@ constexpr std::array kPortals{
     PortalRow{"frmexplain", Make<frmexplain>},
     PortalRow{"frmunusual", Make<frmunusual>},
     PortalRow{"frmhistory", Make<frmhistory>},
+    PortalRow{"frmrecover", Make<frmrecover>},
     PortalRow{"frmsnapshots", Make<frmsnapshots>},
     PortalRow{"frmsnapshot", Make<frmsnapshot>},
     PortalRow{"frmchange", Make<frmchange>},

@@ -64,8 +64,9 @@ std::string Form1::setsave() {
 }
 
 bool Form1::Save() {
-  CompanionAtSave companion(CurrentClassFile().path, Current().FileName);
-  const HistoryAtSave history(CurrentClassFile().path);
+  const std::string from = CurrentClassFile().path;
+  CompanionAtSave companion(from, Current().FileName);
+  const HistoryAtSave history(from);
   WriteClassFile();
   if (FileErrorCode != 0) return false;
   // Before anything that writes to the companion: from here on it knows the class by its new bytes.
@@ -73,6 +74,7 @@ bool Form1::Save() {
   told += history.Saved(Current().FileName);
   if (!told.empty()) ShowStatus(StatusText + told);
   Current().Changed = kFalse;
+  Work.Drop(Current().FileName, from);
   SavedInCommand = true;
   AddRecentFile(Current().FileName);
   FrameForm->RebuildRecentMenu();
@@ -157,6 +159,7 @@ bool Form1::QueryUnload() {
     return false;
   }
   EnableClassMenus(false);
+  Work.Drop(Current().FileName);
   ResetClassSlot();
   Current().SlotState = 0;
   return true;

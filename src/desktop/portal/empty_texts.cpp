@@ -76,6 +76,7 @@ constexpr std::array kEmptyTexts = {
     EmptyText{"frmscrnavg", "lstName", kNoStudents},
     EmptyText{"frmscrnavg", "grdgrade", kNoGrades},
     EmptyText{"frmscrnavg", "grdatt", kNoSummaries},
+    EmptyText{"frmrecover", "Grid1", "Attendance, seats or the order of records"},
     EmptyText{"frmseating", "Listchart", "No charts yet"},
     EmptyText{"frmseating", "students", "Everybody has a seat"},
     EmptyText{"frmseating", "unmet", "Every wish is met"},
