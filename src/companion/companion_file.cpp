@@ -28,6 +28,9 @@ constexpr const char* kSteps[] = {
     " name TEXT NOT NULL, grade TEXT NOT NULL, code TEXT NOT NULL, field TEXT NOT NULL,"
     " old TEXT NOT NULL, new TEXT NOT NULL); CREATE TABLE history_agreed (agreed INTEGER NOT NULL)",
     kMailJournalTable,
+    // What other school systems say by single marks.
+    "CREATE TABLE mark_comment (system TEXT NOT NULL, student TEXT NOT NULL, grade TEXT NOT NULL,"
+    " mark TEXT NOT NULL, comment TEXT NOT NULL, PRIMARY KEY (system, student, grade))",
     // The class at each save, and as it was worked on since; each as a class file has it.
     "CREATE TABLE snapshot (number INTEGER PRIMARY KEY, time TEXT NOT NULL, told TEXT NOT NULL,"
     " bytes BLOB NOT NULL); CREATE TABLE working_copy (time TEXT NOT NULL, file TEXT NOT NULL,"
