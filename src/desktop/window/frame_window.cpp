@@ -75,6 +75,13 @@ FrameWindow::FrameWindow() {
   // What a Portal changes while it runs shows as soon as the program waits for the user.
   connect(QAbstractEventDispatcher::instance(), &QAbstractEventDispatcher::aboutToBlock, this,
           &FrameWindow::Sync);
+  // Then it is kept as well, and each minute that a Portal takes.
+  connect(QAbstractEventDispatcher::instance(), &QAbstractEventDispatcher::aboutToBlock, this,
+          [] { FrameForm->KeepWork(false); });
+  constexpr int kMinute = 60000;
+  auto* minute = new QTimer(this);
+  connect(minute, &QTimer::timeout, this, [] { FrameForm->KeepWork(true); });
+  minute->start(kMinute);
   resize(1024, 700);
   RestorePlace(*this, PlaceName());
 }
