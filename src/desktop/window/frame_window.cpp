@@ -24,6 +24,7 @@
 #include "desktop/window/message_moment.h"
 #include "desktop/window/start_page.h"
 #include "desktop/window/tile_windows.h"
+#include "shell/current_window.h"
 #include "shell/data_folder.h"
 #include "shell/shell_state.h"
 
@@ -184,6 +185,7 @@ void FrameWindow::SyncStartPage() {
 }
 
 void FrameWindow::Sync() {
+  ListOpenWindows();
   menu_->Sync();
   if (front_ == nullptr && (start_ != nullptr || isVisible())) SyncStartPage();
   for (QMdiSubWindow* window : area_->subWindowList())
@@ -254,6 +256,10 @@ void FrameWindow::BringToFront(Form1& window) {
 
 void FrameWindow::PopUpMenu(Form1& window, std::string_view entry) {
   if (ClassWindowView* view = ViewOf(window)) view->PopUpMenu(FromText(entry));
+}
+
+void FrameWindow::TogglePanel(Form1& window) {
+  if (ClassWindowView* view = ViewOf(window)) view->TogglePanel();
 }
 
 void FrameWindow::Arrange(Arrangement how) {
