@@ -82,7 +82,9 @@ void SetOut(QMessageBox& box) {
   auto* words = box.findChild<QLabel*>(QStringLiteral("qt_msgbox_label"));
   if (!rows || !words) return;
   rows->setHorizontalSpacing(words->fontMetrics().averageCharWidth());
-  words->setMinimumWidth(words->fontMetrics().averageCharWidth() * kLeastLetters);
+  // A longer text has its width from the box, which may wrap it.
+  const int least = words->fontMetrics().averageCharWidth() * kLeastLetters;
+  if (words->sizeHint().width() < least) words->setMinimumWidth(least);
 }
 
 }  // namespace
