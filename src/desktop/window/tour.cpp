@@ -25,6 +25,7 @@ namespace {
 
 constexpr std::string_view kTourSection = "startup", kTourKey = "TOUR";
 constexpr int kTourWidth = 400;
+constexpr int kTourMargin = 16;
 constexpr int kTourGap = 10;   // between the card and what it points at
 constexpr int kMarkWidth = 3;  // of the line around the target
 constexpr double kMarkRadius = 6;
@@ -96,7 +97,7 @@ bool IsFirstStart() {
 }
 
 Tour::Tour(QMainWindow& frame)
-    : PageCard(&frame),
+    : QWidget(&frame),
       frame_(frame),
       mark_(new TargetMark(&frame)),
       title_(new QLabel),
@@ -116,6 +117,7 @@ Tour::Tour(QMainWindow& frame)
   buttons->addWidget(back_);
   buttons->addWidget(next_);
   auto* rows = new QVBoxLayout(this);
+  rows->setContentsMargins(kTourMargin, kTourMargin, kTourMargin, kTourMargin);
   for (QWidget* row : {title_, text_}) rows->addWidget(row);
   rows->addLayout(buttons);
   for (QPushButton* button : {back_, next_, leave_}) button->setAutoDefault(true);
@@ -205,7 +207,16 @@ bool Tour::eventFilter(QObject* watched, QEvent* event) {
       const bool gone = !target_ || !target_->isVisible();
       if (gone && !beginning_ && !frame_.isMinimized()) Leave();
     });
-  return PageCard::eventFilter(watched, event);
+  return QWidget::eventFilter(watched, event);
+}
+
+void Tour::paintEvent(QPaintEvent*) {
+  const Tokens t = TokensOf(palette());
+  QPainter painter(this);
+  painter.setRenderHint(QPainter::Antialiasing);
+  painter.setPen(QPen(t.focus, 1));
+  painter.setBrush(t.raised);
+  painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), kMarkRadius, kMarkRadius);
 }
 
 void Tour::Leave() {

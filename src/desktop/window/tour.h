@@ -3,8 +3,7 @@
 #pragma once
 
 #include <QPointer>
-
-#include "desktop/window/page_button.h"
+#include <QWidget>
 
 class QLabel;
 class QMainWindow;
@@ -18,7 +17,7 @@ bool IsFirstStart();
 
 // Stands over the frame and takes nothing away from it: keys and mouse reach everything else.
 // Escape leaves it at any step.
-class Tour : public PageCard {
+class Tour : public QWidget {
   Q_OBJECT
 
  public:
@@ -37,6 +36,7 @@ class Tour : public PageCard {
 
  protected:
   bool eventFilter(QObject* watched, QEvent* event) override;
+  void paintEvent(QPaintEvent* event) override;
 
  private:
   void Begin();
