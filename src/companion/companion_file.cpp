@@ -27,6 +27,9 @@ constexpr const char* kSteps[] = {
     " name TEXT NOT NULL, grade TEXT NOT NULL, code TEXT NOT NULL, field TEXT NOT NULL,"
     " old TEXT NOT NULL, new TEXT NOT NULL); CREATE TABLE history_agreed (agreed INTEGER NOT NULL)",
     kMailJournalTable,
+    // What other school systems say by single marks.
+    "CREATE TABLE mark_comment (system TEXT NOT NULL, student TEXT NOT NULL, grade TEXT NOT NULL,"
+    " mark TEXT NOT NULL, comment TEXT NOT NULL, PRIMARY KEY (system, student, grade))",
 };
 constexpr auto kLayout = static_cast<std::int64_t>(std::size(kSteps));
 
