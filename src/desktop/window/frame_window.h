@@ -34,6 +34,7 @@ class FrameWindow : public QMainWindow, public FrameScreen {
   void DestroyWindow(Form1& window) override;
   void BringToFront(Form1& window) override;
   void PopUpMenu(Form1& window, std::string_view entry) override;
+  void TogglePanel(Form1& window) override;
   void Arrange(Arrangement how) override;
   void ShowAbout() override;
   std::vector<HelpTopic> HelpTopics() override;
