@@ -8,6 +8,7 @@
 
 #include "desktop/basics/palette_icon.h"
 #include "desktop/platform/post.h"
+#include "desktop/platform/progress_window.h"
 #include "desktop/platform/qt_socket.h"
 #include "desktop/platform/qt_surroundings.h"
 #include "desktop/portal/wheel_guard.h"
@@ -32,6 +33,7 @@ int RunProgram(QApplication& application, bool dark, const std::string& file) {
   SetPlatform(&surroundings);
   MakeSocket = MakeQtSocket;
   PreparePost();
+  NewProgressScreen = MakeProgressWindow;
   FrameForm = std::make_unique<MDIForm1>();
   int result = 0;
   {

@@ -75,7 +75,7 @@ std::optional<std::vector<PastedMark>> MarksOfColumn(std::string_view clipboard)
 }
 
 std::string DoubtOfPasted(const PastedMark& pasted) {
-  const std::string doubt = DoubtOfMark(pasted.mark, 0);
+  std::string doubt = DoubtOfMark(pasted.mark, 0);
   if (pasted.mark == UpperCase(pasted.copied)) return doubt;
   std::string shown(Left(pasted.copied, kLongestShown));
   if (shown.size() < pasted.copied.size()) shown += "...";

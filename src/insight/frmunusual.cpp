@@ -6,6 +6,8 @@
 #include "base/number_text.h"
 #include "base/text.h"
 #include "insight/chosen_cell.h"
+#include "platform/class_window.h"
+#include "platform/long_work.h"
 #include "store/program_state.h"
 #include "store/student_names.h"
 
@@ -44,7 +46,12 @@ void frmunusual::Declare(ControlTable& table) {
 }
 
 void frmunusual::Load() {
-  marks_ = UnusualMarks();
+  LongWork search("Looking for unusual marks", Current().NumStudents);
+  marks_ = UnusualMarks([&] { return search.Step(); });
+  if (search.Cancelled()) {
+    ClassWindow().ShowStatus("The search for unusual marks was cancelled.");
+    return Unload();
+  }
   found.Caption = FoundWords(marks_.size());
   rule.Caption = kFarRule;
   goto_cell.Enabled = !marks_.empty();

@@ -49,29 +49,45 @@ ReadMark Read(const Student& student, int grade) {
   return mark;
 }
 
+Currency Between(Currency lower, Currency upper) {
+  return Currency::FromScaled((lower + upper).scaled() / 2);
+}
+
 Currency MedianOf(Percents& values) {
   const std::size_t half = values.size() / 2;
   std::nth_element(values.begin(), values.begin() + static_cast<std::ptrdiff_t>(half),
                    values.end());
   const Currency upper = values[half];
   if (values.size() % 2 == 1) return upper;
-  const Currency lower =
-      *std::max_element(values.begin(), values.begin() + static_cast<std::ptrdiff_t>(half));
-  return Currency::FromScaled((lower + upper).scaled() / 2);
+  return Between(
+      *std::max_element(values.begin(), values.begin() + static_cast<std::ptrdiff_t>(half)), upper);
+}
+
+// Of the sorted values without the one at `left_out`.
+Currency MedianOfOthers(const Percents& sorted, std::size_t left_out) {
+  const auto other = [&](std::size_t i) { return sorted[i < left_out ? i : i + 1]; };
+  const std::size_t others = sorted.size() - 1, half = others / 2;
+  return others % 2 == 1 ? other(half) : Between(other(half - 1), other(half));
 }
 
 Currency Distance(Currency a, Currency b) {
   return a < b ? b - a : a - b;
 }
 
-// Why a percent is far from the others; empty where it is not. `others` is used up.
-std::string WhyFar(Currency percent, Percents& others) {
-  if (others.size() < kFewestOthers) return {};
-  const Currency median = MedianOf(others);
+// Why a percent is far from the others of the sorted list it stands in; empty where it is not. Few
+// are: the distances of all others are looked at for those alone.
+std::string WhyFar(Currency percent, const Percents& sorted) {
+  if (sorted.size() < kFewestOthers + 1) return {};
+  const auto own = std::lower_bound(sorted.begin(), sorted.end(), percent);
+  const auto at = static_cast<std::size_t>(own - sorted.begin());
+  const Currency median = MedianOfOthers(sorted, at);
   const Currency distance = Distance(percent, median);
   if (distance <= kLeastDistance) return {};
-  for (Currency& other : others) other = Distance(other, median);
-  const Currency half = MedianOf(others);
+  Percents distances;
+  distances.reserve(sorted.size());
+  for (std::size_t i = 0; i < sorted.size(); ++i)
+    if (i != at) distances.push_back(Distance(sorted[i], median));
+  const Currency half = MedianOf(distances);
   if (distance.scaled() / kTimesTheMedian <= half.scaled()) return {};
   return PlainNumberText(percent) + " percent; the median of the others is " +
          PlainNumberText(median) + ", half of them lie within " + PlainNumberText(half);
@@ -90,11 +106,14 @@ class Search {
         row[static_cast<std::size_t>(g)] = Read(c.Students[static_cast<std::size_t>(s)], g);
     }
     FindNumericGrades(grades);
+    SortPercents(grades);
   }
 
-  std::vector<UnusualMark> Run() {
-    for (std::size_t s = 1; s < marks_.size(); ++s)
+  std::vector<UnusualMark> Run(const std::function<bool()>& go_on) {
+    for (std::size_t s = 1; s < marks_.size(); ++s) {
       for (std::size_t g = 1; g < marks_[s].size(); ++g) Look(s, g);
+      if (go_on && !go_on()) break;
+    }
     return std::move(found_);
   }
 
@@ -126,36 +145,35 @@ class Search {
     if (!mark.letter && *mark.value > Currency::FromWhole(most))
       found(Unusual::kAboveMaximum, "the maximum is " + PlainNumberText(most));
     if (!mark.percent) return;
-    Percents others = OthersOfStudent(s, g);
-    if (std::string why = WhyFar(*mark.percent, others); !why.empty())
+    if (std::string why = WhyFar(*mark.percent, of_student_[s]); !why.empty())
       found(Unusual::kFarFromStudent, std::move(why));
-    others = OthersOfClass(s, g);
-    if (std::string why = WhyFar(*mark.percent, others); !why.empty())
+    if (std::string why = WhyFar(*mark.percent, of_grade_[g]); !why.empty())
       found(Unusual::kFarFromClass, std::move(why));
   }
 
-  Percents OthersOfStudent(std::size_t s, std::size_t g) const {
-    Percents others;
-    for (std::size_t i = 1; i < marks_[s].size(); ++i)
-      if (i != g && marks_[s][i].percent) others.push_back(*marks_[s][i].percent);
-    return others;
-  }
-  Percents OthersOfClass(std::size_t s, std::size_t g) const {
-    Percents others;
-    for (std::size_t i = 1; i < marks_.size(); ++i)
-      if (i != s && marks_[i][g].percent) others.push_back(*marks_[i][g].percent);
-    return others;
+  void SortPercents(int grades) {
+    of_student_.resize(marks_.size());
+    of_grade_.resize(static_cast<std::size_t>(grades) + 1);
+    for (std::size_t s = 1; s < marks_.size(); ++s)
+      for (std::size_t g = 1; g < marks_[s].size(); ++g)
+        if (const auto& percent = marks_[s][g].percent) {
+          of_student_[s].push_back(*percent);
+          of_grade_[g].push_back(*percent);
+        }
+    for (std::vector<Percents>* lists : {&of_student_, &of_grade_})
+      for (Percents& list : *lists) std::sort(list.begin(), list.end());
   }
 
   std::vector<std::vector<ReadMark>> marks_;
-  std::vector<bool> numeric_;  // by grade
+  std::vector<bool> numeric_;                    // by grade
+  std::vector<Percents> of_student_, of_grade_;  // sorted
   std::vector<UnusualMark> found_;
 };
 
 }  // namespace
 
-std::vector<UnusualMark> UnusualMarks() {
-  return Search().Run();
+std::vector<UnusualMark> UnusualMarks(const std::function<bool()>& go_on) {
+  return Search().Run(go_on);
 }
 
 std::string_view NameOfKind(Unusual kind) {

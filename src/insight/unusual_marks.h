@@ -2,6 +2,7 @@
 // Marks of the class in work that may be slips of the hand.
 #pragma once
 
+#include <functional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -26,8 +27,9 @@ struct UnusualMark {
   std::string told;  // what is unusual about it, with its figures
 };
 
-// By student, then by grade. A mark may stand several times, once for each kind.
-std::vector<UnusualMark> UnusualMarks();
+// By student, then by grade. A mark may stand several times, once for each kind. `go_on` is asked
+// behind each student; where it says no, the marks found up to there come back.
+std::vector<UnusualMark> UnusualMarks(const std::function<bool()>& go_on = {});
 
 std::string_view NameOfKind(Unusual kind);
 

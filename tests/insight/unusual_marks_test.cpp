@@ -4,6 +4,7 @@
 #include "insight/chosen_cell.h"
 #include "insight/frmunusual.h"
 #include "tests/averages/portals/portal_class.h"
+#include "tests/support/played_progress.h"
 
 namespace tallyroll {
 namespace {
@@ -111,6 +112,35 @@ TEST_F(UnusualMarksTest, AClassWithoutSlipsSaysSo) {
   Open(portal);
   EXPECT_EQ(driver->Text("found"), "No mark of this class is unusual.");
   EXPECT_FALSE(driver->Enabled("goto_cell"));
+}
+
+TEST_F(UnusualMarksTest, ACancelledSearchSaysSoAndShowsNoHalfList) {
+  AddGrades(1);
+  Enrol("Ng", {""});
+  Enrol("Orr", {""});
+  TickingScreen ticking;
+  SetPlatform(&ticking);
+  frmunusual portal;
+  {
+    const PlayedProgress progress("Looking for unusual marks", 1);
+    portal.Load();
+  }
+  EXPECT_TRUE(portal.Unloaded());
+  frmunusual again;
+  again.Load();
+  EXPECT_FALSE(again.Unloaded());
+  EXPECT_EQ(again.Grid1.Rows(), 3);
+  SetPlatform(&screen);
+}
+
+// An odd and an even number of others, and equal ones among them.
+TEST_F(UnusualMarksTest, TheMarkItselfIsNoneOfItsOthers) {
+  AddGrades(7);
+  Enrol("Ng", {"80", "80", "84", "84", "88", "30", "80"});
+  const std::vector<UnusualMark> marks = UnusualMarks();
+  ASSERT_EQ(marks.size(), 1U);
+  // 80 80 80 84 84 88: between 80 and 84; they lie 2 2 2 2 2 and 6 away.
+  EXPECT_EQ(marks[0].told, "30 percent; the median of the others is 82, half of them lie within 2");
 }
 
 }  // namespace

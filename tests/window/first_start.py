@@ -4,10 +4,7 @@
 from gi.repository import Atspi
 from support import story
 from support.program import expect
-from support.steps import pass_greeting
-
-TITLES = ["1 of 5: Your class", "2 of 5: A new grade", "3 of 5: Attendance", "4 of 5: Averages",
-          "5 of 5: Reports, and help"]
+from support.steps import TOUR, pass_greeting
 
 
 def tell(this):
@@ -17,13 +14,13 @@ def tell(this):
     program.await_focus(Atspi.Role.PUSH_BUTTON, "Open the sample class")
     program.keys("Return")
     program.frame("SAMPLE8.TYR")
-    for title in TITLES[:4]:
+    for title in TOUR[:4]:
         program.await_label(title)
         program.keys("Return")
-    program.await_label(TITLES[4])
+    program.await_label(TOUR[4])
     program.keys("Escape")
     program.await_focus(Atspi.Role.TABLE, "Students and grades")
-    expect("the tour's title", program.find_label(TITLES[4]), None)
+    expect("the tour's title", program.find_label(TOUR[4]), None)
     program.keys("ctrl+q")
     program.ended()
 

@@ -7,7 +7,7 @@ import sys
 from gi.repository import Atspi
 from support import story
 from support.program import build, wait_for, xdotool
-from support.steps import open_file, pass_greeting
+from support.steps import TOUR, command, open_file, pass_greeting
 
 PICTURES = pathlib.Path(__file__).resolve().parents[2] / "docs" / "pictures"
 
@@ -59,6 +59,35 @@ def greeting(this):
     program.keys("ctrl+shift+n")
     program.window("Start a New Class Wizard")
     take(program, "frmWizard")
+    program.stop()
+
+
+def first_hour(this):
+    """As who never started the program before sees it."""
+    program = this.start(environment={"XDG_CONFIG_HOME": this.path("new"), "HOME": this.path("new")})
+    pass_greeting(program)
+    xdotool("windowsize", "--sync", xdotool("getactivewindow"), 1100, 720)
+    program.await_label("Your first time here?")
+    take(program, "first-start")
+    program.keys("Return")
+    program.frame("SAMPLE8.TYR")
+    program.await_label(TOUR[0])
+    program.keys("Return")
+    program.await_label(TOUR[1])
+    take(program, "first-tour")
+    program.keys("Escape")
+    command(program, "attendance", "Daily Attendance")
+    program.window("Enter Attendance Portal")
+    program.keys("Down", "Home", "l")
+    take(program, "first-attendance")
+    program.keys("alt+x")
+    program.gone("Enter Attendance Portal")
+    command(program, "enter grades", "Grades")
+    program.window("Enter  Grades  Portal")
+    program.type("Quiz 9")
+    program.keys("Return", *"Q9", "Return", *"20", *["Return"] * 4, "q", "Return")
+    program.keys(*"18", "Return", *"15", "Return", "F6", "Down", "B", "plus")
+    take(program, "first-quiz")
     program.stop()
 
 
@@ -281,6 +310,7 @@ def school_systems(this):
 def tell(this):
     PICTURES.mkdir(parents=True, exist_ok=True)
     greeting(this)
+    first_hour(this)
     portals(this)
     averages(this)
     analysis(this)

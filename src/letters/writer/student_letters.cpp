@@ -16,6 +16,7 @@
 #include "letters/writer/frmwrdproc.h"
 #include "letters/writer/letter_dialogs.h"
 #include "platform/class_window.h"
+#include "platform/long_work.h"
 #include "platform/surroundings.h"
 #include "printing/page/print_job.h"
 #include "printing/print_command.h"
@@ -79,8 +80,10 @@ bool MayReplace(const std::vector<StudentLetterName>& letters) {
 // Before anything leaves, what is wrong with it is told: a letter that cannot be filled in stays,
 // and of codes without a value the teacher decides.
 bool frmwrdproc::ReadyToLeave(const std::vector<i16>& students) {
+  LongWork check("Filling in the letters", static_cast<int>(students.size()));
   for (const i16 student : students) {
     const MergedLetter merged = MergeLetter(RichTextBox1.Document, student);
+    if (!check.Step()) return false;
     if (merged.error.empty()) continue;
     ShowMessage(merged.error, BoxIcon::kCritical);
     return false;
@@ -140,16 +143,21 @@ void frmwrdproc::mnusavest_Click() {
 bool frmwrdproc::WriteLetters(const std::string& chosen, const std::vector<i16>& students) {
   const StudentLetterNames names = NamesOfStudentLetters(chosen, students);
   if (!MayReplace(names.letters)) return false;
+  LongWork save("Saving the letters", static_cast<int>(names.letters.size()));
   for (const StudentLetterName& letter : names.letters) {
     const RichText text = MergeLetter(RichTextBox1.Document, letter.student).text;
-    if (WriteLetter(letter.path, text) == 0) continue;
-    TellSaveFailure(letter.path);
-    return false;
+    if (WriteLetter(letter.path, text) != 0) {
+      TellSaveFailure(letter.path);
+      return false;
+    }
+    if (!save.Step()) break;
   }
   if (!names.notices.empty()) ShowMessage(Joined(names.notices));
-  ClassWindow().ShowStatus(PlainNumberText(static_cast<int>(students.size())) +
-                           " letters were saved");
-  return true;
+  // Those that were written before a Cancel are whole, and stay.
+  const std::string of_all =
+      save.Cancelled() ? " of " + PlainNumberText(static_cast<int>(students.size())) : "";
+  ClassWindow().ShowStatus(PlainNumberText(save.Done()) + of_all + " letters were saved");
+  return !save.Cancelled();
 }
 
 void frmwrdproc::mnupdf_Click() {

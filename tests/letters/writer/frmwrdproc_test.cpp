@@ -11,6 +11,7 @@
 #include "shell/portal_list.h"
 #include "store/safe_file.h"
 #include "tests/roster/roster_test.h"
+#include "tests/support/played_progress.h"
 
 namespace tallyroll {
 namespace {
@@ -329,6 +330,33 @@ TEST_F(FrmWrdProcTest, LettersAreSavedBesideTheChosenName) {
   driver->Press("mnusavest");
   EXPECT_NE(ReadWholeFile(Path("note_Ng.RTF")).bytes.find("Dear Ada"), std::string::npos);
   EXPECT_NE(ReadWholeFile(Path("note_Orr.RTF")).bytes.find("Dear Cy"), std::string::npos);
+}
+
+// The letters of those before the Cancel are whole; none is begun behind it.
+TEST_F(FrmWrdProcTest, SavingIsCancelledBetweenTwoLetters) {
+  ChooseStudents({1, 2});
+  Write("Dear <First Name>");
+  TickingScreen ticking;
+  SetPlatform(&ticking);
+  const PlayedProgress progress("Saving the letters", 1);
+  ticking.ExpectFileDialog(Path("note.rtf"));
+  driver->Press("mnusavest");
+  EXPECT_NE(ReadWholeFile(Path("note_Ng.RTF")).bytes.find("Dear Ada"), std::string::npos);
+  EXPECT_FALSE(std::filesystem::exists(Path("note_Orr.RTF")));
+  EXPECT_TRUE(ticking.Complaints().empty());
+  SetPlatform(&screen);
+}
+
+TEST_F(FrmWrdProcTest, CancelledWhileTheLettersAreFilledInNothingIsAsked) {
+  ChooseStudents({1, 2});
+  Write("Dear <First Name>");
+  TickingScreen ticking;
+  SetPlatform(&ticking);
+  const PlayedProgress progress("Filling in the letters", 1);
+  driver->Press("mnusavest");
+  EXPECT_EQ(PlayedProgress::shown, (std::vector<std::string>{"Filling in the letters"}));
+  EXPECT_TRUE(ticking.Complaints().empty());
+  SetPlatform(&screen);
 }
 
 TEST_F(FrmWrdProcTest, TheMergedViewShowsEachStudentsLetter) {

@@ -33,6 +33,10 @@ class Story:
     def path(self, name):
         return str(self.folder / name)
 
+    def home(self):
+        """Where the program keeps what it makes for its user."""
+        return pathlib.Path(os.environ["HOME"])
+
     def stop(self):
         for program in self.programs:
             program.stop()
