@@ -34,12 +34,14 @@ std::string HistoryAtSave::Keep(const std::string& to) const {
                        {{FileTimeText(before_.stamp.modified), before_.bytes}, {now, after.bytes}});
 }
 
-// Opening alone may make other bytes of a class, which is no change.
+// Opening alone may make other bytes of a class, which is no change; and a file may hold the tail
+// of a longer one behind the class.
 bool HistoryAtSave::IsAnother(const std::string& after) const {
+  if (after == before_.bytes) return false;
   Class before;
   std::string bytes;
   const bool opened = ReadAsOpened(before_.bytes, before) == 0;
-  return !opened || SerializeClass(before, bytes) != 0 || bytes != after;
+  return !opened || SerializeClass(before, bytes) != 0 || !after.starts_with(bytes);
 }
 
 std::string HistoryAtSave::Saved(const std::string& to) const {
