@@ -198,6 +198,14 @@ void Form1::ShowHistoryOfStudent() {
   RunPortal("frmhistory", kHistoryOfStudent, AfterPortal::kRefill);
 }
 
+void Form1::ShowGraphOfGrade() {
+  const int grade = Grid1.Col - Grid1.FixedCols + 1;
+  if (grade < 1 || grade > Current().NumInstruments)
+    return (void)ShowMessage("You must choose a Testing Instrument");
+  CurrentStudent = static_cast<i16>(grade);
+  RunPortal("frmgraph", 0, AfterPortal::kRefill);
+}
+
 void Form1::ShowUnusual() {
   ChosenCell = {};
   RunPortal("frmunusual", 0, AfterPortal::kRefill);

@@ -38,6 +38,9 @@ enum class AfterPortal {
 inline constexpr int kStartFromText = 36;
 inline constexpr int kTransferRoster = 37;
 
+// What a double click on a cell of the class grid does, as a menu names it; empty for nothing.
+std::string_view NameOfDoubleClick(int row, int col);
+
 class Form1 {
  public:
   Form1();
@@ -51,6 +54,7 @@ class Form1 {
   Menu menu;  // the program's full menu
   std::vector<ToolButton> Toolbar2;
   std::string StatusText;  // StatusBar1
+  int Refills = 0;         // of Grid1, by which a screen sees that the class may have changed
   int MessagesTold = 0;    // by which a screen sees a new message of the same words
 
   // The window's own working fields.
@@ -90,6 +94,7 @@ class Form1 {
   void mnuattsumm_Click();
   void ExplainStudent();        // in whose row the current cell stands
   void ShowHistoryOfStudent();  // in whose row the current cell stands
+  void ShowGraphOfGrade();      // in whose column the current cell stands
   void ShowUnusual();
   void ShowSnapshots();
   void mnuundo_Click();
