@@ -22,7 +22,8 @@ HistoryAtSave::HistoryAtSave(const std::string& from) {
 std::string HistoryAtSave::Keep(const std::string& to) const {
   const std::string now = SaveTimeText(Platform().Now());
   Class before;
-  if (ParseClass(before_.bytes, before).error != 0) return {};
+  // An older format has its backup of its own.
+  if (!before_.bytes.starts_with("ty8") || ParseClass(before_.bytes, before).error != 0) return {};
   const std::vector<NamedChange> changes = ChangesBetween(before, Current());
   if (!changes.empty()) {
     std::string fault = KeepChanges(to, now, changes);
@@ -47,8 +48,8 @@ bool HistoryAtSave::IsAnother(const std::string& after) const {
 std::string HistoryAtSave::Saved(const std::string& to) const {
   if (before_.error != 0 || !MayKeepMarks(to)) return {};
   const std::string fault = Keep(to);
-  // A companion that is off was told when the class was opened, or by the save.
-  const bool told = fault.empty() || PathExists(CompanionPath(to));
+  // A companion that is off was told when the class was opened.
+  const bool told = fault.empty() || !OpenCompanion(to).fault.empty();
   return told ? "" : " The history of this class is not kept: " + fault + ".";
 }
 
