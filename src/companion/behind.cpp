@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "companion/behind.h"
 
+#include <map>
+#include <memory>
+#include <mutex>
 #include <system_error>
 #include <thread>
 #include <utility>
@@ -14,9 +17,9 @@ struct Behind {
     if (thread.joinable()) thread.join();
   }
 
-  std::thread thread;
-  std::string class_path;
-  std::string fault;  // written by the thread, read when it is done
+  std::thread thread;  // of the last piece, which waits for those before it
+  std::mutex mutex;
+  std::map<std::string, std::string> faults;  // by class file; under the mutex
 };
 
 // Of the whole program; set by RunBehind.
@@ -25,9 +28,13 @@ Behind behind;
 }  // namespace
 
 void RunBehind(const std::string& class_path, std::function<std::string()> work) {
-  behind.Await();
-  behind.class_path = class_path;
-  auto run = [work = std::move(work)] { behind.fault = work(); };
+  auto before = std::make_shared<std::thread>(std::move(behind.thread));
+  auto run = [class_path, before, work = std::move(work)] {
+    if (before->joinable()) before->join();
+    std::string fault = work();
+    const std::lock_guard lock(behind.mutex);
+    behind.faults[class_path] = std::move(fault);
+  };
   try {
     behind.thread = std::thread(run);
   } catch (const std::system_error&) {
@@ -40,9 +47,8 @@ void AwaitBehind() {
 }
 
 std::string FaultBehind(const std::string& class_path) {
-  behind.Await();
-  if (behind.class_path != class_path) return {};
-  return std::exchange(behind.fault, {});
+  const std::lock_guard lock(behind.mutex);
+  return std::exchange(behind.faults[class_path], {});
 }
 
 }  // namespace tallyroll

@@ -22,7 +22,8 @@ HistoryAtSave::HistoryAtSave(const std::string& from) {
 std::string HistoryAtSave::Keep(const std::string& to) const {
   const std::string now = SaveTimeText(Platform().Now());
   Class before;
-  if (ParseClass(before_.bytes, before).error != 0) return {};
+  // An older format has its backup of its own.
+  if (!before_.bytes.starts_with("ty8") || ParseClass(before_.bytes, before).error != 0) return {};
   const std::vector<NamedChange> changes = ChangesBetween(before, Current());
   if (!changes.empty()) {
     std::string fault = KeepChanges(to, now, changes);
@@ -34,19 +35,21 @@ std::string HistoryAtSave::Keep(const std::string& to) const {
                        {{FileTimeText(before_.stamp.modified), before_.bytes}, {now, after.bytes}});
 }
 
-// Opening alone may make other bytes of a class, which is no change.
+// Opening alone may make other bytes of a class, which is no change; and a file may hold the tail
+// of a longer one behind the class.
 bool HistoryAtSave::IsAnother(const std::string& after) const {
+  if (after == before_.bytes) return false;
   Class before;
   std::string bytes;
   const bool opened = ReadAsOpened(before_.bytes, before) == 0;
-  return !opened || SerializeClass(before, bytes) != 0 || bytes != after;
+  return !opened || SerializeClass(before, bytes) != 0 || !after.starts_with(bytes);
 }
 
 std::string HistoryAtSave::Saved(const std::string& to) const {
   if (before_.error != 0 || !MayKeepMarks(to)) return {};
   const std::string fault = Keep(to);
-  // A companion that is off was told when the class was opened, or by the save.
-  const bool told = fault.empty() || PathExists(CompanionPath(to));
+  // A companion that is off was told when the class was opened.
+  const bool told = fault.empty() || !OpenCompanion(to).fault.empty();
   return told ? "" : " The history of this class is not kept: " + fault + ".";
 }
 

@@ -9,7 +9,9 @@
 #include "base/date_serial.h"
 #include "base/number_text.h"
 #include "base/text.h"
+#include "companion/working_copy.h"
 #include "platform/surroundings.h"
+#include "store/class_file.h"
 #include "store/class_format.h"
 #include "store/safe_file.h"
 
@@ -43,6 +45,7 @@ RecentFacts FactsOfFile(const std::string& path) {
   facts.there = stamp.size >= 0;
   if (!facts.there) return facts;
   facts.saved = DayOf(stamp.modified);
+  facts.unsaved = !IsOpenClassFile(path) && WorkingCopyOf(path).newer;
   Class header;
   if (ParseHeader(FirstBytes(path), header).error != 0) return facts;
   facts.locked = header.PasswordSet == 1;
@@ -66,6 +69,7 @@ std::string TextOfFacts(const RecentFacts& facts) {
   if (facts.known)
     add(PlainNumberText(facts.students) + (facts.students == 1 ? " student" : " students"));
   if (facts.saved > 0) add(DateText(facts.saved, Platform().ShortDateOrder()));
+  if (facts.unsaved) add("with work that was not saved");
   return text;
 }
 

@@ -71,7 +71,8 @@ bool Form1::Save() {
   if (FileErrorCode != 0) return false;
   // Before anything that writes to the companion: from here on it knows the class by its new bytes.
   std::string told = companion.Saved();
-  told += history.Saved(Current().FileName);
+  const std::string not_kept = history.Saved(Current().FileName);
+  if (told.empty()) told = not_kept;
   if (!told.empty()) ShowStatus(StatusText + told);
   Current().Changed = kFalse;
   Work.Drop(Current().FileName, from);

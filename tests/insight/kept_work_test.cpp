@@ -8,6 +8,7 @@
 #include "companion/change_history.h"
 #include "companion/companion_file.h"
 #include "companion/working_copy.h"
+#include "shell/recent_facts.h"
 #include "tests/shell/shell_test.h"
 #include "tests/support/refusing_disk.h"
 
@@ -69,6 +70,17 @@ TEST_F(KeptWorkTest, ACommandThatChangedTheClassIsKeptWhenTheProgramWaits) {
   window->ClickMenu("mnuundo");
   EXPECT_EQ(FirstMark(), "80");
   EXPECT_EQ(Current().Changed, kFalse);
+}
+
+TEST_F(KeptWorkTest, TheStartPageTellsOfIt) {
+  Mark("91");
+  FrameForm->KeepWork(false);
+  EXPECT_FALSE(FactsOfFile(file).unsaved) << "the class is open";
+  AwaitBehind();
+  ResetProgram();
+  RecentFacts facts = FactsOfFile(file);
+  facts.saved = 0;
+  EXPECT_EQ(TextOfFacts(facts), "2 students, with work that was not saved");
 }
 
 TEST_F(KeptWorkTest, WhatIsDiscardedIsOfferedNoMore) {
@@ -195,6 +207,7 @@ TEST_F(KeptWorkTest, ACompanionThatIsDamagedIsToldOnceAndCostsNothing) {
   const std::string told = "The work on this class is not kept until it is saved: it is damaged.";
   Mark("91");
   FrameForm->KeepWork(false);
+  AwaitBehind();
   Mark("92");
   FrameForm->KeepWork(false);
   EXPECT_EQ(window->StatusText, told);

@@ -6,6 +6,7 @@ import sys
 
 from gi.repository import Atspi
 from support import story
+from support.earlier import enter_grade, save
 from support.program import build, wait_for, xdotool
 from support.steps import TOUR, command, open_file, pass_greeting
 
@@ -307,6 +308,35 @@ def school_systems(this):
     program.stop()
 
 
+def trust(this):
+    """A grade that nobody wanted: taken back, found in the snapshots, and lost with the program."""
+    path = this.sample("SAMPLE8.TYR")
+    program = this.start(path)
+    program.frame("SAMPLE8.TYR")
+    enter_grade(program, "Wrong")
+    save(program, "SAMPLE8.TYR")
+    program.keys("alt+i", "p")
+    program.window("Snapshots Portal")
+    program.keys("Down")
+    take(program, "frmsnapshots")
+    program.keys("alt+o")
+    wait_for("the snapshot", lambda: program.front().endswith("(read-only)"))
+    take(program, "frmsnapshot")
+    program.keys("Escape")
+    program.frame("SAMPLE8.TYR")
+    portal(program, ["alt+i", "h"], "History Portal", "frmhistory")
+    program.table()
+    portal(program, ["ctrl+Home", "Down", "alt+i", "e"], "Explain Average Portal", "frmexplain")
+    portal(program, ["alt+i", "u"], "Unusual Marks Portal", "frmunusual")
+    enter_grade(program, "Lost")
+    enter_grade(program, "Last")
+    program.stop()
+    program = this.start(path)
+    program.window("Recovered Work Portal")
+    take(program, "frmrecover")
+    program.stop()
+
+
 def tell(this):
     PICTURES.mkdir(parents=True, exist_ok=True)
     greeting(this)
@@ -315,6 +345,7 @@ def tell(this):
     averages(this)
     analysis(this)
     school_systems(this)
+    trust(this)
     sample_window(this, "sample-dark", "--dark").stop()
     sample_window(this, "sample-150", environment={"QT_SCALE_FACTOR": "1.5"}).stop()
 

@@ -27,6 +27,8 @@ class Story:
     def sample(self, name="MATH.TYR"):
         """A copy of the sample class that the story may change."""
         path = self.folder / name
+        for left in self.folder.glob(f"{path.stem}.tyx*"):
+            left.unlink()  # what is kept of an earlier copy
         shutil.copy(SAMPLE, path)
         return str(path)
 
