@@ -7,7 +7,7 @@ import subprocess
 
 from gi.repository import Atspi
 from support import story
-from support.program import command_line, expect
+from support.program import command_line, expect, wait_for
 
 
 class Printer:
@@ -123,6 +123,46 @@ def print_chart(this, program, printer):
     program.frame("MATH.TYR")
 
 
+def print_letters_and_labels(this, program, printer):
+    """What the word processor prints for five students is what the command line makes for them."""
+    program.keys("alt+t", "w")
+    program.window("Tallyroll Word Processor")
+    program.type("Dear <First Name> <Last Name>")
+    program.keys("ctrl+t")
+    program.window("Student Portal")
+    program.keys("Home", *["shift+Down"] * 4, "alt+e")
+    chosen = program.widget(Atspi.Role.LIST, "Selected students")
+    wait_for("the choice", lambda: chosen.get_child_count() == 5)
+    program.keys("alt+f")
+    program.window("Tallyroll Word Processor")
+    students = json.loads(command_line("dump", "--opened", this.path("MATH.TYR")))["Students"][:5]
+    program.keys("ctrl+p")
+    program.window("Tallyroll Printing")
+    program.keys("Return")
+    names = [f"{each['firstname'].strip()} {each['lastname'].strip()}" for each in students]
+    expect("the letters", plain_words(printer.next_job()), " ".join("Dear " + name for name in names).split())
+    program.window("Tallyroll Word Processor")
+    program.keys("alt+f", "l")
+    program.await_focus(Atspi.Role.RADIO_BUTTON, "Student")
+    program.keys("alt+c")
+    program.window("Tallyroll Printing")
+    program.keys("Return")
+    out = this.path("labels.pdf")
+    options = [option for each in students for option in ("--student", each["id"].strip())]
+    command_line("labels", this.path("MATH.TYR"), "--to", "student", *options, "--out", out)
+    with open(out, "rb") as file:
+        expect("the labels", sorted(plain_words(printer.next_job())), sorted(plain_words(file.read())))
+    program.window("Tallyroll Word Processor")
+    program.keys("alt+f", "x")
+    program.box("Data has been changed. Save File?  ", "alt+n")
+    program.frame("MATH.TYR")
+
+
+def plain_words(pdf):
+    return subprocess.run(["pdftotext", "-", "-"], input=pdf, capture_output=True,
+                          check=True).stdout.decode().split()
+
+
 def tell(this):
     printer = Printer()
     program = this.start(this.sample("MATH.TYR"))
@@ -135,6 +175,7 @@ def tell(this):
     program.frame("MATH.TYR")
     print_distribution(this, program, printer)
     print_chart(this, program, printer)
+    print_letters_and_labels(this, program, printer)
     program.keys("ctrl+q")
     program.ended()
 

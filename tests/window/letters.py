@@ -1,9 +1,13 @@
 # SPDX-License-Identifier: GPL-3.0-or-later
 # A form letter is written with formatting and codes; the two selection keys mark in it, plain
-# letters type, and it is searched and changed with each option.
+# letters type, and it is searched and changed with each option, typing in the letter meanwhile; the
+# menu key puts a misspelt word right.
+import os
+import pathlib
+
 from gi.repository import Atspi
 from support import story
-from support.program import text_of, wait_for
+from support.program import text_of, wait_for, xdotool
 
 PORTAL = "Tallyroll Word Processor"
 
@@ -76,7 +80,56 @@ def selection_keys(program):
     program.keys(*["BackSpace"] * 4)
 
 
+def write_while_searching(program):
+    """The window of the search stands beside the letter, which takes keys and the caret meanwhile."""
+    program.keys("ctrl+Home", "ctrl+f")
+    program.window("Find and Replace Portal")
+    program.fill("us")
+    program.keys("alt+f")
+    box = Atspi.Component.get_extents(program.widget(Atspi.Role.TEXT, "Form letter"), Atspi.CoordType.SCREEN)
+    xdotool("mousemove", box.x + box.width // 2, box.y + 20, "click", 1)  # the search covers the middle
+    program.window(PORTAL)
+    program.keys("ctrl+End")
+    program.type(" Thus us.")
+    await_letter(program, "Progress\nDear <First Name>, call us. Thus us.")
+    program.keys("ctrl+Home", "ctrl+f")
+    program.window("Find and Replace Portal")
+    program.fill("us", "me")  # a whole word still, as the window was left
+    program.keys("alt+f", "alt+a")
+    program.box("          Replacing Completed", "Return")
+    await_letter(program, "Progress\nDear <First Name>, call me. Thus me.")
+    program.window("Find and Replace Portal")
+    program.keys("alt+x")
+    program.window(PORTAL)
+    program.keys("ctrl+z", "ctrl+z")
+    await_letter(program, "Progress\nDear <First Name>, call us.")
+
+
+def windows_of(program):
+    """How many the screen shows; a menu is one too, though none that is named."""
+    return len(xdotool("search", "--onlyvisible", "--all", "--pid", program.process.pid, "--name", ".*").split())
+
+
+def put_a_word_right(program):
+    program.keys("ctrl+End")
+    program.type(" helo")
+    program.keys("Left")
+    before = windows_of(program)
+    program.keys("Menu")
+    wait_for("the menu", lambda: windows_of(program) > before)
+    program.keys("Down", "Return")
+    await_letter(program, "Progress\nDear <First Name>, call us. hello")
+
+
+def make_dictionary():
+    folder = pathlib.Path(os.environ["HOME"], ".local", "share", "hunspell")
+    folder.mkdir(parents=True)
+    (folder / "en_US.aff").write_text("SET UTF-8\nTRY esianrtolcdugmphbyfvkwz\n")
+    (folder / "en_US.dic").write_text("5\nhello\nprogress\ndear\ncall\nus\n")
+
+
 def tell(this):
+    make_dictionary()
     program = this.start(this.sample("MATH.TYR"))
     program.frame("MATH.TYR")
     program.keys("alt+t", "w")
@@ -84,6 +137,8 @@ def tell(this):
     write(program)
     selection_keys(program)
     find_and_replace(program)
+    write_while_searching(program)
+    put_a_word_right(program)
 
 
 story.run(tell)

@@ -1,6 +1,7 @@
 # SPDX-License-Identifier: GPL-3.0-or-later
 # Draws the pictures of the documents anew: cmake --build build/release --target screens.
 import pathlib
+import shutil
 import subprocess
 import sys
 
@@ -235,6 +236,46 @@ def mail(program):
     program.gone("Printer Portal")
 
 
+def letters(this, *options, **surroundings):
+    """A form letter, whom it is for, as one of them gets it, and the search beside it."""
+    writer = "Tallyroll Word Processor"
+    form = this.path("Progress.rtf")
+    shutil.copy(story.SAMPLE.parent / "letters" / "Progress.rtf", form)
+    program = this.start(*options, this.sample("SAMPLE8.TYR"), **surroundings)
+    program.frame("SAMPLE8.TYR")
+    program.keys("alt+t", "w")
+    program.window(writer)
+    program.keys("ctrl+o")
+    program.choose_file("Open", form)
+    program.window(f"{writer} Progress.rtf")
+    program.keys("ctrl+t")
+    program.window("Student Portal")
+    program.keys("Home", *["shift+Down"] * 4, "alt+e")
+    chosen = program.widget(Atspi.Role.LIST, "Selected students")
+    wait_for("the choice", lambda: chosen.get_child_count() == 5)
+    program.keys("Home", "shift+Down")
+    take(program, "frmstudents")
+    program.keys("alt+f")
+    program.window(f"{writer} Progress.rtf")
+    program.await_label("5 students are chosen")
+    take(program, "frmwrdproc")
+    program.keys("F5", "alt+Next")
+    take(program, "frmwrdproc-merged")
+    program.keys("F6")
+    take(program, "frmwrdproc-pages")
+    program.keys("Escape", "ctrl+f")
+    program.window("Find and Replace Portal")
+    program.fill("grade", "mark")
+    take(program, "frmreplace")
+    program.keys("Escape")
+    program.window(f"{writer} Progress.rtf")
+    program.keys("alt+f", "m")
+    program.window("E-mail Portal")
+    program.fill("mail.school.example", "teacher@school.example")
+    take(program, "frmSendMail-letters")
+    program.stop()
+
+
 def attendance(program):
     """A month with its totals, the range, and both forms of a summary."""
     program.keys("ctrl+d")
@@ -346,6 +387,7 @@ def tell(this):
     analysis(this)
     school_systems(this)
     trust(this)
+    letters(this)
     sample_window(this, "sample-dark", "--dark").stop()
     sample_window(this, "sample-150", environment={"QT_SCALE_FACTOR": "1.5"}).stop()
 

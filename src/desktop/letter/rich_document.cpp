@@ -12,6 +12,7 @@ namespace tallyroll {
 namespace {
 
 constexpr double kTwipsAnInch = 1440;
+constexpr int kTabStopEvery = 720;  // behind the last one of a paragraph, as on paper
 
 // The toolkit has no such spacing of lines, or holds it coarser than a letter does.
 constexpr int kLineRule = QTextFormat::UserProperty + 1;
@@ -28,6 +29,11 @@ double Units(int twips) {
 }
 int Twips(double units) {
   return static_cast<int>(std::lround(units * kTwipsAnInch / UnitsAnInch()));
+}
+
+// The toolkit counts tab stops from where the first line begins, a letter from the margin.
+int StartOfTabs(const ParagraphStyle& style) {
+  return style.left + style.first;
 }
 
 Qt::Alignment AlignmentOf(TextAlign align) {
@@ -97,6 +103,10 @@ std::u16string KeptText(QString text) {
 
 }  // namespace
 
+double TabStopEvery() {
+  return Units(kTabStopEvery);
+}
+
 QTextCharFormat FormatOf(const TextStyle& style) {
   QTextCharFormat format;
   format.setFontFamilies({QString::fromStdString(style.font)});
@@ -146,7 +156,8 @@ QTextBlockFormat FormatOf(const ParagraphStyle& style) {
   if (style.page_break_before) format.setPageBreakPolicy(QTextFormat::PageBreak_AlwaysBefore);
   QList<QTextOption::Tab> tabs;
   for (const TabStop& tab : style.tabs)
-    tabs << QTextOption::Tab(Units(tab.at), TypeOf(tab.align), QLatin1Char('.'));
+    tabs << QTextOption::Tab(Units(tab.at - StartOfTabs(style)), TypeOf(tab.align),
+                             QLatin1Char('.'));
   if (!tabs.isEmpty()) format.setTabPositions(tabs);
   return format;
 }
@@ -172,7 +183,7 @@ ParagraphStyle StyleOf(const QTextBlockFormat& format) {
   }
   style.page_break_before = (format.pageBreakPolicy() & QTextFormat::PageBreak_AlwaysBefore) != 0;
   for (const QTextOption::Tab& tab : format.tabPositions())
-    style.tabs.push_back({Twips(tab.position), AlignOf(tab.type)});
+    style.tabs.push_back({Twips(tab.position) + StartOfTabs(style), AlignOf(tab.type)});
   return style;
 }
 

@@ -15,6 +15,8 @@ QTextCharFormat FormatOf(const TextStyle& style);
 // What the format does not say is as in `base`.
 TextStyle StyleOf(const QTextCharFormat& format, const TextStyle& base);
 
+// Where a paragraph has no tab stop of its own.
+double TabStopEvery();
 QTextBlockFormat FormatOf(const ParagraphStyle& style);
 ParagraphStyle StyleOf(const QTextBlockFormat& format);
 TextAlign AlignOf(const QTextBlockFormat& format);

@@ -37,6 +37,7 @@ RichTextEdit::RichTextEdit(QWidget* parent) : QTextEdit(parent), device_(*viewpo
   setAcceptRichText(true);
   setUndoRedoEnabled(true);
   document()->setDocumentMargin(kPaperEdge);
+  setTabStopDistance(TabStopEvery());
   PaintAsPaper();
   SetBase({});
   LayOut();

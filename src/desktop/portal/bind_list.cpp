@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // List boxes.
+#include <QKeyEvent>
 #include <QListWidget>
 #include <QMouseEvent>
 #include <QPainter>
@@ -67,7 +68,10 @@ class ListBinding : public Binding<ListBox, QListWidget> {
     if (event->type() == QEvent::FocusIn && watched == &widget_) return TakeFocus(event);
     if (event->type() == QEvent::Paint && watched == widget_.viewport() && widget_.count() == 0)
       SayWhatWillStandHere();
-    if (event->type() == QEvent::KeyPress) by_mouse_ = false;
+    if (event->type() == QEvent::KeyPress) {
+      by_mouse_ = false;
+      if (watched == &widget_ && GoesToEnd(*static_cast<QKeyEvent*>(event))) return true;
+    }
     if (event->type() == QEvent::MouseButtonPress) {
       press_is_told_ = false;
       by_mouse_ = true;
@@ -78,6 +82,14 @@ class ListBinding : public Binding<ListBox, QListWidget> {
   }
 
  private:
+  // While no line is the current one, every key leads to the first, and End to the last.
+  bool GoesToEnd(const QKeyEvent& key) {
+    if (key.key() != Qt::Key_End || key.modifiers() != Qt::NoModifier) return false;
+    if (widget_.currentRow() >= 0 || widget_.count() == 0) return false;
+    widget_.setCurrentRow(widget_.count() - 1);
+    return true;
+  }
+
   // A line can be dragged to another control, and what is dragged from there dropped here.
   void LetCardsMove() {
     auto* cards = new CardDrag(widget_, QString::fromStdString(row().name));

@@ -172,6 +172,10 @@ void frmwrdproc::mnupdf_Click() {
   request.help_context = kWriterTopic;
   const std::string path = Platform().FileDialog(request).value_or("");
   if (path.empty()) return;
+  if (IsOpenClassFile(path)) {
+    ShowMessage(" The file is already open ");
+    return;
+  }
   folder_ = std::filesystem::path(path).parent_path().string();
   Job.PrintFlag = kPrintRuns;
   Job.PrintTitle = Caption;

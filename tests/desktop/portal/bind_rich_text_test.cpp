@@ -285,6 +285,35 @@ TEST_F(BindRichText, EveryLookComesBackAsItWas) {
   EXPECT_EQ(portal.text.Document.paragraphs[2], text.paragraphs[2]);
 }
 
+// As on paper, where they count from the margin.
+TEST_F(BindRichText, TabStopsStandWhereTheyDoOnPaper) {
+  RichText text = RichTextOf(u"x\na\tb\n1\tc\nd\te");
+  text.paragraphs[1].style.left = 720;
+  text.paragraphs[1].style.tabs = {{3600, TabAlign::kLeft}};
+  text.paragraphs[2].style.left = 720;
+  text.paragraphs[2].style.first = -720;
+  text.paragraphs[2].style.tabs = {{720, TabAlign::kLeft}};
+  Open(u"");
+  Act([&] {
+    portal.text.PaperWidth = 9000;
+    portal.text.Load(text);
+  });
+  const auto place = [this](int at) {
+    QTextCursor cursor = edit().textCursor();
+    cursor.setPosition(at);
+    return edit().cursorRect(cursor).x();
+  };
+  const double dpi = edit().logicalDpiX();
+  const int margin = place(0);
+  EXPECT_NEAR(place(2) - margin, dpi / 2, 1);      // a
+  EXPECT_NEAR(place(4) - margin, dpi * 5 / 2, 1);  // b
+  EXPECT_NEAR(place(6) - margin, 0, 1);            // 1
+  EXPECT_NEAR(place(8) - margin, dpi / 2, 1);      // c
+  EXPECT_NEAR(place(12) - margin, dpi / 2, 1);     // e
+  Act([this] { portal.text.Zoom = 2; });
+  EXPECT_NEAR(place(12) - place(0), dpi, 2);
+}
+
 TEST_F(BindRichText, ANewParagraphBeginsNoPageOfItsOwn) {
   Open(u"");
   Act([this] {

@@ -359,6 +359,21 @@ TEST_F(FrmWrdProcTest, CancelledWhileTheLettersAreFilledInNothingIsAsked) {
   SetPlatform(&screen);
 }
 
+TEST_F(FrmWrdProcTest, AnOpenClassIsNotGoneOver) {
+  const std::string path = Path("MATH.TYR");
+  std::ofstream(path) << "the class";
+  Current().FileName = path;
+  ChooseStudents({1});
+  Write("Hello");
+  for (const char* command : {"mnupdf", "mnusave", "mnusavest"}) {
+    screen.ExpectFileDialog(path);
+    screen.ExpectBox(" The file is already open ");
+    driver->Press(command);
+  }
+  EXPECT_EQ(ReadWholeFile(path).bytes, "the class");
+  EXPECT_TRUE(screen.print_jobs.empty());
+}
+
 TEST_F(FrmWrdProcTest, TheMergedViewShowsEachStudentsLetter) {
   ChooseStudents({1, 2});
   Write("Dear <First Name>");
