@@ -1,14 +1,18 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // List boxes.
+#include <QApplication>
+#include <QKeyEvent>
 #include <QListWidget>
 #include <QMouseEvent>
 #include <QPainter>
 
 #include "desktop/basics/text_conversion.h"
+#include "desktop/basics/typed_ahead.h"
 #include "desktop/portal/card_drag.h"
 #include "desktop/portal/control_binding.h"
 #include "desktop/portal/empty_texts.h"
 #include "desktop/portal/list_columns.h"
+#include "find/type_ahead.h"
 
 namespace tallyroll {
 namespace {
@@ -66,7 +70,10 @@ class ListBinding : public Binding<ListBox, QListWidget> {
     if (event->type() == QEvent::FocusIn && watched == &widget_) return TakeFocus(event);
     if (event->type() == QEvent::Paint && watched == widget_.viewport() && widget_.count() == 0)
       SayWhatWillStandHere();
-    if (event->type() == QEvent::KeyPress) by_mouse_ = false;
+    if (event->type() == QEvent::KeyPress) {
+      by_mouse_ = false;
+      if (watched == &widget_ && GoToTyped(static_cast<const QKeyEvent&>(*event))) return true;
+    }
     if (event->type() == QEvent::MouseButtonPress) {
       press_is_told_ = false;
       by_mouse_ = true;
@@ -77,6 +84,20 @@ class ListBinding : public Binding<ListBox, QListWidget> {
   }
 
  private:
+  // The toolkit's own search knows no accents and gives the keys less time.
+  bool GoToTyped(const QKeyEvent& event) {
+    if (row().key_down || row().key_press || !typed_.Take(event, widget_.currentRow()))
+      return false;
+    const int line = LineToGoTo(typed_.typed(), list_, widget_.currentRow());
+    if (line >= 0) {
+      typed_.LeadsTo(line);
+      widget_.setCurrentRow(line);
+    } else if (!typed_.typed().empty()) {
+      QApplication::beep();
+    }
+    return true;
+  }
+
   // A line can be dragged to another control, and what is dragged from there dropped here.
   void LetCardsMove() {
     auto* cards = new CardDrag(widget_, QString::fromStdString(row().name));
@@ -161,6 +182,7 @@ class ListBinding : public Binding<ListBox, QListWidget> {
     columns_->Measure(widget_);
   }
 
+  TypedAhead typed_;
   ListColumns* columns_;  // the list's
   std::vector<std::string> list_;
   bool press_is_told_ = false;
