@@ -171,9 +171,9 @@ void frmexchange::ShowChanges() {
 
 void frmexchange::ShowChange(int row) {
   const Change& change = preview_.changes[shown_[static_cast<std::size_t>(row - 1)]];
-  const std::string then = change.after.str() +
-                           (change.reason.empty() || change.after.empty() ? "" : ": ") +
-                           change.reason;
+  const std::string then =
+      change.after.str() + (change.reason.empty() || change.after.empty() ? "" : ": ") +
+      change.reason + (change.comment.empty() ? "" : " \"" + change.comment + "\"");
   const std::array<std::string, 7> cells = {std::string(change.ticked ? kTicked : ""),
                                             CellName(change.line, change.column),
                                             std::string(ChangeKindText(change.kind)),
@@ -281,9 +281,10 @@ void frmexchange::Take() {
   if (!taken.refusal.empty()) return (void)ShowMessage(taken.refusal, BoxIcon::kCritical);
   const std::string fault = KeepIdsOf(Format(), preview_);
   ClassWindow().showform3();
-  ClassWindow().ShowStatus(Counted(taken.grades, "grade") + " and " + Counted(taken.marks, "mark") +
-                           " taken from " + NameInFolder(PathForDisplay(path_)) + "." +
-                           (fault.empty() ? "" : " The identifiers are not kept: " + fault));
+  ClassWindow().ShowStatus(
+      Counted(taken.grades, "grade") + " and " + Counted(taken.marks, "mark") + " taken from " +
+      NameInFolder(PathForDisplay(path_)) + "." +
+      (fault.empty() ? "" : " Identifiers and comments are not kept: " + fault));
   Unload();
 }
 

@@ -3,9 +3,13 @@
 // them.
 #pragma once
 
+#include <map>
 #include <string>
+#include <string_view>
 #include <unordered_map>
+#include <utility>
 
+#include "companion/mark_comments.h"
 #include "exchange/formats/formats.h"
 
 namespace tallyroll {
@@ -21,7 +25,21 @@ struct KeptIds {
 // A class without a companion has none.
 KeptIds KeptIdsOf(ExchangeFormat format);
 
-// Keeps those of a file that was taken. Answers why it could not be done; empty when it was.
+// What a system says by the marks of the class, by student's ID and title.
+class KeptComments {
+ public:
+  // A class without a companion has none.
+  explicit KeptComments(ExchangeFormat format);
+  // Empty where the mark is another one than was commented.
+  std::string CommentOn(const std::string& student, const std::string& title,
+                        std::string_view mark) const;
+
+ private:
+  std::map<std::pair<std::string, std::string>, MarkComment> by_cell_;
+};
+
+// Keeps those of a file that was taken, and what it says by the marks that stand now. Answers why
+// it could not be done; empty when it was.
 std::string KeepIdsOf(ExchangeFormat format, const ExchangePreview& preview);
 
 }  // namespace tallyroll

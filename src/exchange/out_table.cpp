@@ -31,7 +31,7 @@ std::string OutDate(double serial) {
 class OutTableMaker {
  public:
   OutTableMaker(ExchangeFormat format, const OutSigns& signs)
-      : format_(RowOfFormat(format)), signs_(signs), kept_(KeptIdsOf(format)) {}
+      : format_(RowOfFormat(format)), signs_(signs), kept_(KeptIdsOf(format)), comments_(format) {}
 
   ForeignTable Make() {
     const Class& c = Current();
@@ -73,9 +73,14 @@ class OutTableMaker {
       student.key = key->second;
     const int place = static_cast<int>(table_.students.size());
     table_.students.push_back(std::move(student));
-    for (int g = 0; g < static_cast<int>(table_.grades.size()); ++g)
-      if (std::string text = SignOf(Trim(MarkOf(from, g + 1))); !text.empty())
-        table_.marks.push_back({place, g, std::move(text), {}, 0, 0});
+    for (int g = 0; g < static_cast<int>(table_.grades.size()); ++g) {
+      const std::string_view mark = Trim(MarkOf(from, g + 1));
+      std::string text = SignOf(mark);
+      if (text.empty()) continue;
+      const auto& to = table_.grades[static_cast<std::size_t>(g)];
+      std::string comment = comments_.CommentOn(std::string(Trim(from.id)), to.title, mark);
+      table_.marks.push_back({place, g, std::move(text), std::move(comment), 0, 0});
+    }
   }
 
   std::string SignOf(std::string_view mark) const {
@@ -95,6 +100,7 @@ class OutTableMaker {
   const ExchangeFormatRow& format_;
   const OutSigns& signs_;
   KeptIds kept_;
+  KeptComments comments_;
   TypeTexts type_names_;
   ForeignTable table_;
 };

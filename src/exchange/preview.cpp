@@ -6,10 +6,12 @@
 
 #include "base/number_text.h"
 #include "base/text.h"
+#include "exchange/exchange_texts.h"
 #include "exchange/formats/foreign_mark.h"
 #include "exchange/kept_ids.h"
 #include "grades/marks.h"
 #include "store/class_defaults.h"
+#include "store/class_format.h"
 #include "store/program_state.h"
 #include "store/student_names.h"
 
@@ -19,6 +21,7 @@ namespace {
 constexpr int kNewGradeOfFile = 0;
 constexpr int kNoGrade = -1;
 constexpr std::size_t kMostGuessed = 200;  // lines of a file that is about another class altogether
+constexpr std::size_t kShownOfLongTitle = 60;
 constexpr Currency kFractionScale = Currency::FromScaled(100'0000);
 
 // A maximum score as a class holds it; nothing for parts of a point and beyond its range.
@@ -91,9 +94,18 @@ class PreviewMaker {
           !table().grades[g].key.empty() && kept != kept_.grade_of_key.end())
         take(g, kept->second);
     for (std::size_t g = 0; g < table().grades.size(); ++g) {
-      take(g, Trim(table().grades[g].title));
+      if (table().grades[g].shown.empty()) take(g, Trim(table().grades[g].title));
       AddGrade(static_cast<int>(g));
     }
+  }
+
+  static std::string TitleFault(const ForeignGrade& grade) {
+    if (grade.title.empty()) return "it is a grade without a title";
+    const bool too_long = grade.title.size() > kLongestText;
+    const std::string shown =
+        too_long ? std::string(Left(grade.title, kShownOfLongTitle)) + "..." : grade.shown;
+    if (shown.empty()) return {};
+    return Quoted(shown) + " is a title that a class file cannot hold";
   }
 
   void AddGrade(int g) {
@@ -111,11 +123,12 @@ class PreviewMaker {
       change.grade = g;
       return;
     }
-    if (grade.maximum && !score) {
+    std::string fault = TitleFault(grade);
+    if (grade.maximum && !score)
+      fault = Quoted(text) + " is no maximum score: it is a whole number above 0 here";
+    if (!fault.empty()) {
       place = kNoGrade;
-      Add(ChangeKind::kUnusable, grade.line, grade.column,
-          "\"" + text + "\" is no maximum score: it is a whole number above 0 here")
-          .grade = g;
+      Add(ChangeKind::kUnusable, grade.line, grade.column, fault).grade = g;
       return;
     }
     Change& change = Add(ChangeKind::kNewGrade, grade.line, grade.column);
@@ -197,6 +210,7 @@ class PreviewMaker {
     change.student = student;
     change.before = Trim(before);
     change.after = *text;
+    change.comment = mark.comment;
   }
 
   static ChangeKind KindOf(std::string_view before, std::string_view after) {

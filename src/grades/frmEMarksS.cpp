@@ -40,16 +40,17 @@ void FillTitles(Grid& grid) {
 }  // namespace
 
 frmEMarksS::frmEMarksS()
-    : Portal("frmEMarksS"), marks(*this, grdgrade, kMarkColumn, [this] { DataChanged = true; }) {
+    : Portal("frmEMarksS"),
+      marks(*this, grdgrade, kMarkColumn, [this] { DataChanged = true; }),
+      live(
+          {*this, grdgrade, marks, kMarkColumn},
+          [](int row) { return BoundsOf(Current().Instruments[static_cast<std::size_t>(row)]); },
+          [this] { DataChanged = true; }) {
   Caption = "Edit Grades by Student Name Portal";
   HelpContext = 320;
   Exitt.Caption = "E&xit";
   cancel.Caption = "&Cancel";
-  grdgrade.Notes.Of = [this](int row, int col) {
-    if (row < 1 || col != kMarkColumn) return CellNote();
-    const Instrument& grade = Current().Instruments[static_cast<std::size_t>(row)];
-    return NoteOfMark(grdgrade.TextMatrix(row, col), BoundsOf(grade));
-  };
+  live.ShowsAverage = false;  // every mark is of another grade
 }
 
 void frmEMarksS::Declare(ControlTable& table) {
@@ -58,8 +59,10 @@ void frmEMarksS::Declare(ControlTable& table) {
     lstName_Change();
   });
   marks.Declare(table, "grdgrade");
+  live.Declare(table);
   table.Add("Exitt", Exitt).Click([this] { Exitt_Click(); });
   table.Add("cancel", cancel).Click([this] { cancel_Click(); });
+  live.Follow(table);
 }
 
 void frmEMarksS::Load() {
@@ -69,6 +72,7 @@ void frmEMarksS::Load() {
     lstName.List.push_back(StudentListLine(c.Students[static_cast<std::size_t>(i)]));
   FillTitles(grdgrade);
   marks.Enable(false);
+  live.StartOver();
   SetFocus(lstName);
 }
 
@@ -83,6 +87,7 @@ void frmEMarksS::Show(int student) {
     grdgrade.SetTextMatrix(k, kMarkColumn, ShownMark(MarkOf(Shown(), k)));
   marks.StartOver();
   marks.Enable(true);
+  live.StartOver();
   DataChanged = false;
 }
 
@@ -101,6 +106,7 @@ void frmEMarksS::lstName_Change() {
 }
 
 bool frmEMarksS::Check() {
+  live.TellDoubts();
   for (int k = 1; k < grdgrade.Rows(); ++k) {
     if (!Trim(grdgrade.TextMatrix(k, kMarkColumn)).empty()) continue;
     ShowMessage(

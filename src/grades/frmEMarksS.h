@@ -2,6 +2,7 @@
 // frmEMarksS: the Edit Grades by Student Name Portal. One student at a time, with all his marks.
 #pragma once
 
+#include "grades/live_marks.h"
 #include "grades/mark_entry.h"
 #include "store/records.h"
 
@@ -17,6 +18,7 @@ struct frmEMarksS : Portal {
   ListBox lstName;
   Grid grdgrade;  // a row per Instrument: title, code, mark
   MarkEntry marks;
+  LiveMarks live;
   CommandButton Exitt, cancel;
 
   bool DataChanged = false;

@@ -42,6 +42,7 @@ void frmEmarks::Declare(ControlTable& table) {
   DeclareMarks(table);
   table.Add("Exitt", Exitt).Click([this] { Exitt_Click(); });
   table.Add("cancel", cancel).Click([this] { cancel_Click(); });
+  live.Follow(table);
 }
 
 void frmEmarks::Load() {
@@ -73,6 +74,7 @@ void frmEmarks::EnableFields(bool on) {
   for (TextBox* box : {&title, &code, &mvalue, &dropyn, &lowpass}) box->Enabled = on;
   testdate.Enabled = ttypelist.Enabled = on;
   marks.Enable(on);
+  live.StartOver();
 }
 
 Instrument& frmEmarks::Shown() {
@@ -173,6 +175,7 @@ void frmEmarks::Store() {
   if (has_type && Trim(typecode) != Trim(grade.typecode)) grade.typecode = typecode;
   c.Changed = kTrue;
   DataChanged = false;
+  live.TellDoubts();
   list1.List[static_cast<std::size_t>(shown_) - 1] = Trim(grade.title);
 }
 

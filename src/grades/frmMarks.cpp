@@ -76,6 +76,7 @@ void frmMarks::Declare(ControlTable& table) {
   table.Add("Text1", Text1).KeyDown([this](Key key) { return FillByEnter(key); });
   table.Add("Command5", Command5).Click([this] { Command5_Click(); });
   table.Add("Command6", Command6).Click([this] { Command6_Click(); });
+  live.Follow(table);
 }
 
 void frmMarks::Load() {
@@ -104,6 +105,7 @@ void frmMarks::StartOver() {
   lowpass.Text = kUsualPass;
   DataEntered = false;
   FillFromFile();
+  live.StartOver();
   SetFocus(title);
 }
 
@@ -186,6 +188,7 @@ bool frmMarks::AddGrade(i16 maximum_score) {
   DataEntered = false;
   ClassWindow().showform3();
   GradeAdded(type_in_use);
+  live.TellDoubts();
   return true;
 }
 

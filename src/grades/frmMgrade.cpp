@@ -35,6 +35,12 @@ std::string StudentLine(const Student& student) {
   }
 }
 
+int MissingOf(const Student& student) {
+  int missing = 0;
+  for (int i = 1; i <= GradeCount(Current()); ++i) missing += IsMissing(Trim(MarkOf(student, i)));
+  return missing;
+}
+
 void FillMissing(Grid& grid, const Student& student) {
   const Class& c = Current();
   grid.SetRedraw(false);
@@ -81,8 +87,11 @@ void frmMgrade::Declare(ControlTable& table) {
 
 void frmMgrade::Load() {
   const Class& c = Current();
-  for (int i = 1; i <= c.NumStudents; ++i)
-    list1.List.push_back(StudentLine(c.Students[static_cast<std::size_t>(i)]));
+  for (int i = 1; i <= c.NumStudents; ++i) {
+    const Student& student = c.Students[static_cast<std::size_t>(i)];
+    list1.List.push_back(StudentLine(student));
+    list1.Counts.push_back(MissingOf(student));
+  }
   grdgrade.SetSize(1, static_cast<int>(kColumns.size()));
   grdgrade.FixedRows = 1;
   grdgrade.FixedCols = grdgrade.LeftCol = 0;

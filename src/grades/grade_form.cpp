@@ -29,12 +29,18 @@ void TellNoWholeNumber() {
 }  // namespace
 
 GradeForm::GradeForm(std::string_view name)
-    : Portal(name), marks(*this, Grid1, kMarkColumn, [this] { MarksChanged(); }) {
+    : Portal(name),
+      marks(*this, Grid1, kMarkColumn, [this] { MarksChanged(); }),
+      live(
+          {*this, Grid1, marks, kMarkColumn}, [this](int) { return Bounds(); },
+          [this] { MarksChanged(); }) {
   title.MaxLength = mvalue.MaxLength = lowpass.MaxLength = kLongestText;
   code.MaxLength = kLongestGradeCode;
-  Grid1.Notes.Of = [this](int row, int col) {
-    return row < 1 || col != kMarkColumn ? CellNote() : NoteOfMark(MarkCell(row), Bounds());
-  };
+}
+
+void GradeForm::DeclareMarks(ControlTable& table) {
+  marks.Declare(table, "Grid1");
+  live.Declare(table);
 }
 
 void GradeForm::DeclareHeader(ControlTable& table, std::string_view title_name) {
@@ -139,6 +145,7 @@ bool GradeForm::RequiredEmpty() const {
 }
 
 void GradeForm::Remind() {
+  live.TellDoubts();
   ShowMessage(
       "You must fill in the TITLE and CODE of the grading instrument, and a GRADE for each "
       "student.\nUse TAB to move from one entry to the next.\nUse ARROW KEYS to move between "

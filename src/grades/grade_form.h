@@ -6,6 +6,7 @@
 #include <optional>
 #include <string>
 
+#include "grades/live_marks.h"
 #include "grades/mark_entry.h"
 #include "grades/mark_notes.h"
 #include "store/records.h"
@@ -22,10 +23,11 @@ struct GradeForm : Portal {
   ComboBox ttypelist;  // the labels of the 26 types
   Grid Grid1;
   MarkEntry marks;
+  LiveMarks live;
 
  protected:
   void DeclareHeader(ControlTable& table, std::string_view title_name);
-  void DeclareMarks(ControlTable& table) { marks.Declare(table, "Grid1"); }
+  void DeclareMarks(ControlTable& table);
 
   virtual void HeaderChanged() {}
   virtual void MarksChanged() = 0;

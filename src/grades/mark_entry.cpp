@@ -39,6 +39,10 @@ std::string ShownMark(std::string_view mark) {
   return shown;
 }
 
+std::string TypedMark(std::string_view text) {
+  return UpperCase(Left(text, kLongestMark));
+}
+
 CellEntry::CellEntry(Grid& grid, int column, std::function<void()> edited)
     : grid_(grid), column_(column), edited_(std::move(edited)) {}
 
@@ -63,6 +67,7 @@ void CellEntry::Write(std::string_view text) {
 
 bool CellEntry::KeyPress(unsigned char key) {
   if (!HasCell()) return true;
+  goes_on_ = !typing_.first_key;
   Write(Typed(typing_.Type(grid_.TextMatrix(grid_.Row, column_), key)));
   return true;
 }
@@ -131,7 +136,7 @@ bool MarkEntry::KeyDown(Key key) {
 }
 
 std::string MarkEntry::Typed(std::string text) const {
-  return UpperCase(Left(text, kLongestMark));
+  return TypedMark(text);
 }
 
 // A special mark is whole: a key after it begins a new mark.

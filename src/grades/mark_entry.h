@@ -5,6 +5,7 @@
 #include <functional>
 #include <string>
 #include <string_view>
+#include <utility>
 
 #include "platform/cell_typing.h"
 #include "platform/portal.h"
@@ -16,6 +17,8 @@ inline constexpr std::size_t kLongestMark = 5;
 // A mark as a cell has it: without the blanks behind it, and with a blank for each NUL of a damaged
 // file, which no screen shows. So what looks empty is empty.
 std::string ShownMark(std::string_view mark);
+// What a cell of marks becomes of what was typed: upper case, five characters.
+std::string TypedMark(std::string_view text);
 
 // The cells of one column take keys. Return goes to the next row, End to the last.
 class CellEntry {
@@ -34,6 +37,8 @@ class CellEntry {
   void StartAt(int row);
   void StartOver() { StartAt(grid_.FixedRows); }
   int LastActiveRow() const { return last_active_row_; }
+  // Whether the last event was a key that went on with the text of a cell. Asking forgets it.
+  bool TakeGoesOn() { return std::exchange(goes_on_, false); }
 
  protected:
   virtual bool KeyDown(Key key);
@@ -52,6 +57,7 @@ class CellEntry {
   std::function<void()> edited_;
   CellTyping typing_;
   int last_active_row_ = 1;
+  bool goes_on_ = false;
 };
 
 // A grid of marks: upper case, five characters, and keys and buttons for the special marks.

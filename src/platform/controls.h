@@ -49,6 +49,7 @@ struct ListBox : Control {
   std::vector<bool> Checked;      // by line, where there are boxes
   bool MultiSelect = false;       // several lines can be marked; ListIndex is where the keys stand
   std::vector<bool> Selected;     // by line, where several can be
+  std::vector<int> Counts;        // by line, shown at its end; 0 and what is missing show nothing
 };
 
 struct ComboBox : Control {
@@ -80,12 +81,16 @@ struct DTPicker : Control {
   double MaxDate = 0;  // 0 sets no bounds
 };
 
+// How large a sheet is shown: at its zoom, or as large as fits the room there is.
+enum class SheetFit { kZoom, kWidth, kPage };
+
 // An ornament, of which the form says which picture it is; or a sheet of paper, drawn anew whenever
 // it is shown.
 struct PictureBox : Control {
   std::function<void(PrintTarget& target)> Draw;  // null for an ornament
   double SheetWidth = 0, SheetHeight = 0;         // twips
   double Zoom = 1;
+  SheetFit Fit = SheetFit::kZoom;
   unsigned Revision = 0;  // raised when what Draw draws has changed
 };
 

@@ -35,6 +35,8 @@ frmprintpre::frmprintpre() : Portal("frmprintpre") {
   HelpContext = kPreviewTopic;
   one.Caption = "Zoom &In";
   two.Caption = "Zoom &Out";
+  fitwidth.Caption = "Fit &Width";
+  fitpage.Caption = "Fit Pa&ge";
   three.Caption = "&First";
   four.Caption = "&Back";
   five.Caption = "&Next";
@@ -62,7 +64,7 @@ frmprintpre::frmprintpre() : Portal("frmprintpre") {
 void frmprintpre::Declare(ControlTable& table) {
   DeclareToolbar(table);
   table.Add("size_label", size_label);
-  table.Add("size", size).Change([this] { showscreen(); });
+  table.Add("size", size).Change([this] { ShowStep(size.ListIndex); });
   table.Add("pagenum_label", pagenum_label);
   table.Add("pagenum", pagenum).Change([this] { ShowPage(pagenum.ListIndex); });
   table.Add("Pagen", Pagen);
@@ -92,6 +94,8 @@ void frmprintpre::DeclareKeys(ControlTable& table) {
 void frmprintpre::DeclareToolbar(ControlTable& table) {
   table.Add("one", one).Click([this] { StepZoom(1); });
   table.Add("two", two).Click([this] { StepZoom(-1); });
+  table.Add("fitwidth", fitwidth).Click([this] { ShowFitted(SheetFit::kWidth); });
+  table.Add("fitpage", fitpage).Click([this] { ShowFitted(SheetFit::kPage); });
   table.Add("three", three).Click([this] { ShowPage(0); });
   table.Add("four", four).Click([this] { ShowPage(pagenum.ListIndex - 1); });
   table.Add("five", five).Click([this] { ShowPage(pagenum.ListIndex + 1); });
@@ -129,8 +133,9 @@ void frmprintpre::startup() {
 void frmprintpre::makesize() {
   size.List.clear();
   for (const int step : kZoomSteps) size.List.push_back(PlainNumberText(step) + " %");
-  size.ListIndex = kFullSize;
+  step_ = size.ListIndex = kFullSize;
   size.Text = size.List[kFullSize];
+  picture1.Fit = SheetFit::kZoom;
 }
 
 void frmprintpre::makepage() {
@@ -145,7 +150,7 @@ void frmprintpre::showscreen() {
   if (running_) return;
   const auto sheet = Platform().MakePrintBox(PrintsLandscape());
   if (!sheet) return;
-  picture1.Zoom = ZoomOf(size.ListIndex);
+  picture1.Zoom = ZoomOf(step_);
   picture1.SheetWidth = sheet->Width;
   picture1.SheetHeight = sheet->Height;
   printable_width_ = sheet->ScaleWidth;
@@ -155,6 +160,7 @@ void frmprintpre::showscreen() {
 
 // As it was laid out: within what the printer can reach.
 void frmprintpre::DrawPage(PrintTarget& target) {
+  if (running_) return;
   const Running drawing(drawing_);
   target.ScaleWidth = printable_width_;
   target.ScaleHeight = printable_height_;
@@ -163,11 +169,23 @@ void frmprintpre::DrawPage(PrintTarget& target) {
   RenderPage(target, pagenum.ListIndex + 1);
 }
 
-void frmprintpre::StepZoom(int by) {
-  const int step = size.ListIndex + by;
+void frmprintpre::ShowStep(int step) {
   if (step < 0 || step >= static_cast<int>(kZoomSteps.size())) return;
-  size.ListIndex = step;
+  step_ = size.ListIndex = step;
   size.Text = size.List[static_cast<std::size_t>(step)];
+  picture1.Fit = SheetFit::kZoom;
+  showscreen();
+}
+
+// A fitted page has none of the sizes of the list, and goes on from the one it had before.
+void frmprintpre::StepZoom(int by) {
+  ShowStep(picture1.Fit == SheetFit::kZoom ? step_ + by : step_);
+}
+
+void frmprintpre::ShowFitted(SheetFit fit) {
+  picture1.Fit = fit;
+  size.ListIndex = -1;
+  size.Text.clear();
   showscreen();
 }
 

@@ -18,6 +18,7 @@ struct frmprintpre : Portal {
 
   // Toolbar2.
   CommandButton one, two;                // zoom in and out
+  CommandButton fitwidth, fitpage;       // as large as the window shows
   CommandButton three, four, five, six;  // first, previous, next and last page
   CommandButton seven, eight;            // print, e-mail
   CommandButton nine, ten, pdf;          // save as text, HTML, PDF
@@ -45,6 +46,8 @@ struct frmprintpre : Portal {
   void makesize();
   void makepage();
   void StepZoom(int by);
+  void ShowStep(int step);
+  void ShowFitted(SheetFit fit);
   void ShowPage(int index);
   void DrawPage(PrintTarget& target);
   // Drawing, printing and saving let events through, but walk the class in the same way: one at a
@@ -63,6 +66,7 @@ struct frmprintpre : Portal {
   void SaveReport(Save form);
   void pdf_Click();
 
+  int step_ = 0;                // of the zoom, where the page was not fitted
   Save pending_ = Save::kText;  // waits for the answer of Frame1
   std::string folder_;          // where the next save dialog starts
   double printable_width_ = 0, printable_height_ = 0;

@@ -226,6 +226,8 @@ constexpr ClassMenuRow kRows[] = {
      .shortcut = "Ctrl+H", .portal = "frmhistory"},
     {.level = 1, .name = "mnustudenthistory", .caption = "History of this &Student", .status = "What changed of the student in whose row you are",
      .portal = "frmhistory", .action = [](Form1& window) { window.ShowHistoryOfStudent(); }},
+    {.level = 1, .name = "mnusnapshots", .caption = "Sna&pshots", .status = "The class as it was at each save, and back to it",
+     .portal = "frmsnapshots", .action = [](Form1& window) { window.ShowSnapshots(); }},
     {.level = 1, .name = "mnuunusual", .caption = "&Unusual Marks", .status = "Marks that may be slips of the hand",
      .portal = "frmunusual", .action = [](Form1& window) { window.ShowUnusual(); }},
 

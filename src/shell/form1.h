@@ -9,6 +9,8 @@
 #include <utility>
 #include <vector>
 
+#include "insight/frmsnapshot.h"
+#include "insight/kept_work.h"
 #include "platform/grid.h"
 #include "platform/surroundings.h"
 #include "shell/menu.h"
@@ -61,6 +63,8 @@ class Form1 {
   bool SaveCancelled = false;             // the Save As dialog was cancelled
   UndoSteps Steps;                        // what was done to the class since it was opened
   bool SavedInCommand = false;            // by the command that runs
+  KeptWork Work;                          // what of it is not saved, in case the program stops
+  bool WorkWaits = false;                 // a command changed the class, and it is not kept yet
 
   // What a screen calls. Load acts on PendingAction; a window that got no class has an empty Tag
   // afterwards and is to be destroyed.
@@ -92,6 +96,7 @@ class Form1 {
   void ShowHistoryOfStudent();  // in whose row the current cell stands
   void ShowGraphOfGrade();      // in whose column the current cell stands
   void ShowUnusual();
+  void ShowSnapshots();
   void mnuundo_Click();
   void mnuredo_Click();
   void ShowSteps();  // in the captions of Undo and Redo
@@ -120,6 +125,7 @@ class Form1 {
   void OpenNewClass(int pending_action);
   void ReadInto(std::string_view path);
   void ShowOpenedClass();
+  void OfferFoundWork();
   void AppendStudents();  // of ImportFile
   void StartFromText();
   void TransferRoster();
@@ -130,7 +136,9 @@ class Form1 {
   bool Save();  // WriteClassFile; false when it failed
   void AskToSave();
   void SavePassword();
+  void AskToKeepMarks();
 
+  Beside<frmsnapshot> snapshot_;                // the earlier state that is looked at
   std::vector<std::pair<int, int>> came_back_;  // cells that Undo or Redo changed, row and column
   bool message_stands_ = false;                 // StatusText is a message, which no hint replaces
   std::string save_title_;  // title of the save dialog; empty is the dialog's own

@@ -3,6 +3,7 @@
 
 #include <cmath>
 
+#include "base/number_text.h"
 #include "base/text.h"
 #include "platform/surroundings.h"
 #include "roster/student_form.h"
@@ -47,6 +48,7 @@ frmWizard::frmWizard() : Portal("frmWizard") {
 
 void frmWizard::Declare(ControlTable& table) {
   table.Add("Picture2", Picture2);
+  table.Add("stepline", stepline);
   table.Add("framecontrol", framecontrol);
   table.Add("description", description);
   table.Add("school", school);
@@ -87,6 +89,7 @@ void frmWizard::Load() {
 
 void frmWizard::ShowStep() {
   framecontrol.Current = Step - 1;
+  stepline.Caption = "Step " + PlainNumberText(Step) + " of " + PlainNumberText(kFinished);
   cmdNext.Caption = Step == kFinished ? "&Finish" : "&Next >";
   button_skip.Caption = Step == kFinished ? "C&ontinue" : "&Skip";
   button_skip.Visible = Step == kOptionalPages || Step == kFinished;

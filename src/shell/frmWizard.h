@@ -14,6 +14,7 @@ struct frmWizard : Portal {
   void QueryUnload() override { cmdCancel_Click(); }
 
   Pages framecontrol;  // step 1 is page 0
+  Label stepline;      // where in the steps
   PictureBox Picture2;
   TextBox description;                         // step 2
   TextBox school, room, teacher, timed;        // step 3

@@ -103,6 +103,37 @@ TEST_F(OtherPreviewsTest, BulkGradesOfEdxTakeTheNewMarkBeforeTheOld) {
   EXPECT_EQ(preview.table.grades[0].key, "ab");
 }
 
+TEST_F(OtherPreviewsTest, PointsOfProblemsHaveALineForEachStudentAndProblem) {
+  const ExchangePreview preview = Preview(
+      "user_id,username,full_name,student_uid,enrolled,track,cohort,block_id,title,"
+      "date_last_graded,who_last_graded,Previous Points,New Points\n"
+      "1,abel@x.org,Bo Abel,7,True,,,b1,Essay,,,15,17\n"
+      "2,zoe,Zo\xC3\xA9 Mu\xC3\xB1oz,8,True,,,b1,Essay,,,12,\n"
+      "1,abel@x.org,Bo Abel,7,True,,,b2,Maps,,,,4\n"
+      "1,abel@x.org,Bo Abel,7,True,,,b2,Maps,,,,5\n");
+  EXPECT_THAT(
+      Lines(preview),
+      ElementsAre(
+          "+H4 new grade | Maps", "+M2 changed mark | Abel, Bo | Essay | 18>17",
+          "+L3 changed mark | Mu\xF1oz, Zo\xE9 | Essay | ABS>12",
+          "+M4 new mark | Abel, Bo | Maps | NEW>4",
+          "A5 cannot be used [\"1\" has points for this problem on an earlier line already]"));
+}
+
+TEST_F(OtherPreviewsTest, ATitleThatAClassCannotHoldTakesItsMarksAlong) {
+  const ExchangePreview preview = Preview(
+      "user_id,username,student_key,course_id,track,cohort,name-ab,grade-ab,name-cd,grade-cd\n"
+      "1,,7,course-v1:X,,,\xCE\xA9 test,15,Oral,3\n");
+  EXPECT_THAT(Lines(preview),
+              ElementsAre("G1 cannot be used | ? test [\"<U+03A9> test\" is a title "
+                          "that a class file cannot hold]",
+                          "+I1 new grade | Oral", "+J2 new mark | Abel, Bo | Oral | NEW>3"));
+  const ExchangePreview too_long = Preview(
+      "user_id,student_key,course_id,name-ab,grade-ab\n1,7,c," + std::string(65536, 'x') + ",15\n");
+  EXPECT_THAT(Lines(too_long),
+              Contains(HasSubstr("xxx...\" is a title that a class file cannot hold]")));
+}
+
 TEST_F(OtherPreviewsTest, WhatIsNoneOfThemIsNotGuessed) {
   EXPECT_FALSE(RecognisedFormat("id,name,essay\n1,Abel,5\n"));
   EXPECT_FALSE(RecognisedFormat(""));

@@ -13,6 +13,7 @@ namespace {
 
 using ::testing::ElementsAre;
 using ::testing::HasSubstr;
+using ::testing::Not;
 
 class OutTableTest : public ExchangeTest {
  protected:
@@ -56,6 +57,26 @@ TEST_F(OutTableTest, SakaiGetsIdAndNameFirstAndPointsInBrackets) {
   EXPECT_EQ(Written(ExchangeFormat::kSakai),
             "\xEF\xBB\xBFStudent ID,Name,Essay [20],Test [100]\r\n"
             "7,\"Abel, Bo\",18,\r\n8,\"Mu\xC3\xB1oz, Zo\xC3\xA9\",,B+\r\n");
+}
+
+// A class has no place for a comment; it is kept beside it, and said of its own mark alone.
+TEST_F(OutTableTest, ACommentGoesOutAgainWhileItsMarkStands) {
+  Current().FileName = Path("class.TYR");
+  ExchangePreview preview = PreviewOfFile(
+      ExchangeFormat::kSakai,
+      "ID,Name,Essay [20],* Essay,Test [100],* Test\n"
+      "7,\"Abel, Bo\",18,=well done,70,Late\n8,\"Mu\xC3\xB1oz, Zo\xC3\xA9\",,,B+,Na\xC3\xAFve\n");
+  for (Change& change : preview.changes)
+    if (change.kind == ChangeKind::kNewMark) change.ticked = false;  // Abel's 70
+  TakeTicked(preview);
+  ASSERT_EQ(KeepIdsOf(ExchangeFormat::kSakai, preview), "");
+  EXPECT_EQ(Written(ExchangeFormat::kSakai),
+            "\xEF\xBB\xBFStudent ID,Name,Essay [20],* Essay,Test [100],* Test\r\n"
+            "7,\"Abel, Bo\",18,'=well done,,\r\n"
+            "8,\"Mu\xC3\xB1oz, Zo\xC3\xA9\",,,B+,Na\xC3\xAFve\r\n");
+  EXPECT_THAT(Written(ExchangeFormat::kMoodle), Not(HasSubstr("Feedback")));
+  SetMark(1, 1, "19");
+  EXPECT_THAT(Written(ExchangeFormat::kSakai), Not(HasSubstr("well done")));
 }
 
 TEST_F(OutTableTest, SpecialMarksGoOutAsTheTeacherChooses) {

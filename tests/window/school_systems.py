@@ -51,10 +51,16 @@ def tell(this):
     program.frame("MATH.TYR", changed=True)
     program.keys("ctrl+s")
     program.frame("MATH.TYR", changed=False)
-    program.keys("ctrl+q")
-    program.ended()
     students = dump(path)["Students"]
     expect("the marks", [student["Marks"][1:] for student in students], [["17.5", "8"], ["NEW", "5"], ["9", "NEW"]])
+    program.keys("ctrl+z")  # all that was taken is one step
+    program.frame("MATH.TYR", changed=True)
+    program.keys("ctrl+s")
+    program.frame("MATH.TYR", changed=False)
+    program.keys("ctrl+q")
+    program.ended()
+    expect("the class undone", [(s["lastname"], s["Marks"][1:]) for s in dump(path)["Students"]],
+           [("Abel", ["18"]), ("Cho", ["NEW"]), ("Ems", ["9"])])
 
 
 story.run(tell)

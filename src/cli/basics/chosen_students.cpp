@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "cli/basics/chosen_students.h"
 
+#include <algorithm>
+
 #include "base/code_page.h"
 #include "base/text.h"
 #include "store/program_state.h"
@@ -22,7 +24,9 @@ std::string TakeStudents(const std::vector<std::string>& ids, std::vector<i16>& 
     for (int i = 1; id && i <= c.NumStudents && found == 0; ++i)
       if (Trim(c.Students[static_cast<std::size_t>(i)].id) == Trim(*id)) found = i;
     if (found == 0) return "no student has the ID " + wanted;
-    students.push_back(static_cast<i16>(found));
+    const auto student = static_cast<i16>(found);
+    if (std::find(students.begin(), students.end(), student) == students.end())
+      students.push_back(student);
   }
   return {};
 }

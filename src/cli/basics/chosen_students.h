@@ -12,7 +12,7 @@ namespace tallyroll {
 
 void AddStudents(Command& command, std::vector<std::string>& ids);
 
-// The students of these IDs, all of the class without any. Answers why that cannot be.
+// The students of these IDs, each once, all of the class without any. Answers why that cannot be.
 std::string TakeStudents(const std::vector<std::string>& ids, std::vector<i16>& students);
 
 }  // namespace tallyroll

@@ -55,6 +55,7 @@ Json ChangeJson(const ExchangePreview& preview, const Change& change) {
   json["student"] = Utf8(StudentNameOf(preview, change));
   json["before"] = Utf8(change.before);
   json["after"] = Utf8(change.after);
+  json["comment"] = Utf8(change.comment);
   json["reason"] = Utf8(change.reason);
   json["ticked"] = change.ticked;
   json["guesses"] = Json::array();
@@ -97,10 +98,12 @@ std::string WriteTaken(const ExchangeOptions& options, ExchangeFormat format,
   if (!reason.empty()) return reason;
   const std::string system(RowOfFormat(format).name);
   const KeptForeignIds earlier = ForeignIds(options.file, system);
+  const KeptMarkComments comments = MarkComments(options.file, system);
   Current().FileName = options.out;
   if (!earlier.ids.empty()) KeepForeignIds(options.out, system, earlier.ids);
+  if (!comments.comments.empty()) KeepMarkComments(options.out, system, comments.comments);
   if (const std::string fault = KeepIdsOf(format, preview); !fault.empty())
-    note = ReasonLine(options.out, "the identifiers are not kept: " + fault);
+    note = ReasonLine(options.out, "identifiers and comments are not kept: " + fault);
   return {};
 }
 

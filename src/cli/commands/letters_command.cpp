@@ -10,12 +10,11 @@
 #include "cli/basics/class_in_file.h"
 #include "cli/basics/command_line_surroundings.h"
 #include "cli/basics/date_order.h"
+#include "cli/basics/merged_letters.h"
 #include "cli/basics/pdf.h"
 #include "cli/commands/commands.h"
 #include "letters/merge/letter_names.h"
-#include "letters/merge/merge.h"
 #include "letters/page/print_letters.h"
-#include "letters/text/letter_file.h"
 #include "letters/text/rtf_writer.h"
 #include "store/program_state.h"
 #include "store/sort_students.h"
@@ -31,38 +30,6 @@ struct LettersOptions {
   i16 name_mode = 68;
   OpenOptions opening;
 };
-
-// The letters of all students, merged before the first is written.
-struct MergedLetters {
-  std::vector<i16> students;
-  std::vector<RichText> texts;
-  std::vector<std::string> notes;
-  std::string refusal;
-};
-
-std::string ReadFormLetter(const LettersOptions& options, LetterReading& letter) {
-  letter = ReadLetter(options.letter);
-  if (letter.error != 0) return FileErrorText(letter.error);
-  return letter.reason;
-}
-
-// A code that nobody knows would reach the families as it stands.
-MergedLetters MergeAll(const LetterReading& letter, const std::vector<i16>& students) {
-  MergedLetters merged;
-  merged.notes = letter.left_out;
-  merged.students = students;
-  const std::vector<std::string> warnings = LetterWarnings(letter.text, merged.students);
-  const std::size_t unknown = UnknownCodes(letter.text).size();
-  if (unknown > 0) merged.refusal = Utf8FromCodePage(warnings.front());
-  for (std::size_t i = unknown; i < warnings.size(); ++i)
-    merged.notes.push_back(Utf8FromCodePage(warnings[i]));
-  for (const i16 student : merged.students) {
-    MergedLetter one = MergeLetter(letter.text, student);
-    if (!one.error.empty() && merged.refusal.empty()) merged.refusal = Utf8FromCodePage(one.error);
-    merged.texts.push_back(std::move(one.text));
-  }
-  return merged;
-}
 
 std::string WritePdfOf(const std::string& path, const std::vector<RichText>& texts,
                        std::size_t first, std::size_t count) {
@@ -137,12 +104,12 @@ CommandResult MakeLetters(const LettersOptions& options) {
     surroundings.today = *DateFromText(options.today, DateOrder::kYearFirst);
   SortStudents();
   LetterReading letter;
-  reason = ReadFormLetter(options, letter);
+  reason = ReadFormLetter(options.letter, letter);
   if (!reason.empty()) return Refused(options.letter, reason);
   std::vector<i16> students;
   reason = TakeStudents(options.students, students);
   if (!reason.empty()) return Refused(options.file, reason);
-  MergedLetters merged = MergeAll(letter, students);
+  MergedLetters merged = MergeLetters(letter, students);
   if (!merged.refusal.empty()) return Refused(options.letter, merged.refusal);
   return WriteLetters(options, merged);
 }

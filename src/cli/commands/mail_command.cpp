@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The report on each student to that student's address: a run as the E-mail Portal makes it, with
-// the same journal.
+// The report on each student, or a letter to each, to that student's address: a run as the E-mail
+// Portal makes it, with the same journal.
 #include <filesystem>
 #include <memory>
 #include <optional>
@@ -9,6 +9,7 @@
 
 #include "base/code_page.h"
 #include "base/text.h"
+#include "cli/basics/chosen_students.h"
 #include "cli/basics/class_in_file.h"
 #include "cli/basics/command_line_surroundings.h"
 #include "cli/basics/date_order.h"
@@ -16,25 +17,22 @@
 #include "cli/basics/pdf.h"
 #include "cli/basics/post.h"
 #include "cli/commands/commands.h"
+#include "cli/commands/mail_contents.h"
 #include "letters/mail/mail_address.h"
 #include "letters/mail/mail_plan.h"
 #include "letters/mail/mail_run.h"
 #include "letters/mail/student_report.h"
-#include "printing/page/report_choice.h"
-#include "printing/reports/reports.h"
 #include "store/program_state.h"
 #include "store/sort_students.h"
 
 namespace tallyroll {
 namespace {
 
-constexpr i16 kMailAveragesTab = 4;
-
 struct MailOptions {
   std::string file;
-  int code = 0;
+  MailedReport report;
+  std::string letter;
   std::vector<std::string> students;
-  bool attendance = false, comments = false, code_details = false;
   std::string subject, from, eml;
   AccountOptions account;
   bool pdf = false, dry_run = false, again = false, allow_shared = false;
@@ -50,39 +48,17 @@ bool Sends(const MailOptions& options) {
 // ---- What the command line says, looked through; each answers why it is refused ----
 
 std::string TakeMailStudents(const MailOptions& options, std::vector<i16>& students) {
-  const Class& c = Current();
-  if (options.students.empty())
-    for (int i = 1; i <= c.NumStudents; ++i) students.push_back(static_cast<i16>(i));
-  for (const std::string& wanted : options.students) {
-    const auto id = CodePageFromUtf8(wanted);
-    i16 found = 0;
-    for (i16 i = 1; id && i <= c.NumStudents && found == 0; ++i)
-      if (Trim(c.Students[static_cast<std::size_t>(i)].id) == Trim(*id)) found = i;
-    if (found == 0) return "no student has the ID " + wanted;
-    students.push_back(found);
-  }
-  return students.empty() ? kNoStudents : "";
-}
-
-std::string TakeMailReport(const MailOptions& options) {
-  const Report* report = FindReport(options.code);
-  if (!report) return "there is no report of this code";
-  if (!report->one_student)
-    return "this report shows the whole class; only one on single students goes to each";
-  if (report->tab == kMailAveragesTab && !HasAverages())
-    return "the class has no averages: it needs grades, and weights or points for them";
-  Choice = ReportChoice();
-  Choice.attendance1 = options.attendance;
-  Choice.comment1 = options.comments;
-  Choice.printcode = options.code_details;
-  Job = PrintJob();
-  Job.PrintFlag = kPrintRuns;
-  Job.PrintTab = report->tab;
-  Job.ReportCode = static_cast<i16>(report->code);
-  return {};
+  std::string reason = TakeStudents(options.students, students);
+  return reason.empty() && students.empty() ? kNoStudents : reason;
 }
 
 std::string CheckMailOptions(const MailOptions& options) {
+  const bool of_report =
+      options.pdf || options.report.attendance || options.report.comments || options.report.codes;
+  if (options.letter.empty() && options.report.code == 0)
+    return "--report or --letter must say what goes";
+  if (!options.letter.empty() && of_report)
+    return "--pdf, --attendance, --comments and --code-details go with --report";
   if (!IsMailAddress(options.from)) return "--from must be an address, name@domain";
   if (Sends(options) && options.account.server.empty()) return "sending needs --server";
   return {};
@@ -100,18 +76,21 @@ std::string SharedAddress(const std::vector<PlannedMail>& mails) {
 
 // ---- The messages ----
 
+// Runs are told apart by it, so two letters have two.
 std::string SubjectOf(const MailOptions& options) {
-  return options.subject.empty() ? "Report" : options.subject;
+  if (!options.subject.empty()) return options.subject;
+  if (options.letter.empty()) return "Report";
+  return Utf8FromCodePage(PathForDisplay(std::filesystem::path(options.letter).stem().string()));
 }
 
 // Why it cannot be made.
-std::string MakeMime(const MailOptions& options, const PlannedMail& mail, MimeMail& mime) {
-  const std::string text = TextOfStudent(mail.student);
-  if (text.empty()) return "there is no report";
+std::string MakeMime(const MailOptions& options, const MailContents& contents,
+                     const PlannedMail& mail, MimeMail& mime) {
+  mime.text = contents.text_of(mail.student);
+  if (mime.text.empty()) return contents.nothing;
   mime.from = options.from;
   mime.to = mail.entry.address;
   mime.subject = SubjectOf(options);
-  mime.text = Utf8FromCodePage(text);
   if (!options.pdf) return {};
   PdfOutcome outcome;
   std::string pdf = PdfOfStudent(mail.student, [&](const std::string& path) {
@@ -157,15 +136,15 @@ std::string EmlName(const PlannedMail& mail) {
   return (id.empty() ? name : id + " " + name) + ".eml";
 }
 
-CommandResult WriteEmls(const MailOptions& options, const std::vector<PlannedMail>& mails,
-                        double now) {
+CommandResult WriteEmls(const MailOptions& options, const MailContents& contents,
+                        const std::vector<PlannedMail>& mails, double now) {
   std::error_code error;
   std::filesystem::create_directories(options.eml, error);
   if (error) return Refused(options.eml, "the folder cannot be made");
   for (const PlannedMail& mail : mails) {
     if (!IsToBeSent(mail, true)) continue;
     MimeMail mime;
-    std::string reason = MakeMime(options, mail, mime);
+    std::string reason = MakeMime(options, contents, mail, mime);
     if (!reason.empty()) return Refused(options.file, reason);
     mime.date = ZonedMailDate(now, OffsetFromUtc());
     mime.id = NewMessageId(mime.from);
@@ -176,7 +155,8 @@ CommandResult WriteEmls(const MailOptions& options, const std::vector<PlannedMai
   return MailLines(mails, options, "written", {});
 }
 
-CommandResult SendAll(const MailOptions& options, std::vector<PlannedMail>& mails) {
+CommandResult SendAll(const MailOptions& options, const MailContents& contents,
+                      std::vector<PlannedMail>& mails) {
   MailAccount account;
   std::string reason = TakeAccount(options.account, account);
   if (!reason.empty()) return Refused(options.file, reason);
@@ -190,7 +170,7 @@ CommandResult SendAll(const MailOptions& options, std::vector<PlannedMail>& mail
     if (!IsToBeSent(mail, true)) continue;
     RunMail& next = run.emplace_back();
     next.entry = mail.entry;
-    reason = MakeMime(options, mail, next.mime);
+    reason = MakeMime(options, contents, mail, next.mime);
     if (!reason.empty()) return Refused(options.file, "nothing was sent: " + reason);
   }
   MailRunEvents events;
@@ -201,6 +181,13 @@ CommandResult SendAll(const MailOptions& options, std::vector<PlannedMail>& mail
   const std::string stopped =
       RunMails(*sender, journal, run, {options.pause, options.a_day}, events);
   return MailLines(mails, options, {}, stopped.empty() ? "" : Utf8FromCodePage(stopped));
+}
+
+CommandResult CarryOut(const MailOptions& options, const MailContents& contents,
+                       std::vector<PlannedMail>& mails) {
+  if (options.dry_run) return MailLines(mails, options, "would be sent", {});
+  if (!options.eml.empty()) return WriteEmls(options, contents, mails, Platform().Now());
+  return SendAll(options, contents, mails);
 }
 
 CommandResult Mail(const MailOptions& options) {
@@ -216,28 +203,36 @@ CommandResult Mail(const MailOptions& options) {
                                              DateOrderOfOption(options.opening.date_order));
   SortStudents();
   std::vector<i16> students;
-  reason = TakeMailReport(options);
-  if (reason.empty()) reason = TakeMailStudents(options, students);
+  MailContents contents;
+  reason = TakeMailStudents(options, students);
+  if (reason.empty() && options.letter.empty()) reason = TakeMailReport(options.report, contents);
   if (!reason.empty()) return Refused(options.file, reason);
+  if (!options.letter.empty()) reason = TakeMailLetter(options.letter, students, contents);
+  if (!reason.empty()) return Refused(options.letter, reason);
   std::vector<PlannedMail> mails = PlanMails(students, *subject);
   reason = SharedAddress(mails);
   if (!reason.empty() && !options.allow_shared) return Refused(options.file, reason);
-  if (options.dry_run) return MailLines(mails, options, "would be sent", {});
-  if (!options.eml.empty()) return WriteEmls(options, mails, Platform().Now());
-  return SendAll(options, mails);
+  CommandResult result = CarryOut(options, contents, mails);
+  if (result.refused) return result;
+  for (const std::string& note : contents.notes)
+    result.note += (result.note.empty() ? "" : "\n") + ReasonLine(options.letter, note);
+  return result;
 }
 
 }  // namespace
 
 void AddMailCommand(Command& app, ChosenCommand& chosen) {
-  Command command = app.AddCommand("mail", "Sends each student's report to that student's address");
+  Command command =
+      app.AddCommand("mail", "Sends each student's report or letter to that student's address");
   const auto options = std::make_shared<MailOptions>();
   command.AddOption("FILE", options->file, "the class file").Required();
-  command.AddOption("--report", options->code, "the code of a report on single students")
-      .Required();
-  command.AddOption("--student", options->students, "a student's ID; may be given again")
-      .OneValueEach();
-  command.AddOption("--subject", options->subject, "of every message; \"Report\" otherwise");
+  auto letter =
+      command.AddOption("--letter", options->letter, "a form letter: .rtf, otherwise plain text");
+  command.AddOption("--report", options->report.code, "the code of a report on single students")
+      .Excludes(letter);
+  AddStudents(command, options->students);
+  command.AddOption("--subject", options->subject,
+                    "of every message; otherwise \"Report\", or the letter's name");
   command.AddOption("--from", options->from, "your address").Required();
   AddAccountOptions(command, options->account);
   command.AddFlag("--pdf", options->pdf, "with the report attached as PDF");
@@ -248,9 +243,9 @@ void AddMailCommand(Command& app, ChosenCommand& chosen) {
                   "an address may stand for several students");
   command.AddOption("--pause", options->pause, "seconds between two messages").Between(0, 3600);
   command.AddOption("--limit", options->a_day, "messages a day; the rest waits").Between(0, 100000);
-  command.AddFlag("--attendance", options->attendance, "with attendance summaries");
-  command.AddFlag("--comments", options->comments, "with comments");
-  command.AddFlag("--code-details", options->code_details, "with a table of the codes");
+  command.AddFlag("--attendance", options->report.attendance, "with attendance summaries");
+  command.AddFlag("--comments", options->report.comments, "with comments");
+  command.AddFlag("--code-details", options->report.codes, "with a table of the codes");
   AddNameMode(command, options->name_mode);
   AddOpenOptions(command, options->opening);
   command.WhenChosen(

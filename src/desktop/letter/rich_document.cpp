@@ -95,11 +95,6 @@ std::u16string KeptText(QString text) {
   return text.toStdU16String();
 }
 
-void InsertRuns(QTextCursor& cursor, const Paragraph& paragraph) {
-  for (const TextRun& run : paragraph.runs)
-    cursor.insertText(ShownText(run.text), FormatOf(run.style));
-}
-
 }  // namespace
 
 QTextCharFormat FormatOf(const TextStyle& style) {
@@ -201,6 +196,18 @@ RichText RichTextOf(const QTextDocument& document, const TextStyle& base) {
   return text;
 }
 
+// The toolkit joins what is typed to what was put in right before it, but not where the step ends
+// with something taken away.
+void CloseStep(QTextCursor& cursor) {
+  cursor.insertText(QStringLiteral(" "));
+  cursor.deletePreviousChar();
+  cursor.endEditBlock();
+}
+
+void InsertRuns(QTextCursor& cursor, const std::vector<TextRun>& runs) {
+  for (const TextRun& run : runs) cursor.insertText(ShownText(run.text), FormatOf(run.style));
+}
+
 void InsertParagraphs(QTextCursor cursor, const std::vector<Paragraph>& paragraphs) {
   cursor.beginEditBlock();
   cursor.removeSelectedText();
@@ -208,9 +215,9 @@ void InsertParagraphs(QTextCursor cursor, const std::vector<Paragraph>& paragrap
     cursor.setBlockFormat(FormatOf(paragraphs.front().style));
   for (std::size_t i = 0; i < paragraphs.size(); ++i) {
     if (i > 0) cursor.insertBlock(FormatOf(paragraphs[i].style), FormatOf(paragraphs[i].mark));
-    InsertRuns(cursor, paragraphs[i]);
+    InsertRuns(cursor, paragraphs[i].runs);
   }
-  cursor.endEditBlock();
+  CloseStep(cursor);
 }
 
 void ReplaceBlocks(QTextDocument& document, int first, int end, const Paragraph* begin_new,
@@ -227,9 +234,15 @@ void ReplaceBlocks(QTextDocument& document, int first, int end, const Paragraph*
     } else {
       cursor.insertBlock(FormatOf(paragraph->style), FormatOf(paragraph->mark));
     }
-    InsertRuns(cursor, *paragraph);
+    InsertRuns(cursor, paragraph->runs);
   }
-  cursor.endEditBlock();
+  CloseStep(cursor);
+}
+
+void InsertAsStep(QTextCursor cursor, const QString& text) {
+  cursor.beginEditBlock();
+  cursor.insertText(text);
+  CloseStep(cursor);
 }
 
 }  // namespace tallyroll

@@ -23,6 +23,10 @@ TextAlign AlignOf(const QTextBlockFormat& format);
 Paragraph ParagraphOf(const QTextBlock& block, const TextStyle& base);
 RichText RichTextOf(const QTextDocument& document, const TextStyle& base);
 
+// Ends an edit block, so that what is typed next to it is a step of its own to be undone.
+void CloseStep(QTextCursor& cursor);
+void InsertRuns(QTextCursor& cursor, const std::vector<TextRun>& runs);
+
 // Puts paragraphs in the place of the cursor's selection. The last of them runs on into what stands
 // behind it, and the first stays what it was where text stands before the cursor.
 void InsertParagraphs(QTextCursor cursor, const std::vector<Paragraph>& paragraphs);
@@ -30,5 +34,7 @@ void InsertParagraphs(QTextCursor cursor, const std::vector<Paragraph>& paragrap
 // nothing.
 void ReplaceBlocks(QTextDocument& document, int first, int end, const Paragraph* begin_new,
                    const Paragraph* end_new);
+// Puts a text in the place of the cursor's selection.
+void InsertAsStep(QTextCursor cursor, const QString& text);
 
 }  // namespace tallyroll

@@ -139,7 +139,7 @@ void RichTextEdit::insertFromMimeData(const QMimeData* source) {
     pasted.setHtml(source->html());
     return InsertParagraphs(textCursor(), RichTextOf(pasted, base_).paragraphs);
   }
-  if (source->hasText()) textCursor().insertText(source->text());
+  if (source->hasText()) InsertAsStep(textCursor(), source->text());
   ensureCursorVisible();
 }
 
@@ -184,7 +184,7 @@ void RichTextEdit::AddSuggestions(QMenu& menu, const QTextCursor& place) {
   for (const QString& better :
        marks_->spelling().Suggestions(word.selectedText()).mid(0, kMostSuggestions)) {
     auto* act = new QAction(better, &menu);
-    connect(act, &QAction::triggered, this, [word, better]() mutable { word.insertText(better); });
+    connect(act, &QAction::triggered, this, [word, better] { InsertAsStep(word, better); });
     menu.insertAction(below, act);
   }
   auto* learn = new QAction(tr("Add to My Words"), &menu);

@@ -2,7 +2,9 @@
 #include "desktop/platform/message_box.h"
 
 #include <QCloseEvent>
+#include <QGridLayout>
 #include <QKeyEvent>
+#include <QLabel>
 #include <QMessageBox>
 
 #include "desktop/basics/text_conversion.h"
@@ -73,6 +75,18 @@ class DecisionBox : public QMessageBox {
   }
 };
 
+// Words beside their sign, and wide enough that the title above them can be read.
+void SetOut(QMessageBox& box) {
+  constexpr int kLeastLetters = 32;
+  auto* rows = qobject_cast<QGridLayout*>(box.layout());
+  auto* words = box.findChild<QLabel*>(QStringLiteral("qt_msgbox_label"));
+  if (!rows || !words) return;
+  rows->setHorizontalSpacing(words->fontMetrics().averageCharWidth());
+  // A longer text has its width from the box, which may wrap it.
+  const int least = words->fontMetrics().averageCharWidth() * kLeastLetters;
+  if (words->sizeHint().width() < least) words->setMinimumWidth(least);
+}
+
 }  // namespace
 
 BoxAnswer ShowMessageBox(const MessageRequest& request, QWidget* parent) {
@@ -85,6 +99,7 @@ BoxAnswer ShowMessageBox(const MessageRequest& request, QWidget* parent) {
   const auto buttons = ButtonsOf(request.buttons);
   for (const auto button : buttons) box.addButton(button);
   box.setDefaultButton(buttons[request.second_is_default && buttons.size() > 1 ? 1 : 0]);
+  SetOut(box);
   box.must_choose = request.buttons == BoxButtons::kYesNo;
   if (!box.must_choose) box.setEscapeButton(buttons.last());
   return AnswerOf(box.exec());

@@ -6,6 +6,7 @@
 #include <QDateEdit>
 #include <QEvent>
 #include <QLineEdit>
+#include <QPushButton>
 #include <QSignalBlocker>
 #include <QStackedWidget>
 #include <QTabWidget>
@@ -123,7 +124,19 @@ class PagesBinding : public Binding<Pages, QStackedWidget> {
 
  protected:
   void ShowValue() override {
-    if (widget_.currentIndex() != control_.Current) widget_.setCurrentIndex(control_.Current);
+    if (widget_.currentIndex() == control_.Current) return;
+    widget_.setCurrentIndex(control_.Current);
+    GiveEnterToPage();
+  }
+
+ private:
+  // A page may name the button that Enter presses while it is shown.
+  void GiveEnterToPage() {
+    const QWidget* page = widget_.currentWidget();
+    if (!page) return;
+    const QString name = page->property("mainAction").toString();
+    if (auto* button = widget_.window()->findChild<QPushButton*>(name); button && !name.isEmpty())
+      button->setDefault(true);
   }
 };
 

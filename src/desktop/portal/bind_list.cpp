@@ -58,6 +58,7 @@ class ListBinding : public Binding<ListBox, QListWidget> {
   void ShowValue() override {
     const QSignalBlocker silence(widget_);
     if (control_.List != list_) Fill();
+    if (control_.Counts != counts_) ShowCounts();
     if (control_.Checks) ShowTicks();
     if (widget_.currentRow() != control_.ListIndex) {
       widget_.setCurrentRow(control_.ListIndex);
@@ -168,7 +169,22 @@ class ListBinding : public Binding<ListBox, QListWidget> {
     }
   }
 
+  // The number at the end of a line is read with it.
+  void ShowCounts() {
+    counts_ = control_.Counts;
+    for (int row = 0; row < widget_.count(); ++row) {
+      const auto at = static_cast<std::size_t>(row);
+      const int count = at < counts_.size() ? counts_[at] : 0;
+      QListWidgetItem& item = *widget_.item(row);
+      item.setData(ListColumns::kCountRole, count);
+      QString words = item.text().replace(QLatin1Char('\t'), QLatin1Char(' '));
+      if (count > 0) words += QStringLiteral(", %1").arg(count);
+      item.setData(Qt::AccessibleTextRole, words);
+    }
+  }
+
   void Fill() {
+    counts_.clear();
     const bool same_length = list_.size() == control_.List.size();
     list_ = control_.List;
     if (!same_length) widget_.clear();
@@ -177,6 +193,7 @@ class ListBinding : public Binding<ListBox, QListWidget> {
       QListWidgetItem* item = same_length ? widget_.item(row) : new QListWidgetItem(&widget_);
       QString text = FromText(list_[i]);
       item->setText(text);
+      item->setData(ListColumns::kCountRole, 0);
       item->setData(Qt::AccessibleTextRole, text.replace(QLatin1Char('\t'), QLatin1Char(' ')));
     }
     columns_->Measure(widget_);
@@ -185,6 +202,7 @@ class ListBinding : public Binding<ListBox, QListWidget> {
   TypedAhead typed_;
   ListColumns* columns_;  // the list's
   std::vector<std::string> list_;
+  std::vector<int> counts_;
   bool press_is_told_ = false;
   bool by_mouse_ = false;  // the last press on the list
 };

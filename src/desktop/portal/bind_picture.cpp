@@ -3,6 +3,7 @@
 #include <QEvent>
 #include <QPainter>
 #include <QScrollArea>
+#include <QScrollBar>
 
 #include "desktop/portal/control_binding.h"
 #include "desktop/portal/sheet_view.h"
@@ -29,10 +30,14 @@ class SheetBinding : public Binding<PictureBox, QScrollArea> {
   }
 
  protected:
-  void ShowValue() override { view_->ShowSheet(control_); }
+  void ShowValue() override { view_->ShowSheet(control_, Room()); }
 
   // The sheet lies on its desk and throws a shadow.
   bool eventFilter(QObject* watched, QEvent* event) override {
+    if (event->type() == QEvent::Resize && watched == widget_.viewport() &&
+        control_.Fit != SheetFit::kZoom)
+      QMetaObject::invokeMethod(
+          this, [this] { ShowValue(); }, Qt::QueuedConnection);
     if (event->type() != QEvent::Paint || watched != widget_.viewport())
       return ControlBinding::eventFilter(watched, event);
     QPainter painter(widget_.viewport());
@@ -48,6 +53,13 @@ class SheetBinding : public Binding<PictureBox, QScrollArea> {
   }
 
  private:
+  // What a fitted sheet has: the desk without its edge, whether or not a bar stands at its side.
+  QSize Room() const {
+    constexpr int kEdge = 12;
+    const int bar = widget_.verticalScrollBar()->sizeHint().width();
+    return widget_.size() - QSize(2 * kEdge + bar, 2 * kEdge);
+  }
+
   SheetView* view_;  // the area's
 };
 

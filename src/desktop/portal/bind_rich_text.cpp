@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "desktop/letter/paragraph_difference.h"
 #include "desktop/letter/rich_document.h"
 #include "desktop/letter/rich_text_edit.h"
 #include "desktop/letter/spelling.h"
@@ -131,10 +132,22 @@ class RichTextBinding : public Binding<RichTextBox, RichTextEdit> {
     while (tail < most - head && was[was.size() - 1 - tail] == now[now.size() - 1 - tail]) ++tail;
     // Something must stand on both sides to be replaced.
     if (head + tail == most) head > 0 ? --head : --tail;
-    ReplaceBlocks(*widget_.document(), static_cast<int>(head), static_cast<int>(was.size() - tail),
-                  now.data() + head, now.data() + now.size() - tail);
+    if (IsWithinOne(head, tail))
+      ReplaceWithin(*widget_.document(), static_cast<int>(head), was[head], now[head]);
+    else
+      ReplaceBlocks(*widget_.document(), static_cast<int>(head),
+                    static_cast<int>(was.size() - tail), now.data() + head,
+                    now.data() + now.size() - tail);
     shown_ = control_.Document;
     ForgetChanges();
+  }
+
+  // Whether what differs is text of one paragraph and nothing else.
+  bool IsWithinOne(std::size_t head, std::size_t tail) const {
+    const Paragraphs& was = shown_.paragraphs;
+    const Paragraphs& now = control_.Document.paragraphs;
+    return was.size() == now.size() && head + 1 + tail == was.size() &&
+           was[head].style == now[head].style && !was[head].runs.empty() && !now[head].runs.empty();
   }
 
   // Which blocks have changed since the last look, as how many at both ends have not.

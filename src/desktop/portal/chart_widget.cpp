@@ -17,6 +17,7 @@
 #include "desktop/basics/text_conversion.h"
 #include "desktop/paper/chart_picture.h"
 #include "desktop/paper/qt_print_target.h"
+#include "desktop/style/tokens.h"
 #include "platform/surroundings.h"
 #include "platform/svg_print_target.h"
 #include "store/safe_file.h"
@@ -67,8 +68,16 @@ void ChartWidget::ShowChart(const Chart* chart, unsigned revision) {
   update();
 }
 
-const ChartColors& ChartWidget::Colors() const {
-  return palette().color(QPalette::Base).lightnessF() > 0.5F ? kLightChart : kDarkChart;
+// On the sheet of every other table, in the colours of its words and lines.
+ChartColors ChartWidget::Colors() const {
+  const Tokens t = TokensOf(palette());
+  ChartColors colors = t.dark ? kDarkChart : kLightChart;
+  const auto rgb = [](const QColor& color) { return PrintColor{color.rgb() & 0xFFFFFF}; };
+  colors.ground = rgb(t.surface);
+  colors.text = rgb(t.text);
+  colors.grid = rgb(t.line);
+  colors.thin = rgb(t.muted);
+  return colors;
 }
 
 ChartFrame ChartWidget::FrameInTwips() const {

@@ -45,7 +45,7 @@ class ChartWidget : public QWidget {
   void contextMenuEvent(QContextMenuEvent* event) override;
 
  private:
-  const ChartColors& Colors() const;
+  ChartColors Colors() const;
   ChartFrame FrameInTwips() const;
   void DrawIfChanged();
   int SpotAt(QPointF pixels) const;

@@ -23,6 +23,8 @@
 #include "desktop/portal/code_page_text_edit.h"
 #include "desktop/portal/date_field.h"
 #include "desktop/portal/folding_text.h"
+#include "desktop/portal/form_labels.h"
+#include "desktop/portal/form_pictures.h"
 #include "desktop/portal/telling_label.h"
 #include "desktop/portal/total_figure.h"
 #include "desktop/style/program_style.h"
@@ -45,6 +47,10 @@ QWidget* MakeOwnWidget(const QString& class_name, QWidget* parent) {
   if (class_name == QLatin1String("tallyroll::FoldingText")) return new FoldingText(parent);
   if (class_name == QLatin1String("tallyroll::CodeKey")) return new CodeKey(parent);
   if (class_name == QLatin1String("tallyroll::DateArrow")) return new DateArrow(parent);
+  if (class_name == QLatin1String("tallyroll::ElidedLabel")) return new ElidedLabel(parent);
+  if (class_name == QLatin1String("tallyroll::ListCount")) return new ListCount(parent);
+  if (class_name == QLatin1String("tallyroll::MarginSheet")) return new MarginSheet(parent);
+  if (class_name == QLatin1String("tallyroll::SideStrip")) return new SideStrip(parent);
   if (class_name == QLatin1String("QDateEdit")) return new DateField(parent);
   return nullptr;
 }
@@ -55,9 +61,11 @@ bool IsOfClass(const QObject& object, const QString& class_name) {
   return class_name == QLatin1String(object.metaObject()->className());
 }
 
-// What a label's words are for, which the style draws them by, and the picture of a tool.
+// What a label's words are for, which the style draws them by; the picture of a tool; the button
+// that Enter presses while a page is shown.
 bool IsOwnProperty(const QObject& object, const QByteArray& property) {
-  return (property == "textUse" && qobject_cast<const QLabel*>(&object)) ||
+  return (property == "mainAction" && object.isWidgetType()) ||
+         (property == "textUse" && qobject_cast<const QLabel*>(&object)) ||
          (property == "iconName" && qobject_cast<const QToolButton*>(&object));
 }
 

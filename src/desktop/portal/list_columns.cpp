@@ -6,6 +6,8 @@
 #include <QPainter>
 #include <algorithm>
 
+#include "desktop/style/tokens.h"
+
 namespace tallyroll {
 namespace {
 
@@ -18,6 +20,32 @@ int TextLeft(const QStyleOptionViewItem& line, const QStyle& style) {
     return style.pixelMetric(QStyle::PM_FocusFrameHMargin, &line, line.widget) + 1;
   const QRect box = style.subElementRect(QStyle::SE_ItemViewItemCheckIndicator, &line, line.widget);
   return box.right() - line.rect.left() + 2 * kMargin;
+}
+
+QFont CountFont() {
+  return FontFor(QApplication::font(), TextUse::kChip);
+}
+
+// Of the number with its ground, 0 without one.
+int CountWidth(int count) {
+  if (count <= 0) return 0;
+  return QFontMetrics(CountFont()).horizontalAdvance(QString::number(count)) + 3 * kMargin;
+}
+
+void PaintCount(QPainter& painter, const QStyleOptionViewItem& option, int count) {
+  const Tokens t = TokensOf(option.palette);
+  const int width = CountWidth(count), height = QFontMetrics(CountFont()).height() + 2;
+  const QRect chip(option.rect.right() - width - kMargin, option.rect.center().y() - height / 2 + 1,
+                   width, height);
+  painter.save();
+  painter.setRenderHint(QPainter::Antialiasing);
+  painter.setPen(Qt::NoPen);
+  painter.setBrush(t.danger_soft);
+  painter.drawRoundedRect(chip, kMargin, kMargin);
+  painter.setFont(CountFont());
+  painter.setPen(t.danger);
+  painter.drawText(chip, Qt::AlignCenter, QString::number(count));
+  painter.restore();
 }
 
 }  // namespace
@@ -37,6 +65,13 @@ void ListColumns::Measure(const QListWidget& list) {
 
 void ListColumns::paint(QPainter* painter, const QStyleOptionViewItem& option,
                         const QModelIndex& index) const {
+  PaintWords(painter, option, index);
+  if (const int count = index.data(kCountRole).toInt(); count > 0)
+    PaintCount(*painter, option, count);
+}
+
+void ListColumns::PaintWords(QPainter* painter, const QStyleOptionViewItem& option,
+                             const QModelIndex& index) const {
   QStyleOptionViewItem line = option;
   initStyleOption(&line, index);
   if (!line.text.contains(QLatin1Char('\t')))
@@ -57,12 +92,13 @@ void ListColumns::paint(QPainter* painter, const QStyleOptionViewItem& option,
 
 QSize ListColumns::sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const {
   QSize size = QStyledItemDelegate::sizeHint(option, index);
+  const int count = CountWidth(index.data(kCountRole).toInt());
   const auto columns = index.data().toString().count(QLatin1Char('\t')) + 1;
-  if (columns == 1) return size;
+  if (columns == 1) return size + QSize(count, 0);
   QStyleOptionViewItem line = option;
   initStyleOption(&line, index);
   const QStyle& style = line.widget ? *line.widget->style() : *QApplication::style();
-  size.setWidth(TextLeft(line, style) + Start(static_cast<int>(columns)) + kMargin);
+  size.setWidth(TextLeft(line, style) + Start(static_cast<int>(columns)) + kMargin + count);
   return size;
 }
 

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Paints the lines of a list whose columns are parted by tabs, each column as wide as its longest.
+// Paints the lines of a list whose columns are parted by tabs, each column as wide as its longest,
+// and the number that a line may have at its end.
 #pragma once
 
 #include <QList>
@@ -15,6 +16,9 @@ class ListColumns : public QStyledItemDelegate {
  public:
   using QStyledItemDelegate::QStyledItemDelegate;
 
+  // The number at the end of a line.
+  static constexpr int kCountRole = Qt::UserRole;
+
   // After each fill.
   void Measure(const QListWidget& list);
   // Where a column begins.
@@ -25,6 +29,9 @@ class ListColumns : public QStyledItemDelegate {
   QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override;
 
  private:
+  void PaintWords(QPainter* painter, const QStyleOptionViewItem& option,
+                  const QModelIndex& index) const;
+
   QList<int> starts_{0};
 };
 

@@ -2,6 +2,7 @@
 #include "desktop/portal/sheet_view.h"
 
 #include <QPainter>
+#include <algorithm>
 
 #include "desktop/paper/qt_print_target.h"
 
@@ -9,34 +10,47 @@ namespace tallyroll {
 namespace {
 
 constexpr double kTwipsPerInch = 1440;
+// Of a sheet that is fitted into a very small or a very large room.
+constexpr double kLeastZoom = 0.1, kGreatestZoom = 3;
 
 }  // namespace
 
 // A report lets waiting events run while it is drawn, and one of them may ask for another page:
 // that is drawn when this one is done, never in the middle of it.
-void SheetView::ShowSheet(const PictureBox& box) {
+void SheetView::ShowSheet(const PictureBox& box, const QSize& room) {
   if (drawing_ || !box.Draw) return;
   drawing_ = true;
-  while (shown_ != LookOf(box)) {
-    shown_ = LookOf(box);
-    sheet_ = Draw(box);
+  while (shown_ != LookOf(box, room)) {
+    shown_ = LookOf(box, room);
+    sheet_ = Draw(box, shown_.zoom);
     setFixedSize(sheet_.deviceIndependentSize().toSize());
     update();
   }
   drawing_ = false;
 }
 
-QPixmap SheetView::Draw(const PictureBox& box) const {
+SheetView::Look SheetView::LookOf(const PictureBox& box, const QSize& room) const {
+  Look look{box.Revision, box.Zoom, box.SheetWidth, box.SheetHeight};
+  if (box.Fit == SheetFit::kZoom || box.SheetWidth <= 0 || box.SheetHeight <= 0) return look;
+  look.zoom = room.width() / (box.SheetWidth * logicalDpiX() / kTwipsPerInch);
+  if (box.Fit == SheetFit::kPage)
+    look.zoom =
+        std::min(look.zoom, room.height() / (box.SheetHeight * logicalDpiY() / kTwipsPerInch));
+  look.zoom = std::clamp(look.zoom, kLeastZoom, kGreatestZoom);
+  return look;
+}
+
+QPixmap SheetView::Draw(const PictureBox& box, double zoom) const {
   const double ratio = devicePixelRatioF();
-  const QSizeF size(box.SheetWidth * logicalDpiX() / kTwipsPerInch * box.Zoom,
-                    box.SheetHeight * logicalDpiY() / kTwipsPerInch * box.Zoom);
+  const QSizeF size(box.SheetWidth * logicalDpiX() / kTwipsPerInch * zoom,
+                    box.SheetHeight * logicalDpiY() / kTwipsPerInch * zoom);
   QPixmap pixmap((size * ratio).toSize());
   pixmap.setDevicePixelRatio(ratio);
   pixmap.fill(Qt::white);
   if (pixmap.isNull()) return pixmap;
   QPainter painter(&pixmap);
   ScaleToTwips(painter, *this);
-  painter.scale(box.Zoom, box.Zoom);
+  painter.scale(zoom, zoom);
   QtPrintTarget target({box.SheetWidth, box.SheetHeight, box.SheetWidth, box.SheetHeight},
                        &painter);
   box.Draw(target);

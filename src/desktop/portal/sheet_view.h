@@ -15,8 +15,9 @@ class SheetView : public QWidget {
  public:
   using QWidget::QWidget;
 
-  // Draws the sheet anew when it has changed since the last time, and only then.
-  void ShowSheet(const PictureBox& box);
+  // Draws the sheet anew when it has changed since the last time, and only then; as large as fits
+  // `room` where the box asks for that.
+  void ShowSheet(const PictureBox& box, const QSize& room);
 
  protected:
   void paintEvent(QPaintEvent* event) override;
@@ -28,10 +29,8 @@ class SheetView : public QWidget {
 
     friend bool operator==(const Look&, const Look&) = default;
   };
-  static Look LookOf(const PictureBox& box) {
-    return {box.Revision, box.Zoom, box.SheetWidth, box.SheetHeight};
-  }
-  QPixmap Draw(const PictureBox& box) const;
+  Look LookOf(const PictureBox& box, const QSize& room) const;
+  QPixmap Draw(const PictureBox& box, double zoom) const;
 
   Look shown_;
   QPixmap sheet_;

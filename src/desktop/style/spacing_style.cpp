@@ -80,7 +80,7 @@ std::optional<int> MeasureOf(QStyle::PixelMetric metric, const Measures& m, cons
     case QStyle::PM_ScrollView_ScrollBarSpacing:
       return 0;
     case QStyle::PM_TabBarTabHSpace:
-      return m.Px(32);
+      return m.Px(24);
     case QStyle::PM_TabBarTabVSpace:
       return m.Px(16);
     case QStyle::PM_TabBarTabShiftVertical:

@@ -39,6 +39,8 @@ class FrameWindow : public QMainWindow, public FrameScreen {
   void ShowAbout() override;
   std::vector<HelpTopic> HelpTopics() override;
 
+  // On a first start: the sample class, and steps that point at what is used every day.
+  void OfferTour();
   // Shows what the logic says now, in all windows; writes differences only.
   void Sync();
   // The class window in front; null while no class is open.

@@ -70,6 +70,8 @@ constexpr std::array kContexts = {
     820,  // unusual marks: frmunusual
     830,  // undo and redo
     840,  // the history of a class: frmhistory
+    870,  // work that was not saved: frmrecover
+    860,  // the class of an earlier day: frmsnapshots, frmsnapshot
     850,  // what a change of weights would do: frmchange
 };
 

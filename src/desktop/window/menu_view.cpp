@@ -7,6 +7,7 @@
 #include <QMenuBar>
 
 #include "desktop/basics/text_conversion.h"
+#include "shell/disabled_reason.h"
 
 namespace tallyroll {
 
@@ -29,7 +30,9 @@ QAction* MenuView::AddEntry(const MenuEntry& entry, bool has_menu, QMenu* in) {
   if (entry.name.empty() && !has_menu) return in->addSeparator();
   QAction* action = nullptr;
   if (has_menu) {
-    action = (new QMenu(in != nullptr ? static_cast<QWidget*>(in) : parent_))->menuAction();
+    auto* drops = new QMenu(in != nullptr ? static_cast<QWidget*>(in) : parent_);
+    drops->setToolTipsVisible(true);  // why an entry is off
+    action = drops->menuAction();
   } else {
     action = new QAction(this);
     const QString name = FromText(entry.name);
@@ -62,6 +65,7 @@ void MenuView::Sync() {
     if (const QString text = FromText(entry.caption); text != action->text()) action->setText(text);
     action->setStatusTip(FromText(entry.status));
     action->setEnabled(entry.enabled);
+    action->setToolTip(entry.enabled ? QString() : FromText(DisabledReason(*menu_, entry.name)));
     if (entry.checked) action->setCheckable(true);
     action->setChecked(entry.checked);
   }

@@ -106,6 +106,18 @@ void ToolbarView::resizeEvent(QResizeEvent* event) {
   ShowWords();
 }
 
+// A window that changes its height alone leaves the toolbar as large as it is.
+void ToolbarView::showEvent(QShowEvent* event) {
+  QToolBar::showEvent(event);
+  window()->installEventFilter(this);
+  ShowWords();
+}
+
+bool ToolbarView::eventFilter(QObject* watched, QEvent* event) {
+  if (watched == window() && event->type() == QEvent::Resize) ShowWords();
+  return QToolBar::eventFilter(watched, event);
+}
+
 void ToolbarView::contextMenuEvent(QContextMenuEvent* event) {
   Appearance* appearance = Appearance::Instance();
   if (appearance == nullptr) return;

@@ -67,12 +67,28 @@ std::optional<std::size_t> CsvSource::FindAny(const std::vector<std::string_view
   return std::nullopt;
 }
 
+bool CsvSource::Holds(const std::vector<CsvCell>& cells, std::size_t column) const {
+  return column >= cells.size() || text_->Holds(cells[column].raw);
+}
+
+std::string CsvSource::Shown(const std::vector<CsvCell>& cells, std::size_t column) const {
+  return column < cells.size() ? text_->Shown(cells[column].raw) : std::string();
+}
+
 bool CsvSource::HoldsTitle(std::size_t column) const {
-  return column >= columns() || text_->Holds(Titles()[column].raw);
+  return Holds(Titles(), column);
 }
 
 std::string CsvSource::ShownTitle(std::size_t column) const {
-  return column < columns() ? text_->Shown(Titles()[column].raw) : std::string();
+  return Shown(Titles(), column);
+}
+
+bool CsvSource::HoldsCell(std::size_t row, std::size_t column) const {
+  return Holds(CellsOf(table_, row + 1), column);
+}
+
+std::string CsvSource::ShownCell(std::size_t row, std::size_t column) const {
+  return Shown(CellsOf(table_, row + 1), column);
 }
 
 void TakeMark(const CsvSource& source, std::size_t row, std::size_t column, int student, int grade,

@@ -35,12 +35,16 @@ class CsvSource {
   std::optional<std::size_t> Find(std::string_view title) const;
   std::optional<std::size_t> FindAny(const std::vector<std::string_view>& titles) const;
 
-  // Whether a class file can hold the title as the file has it; what to show when it can't.
+  // Whether a class file can hold a title or a cell as the file has it; what to show when it can't.
   bool HoldsTitle(std::size_t column) const;
   std::string ShownTitle(std::size_t column) const;
+  bool HoldsCell(std::size_t row, std::size_t column) const;
+  std::string ShownCell(std::size_t row, std::size_t column) const;
 
  private:
   const std::vector<CsvCell>& Titles() const;
+  bool Holds(const std::vector<CsvCell>& cells, std::size_t column) const;
+  std::string Shown(const std::vector<CsvCell>& cells, std::size_t column) const;
 
   std::optional<SourceText> text_;
   CsvTable table_;

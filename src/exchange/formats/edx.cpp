@@ -1,8 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Open edX: its grade report, whose grades are parts of 1, and the file of bulk grades, which can
-// go back with new marks.
+// Open edX: its grade report, whose grades are parts of 1, the file of bulk grades, which can go
+// back with new marks, and the points of single problems, a line for each student and problem.
 #include <algorithm>
 #include <map>
+#include <set>
+#include <utility>
 
 #include "base/number_text.h"
 #include "base/text.h"
@@ -20,6 +22,11 @@ bool IsBulk(const CsvSource& source) {
   return source.Find("user_id") && source.Find("course_id");
 }
 
+bool IsProblems(const CsvSource& source) {
+  return source.Find("user_id") && source.Find("block_id") && source.Find("Previous Points") &&
+         source.Find("New Points");
+}
+
 bool IsReport(const CsvSource& source) {
   return source.Find("Student ID") && source.Find("Grade") && source.Find("Enrollment Status");
 }
@@ -33,6 +40,27 @@ class EdxReader {
       if (source_.Title(column).starts_with(kNamePrefix)) BulkTitle(column);
     for (std::size_t row = 0; row < source_.rows(); ++row)
       if (!source_.IsBlankRow(row)) BulkRow(row);
+    return std::move(table_);
+  }
+
+  ForeignTable Problems() {
+    std::map<std::string, int> students, problems;
+    std::set<std::pair<int, int>> known;
+    for (std::size_t row = 0; row < source_.rows(); ++row) {
+      if (source_.IsBlankRow(row)) continue;
+      const int problem = ProblemOf(row, problems);
+      const int student = StudentOf(row, students);
+      if (!known.emplace(student, problem).second) {
+        const auto column = static_cast<int>(*source_.Find("user_id")) + 1;
+        table_.faults.push_back({source_.LineOf(row), column, CellOf(row, "user_id"),
+                                 "has points for this problem on an earlier line already"});
+        continue;
+      }
+      const std::size_t changed = *source_.Find("New Points");
+      const bool is_new = !source_.Cell(row, changed).empty();
+      TakeMark(source_, row, is_new ? changed : *source_.Find("Previous Points"), student, problem,
+               table_);
+    }
     return std::move(table_);
   }
 
@@ -57,8 +85,10 @@ class EdxReader {
   void BulkTitle(std::size_t column) {
     ForeignGrade grade;
     grade.key = source_.Title(column).substr(kNamePrefix.size());
-    for (std::size_t row = 0; row < source_.rows() && grade.title.empty(); ++row)
+    for (std::size_t row = 0; row < source_.rows() && grade.title.empty(); ++row) {
       grade.title = source_.Cell(row, column);
+      if (!source_.HoldsCell(row, column)) grade.shown = source_.ShownCell(row, column);
+    }
     if (grade.title.empty()) grade.title = grade.key;
     const auto points = source_.Find("grade-" + grade.key);
     const auto changed = source_.Find("new_override-" + grade.key);
@@ -70,6 +100,37 @@ class EdxReader {
   std::string CellOf(std::size_t row, std::string_view title) const {
     const auto column = source_.Find(title);
     return column ? source_.Cell(row, *column) : std::string();
+  }
+
+  int ProblemOf(std::size_t row, std::map<std::string, int>& problems) {
+    const std::size_t block = *source_.Find("block_id");
+    const std::string key = source_.Cell(row, block);
+    const auto [known, added] = problems.emplace(key, static_cast<int>(table_.grades.size()));
+    if (!added) return known->second;
+    ForeignGrade grade;
+    grade.key = grade.title = key;
+    if (const auto title = source_.Find("title"); title && !source_.Cell(row, *title).empty()) {
+      grade.title = source_.Cell(row, *title);
+      if (!source_.HoldsCell(row, *title)) grade.shown = source_.ShownCell(row, *title);
+    }
+    grade.column = static_cast<int>(block) + 1;
+    grade.line = source_.LineOf(row);
+    table_.grades.push_back(std::move(grade));
+    return known->second;
+  }
+
+  int StudentOf(std::size_t row, std::map<std::string, int>& students) {
+    const std::string key = CellOf(row, "user_id");
+    const auto [known, added] = students.emplace(key, static_cast<int>(table_.students.size()));
+    if (!added) return known->second;
+    ForeignStudent student;
+    student.line = source_.LineOf(row);
+    student.key = key;
+    student.login = CellOf(row, "username");
+    student.id = CellOf(row, "student_uid");
+    TakeName(CellOf(row, "full_name"), student);
+    table_.students.push_back(std::move(student));
+    return known->second;
   }
 
   void BulkRow(std::size_t row) {
@@ -124,11 +185,12 @@ class EdxReader {
 }  // namespace
 
 bool LooksLikeEdx(const CsvSource& source) {
-  return IsBulk(source) || IsReport(source);
+  return IsBulk(source) || IsProblems(source) || IsReport(source);
 }
 
 ForeignTable ReadEdx(const CsvSource& source) {
   if (IsBulk(source)) return EdxReader(source).Bulk();
+  if (IsProblems(source)) return EdxReader(source).Problems();
   if (IsReport(source)) return EdxReader(source).Report();
   ForeignTable table;
   table.refusal = LacksColumns(source, {"user_id", "course_id"});

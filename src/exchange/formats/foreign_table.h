@@ -13,7 +13,8 @@ namespace tallyroll {
 
 struct ForeignGrade {
   std::string title;
-  std::string key;  // the other system's own identifier; empty where it gives none
+  std::string shown;  // the title where a class file lacks characters of it; else empty
+  std::string key;    // the other system's own identifier; empty where it gives none
   std::optional<Currency> maximum;
   std::string category;
   std::string date;       // "2026-09-01"; empty where there is none

@@ -31,6 +31,12 @@ class OneRosterTable {
     const auto column = source_.Find(title);
     return column ? source_.Cell(row, *column) : std::string();
   }
+  // The text of a cell of which a class file lacks characters; else empty.
+  std::string Lacking(std::size_t row, std::string_view title) const {
+    const auto column = source_.Find(title);
+    if (!column || source_.HoldsCell(row, *column)) return {};
+    return source_.ShownCell(row, *column);
+  }
   // What was deleted at the other side stands for the record alone.
   bool IsDeleted(std::size_t row) const { return Cell(row, "status") == "tobedeleted"; }
   int LineOf(std::size_t row) const { return source_.LineOf(row); }
@@ -148,6 +154,7 @@ class OneRosterReader {
       ForeignGrade grade;
       grade.key = key;
       grade.title = items->Cell(row, "title");
+      grade.shown = items->Lacking(row, "title");
       grade.line = items->LineOf(row);
       const std::string most = items->Cell(row, "resultValueMax");
       grade.maximum = ForeignNumber(most);

@@ -4,6 +4,7 @@
 #include <filesystem>
 
 #include "base/code_page.h"
+#include "base/number_text.h"
 #include "base/text.h"
 #include "letters/mail/mail_draft.h"
 #include "letters/mail/mail_settings.h"
@@ -14,6 +15,7 @@
 #include "store/program_state.h"
 #include "store/safe_file.h"
 #include "store/settings.h"
+#include "store/student_names.h"
 
 namespace tallyroll {
 namespace {
@@ -87,6 +89,7 @@ void frmSendMail::Load() {
   txtSender.Text = SenderAddress;
   txtSubject.Text = Draft.subject;
   ReadText();
+  text_at_first_ = txtMessage.Text;
   student_ = CurrentStudent;
   Connection.ListIndex = static_cast<int>(StoredMailSecurity());
   Connection.Text = Connection.List[static_cast<std::size_t>(Connection.ListIndex)];
@@ -96,6 +99,7 @@ void frmSendMail::Load() {
   cmdMany.Enabled = !Draft.letter || Draft.text_of;
   FillCombo1();
   if (!Draft.recipient.empty()) txtRecipient.Text = Draft.recipient;
+  if (Draft.text_of) ShowThatItIsForSeveral();
   if (MakeSocket) socket_ = MakeSocket();
   if (socket_) {
     socket_->data_arrival = [this] { DataArrived(); };
@@ -134,10 +138,23 @@ void frmSendMail::FillCombo1() {
   Combo1_Change();
 }
 
+// What went to one of them now would go there once more with the others.
+void frmSendMail::ShowThatItIsForSeveral() {
+  txtRecipient.Text.clear();
+  Combo1.ListIndex = -1;
+  Combo1.Text.clear();
+  txtRecipient.Enabled = Combo1.Enabled = insert.Enabled = save.Enabled = false;
+  cmdSend.Enabled = connect.Enabled = false;
+  const int count = static_cast<int>(Draft.students.size());
+  status.Caption = "For " + PlainNumberText(count) + (count == 1 ? " student" : " students") +
+                   ", each their own letter. This is the one for " +
+                   PlainName(Current().Students[static_cast<std::size_t>(student_)]) + ".";
+}
+
 void frmSendMail::FocusFirstEmpty() {
   if (txtHost.Text.empty() && txtRecipient.Text.empty()) return;
   for (const TextBox* box : {&txtHost, &txtRecipient, &txtSubject})
-    if (box->Text.empty()) return SetFocus(*box);
+    if (box->Text.empty() && box->Enabled) return SetFocus(*box);
 }
 
 void frmSendMail::Combo1_Change() {

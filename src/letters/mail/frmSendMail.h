@@ -60,8 +60,12 @@ struct frmSendMail : Portal {
   // Tells what is missing; false then.
   enum class Recipients { kOne, kSeveral };
   bool Validate(Recipients recipients = Recipients::kOne);
-  // A report on one student goes to another one's address only when that is meant.
+  // A report on one student, or a letter to one, goes to another one's address only when that is
+  // meant.
   bool GoesToTheRightOne();
+  // Letters to several: nothing here goes to one address.
+  void ShowThatItIsForSeveral();
+  bool ChangesMayBeLost();
   // False when the teacher thinks better of it.
   bool PasswordMayTravel(const std::string& host);
   MailSecurity Security() const { return static_cast<MailSecurity>(Connection.ListIndex); }
@@ -85,7 +89,8 @@ struct frmSendMail : Portal {
   void TellSent();
   std::string SavedMessage() const;
 
-  i16 student_ = 0;  // whose report it is
+  i16 student_ = 0;  // whose report or letter it is
+  std::string text_at_first_;
   SmtpDialogue dialogue_;
   std::unique_ptr<Socket> socket_;
   std::string received_;    // of a reply that is not whole yet

@@ -178,7 +178,7 @@ bool frmSendMany::MakeMessage(const PlannedMail& planned) {
   mail.mime.from = Batch.sender;
   mail.mime.to = planned.entry.address;
   mail.mime.subject = Utf8FromCodePage(Batch.subject);
-  mail.mime.text = Utf8FromCodePage(Batch.text_of(planned.student));
+  mail.mime.text = Batch.text_of(planned.student);
   mail.mime.attachments = Batch.attachments;
   if (mail.mime.text.empty()) return false;
   if (!Batch.pdf) return true;
@@ -195,7 +195,7 @@ bool frmSendMany::MakeMessages() {
   for (const PlannedMail& mail : mails_) {
     if (!IsToBeSent(mail, shared.Value)) continue;
     if (!MakeMessage(mail)) {
-      ShowMessage("There is no report on " + mail.entry.name + ". Nothing was sent.");
+      ShowMessage("There is no message for " + mail.entry.name + ". Nothing was sent.");
       return false;
     }
     status.Caption = "Preparing message " + Number(run_.size());

@@ -14,11 +14,11 @@ namespace tallyroll {
 
 struct MailBatch {
   MailAccount account;
-  std::string sender, subject;  // in the code page
-  std::vector<i16> students;    // Students indices
-  std::function<std::string(i16 student)> text_of;
-  std::vector<MailAttachment> attachments;  // the same for everybody
-  bool pdf = false;                         // the report on each is attached
+  std::string sender, subject;                      // in the code page
+  std::vector<i16> students;                        // Students indices
+  std::function<std::string(i16 student)> text_of;  // in UTF-8
+  std::vector<MailAttachment> attachments;          // the same for everybody
+  bool pdf = false;                                 // the report on each is attached
 };
 
 extern MailBatch Batch;  // set before ShowPortal("frmSendMany"); cleared by whoever set it

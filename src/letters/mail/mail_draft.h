@@ -18,7 +18,8 @@ struct MailDraft {
   std::string recipient;  // an address, in the code page; empty: that of the student in work
   std::string subject;
   bool letter = false;  // not the report of the preview: there is none to attach
-  // To send a letter to several: the students, and the text for each of them.
+  // To send a letter to several: the students, and the text for each of them, in UTF-8. The message
+  // shown is then the one of the first.
   std::vector<i16> students = {};
   std::function<std::string(i16 student)> text_of = {};
 };

@@ -42,8 +42,8 @@ bool frmSendMail::Validate(Recipients recipients) {
 
 bool frmSendMail::GoesToTheRightOne() {
   const Class& c = Current();
-  if (Draft.letter || !IsOnSingleStudents() || student_ < 1 || student_ > c.NumStudents)
-    return true;
+  const bool on_one = Draft.letter || IsOnSingleStudents();
+  if (!on_one || student_ < 1 || student_ > c.NumStudents) return true;
   const std::string to = LowerCase(Trim(txtRecipient.Text));
   const auto has_it = [&to](const Student& each) { return LowerCase(Trim(each.email)) == to; };
   const Student& shown = c.Students[static_cast<std::size_t>(student_)];
@@ -51,8 +51,9 @@ bool frmSendMail::GoesToTheRightOne() {
   for (i16 i = 1; i <= c.NumStudents; ++i) {
     const Student& other = c.Students[static_cast<std::size_t>(i)];
     if (!has_it(other)) continue;
-    return Ask("The report is on " + PlainName(shown) + ", and the address is that of " +
-                   PlainName(other) + ". Send it there all the same?",
+    const std::string what = Draft.letter ? "The letter is for " : "The report is on ";
+    return Ask(what + PlainName(shown) + ", and the address is that of " + PlainName(other) +
+                   ". Send it there all the same?",
                BoxButtons::kYesNo, BoxIcon::kExclamation) == BoxAnswer::kYes;
   }
   return true;

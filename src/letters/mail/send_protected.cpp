@@ -28,6 +28,10 @@ std::string InCodePage(const std::string& utf8) {
   return text ? text->text : std::string();
 }
 
+std::string ReportMessage(i16 student) {
+  return Utf8FromCodePage(TextOfStudent(student));
+}
+
 }  // namespace
 
 bool frmSendMail::TakeAccount(MailAccount& account) {
@@ -139,6 +143,15 @@ void frmSendMail::cmdCancel_Click() {
   status.Caption = "Cancelling";
 }
 
+// What was typed into the text stands in no report and in no letter.
+bool frmSendMail::ChangesMayBeLost() {
+  if (txtMessage.Text == text_at_first_) return true;
+  const std::string what = Draft.letter ? "letter" : "report";
+  return Ask("Each student gets their own " + what +
+                 ", and what you have changed in this text goes to nobody. Go on?",
+             BoxButtons::kYesNo, BoxIcon::kQuestion) == BoxAnswer::kYes;
+}
+
 // The report on each, or the letter to each; what shows the whole class goes to nobody.
 void frmSendMail::cmdMany_Click() {
   const bool letters = Draft.letter && Draft.text_of;
@@ -153,12 +166,17 @@ void frmSendMail::cmdMany_Click() {
     return;
   }
   if (!Validate(Recipients::kSeveral) || !SenderIsGood()) return;
+  if (letters && Trim(txtSubject.Text).empty()) {
+    ShowMessage("Letters to several need a subject: it tells this run from another.");
+    return SetFocus(txtSubject);
+  }
+  if (!ChangesMayBeLost()) return;
   Batch = MailBatch();
   if (!TakeAccount(Batch.account) || !AddFile(Batch.attachments)) return;
   Batch.sender = Trim(txtSender.Text);
   Batch.subject = txtSubject.Text;
   Batch.students = letters ? Draft.students : Choice.students;
-  Batch.text_of = letters ? Draft.text_of : TextOfStudent;
+  Batch.text_of = letters ? Draft.text_of : ReportMessage;
   Batch.pdf = attachpdf.Value;
   ShowPortal("frmSendMany");
   Batch = MailBatch();

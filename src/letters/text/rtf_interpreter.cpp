@@ -18,10 +18,6 @@ bool HasText(const std::vector<Paragraph>& paragraphs) {
   });
 }
 
-bool IsControlByte(char c) {
-  return static_cast<unsigned char>(c) < ' ';
-}
-
 bool ChangesPageOrStyle(RtfKind kind) {
   return kind != RtfKind::kText && kind != RtfKind::kByte;
 }
@@ -180,12 +176,16 @@ void RtfInterpreter::Flush() {
 }
 
 void RtfInterpreter::AppendFontBytes() {
-  std::string& name = fonts[font_in_table].name;
   const int page = PageInForce() == kSymbolPage ? kWesternPage : PageInForce();
+  AppendFontUnits(decoder_.Decode(bytes_, page));
+}
+
+void RtfInterpreter::AppendFontUnits(std::u16string_view units) {
   has_style_ = false;
-  const std::string text = Utf8FromUtf16(decoder_.Decode(bytes_, page));
-  name += text.substr(0, text.find(';'));
-  std::replace_if(name.begin(), name.end(), IsControlByte, ' ');
+  std::u16string& name = fonts[font_in_table].name;
+  name += units.substr(0, units.find(u';'));
+  std::replace_if(
+      name.begin(), name.end(), [](char16_t unit) { return unit < u' '; }, u' ');
 }
 
 void RtfInterpreter::AppendColor() {
@@ -202,8 +202,8 @@ TextStyle RtfInterpreter::StyleOf(const RtfCharacter& character) const {
   TextStyle style;
   const auto font = fonts.find(character.font);
   // The name came in pieces, of which each may end in a blank.
-  const std::string_view name = font == fonts.end() ? std::string_view() : Trim(font->second.name);
-  if (!name.empty()) style.font = name;
+  const std::string name = font == fonts.end() ? std::string() : Utf8FromUtf16(font->second.name);
+  if (!Trim(name).empty()) style.font = Trim(name);
   style.half_points = character.half_points;
   style.bold = character.bold;
   style.italic = character.italic;
@@ -219,6 +219,7 @@ TextStyle RtfInterpreter::StyleOf(const RtfCharacter& character) const {
 }
 
 void RtfInterpreter::AppendUnits(std::u16string_view units) {
+  if (Group().place == RtfPlace::kFonts) return AppendFontUnits(units);
   if (Group().place != RtfPlace::kLetter || units.empty()) return;
   if (Group().character.hidden) {
     counts.hidden = true;

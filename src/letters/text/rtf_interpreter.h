@@ -45,7 +45,7 @@ struct RtfGroup {
 };
 
 struct RtfFont {
-  std::string name;
+  std::u16string name;
   int page = 0;  // 0: that of the file
 };
 
@@ -106,6 +106,7 @@ struct RtfInterpreter {
   bool Skips(const RtfToken& token);
   void Flush();
   void AppendFontBytes();
+  void AppendFontUnits(std::u16string_view units);
   void AppendColor();
   int PageInForce() const;
   void EndStory();

@@ -38,6 +38,7 @@ void frmwrdproc::DeclareFile(ControlTable& table) {
   table.Add("mnusavest", mnusavest).Click([this] { mnusavest_Click(); });
   table.Add("mnupdf", mnupdf).Click([this] { mnupdf_Click(); });
   table.Add("mnuemail", mnuemail).Click([this] { mnuemail_Click(); });
+  table.Add("mnumany", mnumany).Click([this] { mnumany_Click(); });
   table.Add("mnuExit", mnuExit).Click([this] { QueryUnload(); });
 }
 

@@ -25,7 +25,7 @@ struct frmwrdproc : Portal {
 
   // The menu.
   CommandButton mnuNew, mnuOpen, mnusave, mnusaveas;
-  CommandButton mnuPrint, mnuform, labels, mnusavest, mnupdf, mnuemail, mnuExit;
+  CommandButton mnuPrint, mnuform, labels, mnusavest, mnupdf, mnuemail, mnumany, mnuExit;
   CommandButton mnuundo, mnuredo, mnucut, mnucopy, mnupaste, mnuall;
   CommandButton mnuFind, mnusentence, mnuword, mnubreak;
   CheckBox mnubold, mnuitalic, mnuunderline, mnustrike;
@@ -101,6 +101,7 @@ struct frmwrdproc : Portal {
   void mnusavest_Click();
   void mnupdf_Click();
   void mnuemail_Click();
+  void mnumany_Click();
   void labels_Click();
   void Command1_Click();
   void Command2_Click();

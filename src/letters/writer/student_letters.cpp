@@ -12,6 +12,7 @@
 #include "letters/merge/merge.h"
 #include "letters/page/print_letters.h"
 #include "letters/text/letter_file.h"
+#include "letters/text/letter_message.h"
 #include "letters/writer/frmwrdproc.h"
 #include "letters/writer/letter_dialogs.h"
 #include "platform/class_window.h"
@@ -47,19 +48,20 @@ std::string Joined(const std::vector<std::string>& lines) {
 // A letter as the text of a message; nothing when the teacher would rather not lose what a message
 // has no character for.
 std::optional<std::string> MessageOf(const RichText& letter) {
-  const auto text = CodePageTextFromUtf8(Utf8FromUtf16(PlainText(letter)));
+  const auto text = CodePageTextFromUtf8(LetterMessage(letter));
   if (!text) return std::nullopt;
   if (!text->lacking.empty() &&
       Ask("A message cannot hold " + PlainNumberText(static_cast<int>(text->lacking.size())) +
               " of the letter's characters; \"?\" will stand in their place. Go on?",
           BoxButtons::kYesNo, BoxIcon::kQuestion) != BoxAnswer::kYes)
     return std::nullopt;
-  std::string lines;
-  for (const char character : text->text) {
-    if (character == '\n') lines += '\r';
-    lines += character;
-  }
-  return lines;
+  return text->text;
+}
+
+// What the E-mail Portal shows of letters to several: the one of the first.
+std::string ShownMessage(const RichText& letter) {
+  const auto text = CodePageTextFromUtf8(LetterMessage(letter));
+  return text ? text->text : std::string();
 }
 
 // Files that are there already are gone over only with the teacher's leave.
@@ -197,6 +199,22 @@ void frmwrdproc::mnuemail_Click() {
   if (WriteTempFile(*body) != 0) return TellSaveFailure(TempFilePath());
   Draft = MailDraft();
   Draft.letter = true;
+  ShowPortal("frmSendMail");
+}
+
+// Runs of mail are told apart by their subject, so a letter's name is a good one to begin with.
+void frmwrdproc::mnumany_Click() {
+  const std::vector<i16> students = ChosenOrTold();
+  if (students.empty() || !ReadyToLeave(students)) return;
+  const RichText& form = RichTextBox1.Document;
+  if (WriteTempFile(ShownMessage(MergeLetter(form, students.front()).text)) != 0)
+    return TellSaveFailure(TempFilePath());
+  CurrentStudent = students.front();
+  Draft = MailDraft();
+  Draft.letter = true;
+  Draft.subject = PathForDisplay(std::filesystem::path(file_).stem().string());
+  Draft.students = students;
+  Draft.text_of = [form](i16 student) { return LetterMessage(MergeLetter(form, student).text); };
   ShowPortal("frmSendMail");
 }
 

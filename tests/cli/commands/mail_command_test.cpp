@@ -88,5 +88,65 @@ TEST_F(MailCommandTest, WhatCannotBeSentIsRefusedBeforehand) {
                 file_ + ": --from must be an address, name@domain");
 }
 
+class MailLetterTest : public MailCommandTest {
+ protected:
+  CliRun Letter(std::vector<std::string> options) const {
+    std::vector<std::string> line = {"mail", file_, "--letter", letter, "--from", "t@school.org"};
+    line.insert(line.end(), options.begin(), options.end());
+    return RunCli(line);
+  }
+  const std::string letter =
+      Put("Progress.rtf", "{\\rtf1\\ansi Dear {\\b <First} Name>,\\par \\u913?lpha}");
+};
+
+TEST_F(MailLetterTest, EachGetsTheirOwnAndNobodyElses) {
+  const CliRun run = Letter({"--eml", Path("out")});
+  EXPECT_EQ(run.status, 0) << run.err;
+  EXPECT_EQ(run.out, "written\t7\tada@home.org\nwritten\t3\tbo@home.org\n");
+  const std::string ada = Get(Path("out/7 Ng, Ada.eml"));
+  EXPECT_NE(ada.find("\r\nSubject: Progress\r\n"), std::string::npos) << ada;
+  EXPECT_NE(ada.find("\r\n\r\nDear Ada,\r\n=CE=91lpha"), std::string::npos) << ada;
+  const std::string bo = Get(Path("out/3 O'Hara, B\xC3\xB6.eml"));
+  EXPECT_NE(bo.find("\r\n\r\nDear B=C3=B6,\r\n"), std::string::npos) << bo;
+  EXPECT_EQ(bo.find("Ada"), std::string::npos);
+}
+
+TEST_F(MailLetterTest, AStudentNamedTwiceGetsOne) {
+  const CliRun run = Letter({"--dry-run", "--student", "7", "--student", "7"});
+  EXPECT_EQ(run.status, 0) << run.err;
+  EXPECT_EQ(run.out, "would be sent\t7\tada@home.org\n");
+}
+
+TEST_F(MailLetterTest, WhatIsLeftEmptyOrOutIsTold) {
+  Put("Progress.rtf", "{\\rtf1 <City>!{\\pict 00}}");
+  const CliRun run = Letter({"--dry-run", "--student", "7"});
+  EXPECT_EQ(run.status, 0);
+  EXPECT_EQ(run.out, "would be sent\t7\tada@home.org\n");
+  EXPECT_EQ(run.err,
+            letter + ": 1 picture was left out\n" + letter + ": <City> is empty for Ng, Ada.\n");
+}
+
+TEST_F(MailLetterTest, ALetterThatIsNotInOrderGoesToNobody) {
+  const auto refused = [this](const char* text, const std::string& why) {
+    Put("Progress.rtf", text);
+    ExpectRefused(Letter({"--eml", Path("out")}), letter + ": " + why);
+    EXPECT_FALSE(std::filesystem::exists(Path("out")));
+  };
+  refused("{\\rtf1 <Nickname>}", "<Nickname> is no code: it would stand in the letter as it is.");
+  refused("{\\rtf1 a", "it ends before its last group does");
+  Put("Progress.rtf", "{\\rtf1 }");
+  ExpectRefused(Letter({"--eml", Path("out")}), file_ + ": the letter is empty");
+  std::filesystem::remove(letter);
+  ExpectRefused(Letter({"--dry-run"}), letter + ": File Error: 53 (there is no such file)");
+}
+
+TEST_F(MailLetterTest, ALetterIsNoReport) {
+  EXPECT_EQ(Letter({"--report", "13", "--dry-run"}).status, 2);
+  ExpectRefused(Letter({"--pdf", "--dry-run"}),
+                file_ + ": --pdf, --attendance, --comments and --code-details go with --report");
+  ExpectRefused(RunCli({"mail", file_, "--from", "t@s.org", "--dry-run"}),
+                file_ + ": --report or --letter must say what goes");
+}
+
 }  // namespace
 }  // namespace tallyroll

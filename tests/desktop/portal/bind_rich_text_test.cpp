@@ -106,6 +106,86 @@ TEST_F(BindRichText, UndoGoesBackThroughTypingAndWhatTheLogicDid) {
   EXPECT_TRUE(portal.text.Document.paragraphs[0].runs[0].style.bold);
 }
 
+TEST_F(BindRichText, WhatIsTypedBesideACodeIsAStepOfItsOwn) {
+  Open(u"");
+  Keys("Dear ");
+  Act([this] { portal.text.ReplaceSelection(u"<First Name>"); });
+  Keys(", hello");
+  EXPECT_EQ(Held(), "Dear <First Name>, hello");
+  for (const char* left : {"Dear <First Name>", "Dear ", ""}) {
+    Act([this] { portal.text.Acts = {EditAct::kUndo}; });
+    EXPECT_EQ(Held(), left);
+    EXPECT_EQ(Shown(), left);
+  }
+  EXPECT_FALSE(portal.text.CanUndo);
+  for (const char* back : {"Dear ", "Dear <First Name>", "Dear <First Name>, hello"}) {
+    Act([this] { portal.text.Acts = {EditAct::kRedo}; });
+    EXPECT_EQ(Held(), back);
+  }
+  EXPECT_FALSE(portal.text.CanRedo);
+}
+
+TEST_F(BindRichText, TwoCodesInARowAreTwoSteps) {
+  Open(u"one");
+  Key(Qt::Key_End);
+  Act([this] { portal.text.ReplaceSelection(u"<A>"); });
+  Act([this] { portal.text.ReplaceSelection(u"<B>"); });
+  Act([this] { portal.text.Acts = {EditAct::kUndo}; });
+  EXPECT_EQ(Held(), "one<A>");
+  Act([this] { portal.text.Acts = {EditAct::kUndo}; });
+  EXPECT_EQ(Held(), "one");
+}
+
+TEST_F(BindRichText, TheCaretComesBackToWhereTheStepWas) {
+  Open(u"one two three");
+  Act([this] {
+    portal.text.Select(4, 3);
+    portal.text.ReplaceSelection(u"<Second>");
+  });
+  EXPECT_EQ(Held(), "one <Second> three");
+  Act([this] { portal.text.Acts = {EditAct::kUndo}; });
+  EXPECT_EQ(Held(), "one two three");
+  EXPECT_GE(portal.text.SelStart, 4);
+  EXPECT_LE(portal.text.SelStart, 7);
+  Act([this] { portal.text.Acts = {EditAct::kRedo}; });
+  EXPECT_EQ(portal.text.SelStart, 12);
+  Keys("!");
+  EXPECT_EQ(Held(), "one <Second>! three");
+}
+
+TEST_F(BindRichText, APasteIsAStepOfItsOwn) {
+  Open(u"");
+  for (const bool rich : {false, true}) {
+    auto* data = new QMimeData;
+    if (rich)
+      data->setHtml(QStringLiteral("<b>two</b>"));
+    else
+      data->setText(QStringLiteral("two"));
+    QGuiApplication::clipboard()->setMimeData(data);
+    Keys("one");
+    Act([this] { portal.text.Acts = {EditAct::kPaste}; });
+    Keys("three");
+    EXPECT_EQ(Held(), "onetwothree");
+    for (const char* left : {"onetwo", "one", ""}) {
+      Act([this] { portal.text.Acts = {EditAct::kUndo}; });
+      EXPECT_EQ(Held(), left) << rich;
+    }
+  }
+}
+
+// Half of a pair that is one character is not written by itself.
+TEST_F(BindRichText, PairsOfUnitsStayTogether) {
+  Open(u"a\U0001F600\U0001F600b");
+  Act([this] {
+    portal.text.Select(1, 2);
+    portal.text.ReplaceSelection(u"\U0001F601");
+  });
+  EXPECT_EQ(Shown(), "a\U0001F601\U0001F600b");
+  EXPECT_EQ(Held(), Shown());
+  Act([this] { portal.text.Acts = {EditAct::kUndo}; });
+  EXPECT_EQ(Held(), "a\U0001F600\U0001F600b");
+}
+
 TEST_F(BindRichText, TheSelectionGoesBothWays) {
   Open(u"one two");
   Key(Qt::Key_Right, Qt::ShiftModifier);

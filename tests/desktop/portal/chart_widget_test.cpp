@@ -15,6 +15,7 @@
 #include <memory>
 
 #include "desktop/portal/portal_dialog.h"
+#include "desktop/style/tokens.h"
 #include "platform/headless.h"
 
 namespace tallyroll {
@@ -147,10 +148,8 @@ TEST_F(ChartWidgetTest, TheSpotsFollowTheSizeOfTheWindow) {
 
 TEST_F(ChartWidgetTest, TheGroundFollowsThePalette) {
   EXPECT_EQ(widget().grab().toImage().pixelColor(3, 3), QColor(Qt::white));
-  QPalette dark;
-  dark.setColor(QPalette::Base, QColor(0x20, 0x20, 0x20));
-  widget().setPalette(dark);
-  EXPECT_EQ(widget().grab().toImage().pixelColor(3, 3), QColor(kDarkChart.ground));
+  widget().setPalette(PaletteOf(DarkTokens()));
+  EXPECT_EQ(widget().grab().toImage().pixelColor(3, 3), DarkTokens().surface);
 }
 
 TEST_F(ChartWidgetTest, IsCopiedAsPictureAndAsDrawing) {

@@ -153,7 +153,7 @@ TEST_F(FrmSendManyTest, ALetterWithoutATextIsNotSent) {
   Batch.text_of = [](i16 student) { return std::string(student == 2 ? "" : "Dear parents"); };
   Open();
   screen.ExpectBox(ask_two, BoxAnswer::kYes);
-  screen.ExpectBox("There is no report on O'Hara, Bo. Nothing was sent.");
+  screen.ExpectBox("There is no message for O'Hara, Bo. Nothing was sent.");
   driver->Press("cmdStart");
   EXPECT_TRUE(server.tried.empty());
 }

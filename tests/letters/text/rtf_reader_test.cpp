@@ -94,6 +94,12 @@ TEST(RtfReader, AFontsNameMayHoldAnotherGroup) {
   EXPECT_EQ(bare.text.paragraphs.at(0).runs.at(0).style.font, "Two");
 }
 
+TEST(RtfReader, AFontsNameMayHoldCharactersByTheirNumber) {
+  const RtfReading reading =
+      ReadRtf("{\\rtf1{\\fonttbl{\\f1 Pi\\u281\\'3fkna \\u-10179?\\u-8704?\\u9?;}}{\\f1 x}}");
+  EXPECT_EQ(reading.text.paragraphs.at(0).runs.at(0).style.font, "Pi\u0119kna \U0001F600");
+}
+
 TEST(RtfReader, BytesAreOfTheCodePageOfTheirFont) {
   EXPECT_EQ(WordsOfBody("M\\'fcller \\'80"), "Müller €");
   EXPECT_EQ(WordsOfBody("{\\f1 \\'e1\\'e2}\\'e1"), "αβá");

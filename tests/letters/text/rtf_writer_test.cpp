@@ -35,6 +35,13 @@ TEST(RtfWriter, EveryCharacterComesBack) {
   ExpectSameAgain(letter);
 }
 
+TEST(RtfWriter, AFontsNameOfAnyAlphabetComesBack) {
+  RichText letter = RichTextOf(u"x");
+  letter.paragraphs[0].runs[0].style.font = "\u0164\u201C\u017E \u5B8B\u4F53 \U0001F600";
+  letter.paragraphs[0].mark = letter.paragraphs[0].runs[0].style;
+  ExpectSameAgain(letter);
+}
+
 TEST(RtfWriter, TheFileIsPlainAscii) {
   const std::string file = WriteRtf(RichTextOf(u"M\u00FCller \u0142 \U0001F600"));
   EXPECT_TRUE(std::all_of(file.begin(), file.end(),

@@ -1,0 +1,74 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "desktop/portal/form_pictures.h"
+
+#include <QLineEdit>
+#include <QLocale>
+#include <QPainter>
+#include <algorithm>
+
+#include "desktop/style/tokens.h"
+
+namespace tallyroll {
+namespace {
+
+constexpr double kPageWidth = 8.5, kPageHeight = 11;  // inches
+constexpr int kPixelsAnInch = 12;
+constexpr double kWidestMargin = 1.5;
+
+}  // namespace
+
+MarginSheet::MarginSheet(QWidget* parent) : QWidget(parent) {
+  setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+}
+
+QSize MarginSheet::sizeHint() const {
+  return QSizeF(kPageWidth * kPixelsAnInch, kPageHeight * kPixelsAnInch).toSize();
+}
+
+// What is no number, or a margin that no page has, is drawn as the nearest one.
+double MarginSheet::Inches(const char* field) const {
+  const auto* edit = window()->findChild<QLineEdit*>(QString::fromLatin1(field));
+  return edit ? std::clamp(QLocale::c().toDouble(edit->text()), 0.0, kWidestMargin) : 0;
+}
+
+QRectF MarginSheet::PrintedPart() const {
+  const double inch = width() / kPageWidth;
+  return QRectF(rect()).adjusted(Inches("leftmarg") * inch, Inches("topmarg") * inch,
+                                 -Inches("rightmarg") * inch, -Inches("bottommarg") * inch);
+}
+
+void MarginSheet::showEvent(QShowEvent* event) {
+  QWidget::showEvent(event);
+  for (const auto* edit : window()->findChildren<QLineEdit*>())
+    connect(edit, &QLineEdit::textChanged, this, qOverload<>(&QWidget::update),
+            Qt::UniqueConnection);
+}
+
+void MarginSheet::paintEvent(QPaintEvent* /*event*/) {
+  constexpr int kLines = 9;
+  const Tokens t = TokensOf(palette());
+  QPainter painter(this);
+  painter.fillRect(rect(), Qt::white);
+  const Tokens& paper = LightTokens();
+  painter.setPen(t.border);
+  painter.drawRect(rect().adjusted(0, 0, -1, -1));
+  const QRectF printed = PrintedPart();
+  painter.setPen(QPen(paper.focus, 1, Qt::DashLine));
+  painter.drawRect(printed);
+  const double step = printed.height() / (kLines + 1);
+  for (int i = 1; i <= kLines; ++i)
+    painter.fillRect(QRectF(printed.left() + 4, printed.top() + i * step,
+                            (printed.width() - 8) * (i % 3 == 0 ? 0.6 : 1), 2),
+                     paper.line);
+}
+
+void SideStrip::paintEvent(QPaintEvent* /*event*/) {
+  constexpr double kStripRadius = 10;
+  QPainter painter(this);
+  painter.setRenderHint(QPainter::Antialiasing);
+  painter.setPen(Qt::NoPen);
+  painter.setBrush(TokensOf(palette()).accent_soft);
+  painter.drawRoundedRect(rect(), kStripRadius, kStripRadius);
+}
+
+}  // namespace tallyroll

@@ -1,0 +1,54 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// A message stands whole in its box, however long it is, and beside its sign.
+#include "desktop/platform/message_box.h"
+
+#include <gtest/gtest.h>
+
+#include <QApplication>
+#include <QLabel>
+#include <QMessageBox>
+#include <QTimer>
+#include <string>
+
+namespace tallyroll {
+namespace {
+
+struct SeenBox {
+  QSize words, needed;
+  int gap = 0;  // between the sign and the words
+};
+
+SeenBox Look(const std::string& text) {
+  SeenBox seen;
+  QTimer::singleShot(20, qApp, [&seen] {
+    auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+    ASSERT_NE(box, nullptr);
+    const auto* words = box->findChild<QLabel*>(QStringLiteral("qt_msgbox_label"));
+    const auto* sign = box->findChild<QLabel*>(QStringLiteral("qt_msgboxex_icon_label"));
+    seen.words = words->size();
+    seen.needed = words->wordWrap() ? QSize(words->width(), words->heightForWidth(words->width()))
+                                    : words->sizeHint();
+    seen.gap = words->geometry().left() - sign->geometry().right();
+    box->done(QMessageBox::Ok);
+  });
+  ShowMessageBox({text, "NOTE", BoxButtons::kOk, BoxIcon::kInformation}, nullptr);
+  return seen;
+}
+
+TEST(MessageBox, ShowsEveryTextWhole) {
+  const std::string sentence = "A sentence which is longer than one line of a box can be. ";
+  for (const std::string& text :
+       {std::string("File Error: 61"), sentence, sentence + sentence + sentence,
+        std::string("A line\nand another that is a good deal longer than the first one is")}) {
+    const SeenBox seen = Look(text);
+    EXPECT_GE(seen.words.width(), seen.needed.width()) << text;
+    EXPECT_GE(seen.words.height(), seen.needed.height()) << text;
+  }
+}
+
+TEST(MessageBox, PutsTheWordsBesideTheirSign) {
+  EXPECT_LE(Look("File Error: 61").gap, 32);
+}
+
+}  // namespace
+}  // namespace tallyroll
