@@ -5,17 +5,22 @@
 
 #include <QAbstractTableModel>
 #include <QApplication>
+#include <QEventLoop>
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QScrollBar>
 #include <QTableView>
+#include <QTimer>
 #include <memory>
 
 #include "bench/big_class.h"
 #include "bench/open_class.h"
 #include "desktop/basics/text_conversion.h"
 #include "desktop/grid/grid_widget.h"
+#include "desktop/panel/side_panel.h"
+#include "desktop/window/frame_window.h"
 #include "shell/shell_state.h"
+#include "store/class_defaults.h"
 
 namespace tallyroll {
 namespace {
@@ -154,6 +159,86 @@ void KeyThatScrollsClassGrid(benchmark::State& state) {
   });
 }
 BENCHMARK(KeyThatScrollsClassGrid)->Unit(benchmark::kMillisecond)->UseRealTime();
+
+// The class window in its frame, with panel and status line, as the program shows it.
+struct WindowOfClass : GridOfClass {
+  WindowOfClass() {
+    FrameForm = std::make_unique<MDIForm1>();
+    Current().Method = 2;
+    PrepareWeights();
+    window.showform3();
+    frame = std::make_unique<FrameWindow>();
+    frame->resize(1500, 900);
+    frame->show();
+    frame->ShowWindow(window);
+    QEventLoop rest;  // until the panel has followed
+    QTimer::singleShot(200, &rest, &QEventLoop::quit);
+    rest.exec();
+    grid = frame->findChild<GridWidget*>();
+    panel = frame->findChild<SidePanel*>();
+  }
+  ~WindowOfClass() {
+    frame->DestroyWindow(window);
+    frame.reset();
+    FrameForm.reset();
+  }
+
+  std::unique_ptr<FrameWindow> frame;
+  GridWidget* grid = nullptr;
+  SidePanel* panel = nullptr;
+};
+
+// A held-down arrow: the key, its picture, and what the frame does before it waits for the next.
+void KeyInClassWindow(benchmark::State& state) {
+  WindowOfClass open;
+  if (!open.panel->isVisible()) state.SkipWithError("the panel is hidden");
+  int step = 0;
+  for (auto _ : state) {
+    PressKey(*open.grid, step++ % 1800 < 900 ? Qt::Key_Down : Qt::Key_Up);
+    QApplication::processEvents();
+    open.frame->Sync();
+  }
+}
+BENCHMARK(KeyInClassWindow)->Unit(benchmark::kMillisecond)->UseRealTime();
+
+// What follows when the keys rest: the figures of another cell, and their picture.
+void PanelOfAnotherCell(benchmark::State& state) {
+  WindowOfClass open;
+  const ClassGlance of_class = LookAtClass();
+  int step = 0;
+  for (auto _ : state) {
+    const int student = 1 + step % kStudents, grade = 1 + step % kGrades;
+    ++step;
+    open.panel->Show(LookAtStudent(student), LookAtGrade(grade, student),
+                     RankOf(of_class, student));
+    QApplication::processEvents();
+  }
+}
+BENCHMARK(PanelOfAnotherCell)->Unit(benchmark::kMillisecond)->UseRealTime();
+
+void FiguresOfAnotherCell(benchmark::State& state) {
+  OpenClass open(BigAveragedClass(kStudents, kGrades, 2));
+  int step = 0;
+  for (auto _ : state) {
+    const int student = 1 + step % kStudents, grade = 1 + step % kGrades;
+    ++step;
+    benchmark::DoNotOptimize(LookAtStudent(student));
+    benchmark::DoNotOptimize(LookAtGrade(grade, student));
+  }
+}
+BENCHMARK(FiguresOfAnotherCell)->Unit(benchmark::kMillisecond)->UseRealTime();
+
+// What a Portal that is left costs beside: all averages, for the class average and the rank.
+void ClassAtAGlance(benchmark::State& state) {
+  const int students = static_cast<int>(state.range(0)), grades = static_cast<int>(state.range(1));
+  OpenClass open(BigAveragedClass(students, grades, 2));
+  for (auto _ : state) benchmark::DoNotOptimize(LookAtClass());
+}
+BENCHMARK(ClassAtAGlance)
+    ->Args({200, 100})
+    ->Args({kStudents, kGrades})
+    ->Unit(benchmark::kMillisecond)
+    ->UseRealTime();
 
 void HoverOverClassGrid(benchmark::State& state) {
   ActInClassGrid(state, [](GridWidget& widget, int step) {

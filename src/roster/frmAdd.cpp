@@ -3,12 +3,15 @@
 
 #include <limits>
 
+#include "base/code_page.h"
+#include "base/number_text.h"
 #include "base/text.h"
 #include "platform/surroundings.h"
 #include "store/class_defaults.h"
 #include "store/clipboard_boxes.h"
 #include "store/program_state.h"
 #include "store/sort_students.h"
+#include "store/student_names.h"
 
 namespace tallyroll {
 namespace {
@@ -28,9 +31,11 @@ frmAdd::frmAdd() : StudentForm("frmAdd") {
 }
 
 void frmAdd::Declare(ControlTable& table) {
+  table.Add("where", where);
   table.Add("TabStrip1", TabStrip1);
   DeclareFirstPage(table, "comments");
   DeclareOtherPages(table);
+  table.Add("entered", entered).Change([this] { entered_Change(); });
   table.Add("PREVIOUS", PREVIOUS).Click([this] { PREVIOUS_Click(); });
   table.Add("nextt", nextt).Click([this] { nextt_Click(); });
   table.Add("addclip", addclip).Click([this] { addclip_Click(); });
@@ -53,6 +58,7 @@ void frmAdd::GoTo(int position) {
   }
   Position = static_cast<i16>(position);
   from_clipboard_.reset();
+  ShowWhere();
   if (RecordExists()) return ShowStudent();
   ClearFields();
   TabStrip1.Selected = 0;
@@ -91,10 +97,37 @@ void frmAdd::nextt_Click() {
   if (KeepStudent()) GoTo(Position + 1);
 }
 
-void frmAdd::PREVIOUS_Click() {
+// A new position with nothing on the form is left as it is. False: refused.
+bool frmAdd::LeaveStudent() {
   const bool nothing_to_keep = !RecordExists() && AllBlank();
-  if (!nothing_to_keep && !KeepStudent()) return;
-  GoTo(Position > 1 ? Position - 1 : Position);
+  return nothing_to_keep || KeepStudent();
+}
+
+void frmAdd::PREVIOUS_Click() {
+  if (LeaveStudent()) GoTo(Position > 1 ? Position - 1 : Position);
+}
+
+void frmAdd::entered_Change() {
+  const int chosen = entered.ListIndex + 1;
+  if (chosen < 1 || chosen == Position) return;
+  if (LeaveStudent())
+    GoTo(chosen);
+  else
+    ShowWhere();
+}
+
+// The class by its description, otherwise by its file. In the order of entry: sorting comes when
+// the Portal is left.
+void frmAdd::ShowWhere() {
+  const Class& c = Current();
+  std::string name(Trim(c.description));
+  if (name.empty()) name = PathForDisplay(c.FileName.substr(c.FileName.find_last_of('/') + 1));
+  where.Caption = "Student " + PlainNumberText(int{Position});
+  if (!name.empty()) where.Caption += " of " + name;
+  entered.List.clear();
+  for (int i = 1; i <= c.NumStudents; ++i)
+    entered.List.push_back(StudentListLine(c.Students[static_cast<std::size_t>(i)]));
+  entered.ListIndex = RecordExists() ? Position - 1 : -1;
 }
 
 // The text is looked at first, so that one which cannot be taken changes nothing.
@@ -114,6 +147,7 @@ void frmAdd::addclip_Click() {
   from_clipboard_ = *text;
   if (!CheckUniqueId()) return;
   NewStudentRecord();
+  ShowWhere();
   ClipRead = clipboard;
 }
 

@@ -18,6 +18,8 @@ struct frmAdd : StudentForm {
   void Load() override;
   void QueryUnload() override { cancel_Click(); }
 
+  Label where;      // the how manyth student of which class
+  ListBox entered;  // the students as they were entered
   CommandButton PREVIOUS, nextt, addclip, Exitt, cancel;
 
   std::string ClipRead;  // the clipboard's text that was read last
@@ -27,6 +29,7 @@ struct frmAdd : StudentForm {
   // Makes the record of the next student; it counts as begun until it is stored.
   void NewStudentRecord();
 
+  void entered_Change();
   void PREVIOUS_Click();
   void nextt_Click();
   void addclip_Click();
@@ -36,6 +39,8 @@ struct frmAdd : StudentForm {
  private:
   bool KeepStudent();
   void GoTo(int position);
+  bool LeaveStudent();
+  void ShowWhere();
   void WithdrawBegun();
 
   bool begun_ = false;  // the record at Position was made and not yet stored

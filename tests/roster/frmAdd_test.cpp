@@ -22,6 +22,62 @@ TEST_F(FrmAddTest, OpensEmptyBehindTheLastStudent) {
   EXPECT_EQ(Current().NumStudents, 1);
 }
 
+TEST_F(FrmAddTest, TellsTheHowManythStudentOfWhichClass) {
+  Current().FileName = "/home/ann/MATH.TYR";
+  Open(portal);
+  EXPECT_EQ(driver->Text("where"), "Student 1 of MATH.TYR");
+  Current().description = "Mathematics 8 ";
+  TypeStudent("Ng", "Ada", "7");
+  driver->Press("nextt");
+  EXPECT_EQ(driver->Text("where"), "Student 2 of Mathematics 8");
+  driver->Press("PREVIOUS");
+  EXPECT_EQ(driver->Text("where"), "Student 1 of Mathematics 8");
+}
+
+TEST_F(FrmAddTest, AClassThatWasNeverSavedHasNoNameYet) {
+  Current().FileName = "";
+  Open(portal);
+  EXPECT_EQ(driver->Text("where"), "Student 1");
+}
+
+TEST_F(FrmAddTest, TheOthersStandAsTheyWereEntered) {
+  Open(portal);
+  TypeStudent("Orr", "Bo", "9");
+  driver->Press("nextt");
+  TypeStudent("Ng", "Ada", "7");
+  driver->Press("nextt");
+  EXPECT_EQ(portal.entered.List, (std::vector<std::string>{"Orr, Bo\t9", "Ng, Ada\t7"}));
+  EXPECT_EQ(portal.entered.ListIndex, -1);
+  driver->Press("PREVIOUS");
+  EXPECT_EQ(portal.entered.ListIndex, 1);
+}
+
+TEST_F(FrmAddTest, ALineOfTheOthersShowsThatStudentAndKeepsWhatWasTyped) {
+  Open(portal);
+  TypeStudent("Orr", "Bo", "9");
+  driver->Press("nextt");
+  TypeStudent("Ng", "Ada", "7");
+  driver->Choose("entered", 0);
+  EXPECT_EQ(portal.Position, 1);
+  EXPECT_EQ(driver->Text("lastname"), "Orr");
+  EXPECT_EQ(Current().NumStudents, 2);
+  EXPECT_EQ(Current().Students[2].lastname, "Ng");
+}
+
+TEST_F(FrmAddTest, AStudentWithoutAnIdIsNotLeftForAnother) {
+  Open(portal);
+  TypeStudent("Orr", "Bo", "9");
+  driver->Press("nextt");
+  driver->Type("lastname", "Ng");
+  screen.ExpectBox("You must fill in FULL name and ID.\nPress Tab for next field.",
+                   BoxAnswer::kOk);
+  driver->Choose("entered", 0);
+  EXPECT_EQ(portal.Position, 2);
+  EXPECT_EQ(driver->Text("lastname"), "Ng");
+  EXPECT_EQ(portal.entered.ListIndex, -1);
+  EXPECT_EQ(Current().NumStudents, 1);
+}
+
 TEST_F(FrmAddTest, NextStoresTheStudentAndClearsForTheNext) {
   Open(portal);
   TypeStudent("Ng", "Ada", "7");

@@ -1,15 +1,18 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // List boxes.
+#include <QApplication>
 #include <QKeyEvent>
 #include <QListWidget>
 #include <QMouseEvent>
 #include <QPainter>
 
 #include "desktop/basics/text_conversion.h"
+#include "desktop/basics/typed_ahead.h"
 #include "desktop/portal/card_drag.h"
 #include "desktop/portal/control_binding.h"
 #include "desktop/portal/empty_texts.h"
 #include "desktop/portal/list_columns.h"
+#include "find/type_ahead.h"
 
 namespace tallyroll {
 namespace {
@@ -70,7 +73,8 @@ class ListBinding : public Binding<ListBox, QListWidget> {
       SayWhatWillStandHere();
     if (event->type() == QEvent::KeyPress) {
       by_mouse_ = false;
-      if (watched == &widget_ && GoesToEnd(*static_cast<QKeyEvent*>(event))) return true;
+      const auto& key = *static_cast<const QKeyEvent*>(event);
+      if (watched == &widget_ && (GoesToEnd(key) || GoToTyped(key))) return true;
     }
     if (event->type() == QEvent::MouseButtonPress) {
       press_is_told_ = false;
@@ -87,6 +91,20 @@ class ListBinding : public Binding<ListBox, QListWidget> {
     if (key.key() != Qt::Key_End || key.modifiers() != Qt::NoModifier) return false;
     if (widget_.currentRow() >= 0 || widget_.count() == 0) return false;
     widget_.setCurrentRow(widget_.count() - 1);
+    return true;
+  }
+
+  // The toolkit's own search knows no accents and gives the keys less time.
+  bool GoToTyped(const QKeyEvent& event) {
+    if (row().key_down || row().key_press || !typed_.Take(event, widget_.currentRow()))
+      return false;
+    const int line = LineToGoTo(typed_.typed(), list_, widget_.currentRow());
+    if (line >= 0) {
+      typed_.LeadsTo(line);
+      widget_.setCurrentRow(line);
+    } else if (!typed_.typed().empty()) {
+      QApplication::beep();
+    }
     return true;
   }
 
@@ -190,6 +208,7 @@ class ListBinding : public Binding<ListBox, QListWidget> {
     columns_->Measure(widget_);
   }
 
+  TypedAhead typed_;
   ListColumns* columns_;  // the list's
   std::vector<std::string> list_;
   std::vector<int> counts_;

@@ -3,10 +3,12 @@
 #include "desktop/window/class_window_view.h"
 
 #include <QAction>
+#include <QApplication>
 #include <QCloseEvent>
 #include <QContextMenuEvent>
 #include <QCursor>
 #include <QHBoxLayout>
+#include <QKeyEvent>
 #include <QMdiArea>
 #include <QMenu>
 #include <QSettings>
@@ -24,6 +26,8 @@
 #include "desktop/window/message_moment.h"
 #include "desktop/window/panel_follower.h"
 #include "desktop/window/toolbar_view.h"
+#include "find/type_ahead.h"
+#include "store/student_names.h"
 
 namespace tallyroll {
 namespace {
@@ -32,6 +36,11 @@ constexpr double kWidthForPanel = 1240, kHeightForPanel = 480;
 
 QString PanelKey() {
   return QStringLiteral("Panel/Shown");
+}
+
+// The current cell as one number.
+int PlaceOf(const Grid& grid) {
+  return grid.Row * grid.Cols() + grid.Col;
 }
 
 // That of the window's slot; the one that is never handed out while it has none.
@@ -141,6 +150,32 @@ void ClassWindowView::TogglePanel() {
 void ClassWindowView::resizeEvent(QResizeEvent* event) {
   QMdiSubWindow::resizeEvent(event);
   FitPanel();
+}
+
+void ClassWindowView::keyPressEvent(QKeyEvent* event) {
+  const bool names = form_ != nullptr && grid_->hasFocus() && ClassOf(*form_).NumStudents > 0;
+  if (!names || !typed_.Take(*event, PlaceOf(form_->Grid1)))
+    return QMdiSubWindow::keyPressEvent(event);
+  GoToTyped();
+}
+
+// To the row of the student whose name or ID begins with what is typed.
+void ClassWindowView::GoToTyped() {
+  const Class& c = ClassOf(*form_);
+  std::vector<std::string> lines;
+  for (std::size_t i = 1; i <= static_cast<std::size_t>(c.NumStudents); ++i)
+    lines.push_back(PlainName(c.Students[i]) + "\t" + c.Students[i].id);
+  const Grid& grid = form_->Grid1;
+  const int line = LineToGoTo(typed_.typed(), lines, grid.Row - grid.FixedRows);
+  if (line >= 0) {
+    form_->EndStatus();
+    grid_->MoveTo(line + grid.FixedRows, grid.Col);
+    typed_.LeadsTo(PlaceOf(grid));
+  } else if (!typed_.typed().empty()) {
+    QApplication::beep();
+    form_->ShowStatus("No student begins with \"" + typed_.typed() + "\".");
+  }
+  Sync();
 }
 
 void ClassWindowView::Sync() {

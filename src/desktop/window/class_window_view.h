@@ -4,6 +4,7 @@
 
 #include <QMdiSubWindow>
 
+#include "desktop/basics/typed_ahead.h"
 #include "shell/form1.h"
 
 namespace tallyroll {
@@ -47,6 +48,7 @@ class ClassWindowView : public QMdiSubWindow {
   void closeEvent(QCloseEvent* event) override;
   void contextMenuEvent(QContextMenuEvent* event) override;
   void resizeEvent(QResizeEvent* event) override;
+  void keyPressEvent(QKeyEvent* event) override;
 
  private:
   QString Title() const;
@@ -58,6 +60,7 @@ class ClassWindowView : public QMdiSubWindow {
   bool HasRoomForPanel() const;
   void FitPanel();
   void GoToGrade(int grade);
+  void GoToTyped();
   void SwitchFocus();
 
   Form1* form_;
@@ -68,6 +71,7 @@ class ClassWindowView : public QMdiSubWindow {
   SidePanel* panel_;
   StatusLine* status_;
   PanelFollower* follower_;
+  TypedAhead typed_;  // the beginning of a student's name
   bool wants_panel_;
   bool insists_on_panel_ = false;  // in a window without room for it
   MessageMoment* moment_;

@@ -26,6 +26,25 @@ class BindChoicesTest : public EverythingTest {
   QPoint PlaceOf(int line) { return list().visualItemRect(list().item(line)).center(); }
 };
 
+TEST_F(BindChoicesTest, TypingANameGoesToItsLine) {
+  Open();
+  Focus("list");
+  QTest::keyClicks(&list(), QStringLiteral("ca"));
+  EXPECT_EQ(portal.list.ListIndex, 2);
+  EXPECT_EQ(Events(), (Lines{"list change"}));
+  QTest::keyClick(&list(), Qt::Key_Backspace);
+  QTest::keyClicks(&list(), QStringLiteral("z"));  // nobody
+  EXPECT_EQ(portal.list.ListIndex, 2);
+}
+
+TEST_F(BindChoicesTest, TypingAnIdGoesToItsLineAndAccentsDoNotMatter) {
+  portal.list.List = {"Anna\tA1", "\xC9mile\tE5", "Carl\tC3"};
+  Open();
+  Focus("list");
+  QTest::keyClicks(&list(), QStringLiteral("em"));
+  EXPECT_EQ(portal.list.ListIndex, 1);
+}
+
 TEST_F(BindChoicesTest, TickingACheckBoxRaisesChangeAndClick) {
   Open();
   Focus("tick");
