@@ -7,7 +7,8 @@
 #include <QLineEdit>
 #include <QPainter>
 #include <QTabBar>
-#include <map>
+#include <algorithm>
+#include <vector>
 
 #include "desktop/grid/grid_widget.h"
 #include "tests/desktop/every_window.h"
@@ -25,17 +26,32 @@ class PixelContrast : public EveryWindow {
   // What stands in that part of the picture against its most frequent colour.
   static double BestIn(const QImage& picture, const QRect& part) {
     const QRect pixels(part.topLeft() * kSharp, part.size() * kSharp);
-    std::map<QRgb, int> colors;
+    std::vector<QRgb> colors;
     for (int y = pixels.top(); y <= pixels.bottom(); ++y)
       for (int x = pixels.left(); x <= pixels.right(); ++x)
-        if (picture.rect().contains(x, y)) ++colors[picture.pixel(x, y)];
-    if (colors.empty()) return 1;
-    const auto ground =
-        std::max_element(colors.begin(), colors.end(),
-                         [](const auto& a, const auto& b) { return a.second < b.second; });
+        if (picture.rect().contains(x, y)) colors.push_back(picture.pixel(x, y));
+    std::sort(colors.begin(), colors.end());
+    return BestBeside(MostFrequent(colors), colors);
+  }
+
+  static QRgb MostFrequent(const std::vector<QRgb>& sorted) {
+    QRgb most = 0;
+    std::ptrdiff_t times = 0;
+    for (auto at = sorted.begin(); at != sorted.end();) {
+      const auto end = std::upper_bound(at, sorted.end(), *at);
+      if (end - at > times) {
+        times = end - at;
+        most = *at;
+      }
+      at = end;
+    }
+    return most;
+  }
+
+  static double BestBeside(QRgb ground, const std::vector<QRgb>& sorted) {
     double best = 1;
-    for (const auto& [color, count] : colors)
-      best = std::max(best, Contrast(QColor(color), QColor(ground->first)));
+    for (auto at = sorted.begin(); at != sorted.end(); at = std::upper_bound(at, sorted.end(), *at))
+      best = std::max(best, Contrast(QColor(*at), QColor(ground)));
     return best;
   }
 
