@@ -63,6 +63,7 @@ int RunCommandLine(int argc, const char* const* argv, std::istream& in, std::ost
   AddExplainCommand(app, chosen);
   AddUnusualCommand(app, chosen);
   AddHistoryCommand(app, chosen);
+  AddSnapshotsCommand(app, chosen);
   AddRowsCommand(app, chosen);
   AddExchangeCommand(app, chosen);
   AddLettersCommand(app, chosen);

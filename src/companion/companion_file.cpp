@@ -5,6 +5,7 @@
 #include <iterator>
 
 #include "base/number_text.h"
+#include "companion/behind.h"
 #include "companion/class_mark.h"
 #include "companion/mail_journal_layout.h"
 #include "store/safe_file.h"
@@ -30,6 +31,10 @@ constexpr const char* kSteps[] = {
     // What other school systems say by single marks.
     "CREATE TABLE mark_comment (system TEXT NOT NULL, student TEXT NOT NULL, grade TEXT NOT NULL,"
     " mark TEXT NOT NULL, comment TEXT NOT NULL, PRIMARY KEY (system, student, grade))",
+    // The class at each save, and as it was worked on since; each as a class file has it.
+    "CREATE TABLE snapshot (number INTEGER PRIMARY KEY, time TEXT NOT NULL, told TEXT NOT NULL,"
+    " bytes BLOB NOT NULL); CREATE TABLE working_copy (time TEXT NOT NULL, file TEXT NOT NULL,"
+    " bytes BLOB NOT NULL)",
 };
 constexpr auto kLayout = static_cast<std::int64_t>(std::size(kSteps));
 
@@ -55,11 +60,11 @@ void BringUpToDate(Database& database) {
 
 enum class Knows { kThisClass, kAnother, kNone };
 
-Knows WhomItKnows(Database& database, const std::string& class_path) {
+Knows WhomItKnows(Database& database, const ClassMark& mark) {
   Statement row(database, "SELECT file, students FROM known_class");
   if (!row.Next()) return Knows::kNone;
   const ClassMark kept{row.Text(0), row.Text(1)};
-  return IsSameClass(kept, MarkOf(class_path)) ? Knows::kThisClass : Knows::kAnother;
+  return IsSameClass(kept, mark) ? Knows::kThisClass : Knows::kAnother;
 }
 
 // Whole and of today's layout, whichever class it knows.
@@ -78,14 +83,23 @@ Companion OpenAny(const std::string& class_path, Database::Mode mode) {
   return {std::move(database), {}};
 }
 
-Companion Open(const std::string& class_path, Database::Mode mode) {
+Fault NoteMark(Database& database, const ClassMark& mark) {
+  Transaction transaction(database);
+  database.Run("DELETE FROM known_class");
+  database.Run("INSERT INTO known_class (file, students) VALUES (?, ?)",
+               {mark.file, mark.students});
+  transaction.Commit();
+  return database.fault();
+}
+
+Companion Open(const std::string& class_path, const ClassMark& mark, Database::Mode mode) {
   Companion companion = OpenAny(class_path, mode);
   if (!companion) return companion;
-  const Knows whom = WhomItKnows(*companion.database, class_path);
+  const Knows whom = WhomItKnows(*companion.database, mark);
   Fault fault = companion.database->fault();
   if (whom == Knows::kAnother) return {nullptr, kOfAnotherClass, true};
   if (whom == Knows::kNone && mode == Database::Mode::kWrite && fault.empty())
-    fault = KnowClass(companion, class_path);
+    fault = NoteMark(*companion.database, mark);
   if (!fault.empty()) return {nullptr, std::move(fault)};
   return companion;
 }
@@ -103,16 +117,24 @@ std::string CompanionPath(const std::string& class_path) {
 }
 
 Companion OpenCompanion(const std::string& class_path) {
-  return StandsBeside(class_path) ? Open(class_path, Database::Mode::kRead) : Companion{};
+  AwaitBehind();
+  return StandsBeside(class_path) ? Open(class_path, MarkOf(class_path), Database::Mode::kRead)
+                                  : Companion{};
 }
 
 Companion OpenCompanionOfAnyClass(const std::string& class_path) {
+  AwaitBehind();
   return StandsBeside(class_path) ? OpenAny(class_path, Database::Mode::kRead) : Companion{};
 }
 
 Companion MakeCompanion(const std::string& class_path) {
   if (class_path.empty()) return {nullptr, "the class was not saved yet"};
-  return Open(class_path, Database::Mode::kWrite);
+  AwaitBehind();
+  return Open(class_path, MarkOf(class_path), Database::Mode::kWrite);
+}
+
+Companion MakeCompanionBehind(const std::string& class_path, const ClassMark& mark) {
+  return Open(class_path, mark, Database::Mode::kWrite);
 }
 
 bool KnowsFile(const Companion& companion, const std::string& class_path) {
@@ -121,14 +143,7 @@ bool KnowsFile(const Companion& companion, const std::string& class_path) {
 }
 
 Fault KnowClass(Companion& companion, const std::string& class_path) {
-  Database& database = *companion.database;
-  const ClassMark mark = MarkOf(class_path);
-  Transaction transaction(database);
-  database.Run("DELETE FROM known_class");
-  database.Run("INSERT INTO known_class (file, students) VALUES (?, ?)",
-               {mark.file, mark.students});
-  transaction.Commit();
-  return database.fault();
+  return NoteMark(*companion.database, MarkOf(class_path));
 }
 
 }  // namespace tallyroll

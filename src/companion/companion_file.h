@@ -28,6 +28,10 @@ Companion OpenCompanion(const std::string& class_path);
 // To write: makes the file when it is missing.
 Companion MakeCompanion(const std::string& class_path);
 
+// The same while the teacher goes on working, for who was handed the class's mark.
+struct ClassMark;
+Companion MakeCompanionBehind(const std::string& class_path, const ClassMark& mark);
+
 // Also that of another class: for those who move companions about.
 Companion OpenCompanionOfAnyClass(const std::string& class_path);
 

@@ -95,6 +95,15 @@ void Database::Run(const char* command, std::initializer_list<std::string_view> 
   Statement(*this, command, values).Next();
 }
 
+void Database::RunWithBytes(const char* command, std::initializer_list<std::string_view> values,
+                            std::string_view bytes) {
+  Statement statement(*this, command, values);
+  if (!ok()) return;
+  const int place = static_cast<int>(values.size()) + 1;
+  Note(sqlite3_bind_blob64(statement.handle_, place, bytes.data(), bytes.size(), SQLITE_STATIC));
+  statement.Next();
+}
+
 std::int64_t Database::Number(const char* query) {
   Statement statement(*this, query);
   return statement.Next() ? statement.Number(0) : 0;
@@ -128,6 +137,12 @@ std::string Statement::Text(int column) const {
   const auto* text = reinterpret_cast<const char*>(sqlite3_column_text(handle_, column));
   const auto length = static_cast<std::size_t>(sqlite3_column_bytes(handle_, column));
   return text ? std::string(text, length) : std::string();
+}
+
+std::string Statement::Bytes(int column) const {
+  const auto* bytes = static_cast<const char*>(sqlite3_column_blob(handle_, column));
+  const auto length = static_cast<std::size_t>(sqlite3_column_bytes(handle_, column));
+  return bytes ? std::string(bytes, length) : std::string();
 }
 
 std::int64_t Statement::Number(int column) const {

@@ -36,6 +36,9 @@ class Database {
   void Run(const char* commands);
   // Runs one with values for its question marks.
   void Run(const char* command, std::initializer_list<std::string_view> values);
+  // The same with bytes, which are no text, for the last question mark.
+  void RunWithBytes(const char* command, std::initializer_list<std::string_view> values,
+                    std::string_view bytes);
   // The first value of the first row; 0 without one.
   std::int64_t Number(const char* query);
 
@@ -62,9 +65,11 @@ class Statement {
   // The next row; false behind the last one and after a fault.
   bool Next();
   std::string Text(int column) const;
+  std::string Bytes(int column) const;
   std::int64_t Number(int column) const;
 
  private:
+  friend class Database;
   Database& database_;
   sqlite3_stmt* handle_ = nullptr;
 };

@@ -9,6 +9,9 @@ Database::Database(const std::string& /*path*/, Mode /*mode*/)
 Database::~Database() = default;
 void Database::Run(const char* /*commands*/) {}
 void Database::Run(const char* /*command*/, std::initializer_list<std::string_view> /*values*/) {}
+void Database::RunWithBytes(const char* /*command*/,
+                            std::initializer_list<std::string_view> /*values*/,
+                            std::string_view /*bytes*/) {}
 std::int64_t Database::Number(const char* /*query*/) {
   return 0;
 }
@@ -22,6 +25,9 @@ bool Statement::Next() {
   return false;
 }
 std::string Statement::Text(int /*column*/) const {
+  return {};
+}
+std::string Statement::Bytes(int /*column*/) const {
   return {};
 }
 std::int64_t Statement::Number(int /*column*/) const {

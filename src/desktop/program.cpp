@@ -14,6 +14,7 @@
 #include "desktop/style/appearance.h"
 #include "desktop/window/frame_window.h"
 #include "desktop/window/help_window.h"
+#include "desktop/window/tour.h"
 #include "shell/program.h"
 #include "shell/shell_state.h"
 
@@ -39,8 +40,10 @@ int RunProgram(QApplication& application, bool dark, const std::string& file) {
     surroundings.help_hook = [&window](int context) { ShowHelpTopic(&window, context); };
     // Within the event loop, so that the greeting can be shown and the program be left from it.
     QTimer::singleShot(0, &window, [&window, file] {
+      const bool first = IsFirstStart() && file.empty();
       FrameForm->Load(file);
       window.Sync();
+      if (first) window.OfferTour();
     });
     QTimer::singleShot(0, appearance, &Appearance::FollowDesktop);
     result = QApplication::exec();

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// What both halves of the School Systems Portal show.
+// Pieces of what taking marks in and giving them out show.
 #pragma once
 
 #include <span>
@@ -12,6 +12,13 @@
 namespace tallyroll {
 
 inline constexpr std::string_view kTicked = "X";
+
+inline std::string Quoted(std::string_view text) {
+  std::string quoted(1, '"');
+  quoted += text;
+  quoted += '"';
+  return quoted;
+}
 
 // "1 mark", "2 marks".
 inline std::string Counted(std::int64_t count, std::string_view one) {

@@ -38,7 +38,8 @@ class KeptComments {
   std::map<std::pair<std::string, std::string>, MarkComment> by_cell_;
 };
 
-// Keeps those of a file that was taken, and what it says by the marks that stand now. Answers why it could not be done; empty when it was.
+// Keeps those of a file that was taken, and what it says by the marks that stand now. Answers why
+// it could not be done; empty when it was.
 std::string KeepIdsOf(ExchangeFormat format, const ExchangePreview& preview);
 
 }  // namespace tallyroll

@@ -6,14 +6,11 @@
 
 #include "base/number_text.h"
 #include "base/text.h"
+#include "exchange/exchange_texts.h"
 #include "exchange/formats/foreign_mark.h"
 
 namespace tallyroll {
 namespace {
-
-std::string Quoted(std::string_view text) {
-  return "\"" + std::string(text) + "\"";
-}
 
 // "Final Score" becomes "Final-Score": the words stay, the other side no longer knows them.
 std::string WithoutTotalWords(std::string title) {

@@ -6,6 +6,7 @@
 
 #include "base/number_text.h"
 #include "base/text.h"
+#include "exchange/exchange_texts.h"
 #include "exchange/formats/foreign_mark.h"
 #include "exchange/kept_ids.h"
 #include "grades/marks.h"
@@ -30,13 +31,6 @@ std::optional<i16> WholeScore(Currency maximum) {
   const std::int64_t scaled = maximum.scaled();
   if (scaled % kUnit != 0 || scaled <= 0 || scaled / kUnit > kMostScore) return std::nullopt;
   return static_cast<i16>(scaled / kUnit);
-}
-
-std::string Quoted(const std::string& text) {
-  std::string quoted(1, '"');
-  quoted += text;
-  quoted += '"';
-  return quoted;
 }
 
 class PreviewMaker {

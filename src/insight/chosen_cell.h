@@ -13,7 +13,7 @@ struct CellChoice {
 // window.
 extern CellChoice ChosenCell;
 
-// Puts everything above to its start value.
+// Puts everything above, the chosen snapshot and the found work to its start value.
 void ResetInsight();
 
 }  // namespace tallyroll

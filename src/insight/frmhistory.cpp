@@ -3,14 +3,13 @@
 
 #include <algorithm>
 #include <array>
-#include <type_traits>
 
 #include "base/number_text.h"
 #include "base/text.h"
 #include "grades/marks.h"
+#include "insight/told_change.h"
 #include "platform/class_window.h"
 #include "platform/surroundings.h"
-#include "store/fields.h"
 #include "store/program_state.h"
 #include "store/student_names.h"
 
@@ -26,75 +25,6 @@ struct HistoryColumn {
 constexpr std::array kHistoryColumns = {
     HistoryColumn{"When", 2200}, HistoryColumn{"Student", 2600}, HistoryColumn{"Grade", 2200},
     HistoryColumn{"What", 1400}, HistoryColumn{"Before", 2000},  HistoryColumn{"After", 2000}};
-
-struct FieldWords {
-  std::string_view field, words;
-};
-// Names of fields that a teacher would not know; the others are shown as they are.
-constexpr std::array kFieldWords = {
-    FieldWords{"mvalue", "maximum score"},
-    FieldWords{"dropyn", "may be dropped"},
-    FieldWords{"testdate", "date"},
-    FieldWords{"lowpass", "lowest passing score"},
-    FieldWords{"typecode", "type"},
-    FieldWords{"countflag", "counts in points"},
-    FieldWords{"lastname", "last name"},
-    FieldWords{"firstname", "first name"},
-    FieldWords{"id", "ID"},
-    FieldWords{"phone", "home phone"},
-    FieldWords{"work", "work phone"},
-    FieldWords{"birth", "birth date"},
-    FieldWords{"email", "e-mail"},
-    FieldWords{"termstart", "first day of term"},
-    FieldWords{"termend", "last day of term"},
-    FieldWords{"timed", "time of class"},
-    FieldWords{"RoundMode", "rounding"},
-    FieldWords{"RoundScale", "rounding values"},
-    FieldWords{"FinalGradeForm", "form of final grades"},
-    FieldWords{"PasswordSet", "password"},
-};
-
-std::string_view WordsOfField(std::string_view field) {
-  const auto found = std::find_if(kFieldWords.begin(), kFieldWords.end(),
-                                  [&](const FieldWords& each) { return each.field == field; });
-  return found == kFieldWords.end() ? field : found->words;
-}
-
-// The student of a change by ID, or by name where the ID is empty; 0 when nobody or several are.
-int StudentOfChange(const NamedChange& change) {
-  int found = 0;
-  for (int s = 1; s <= Current().NumStudents; ++s) {
-    const Student& student = Current().Students[static_cast<std::size_t>(s)];
-    const bool same = change.student.empty() ? PlainName(student) == change.name
-                                             : Trim(student.id) == change.student;
-    if (!same) continue;
-    if (found != 0) return 0;
-    found = s;
-  }
-  return found;
-}
-
-int GradeOfChange(const NamedChange& change) {
-  int found = 0;
-  for (int g = 1; g <= GradeCount(Current()); ++g) {
-    const Instrument& grade = Current().Instruments[static_cast<std::size_t>(g)];
-    if (Trim(grade.title) != change.grade || Trim(grade.code) != change.code) continue;
-    if (found != 0) return 0;
-    found = g;
-  }
-  return found;
-}
-
-// The text of that field of a student; null for none.
-std::string* TextField(Student& student, const std::string& name) {
-  std::string* text = nullptr;
-  ForEachField(student, [&](const char* field, auto& value) {
-    if constexpr (std::is_same_v<std::remove_reference_t<decltype(value)>, std::string>) {
-      if (name == field) text = &value;
-    }
-  });
-  return text;
-}
 
 }  // namespace
 
@@ -185,31 +115,11 @@ void frmhistory::ShowLines() {
   takeback.Enabled = !lines_.empty();
 }
 
-// Answers why it cannot be done; empty when it was.
-std::string frmhistory::TakeBack(const NamedChange& change) {
-  const int s = StudentOfChange(change);
-  if (change.name.empty())
-    return "Only marks and what is told of a student can be taken back here.";
-  if (s == 0) return "The student is not in the class any more, or stands there twice.";
-  Student& student = Current().Students[static_cast<std::size_t>(s)];
-  if (change.field == kMarkField) {
-    const int g = GradeOfChange(change);
-    if (g == 0) return "The grade is not in the class any more, or stands there twice.";
-    if (static_cast<std::size_t>(g) >= student.Marks.size()) return "The student has no such mark.";
-    student.Marks[static_cast<std::size_t>(g)] = change.before;
-    return {};
-  }
-  std::string* const field = TextField(student, change.field);
-  if (!field) return "Only marks and what is told of a student can be taken back here.";
-  *field = change.before;
-  return {};
-}
-
 void frmhistory::takeback_Click() {
   const int at = Grid1.Row - 1;
   if (at < 0 || static_cast<std::size_t>(at) >= lines_.size()) return;
   const NamedChange& change = lines_[static_cast<std::size_t>(at)].change;
-  if (const std::string why = TakeBack(change); !why.empty()) return (void)ShowMessage(why);
+  if (const std::string why = TakeBackChange(change); !why.empty()) return (void)ShowMessage(why);
   Current().Changed = kTrue;
   const std::string what(change.grade.empty() ? WordsOfField(change.field)
                                               : std::string_view(change.grade));

@@ -30,7 +30,6 @@ struct frmhistory : Portal {
  private:
   void Fill();
   void ShowLines();
-  std::string TakeBack(const NamedChange& change);
   void agreed_Change();
 
   std::vector<KeptChange> lines_;

@@ -1,58 +1,57 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "insight/history_at_save.h"
 
-#include <cmath>
-
-#include "base/date_serial.h"
-#include "base/number_text.h"
 #include "companion/change_history.h"
+#include "companion/class_snapshots.h"
 #include "companion/companion_file.h"
+#include "companion/save_time.h"
 #include "platform/surroundings.h"
+#include "store/change/earlier_state.h"
 #include "store/class_format.h"
 #include "store/program_state.h"
-#include "store/safe_file.h"
 
 namespace tallyroll {
-namespace {
-
-std::string TwoDigits(int number) {
-  return (number < 10 ? "0" : "") + PlainNumberText(number);
-}
-
-// "2026-09-01 10:15:00" of a day serial.
-std::string TimeText(double serial) {
-  constexpr int kSecondsOfDay = 86400;
-  auto second = static_cast<std::int64_t>(std::llround(serial * kSecondsOfDay));
-  const std::int64_t whole_days = second / kSecondsOfDay;
-  const auto day = static_cast<double>(whole_days);
-  second %= kSecondsOfDay;
-  const CivilDate date = DateOfSerial(day);
-  const int of_day = static_cast<int>(second);
-  return PlainNumberText(date.year) + "-" + TwoDigits(date.month) + "-" + TwoDigits(date.day) +
-         " " + TwoDigits(of_day / 3600) + ":" + TwoDigits(of_day / 60 % 60) + ":" +
-         TwoDigits(of_day % 60);
-}
-
-}  // namespace
 
 HistoryAtSave::HistoryAtSave(const std::string& from) {
-  if (from.empty()) return;
-  const FileContents file = ReadWholeFile(from);
-  if (file.error != 0) return;
-  before_.emplace();
-  if (ParseClass(file.bytes, *before_).error != 0) before_.reset();
+  before_.error = -1;
+  if (!from.empty()) before_ = ReadWholeFile(from);
+}
+
+// The file that was is kept as well where no snapshot has it: it may be older than the first one,
+// or another program's.
+std::string HistoryAtSave::Keep(const std::string& to) const {
+  const std::string now = SaveTimeText(Platform().Now());
+  Class before;
+  if (ParseClass(before_.bytes, before).error != 0) return {};
+  const std::vector<NamedChange> changes = ChangesBetween(before, Current());
+  if (!changes.empty()) {
+    std::string fault = KeepChanges(to, now, changes);
+    if (!fault.empty()) return fault;
+  }
+  const FileContents after = ReadWholeFile(to);
+  if (after.error != 0 || !IsAnother(after.bytes)) return {};
+  return KeepSnapshots(to,
+                       {{FileTimeText(before_.stamp.modified), before_.bytes}, {now, after.bytes}});
+}
+
+// Opening alone may make other bytes of a class, which is no change.
+bool HistoryAtSave::IsAnother(const std::string& after) const {
+  Class before;
+  std::string bytes;
+  const bool opened = ReadAsOpened(before_.bytes, before) == 0;
+  return !opened || SerializeClass(before, bytes) != 0 || bytes != after;
 }
 
 std::string HistoryAtSave::Saved(const std::string& to) const {
-  if (!before_) return {};
-  const bool locked = Current().PasswordSet == 1;
-  if (locked && !HistoryAgreed(to)) return {};
-  const std::vector<NamedChange> changes = ChangesBetween(*before_, Current());
-  if (changes.empty()) return {};
-  const std::string fault = KeepChanges(to, TimeText(Platform().Now()), changes);
+  if (before_.error != 0 || !MayKeepMarks(to)) return {};
+  const std::string fault = Keep(to);
   // A companion that is off was told when the class was opened, or by the save.
   const bool told = fault.empty() || PathExists(CompanionPath(to));
   return told ? "" : " The history of this class is not kept: " + fault + ".";
+}
+
+bool MayKeepMarks(const std::string& class_path) {
+  return Current().PasswordSet != 1 || HistoryAgreed(class_path);
 }
 
 }  // namespace tallyroll

@@ -100,6 +100,7 @@ void Form1::showform3() {
   if (Tag.empty()) return;
   Class& c = Classes[static_cast<std::size_t>(Slot())];
   MakeDerivedValues(c);
+  ++Refills;
   Grid1.SetRedraw(false);
   LayOut(Grid1, c);
   FillTitles(Grid1, c);

@@ -7,6 +7,7 @@
 #include "platform/class_window.h"
 #include "platform/surroundings.h"
 #include "roster/frmEdit.h"
+#include "shell/current_window.h"
 #include "shell/shell_state.h"
 #include "shell/undo_command.h"
 #include "store/frmpassword.h"
@@ -32,6 +33,11 @@ void EditByTitle(Form1& window) {
 template <int kIndex>
 void OpenRecentEntry(Form1&) {
   FrameForm->mnuFileList_Click(kIndex);
+}
+
+template <int kPlace>
+void BringWindowEntry(Form1&) {
+  BringListedWindow(kPlace);
 }
 
 // Captions are what teachers know by heart, their blanks included.
@@ -190,8 +196,12 @@ constexpr ClassMenuRow kRows[] = {
     {.level = 1, .name = "mnuMGrades", .caption = "&Missing Grades", .status = "Who is missing which grade",
      .portal = "frmMgrade"},
     {.level = 1},
+    {.level = 1, .name = "mnupanel", .caption = "Side Pane&l", .status = "The student and the grade of the current cell, beside the table",
+     .shortcut = "F4", .action = [](Form1& window) { Screen->TogglePanel(window); }},
     {.level = 1, .name = "mnuStatistic", .caption = "&Statistics", .status = "Statistics and graph of a grade",
      .portal = "frmstatistic", .action = [](Form1& window) { window.mnuStatistic_Click(); }},
+    {.level = 1, .name = "mnugradegraph", .caption = "&Graph of this Grade", .status = "Graph of the grade in whose column you are",
+     .portal = "frmgraph", .action = [](Form1& window) { window.ShowGraphOfGrade(); }},
 
     {.level = 0, .name = "mnuPrint", .caption = "&Print"},
     {.level = 1, .name = "mnuView", .caption = "&Print Full Class", .status = "Reports of the whole class",
@@ -216,6 +226,8 @@ constexpr ClassMenuRow kRows[] = {
      .shortcut = "Ctrl+H", .portal = "frmhistory"},
     {.level = 1, .name = "mnustudenthistory", .caption = "History of this &Student", .status = "What changed of the student in whose row you are",
      .portal = "frmhistory", .action = [](Form1& window) { window.ShowHistoryOfStudent(); }},
+    {.level = 1, .name = "mnusnapshots", .caption = "Sna&pshots", .status = "The class as it was at each save, and back to it",
+     .portal = "frmsnapshots", .action = [](Form1& window) { window.ShowSnapshots(); }},
     {.level = 1, .name = "mnuunusual", .caption = "&Unusual Marks", .status = "Marks that may be slips of the hand",
      .portal = "frmunusual", .action = [](Form1& window) { window.ShowUnusual(); }},
 
@@ -226,6 +238,12 @@ constexpr ClassMenuRow kRows[] = {
      .action = [](Form1&) { Screen->Arrange(Arrangement::kTileHorizontal); }},
     {.level = 1, .name = "mnuvertical", .caption = "&Vertical Tile", .status = "Lay the class windows side by side",
      .action = [](Form1&) { Screen->Arrange(Arrangement::kTileVertical); }},
+    {.level = 1},
+    {.level = 1, .name = "mnuWindowList0", .status = "Bring this class to the front", .action = BringWindowEntry<0>},
+    {.level = 1, .name = "mnuWindowList1", .status = "Bring this class to the front", .action = BringWindowEntry<1>},
+    {.level = 1, .name = "mnuWindowList2", .status = "Bring this class to the front", .action = BringWindowEntry<2>},
+    {.level = 1, .name = "mnuWindowList3", .status = "Bring this class to the front", .action = BringWindowEntry<3>},
+    {.level = 1, .name = "mnuWindowList4", .status = "Bring this class to the front", .action = BringWindowEntry<4>},
 
     {.level = 0, .name = "mnuHelp", .caption = "&Help"},
     {.level = 1, .name = "CommandsItem", .caption = "&Contents", .status = "Open the help",

@@ -47,7 +47,8 @@ std::string JoinedPlaces(const std::vector<std::string>& above) {
 }
 
 bool IsListedElsewhere(const std::string& name) {
-  return name.starts_with("mnuFileList") || name == "mnuFind" || name == "mnuCommand";
+  return name.starts_with("mnuFileList") || name.starts_with("mnuWindowList") ||
+         name == "mnuFind" || name == "mnuCommand";
 }
 
 template <typename Click>

@@ -7,6 +7,7 @@
 #include "averages/explained/explain_student.h"
 #include "base/number_text.h"
 #include "insight/chosen_cell.h"
+#include "insight/chosen_snapshot.h"
 #include "insight/frmhistory.h"
 #include "platform/portal.h"
 #include "platform/surroundings.h"
@@ -161,6 +162,7 @@ void Form1::RunPortal(std::string_view portal, int open_state, AfterPortal after
 void Form1::SavePassword() {
   mnusave_Click();
   if (Current().Changed != kFalse) return;
+  if (Current().PasswordSet == 1) AskToKeepMarks();
   // What the save told stays: it may name a file that was kept.
   ShowStatus(StatusText + (Current().PasswordSet == 1
                                ? " It opens with its password from now on."
@@ -196,12 +198,33 @@ void Form1::ShowHistoryOfStudent() {
   RunPortal("frmhistory", kHistoryOfStudent, AfterPortal::kRefill);
 }
 
+void Form1::ShowGraphOfGrade() {
+  const int grade = Grid1.Col - Grid1.FixedCols + 1;
+  if (grade < 1 || grade > Current().NumInstruments)
+    return (void)ShowMessage("You must choose a Testing Instrument");
+  CurrentStudent = static_cast<i16>(grade);
+  RunPortal("frmgraph", 0, AfterPortal::kRefill);
+}
+
 void Form1::ShowUnusual() {
   ChosenCell = {};
   RunPortal("frmunusual", 0, AfterPortal::kRefill);
   if (ChosenCell.student == 0) return;
   Grid1.Row = ChosenCell.student + Grid1.FixedRows - 1;
   Grid1.Col = ChosenCell.grade + Grid1.FixedCols - 1;
+}
+
+// The snapshot stands beside the class from then on, also while the class is worked on.
+void Form1::ShowSnapshots() {
+  ChosenSnapshot = {};
+  RunPortal("frmsnapshots", 0, AfterPortal::kRefill);
+  if (Current().Method > 3) {
+    menu.Enable("mnuoptions", false);
+    menu.Enable("mnuprtgrade", false);
+  }
+  if (ChosenSnapshot.class_path.empty()) return;
+  snapshot_.Close();
+  snapshot_.Show();
 }
 
 }  // namespace tallyroll

@@ -9,6 +9,8 @@
 #include <utility>
 #include <vector>
 
+#include "insight/frmsnapshot.h"
+#include "insight/kept_work.h"
 #include "platform/grid.h"
 #include "platform/surroundings.h"
 #include "shell/menu.h"
@@ -36,6 +38,9 @@ enum class AfterPortal {
 inline constexpr int kStartFromText = 36;
 inline constexpr int kTransferRoster = 37;
 
+// What a double click on a cell of the class grid does, as a menu names it; empty for nothing.
+std::string_view NameOfDoubleClick(int row, int col);
+
 class Form1 {
  public:
   Form1();
@@ -49,6 +54,7 @@ class Form1 {
   Menu menu;  // the program's full menu
   std::vector<ToolButton> Toolbar2;
   std::string StatusText;  // StatusBar1
+  int Refills = 0;         // of Grid1, by which a screen sees that the class may have changed
   int MessagesTold = 0;    // by which a screen sees a new message of the same words
 
   // The window's own working fields.
@@ -57,6 +63,8 @@ class Form1 {
   bool SaveCancelled = false;             // the Save As dialog was cancelled
   UndoSteps Steps;                        // what was done to the class since it was opened
   bool SavedInCommand = false;            // by the command that runs
+  KeptWork Work;                          // what of it is not saved, in case the program stops
+  bool WorkWaits = false;                 // a command changed the class, and it is not kept yet
 
   // What a screen calls. Load acts on PendingAction; a window that got no class has an empty Tag
   // afterwards and is to be destroyed.
@@ -86,7 +94,9 @@ class Form1 {
   void mnuattsumm_Click();
   void ExplainStudent();        // in whose row the current cell stands
   void ShowHistoryOfStudent();  // in whose row the current cell stands
+  void ShowGraphOfGrade();      // in whose column the current cell stands
   void ShowUnusual();
+  void ShowSnapshots();
   void mnuundo_Click();
   void mnuredo_Click();
   void ShowSteps();  // in the captions of Undo and Redo
@@ -115,6 +125,7 @@ class Form1 {
   void OpenNewClass(int pending_action);
   void ReadInto(std::string_view path);
   void ShowOpenedClass();
+  void OfferFoundWork();
   void AppendStudents();  // of ImportFile
   void StartFromText();
   void TransferRoster();
@@ -125,7 +136,9 @@ class Form1 {
   bool Save();  // WriteClassFile; false when it failed
   void AskToSave();
   void SavePassword();
+  void AskToKeepMarks();
 
+  Beside<frmsnapshot> snapshot_;                // the earlier state that is looked at
   std::vector<std::pair<int, int>> came_back_;  // cells that Undo or Redo changed, row and column
   bool message_stands_ = false;                 // StatusText is a message, which no hint replaces
   std::string save_title_;  // title of the save dialog; empty is the dialog's own

@@ -29,6 +29,7 @@ class FrameScreen {
   virtual void BringToFront(Form1& /*window*/) {}
   // Drops down one menu of the window, as its toolbar's Print button does.
   virtual void PopUpMenu(Form1& /*window*/, std::string_view /*entry*/) {}
+  virtual void TogglePanel(Form1& /*window*/) {}
   virtual void Arrange(Arrangement /*how*/) {}
   virtual void ShowAbout() {}
   virtual std::vector<HelpTopic> HelpTopics() { return {}; }

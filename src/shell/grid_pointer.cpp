@@ -28,6 +28,22 @@ i16 ItemOrNone(int item, int count) {
 
 }  // namespace
 
+std::string_view NameOfDoubleClick(int row, int col) {
+  switch (SpotAt(row, col)) {
+    case Spot::kNewStudent:
+      return "Enter a &New Student";
+    case Spot::kNewGrade:
+      return "Enter a &New Grade";
+    case Spot::kGrade:
+      return "&Edit this Grade";
+    case Spot::kStudent:
+      return "&Edit Name, ID or Supplementary Info";
+    case Spot::kNothing:
+      break;
+  }
+  return {};
+}
+
 void Form1::Grid1_DblClick() {
   if (Tag.empty()) return;
   TakeUpClass();

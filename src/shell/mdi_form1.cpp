@@ -74,6 +74,16 @@ void MDIForm1::RebuildRecentMenu() {
     if (window) ShowRecentFiles(window->menu, false);
 }
 
+void MDIForm1::KeepWork(bool all) {
+  for (std::size_t slot = 1; slot < ClassWindows.size(); ++slot) {
+    Form1* const window = ClassWindows[slot].get();
+    if (!window || window->Tag.empty() || !(all || window->WorkWaits)) continue;
+    window->WorkWaits = false;
+    if (const std::string told = window->Work.Keep(Classes[slot]); !told.empty())
+      window->ShowStatus(told);
+  }
+}
+
 bool MDIForm1::CloseWindow(Form1& window) {
   const auto before = static_cast<std::size_t>(CurrentClass);
   const int told_before = window.MessagesTold;

@@ -42,6 +42,10 @@ class MDIForm1 {
   void EndStatus() { StatusText.clear(); }
   void RebuildRecentMenu();  // in the frame and in every class window
 
+  // Keeps what is worked on in every class, in case the program stops; called when it waits for the
+  // teacher, and with `all` each minute, also while a Portal is open.
+  void KeepWork(bool all);
+
   // Asks a window's QueryUnload and destroys it when it may go. False when it stays.
   bool CloseWindow(Form1& window);
 

@@ -12,10 +12,11 @@ inline constexpr std::array<std::string_view, 15> kWithClass = {
     "mnuclose",   "mnucloseall", "mnusaveas",   "mnudisplay",  "mnuDelete",
     "mmucomment", "mnuEdit",     "mnuText",     "mnuTransfer", "mnuEMarksS",
     "mnucat",     "mnuroster",   "mnuwordproc", "mnuSeating",  "mnuInsight"};
-inline constexpr std::array<std::string_view, 17> kWithGrades = {
-    "mnuTransfergrade", "mnuEMarks",    "mnucat",      "mnureorder",  "mnuEMarksT", "mnuRollBook",
-    "mnuDMarks",        "mnuVScreen",   "mnuView",     "mnuVPrinter", "mnuMGrades", "mnuequalW",
-    "mnupoints",        "mnuStatistic", "mnuonegrade", "mnuexplain",  "mnuunusual"};
+inline constexpr std::array<std::string_view, 18> kWithGrades = {
+    "mnuTransfergrade", "mnuEMarks",  "mnucat",       "mnureorder",   "mnuEMarksT",
+    "mnuRollBook",      "mnuDMarks",  "mnuVScreen",   "mnuView",      "mnuVPrinter",
+    "mnuMGrades",       "mnuequalW",  "mnupoints",    "mnuStatistic", "mnuonegrade",
+    "mnuexplain",       "mnuunusual", "mnugradegraph"};
 inline constexpr std::array<std::string_view, 5> kWithSummaries = {
     "mnuEAttend", "mnuDAttend", "mnuVScreen", "mnuVPrinter", "mnuView"};
 inline constexpr std::array<std::string_view, 4> kWithDays = {"mnuattscreen", "mnuedaily",

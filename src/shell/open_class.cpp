@@ -7,11 +7,13 @@
 #include "base/number_text.h"
 #include "base/text.h"
 #include "companion/companion_at_save.h"
+#include "companion/working_copy.h"
 #include "platform/portal.h"
 #include "shell/data_folder.h"
 #include "shell/opened_class.h"
 #include "shell/recent_list.h"
 #include "shell/shell_state.h"
+#include "store/change/earlier_state.h"
 #include "store/class_defaults.h"
 #include "store/class_file.h"
 #include "store/settings.h"
@@ -136,6 +138,22 @@ void Form1::ShowOpenedClass() {
     Activate();
   }
   if (const std::string told = TakeUpCompanion(path); !told.empty()) ShowStatus(told);
+  OfferFoundWork();
+}
+
+// Never over the class file: what is kept is unsaved work, and a step that Undo takes back.
+void Form1::OfferFoundWork() {
+  if (!FindWork(Current())) return;
+  ShowPortal("frmrecover");
+  const FoundWork found = std::exchange(WorkFound, {});
+  if (!found.taken) return (void)DropWorkingCopy(found.class_path);
+  Steps.Begin(Current());
+  if (const int error = PutState(found.bytes); error != 0) return ReportReadError(error);
+  WorkWaits = Steps.Note("Recovered Work", Current());
+  ShowSteps();
+  EnableClassMenus(true);
+  showform3();
+  ShowStatus("The work that was not saved is in the class again. Save keeps it.");
 }
 
 void Form1::OpenNewClass(int pending_action) {

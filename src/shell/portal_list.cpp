@@ -34,6 +34,9 @@
 #include "grades/frmletter.h"
 #include "insight/frmexplain.h"
 #include "insight/frmhistory.h"
+#include "insight/frmrecover.h"
+#include "insight/frmsnapshot.h"
+#include "insight/frmsnapshots.h"
 #include "insight/frmunusual.h"
 #include "letters/mail/frmSendMail.h"
 #include "letters/mail/frmSendMany.h"
@@ -117,6 +120,9 @@ constexpr std::array kPortals{
     PortalRow{"frmexplain", Make<frmexplain>},
     PortalRow{"frmunusual", Make<frmunusual>},
     PortalRow{"frmhistory", Make<frmhistory>},
+    PortalRow{"frmrecover", Make<frmrecover>},
+    PortalRow{"frmsnapshots", Make<frmsnapshots>},
+    PortalRow{"frmsnapshot", Make<frmsnapshot>},
     PortalRow{"frmchange", Make<frmchange>},
     PortalRow{"frmfind", Make<frmfind>},
     PortalRow{"frmSendMail", Make<frmSendMail>},

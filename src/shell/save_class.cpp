@@ -2,6 +2,8 @@
 // Saving a class, and the question before it is closed.
 #include "base/code_page.h"
 #include "base/text.h"
+#include "companion/change_history.h"
+#include "companion/class_snapshots.h"
 #include "companion/companion_at_save.h"
 #include "insight/history_at_save.h"
 #include "shell/recent_list.h"
@@ -62,8 +64,9 @@ std::string Form1::setsave() {
 }
 
 bool Form1::Save() {
-  CompanionAtSave companion(CurrentClassFile().path, Current().FileName);
-  const HistoryAtSave history(CurrentClassFile().path);
+  const std::string from = CurrentClassFile().path;
+  CompanionAtSave companion(from, Current().FileName);
+  const HistoryAtSave history(from);
   WriteClassFile();
   if (FileErrorCode != 0) return false;
   // Before anything that writes to the companion: from here on it knows the class by its new bytes.
@@ -71,10 +74,24 @@ bool Form1::Save() {
   told += history.Saved(Current().FileName);
   if (!told.empty()) ShowStatus(StatusText + told);
   Current().Changed = kFalse;
+  Work.Drop(Current().FileName, from);
   SavedInCommand = true;
   AddRecentFile(Current().FileName);
   FrameForm->RebuildRecentMenu();
   return true;
+}
+
+// Once, when the class gets a password and its companion file shows marks already.
+void Form1::AskToKeepMarks() {
+  const std::string& path = Current().FileName;
+  if (MayKeepMarks(path) || !KeepsMarks(path)) return;
+  const bool keep =
+      Ask("The history and the snapshots of this class are kept in its companion file, where they "
+          "can be read without the password. Keep them?",
+          BoxButtons::kYesNo, BoxIcon::kQuestion) == BoxAnswer::kYes;
+  const std::string fault = keep ? AgreeToHistory(path, true) : ForgetMarks(path);
+  if (!fault.empty())
+    ShowMessage("The companion file could not be changed: " + fault + ".", BoxIcon::kExclamation);
 }
 
 void Form1::saveas() {
@@ -142,6 +159,7 @@ bool Form1::QueryUnload() {
     return false;
   }
   EnableClassMenus(false);
+  Work.Drop(Current().FileName);
   ResetClassSlot();
   Current().SlotState = 0;
   return true;

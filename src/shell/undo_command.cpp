@@ -73,7 +73,7 @@ void ShowEntry(Menu& menu, std::string_view entry, std::string_view word, std::s
 void NoteInEveryClass(std::string_view name) {
   ForEachClass([&](Form1& window, const Class& c) {
     if (!window.Steps.HasBegun()) window.Steps.Begin(c);
-    window.Steps.Note(name, c);
+    if (window.Steps.Note(name, c)) window.WorkWaits = true;
     if (window.SavedInCommand && c.Changed == kFalse) window.Steps.NoteSaved();
     window.SavedInCommand = false;
     window.ShowSteps();
@@ -108,6 +108,7 @@ void Form1::ShowSteps() {
 // The class is another one now; the cells that came back are marked until the next command.
 void Form1::ShowStepTaken(std::string_view told, std::string_view step) {
   const Grid before = Grid1;
+  WorkWaits = true;
   EnableClassMenus(true);
   if (Current().Method > 3) {
     menu.Enable("mnuoptions", false);

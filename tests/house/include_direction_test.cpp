@@ -65,7 +65,8 @@ const std::map<std::string, Folders, std::less<>> kStandsOn = {
     {"desktop/grid", {"desktop/basics"}},
     {"desktop/letter", {"desktop/basics"}},
     {"desktop/portal", {"desktop/grid", "desktop/letter", "desktop/paper"}},
-    {"desktop/window", {"desktop/grid"}},
+    {"desktop/panel", {"desktop/grid"}},
+    {"desktop/window", {"desktop/grid", "desktop/panel"}},
     {"desktop/platform", {"desktop/portal", "desktop/paper", "post"}},
     {"desktop", {"desktop/window", "desktop/platform"}},
 };

@@ -1,10 +1,12 @@
 # SPDX-License-Identifier: GPL-3.0-or-later
 """Mail servers on loopback, certificates of a story's own, classes, and runs of the command line."""
 import asyncio
+import atexit
 import json
 import logging
 import os
 import pathlib
+import pwd
 import socket
 import ssl
 import subprocess
@@ -147,38 +149,73 @@ class AioServer:
         ready.wait(PATIENCE)
 
 
-class OpenSmtpd:
-    """The OpenSMTPD of the system on loopback, passing on what it takes to `box`. Only root may start
-    it. It stays plain: Debian 12's finds no private key with today's OpenSSL."""
+class Exim:
+    """The Exim of the system on loopback, with STARTTLS and a login, passing on what it takes to `box`.
+    Only root may start it."""
 
-    PROGRAM = "/usr/sbin/smtpd"
+    PROGRAM = "/usr/sbin/exim4"
+    LOGIN = ("ada", "s3cret")
 
     @classmethod
     def is_there(cls):
         return os.path.exists(cls.PROGRAM) and os.geteuid() == 0
 
-    def __init__(self, folder, box):
+    def __init__(self, box):
         self.relay = AioServer(box)
+        self.home = tempfile.TemporaryDirectory()
+        home = self.home.name
+        self.key, self.cert = certificate(home, "exim")
         with socket.create_server(("127.0.0.1", 0)) as free:
             self.port = free.getsockname()[1]
-        config = pathlib.Path(folder) / "smtpd.conf"
-        config.write_text(f"""listen on 127.0.0.1 port {self.port} hostname localhost
-action "on" relay host smtp://127.0.0.1:{self.relay.port}
-match from any for any action "on"
+        config = pathlib.Path(home) / "exim.conf"
+        config.write_text(f"""primary_hostname = localhost
+spool_directory = {home}/spool
+log_file_path = {home}/%slog
+local_interfaces = 127.0.0.1
+daemon_smtp_ports = {self.port}
+tls_advertise_hosts = *
+tls_certificate = {self.cert}
+tls_privatekey = {self.key}
+keep_environment =
+rfc1413_hosts =
+acl_smtp_rcpt = accept
+begin routers
+on:
+  driver = manualroute
+  route_list = * 127.0.0.1
+  self = send
+  transport = on
+begin transports
+on:
+  driver = smtp
+  port = {self.relay.port}
+  allow_localhost
+  hosts_try_fastopen =
+begin authenticators
+login:
+  driver = plaintext
+  public_name = LOGIN
+  server_prompts = "Username:: : Password::"
+  server_condition = ${{if and{{{{eq{{$auth1}}{{{self.LOGIN[0]}}}}}{{eq{{$auth2}}{{{self.LOGIN[1]}}}}}}}}}
 """)
-        self.process = subprocess.Popen([self.PROGRAM, "-d", "-f", str(config)],
+        user = pwd.getpwnam("Debian-exim")
+        for path in (home, self.key):
+            os.chown(path, user.pw_uid, user.pw_gid)
+        self.process = subprocess.Popen([self.PROGRAM, "-C", str(config), "-bdf"],
                                         stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
+        atexit.register(self.stop)
         for _ in range(200):
             try:
                 socket.create_connection(("127.0.0.1", self.port), 1).close()
                 return
             except OSError:
                 time.sleep(0.05)
-        raise Failure("OpenSMTPD does not come up")
+        raise Failure("Exim does not come up")
 
     def stop(self):
         self.process.terminate()
         self.process.wait()
+        self.home.cleanup()
 
 
 def wait_for(what, condition, patience=PATIENCE):
@@ -231,7 +268,7 @@ class LineServer:
                 for line in lines:
                     verb = line[:4].decode("latin-1").upper()
                     if verb == "RCPT":
-                        self.to = line.split(b"<")[1].split(b">")[0].decode()
+                        self.to = line[len("RCPT TO:"):].split()[0].strip(b"<>").decode()
                     if not self.reply(connection, verb, line) or verb == "QUIT":
                         return
                     if verb == "DATA" and self.said.startswith("354"):

@@ -12,10 +12,10 @@ using Names = std::set<std::string>;
 const Names kWithClass = {"mnuclose",   "mnucloseall", "mnusaveas",   "mnudisplay",  "mnuDelete",
                           "mmucomment", "mnuEdit",     "mnuText",     "mnuTransfer", "mnuEMarksS",
                           "mnucat",     "mnuroster",   "mnuwordproc", "mnuSeating",  "mnusave"};
-const Names kWithGrades = {"mnuTransfergrade", "mnuEMarks",  "mnureorder", "mnuEMarksT",
-                           "mnuRollBook",      "mnuDMarks",  "mnuVScreen", "mnuView",
-                           "mnuVPrinter",      "mnuMGrades", "mnuequalW",  "mnupoints",
-                           "mnuStatistic",     "mnuonegrade"};
+const Names kWithGrades = {"mnuTransfergrade", "mnuEMarks",   "mnureorder",   "mnuEMarksT",
+                           "mnuRollBook",      "mnuDMarks",   "mnuVScreen",   "mnuView",
+                           "mnuVPrinter",      "mnuMGrades",  "mnuequalW",    "mnupoints",
+                           "mnuStatistic",     "mnuonegrade", "mnugradegraph"};
 const Names kWithSummaries = {"mnuEAttend", "mnuDAttend", "mnuVScreen", "mnuVPrinter", "mnuView"};
 const Names kWithDays = {"mnuattscreen", "mnuedaily", "mnuVPrinter", "mnuView"};
 

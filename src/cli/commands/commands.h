@@ -30,6 +30,7 @@ void AddSeatingCommand(Command& app, ChosenCommand& chosen);
 void AddExplainCommand(Command& app, ChosenCommand& chosen);
 void AddUnusualCommand(Command& app, ChosenCommand& chosen);
 void AddHistoryCommand(Command& app, ChosenCommand& chosen);
+void AddSnapshotsCommand(Command& app, ChosenCommand& chosen);
 void AddRowsCommand(Command& app, ChosenCommand& chosen);
 void AddExchangeCommand(Command& app, ChosenCommand& chosen);
 void AddLettersCommand(Command& app, ChosenCommand& chosen);

@@ -62,7 +62,7 @@ bool StreamRows(const RowsOptions& options, const std::vector<std::string>& file
                 std::ostream& out, std::ostream& err) {
   if (options.csv) out << RowHeading(options.table) << std::flush;
   RowSink sink(out);
-  return RunJobs(JobsFor(options, out), files.size(), [&](Job& job, std::size_t i) {
+  return RunJobs(JobsFor(options, out), files.size(), [&](RowsJob& job, std::size_t i) {
     sink.BeginFile(job.alone() ? std::function<bool()>() : [&job] { return job.WaitForTurn(); });
     const bool whole = WriteFileRows(options, files[i], sink, err);
     job.PassOn(i);

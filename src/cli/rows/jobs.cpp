@@ -53,7 +53,7 @@ bool AllWentWell(const std::vector<pid_t>& processes) {
 
 }  // namespace
 
-bool Job::WaitForTurn() const {
+bool RowsJob::WaitForTurn() const {
   char turn = 0;
   ssize_t got = 0;
   do got = read(take_, &turn, 1);
@@ -62,22 +62,22 @@ bool Job::WaitForTurn() const {
 }
 
 // Behind the last thing nobody waits.
-void Job::PassOn(std::size_t thing) const {
+void RowsJob::PassOn(std::size_t thing) const {
   if (give_ >= 0 && thing + 1 < things_) WriteTurn(give_);
 }
 
 bool RunJobs(int jobs, std::size_t things,
-             const std::function<bool(Job& job, std::size_t thing)>& work) {
+             const std::function<bool(RowsJob& job, std::size_t thing)>& work) {
   const std::size_t wanted = std::min(static_cast<std::size_t>(jobs), things);
   const std::vector<Pipe> pipes = wanted > 1 ? MakePipes(wanted) : std::vector<Pipe>();
-  const auto share = [&](Job& job, std::size_t from, std::size_t step) {
+  const auto share = [&](RowsJob& job, std::size_t from, std::size_t step) {
     bool well = true;
     job.things_ = things;
     for (std::size_t thing = from; thing < things; thing += step) well = work(job, thing) && well;
     return well;
   };
   if (pipes.size() < 2) {
-    Job alone;
+    RowsJob alone;
     return share(alone, 0, 1);
   }
   const std::size_t count = pipes.size();
@@ -88,7 +88,7 @@ bool RunJobs(int jobs, std::size_t things,
     well = process >= 0;
     if (process > 0) processes.push_back(process);
     if (process != 0) continue;
-    Job job;
+    RowsJob job;
     job.take_ = pipes[k][0];
     job.give_ = pipes[(k + 1) % count][1];
     CloseBut(pipes, job.take_, job.give_);

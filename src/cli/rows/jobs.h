@@ -9,7 +9,7 @@ namespace tallyroll {
 
 // One process of several. The program's state is one class at a time, so jobs are processes and no
 // threads.
-class Job {
+class RowsJob {
  public:
   // Whether it has nobody to wait for.
   bool alone() const { return take_ < 0; }
@@ -20,7 +20,7 @@ class Job {
 
  private:
   friend bool RunJobs(int jobs, std::size_t things,
-                      const std::function<bool(Job& job, std::size_t thing)>& work);
+                      const std::function<bool(RowsJob& job, std::size_t thing)>& work);
   std::size_t things_ = 0;
   int take_ = -1;  // where the turn comes from; -1 when there is one job alone
   int give_ = -1;  // where it goes
@@ -30,6 +30,6 @@ class Job {
 // all went well. Everything it does but writing is lost with its process. Answers whether all of
 // them went well.
 bool RunJobs(int jobs, std::size_t things,
-             const std::function<bool(Job& job, std::size_t thing)>& work);
+             const std::function<bool(RowsJob& job, std::size_t thing)>& work);
 
 }  // namespace tallyroll

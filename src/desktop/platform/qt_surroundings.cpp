@@ -7,6 +7,7 @@
 #include <QDir>
 #include <QFileInfo>
 #include <QLocale>
+#include <QMainWindow>
 #include <QRandomGenerator>
 #include <QStandardPaths>
 
@@ -34,6 +35,13 @@ QString SettingKey(std::string_view application, std::string_view section, std::
 }
 
 // The sample lies beside the program in the build tree, and in the shared folder once installed.
+// The frame, which small windows beside a class stand before.
+QWidget* MainWindow() {
+  for (QWidget* window : QApplication::topLevelWidgets())
+    if (qobject_cast<QMainWindow*>(window)) return window;
+  return nullptr;
+}
+
 QStringList ProgramFolders() {
   const QString beside = QCoreApplication::applicationDirPath();
   return {beside, beside + QStringLiteral("/../share/tallyroll"),
@@ -77,7 +85,8 @@ void QtSurroundings::ShowModal(Portal& portal) {
 void QtSurroundings::ShowBeside(Portal& portal) {
   HideBeside(portal);
   // A child of the modal dialog is the only other window that it leaves at work.
-  auto dialog = std::make_unique<PortalDialog>(portal, QApplication::activeModalWidget());
+  QWidget* const modal = QApplication::activeModalWidget();
+  auto dialog = std::make_unique<PortalDialog>(portal, modal ? modal : MainWindow());
   if (ReportComplaints(*dialog, portal)) return;
   dialog->RestoreAndShow();
   beside_[&portal] = dialog.release();

@@ -6,46 +6,46 @@
 #include <QCloseEvent>
 #include <QContextMenuEvent>
 #include <QCursor>
-#include <QLabel>
+#include <QHBoxLayout>
 #include <QMdiArea>
 #include <QMenu>
+#include <QSettings>
 #include <QVBoxLayout>
 
 #include "base/number_text.h"
 #include "desktop/basics/text_conversion.h"
 #include "desktop/grid/grid_widget.h"
+#include "desktop/panel/panel_words.h"
+#include "desktop/panel/side_panel.h"
+#include "desktop/panel/status_line.h"
 #include "desktop/window/appearance_menu.h"
+#include "desktop/window/asked_menu.h"
 #include "desktop/window/menu_view.h"
 #include "desktop/window/message_moment.h"
+#include "desktop/window/panel_follower.h"
 #include "desktop/window/toolbar_view.h"
 
 namespace tallyroll {
+namespace {
 
-ClassWindowView::ClassWindowView(Form1& form) : form_(&form) {
-  auto* page = new QWidget(this);
+constexpr double kWidthForPanel = 1240, kHeightForPanel = 480;
+
+QString PanelKey() {
+  return QStringLiteral("Panel/Shown");
+}
+
+// That of the window's slot; the one that is never handed out while it has none.
+const Class& ClassOf(const Form1& form) {
+  return Classes[static_cast<std::size_t>(LeadingNumber(form.Tag))];
+}
+
+}  // namespace
+
+ClassWindowView::ClassWindowView(Form1& form)
+    : form_(&form), wants_panel_(QSettings().value(PanelKey(), true).toBool()) {
   menu_ = new MenuView(form.menu, this);
   AddAppearanceMenu(*menu_->Action(QStringLiteral("mnuScreens"))->menu());
-  toolbar_ = new ToolbarView(form.Toolbar2, page);
-  grid_ = new GridWidget(page);
-  grid_->setObjectName(QStringLiteral("Grid1"));
-  grid_->setAccessibleName(tr("Students and grades"));
-  grid_->Keep(QStringLiteral("Form1.Grid1"));
-  grid_->SetGrid(&form.Grid1);
-  status_ = new QLabel(page);
-  status_->setObjectName(QStringLiteral("StatusBar1"));
-  status_->setMargin(3);
-  status_->setTextFormat(Qt::PlainText);
-  // A long status must not widen the window.
-  status_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
-
-  auto* rows = new QVBoxLayout(page);
-  rows->setContentsMargins(0, 0, 0, 0);
-  rows->setSpacing(0);
-  rows->addWidget(toolbar_);
-  rows->addWidget(grid_, 1);
-  rows->addWidget(status_);
-  page->setFocusProxy(grid_);
-  setWidget(page);
+  setWidget(MakePage());
 
   // The window's own menu would claim Ctrl+W and Ctrl+F4 beside the entry that stands for them.
   for (QAction* action : systemMenu()->actions()) action->setShortcuts(QList<QKeySequence>());
@@ -53,7 +53,7 @@ ClassWindowView::ClassWindowView(Form1& form) : form_(&form) {
   switch_focus->setShortcut(Qt::Key_F6);
   switch_focus->setShortcutContext(Qt::WidgetWithChildrenShortcut);
   addAction(switch_focus);
-  connect(switch_focus, &QAction::triggered, this, &ClassWindowView::SwitchBetweenGridAndToolbar);
+  connect(switch_focus, &QAction::triggered, this, &ClassWindowView::SwitchFocus);
 
   moment_ = new MessageMoment(
       [this] { return mdiArea() != nullptr && mdiArea()->currentSubWindow() == this; },
@@ -64,24 +64,104 @@ ClassWindowView::ClassWindowView(Form1& form) : form_(&form) {
   // Queued: a Portal that the double click opens must not run inside the mouse event.
   connect(grid_, &GridWidget::cellDoubleClicked, this, &ClassWindowView::CellChosen,
           Qt::QueuedConnection);
+  ConnectPanel();
   Sync();
+}
+
+QWidget* ClassWindowView::MakePage() {
+  auto* page = new QWidget(this);
+  toolbar_ = new ToolbarView(form_->Toolbar2, page);
+  grid_ = new GridWidget(page);
+  grid_->setObjectName(QStringLiteral("Grid1"));
+  grid_->setAccessibleName(tr("Students and grades"));
+  grid_->Keep(QStringLiteral("Form1.Grid1"));
+  grid_->SetGrid(&form_->Grid1);
+  panel_ = new SidePanel(page);
+  panel_->hide();
+  status_ = new StatusLine(page);
+
+  auto* middle = new QHBoxLayout;
+  middle->setSpacing(0);
+  middle->addWidget(grid_, 1);
+  middle->addWidget(panel_);
+  auto* rows = new QVBoxLayout(page);
+  rows->setContentsMargins(0, 0, 0, 0);
+  rows->setSpacing(0);
+  rows->addWidget(toolbar_);
+  rows->addLayout(middle, 1);
+  rows->addWidget(status_);
+  page->setFocusProxy(grid_);
+  return page;
+}
+
+void ClassWindowView::ConnectPanel() {
+  follower_ = new PanelFollower(*form_, *panel_, *status_, this);
+  connect(grid_, &GridWidget::currentCellChanged, follower_, &PanelFollower::Follow);
+  connect(status_, &StatusLine::PanelPressed, this, &ClassWindowView::TogglePanel);
+  connect(panel_, &SidePanel::GradePointed, this, &ClassWindowView::GoToGrade);
+  connect(panel_, &SidePanel::GradeChosen, this, [this](int grade) {
+    if (form_ == nullptr) return;
+    GoToGrade(grade);
+    Q_EMIT CellChosen(form_->Grid1.Row, form_->Grid1.Col);
+  });
+  connect(panel_, &SidePanel::MethodAsked, this, [this] {
+    if (form_ == nullptr) return;
+    const auto* below = panel_->findChild<QWidget*>(QStringLiteral("make_up"));
+    menu_->PopUp(QStringLiteral("mnuequalW"), below->mapToGlobal(QPoint(0, below->height())));
+  });
+}
+
+// The cell of a grade in the current row.
+void ClassWindowView::GoToGrade(int grade) {
+  if (form_ == nullptr) return;
+  grid_->MoveTo(form_->Grid1.Row, grade + form_->Grid1.FixedCols - 1);
+}
+
+// Beside a narrow table the panel would take what the marks need.
+bool ClassWindowView::HasRoomForPanel() const {
+  return width() >= PanelPx(*this, kWidthForPanel) && height() >= PanelPx(*this, kHeightForPanel);
+}
+
+void ClassWindowView::FitPanel() {
+  if (HasRoomForPanel()) insists_on_panel_ = false;
+  const bool shown = wants_panel_ && (HasRoomForPanel() || insists_on_panel_);
+  if (panel_->isVisibleTo(panel_->parentWidget()) != shown) panel_->setVisible(shown);
+}
+
+void ClassWindowView::TogglePanel() {
+  const bool shown = panel_->isVisibleTo(panel_->parentWidget());
+  if (panel_->isAncestorOf(focusWidget())) grid_->setFocus();
+  wants_panel_ = !shown;
+  insists_on_panel_ = !shown;
+  QSettings().setValue(PanelKey(), wants_panel_);
+  FitPanel();
+  Sync();
+}
+
+void ClassWindowView::resizeEvent(QResizeEvent* event) {
+  QMdiSubWindow::resizeEvent(event);
+  FitPanel();
 }
 
 void ClassWindowView::Sync() {
   if (form_ == nullptr) return;
+  const bool panel = panel_->isVisibleTo(panel_->parentWidget());
+  form_->menu.Check("mnupanel", panel);
   menu_->Sync();
   toolbar_->Sync();
   grid_->SetNotice(Notice());
   grid_->UpdateFromGrid();
   if (const QString title = Title(); title != windowTitle()) setWindowTitle(title);
   moment_->Follow(form_->MessagesTold);
-  const QString status = hint_.isEmpty() ? FromText(form_->StatusText) : hint_;
-  if (status != status_->text()) status_->setText(status);
+  status_->ShowMessage(hint_.isEmpty() ? FromText(form_->StatusText) : hint_);
+  status_->ShowChanged(ClassOf(*form_).Changed != kFalse);
+  status_->ShowPanel(panel);
+  follower_->Follow();
 }
 
 // What will stand in a class that has nothing yet, and the way there.
 QString ClassWindowView::Notice() const {
-  const Class& c = Classes[static_cast<std::size_t>(LeadingNumber(form_->Tag))];
+  const Class& c = ClassOf(*form_);
   if (form_->Tag.empty()) return {};
   if (c.NumStudents == 0)
     return tr("No students yet - double click on the head above to enter one");
@@ -92,9 +172,8 @@ QString ClassWindowView::Notice() const {
 
 // An asterisk marks what is not saved yet.
 QString ClassWindowView::Title() const {
-  const auto slot = static_cast<std::size_t>(LeadingNumber(form_->Tag));
   const QString caption = FromText(form_->Caption);
-  return Classes[slot].Changed != kFalse ? caption + QLatin1Char('*') : caption;
+  return ClassOf(*form_).Changed != kFalse ? caption + QLatin1Char('*') : caption;
 }
 
 // What the pointer rests on is told again.
@@ -125,6 +204,7 @@ void ClassWindowView::PopUpMenu(const QString& menu) {
 }
 
 void ClassWindowView::LetGo() {
+  follower_->LetGo();
   menu_->LetGo();
   toolbar_->LetGo();
   grid_->SetGrid(&no_grid_);
@@ -137,24 +217,24 @@ void ClassWindowView::closeEvent(QCloseEvent* event) {
   if (form_ != nullptr) Q_EMIT CloseAsked();
 }
 
-// What can be asked about the student in a row. The entries are the menu's own, so they are enabled
-// with it.
+// The entries are the menu's own, so they are enabled with it. A head moves the column alone, a
+// name the row alone.
 void ClassWindowView::contextMenuEvent(QContextMenuEvent* event) {
   if (form_ == nullptr) return;
   const bool keyboard = event->reason() == QContextMenuEvent::Keyboard;
-  GridWidget::Cell cell{form_->Grid1.Row, form_->Grid1.Col};
-  if (!keyboard) cell = grid_->CellAt(grid_->viewport()->mapFromGlobal(event->globalPos()));
-  const int student = cell.row - form_->Grid1.FixedRows + 1;
-  if (student < 1 ||
-      student > Classes[static_cast<std::size_t>(LeadingNumber(form_->Tag))].NumStudents)
-    return QMdiSubWindow::contextMenuEvent(event);
-  grid_->MoveTo(cell.row, std::max(cell.col, form_->Grid1.FixedCols));
-  QMenu asked(this);
-  asked.setObjectName(QStringLiteral("asked"));
-  asked.addAction(menu_->Action(QStringLiteral("mnuexplain")));
-  asked.addAction(menu_->Action(QStringLiteral("mnustudenthistory")));
+  const Grid& grid = form_->Grid1;
+  AskedCell cell{grid.Row, grid.Col};
+  if (!keyboard) {
+    const auto [row, col] = grid_->CellAt(grid_->viewport()->mapFromGlobal(event->globalPos()));
+    cell = {row, col};
+  }
+  AskedMenu asked(*form_, *menu_, cell, this);
+  if (asked.isEmpty()) return QMdiSubWindow::contextMenuEvent(event);
+  grid_->MoveTo(cell.row < grid.FixedRows ? grid.Row : cell.row,
+                cell.col < grid.FixedCols ? grid.Col : cell.col);
   const QPoint below = grid_->viewport()->mapToGlobal(grid_->CellRect(cell.row, cell.col).center());
-  asked.exec(keyboard ? below : event->globalPos());
+  const QAction* taken = asked.exec(keyboard ? below : event->globalPos());
+  if (taken != nullptr && taken == asked.double_click()) Q_EMIT CellChosen(cell.row, cell.col);
 }
 
 void ClassWindowView::PointAt() {
@@ -163,12 +243,12 @@ void ClassWindowView::PointAt() {
   Sync();
 }
 
-void ClassWindowView::SwitchBetweenGridAndToolbar() {
-  if (grid_->hasFocus()) {
-    toolbar_->FocusFirst();
-  } else {
-    grid_->setFocus(Qt::ShortcutFocusReason);
-  }
+// From the table to the toolbar, to what can be pressed in the panel, and back.
+void ClassWindowView::SwitchFocus() {
+  if (grid_->hasFocus()) return toolbar_->FocusFirst();
+  const QWidget* before = focusWidget();
+  if (toolbar_->isAncestorOf(before) && panel_->isVisible()) panel_->FocusFirst();
+  if (focusWidget() == before) grid_->setFocus(Qt::ShortcutFocusReason);
 }
 
 }  // namespace tallyroll

@@ -6,13 +6,14 @@
 
 #include "shell/form1.h"
 
-class QLabel;
-
 namespace tallyroll {
 
 class GridWidget;
 class MenuView;
 class MessageMoment;
+class PanelFollower;
+class SidePanel;
+class StatusLine;
 class ToolbarView;
 
 class ClassWindowView : public QMdiSubWindow {
@@ -31,6 +32,8 @@ class ClassWindowView : public QMdiSubWindow {
   void ShowHint(const QString& hint);
   // Drops down a menu below its toolbar button.
   void PopUpMenu(const QString& menu);
+  // Shows or hides the side panel, whatever room there is; the wish is kept.
+  void TogglePanel();
   // The class is about to go, and this window after it.
   void LetGo();
 
@@ -43,20 +46,30 @@ class ClassWindowView : public QMdiSubWindow {
  protected:
   void closeEvent(QCloseEvent* event) override;
   void contextMenuEvent(QContextMenuEvent* event) override;
+  void resizeEvent(QResizeEvent* event) override;
 
  private:
   QString Title() const;
   QString Notice() const;
   void EndStatus();
   void PointAt();
-  void SwitchBetweenGridAndToolbar();
+  QWidget* MakePage();
+  void ConnectPanel();
+  bool HasRoomForPanel() const;
+  void FitPanel();
+  void GoToGrade(int grade);
+  void SwitchFocus();
 
   Form1* form_;
   Grid no_grid_;  // shown between LetGo and the end
   MenuView* menu_;
   ToolbarView* toolbar_;
   GridWidget* grid_;
-  QLabel* status_;
+  SidePanel* panel_;
+  StatusLine* status_;
+  PanelFollower* follower_;
+  bool wants_panel_;
+  bool insists_on_panel_ = false;  // in a window without room for it
   MessageMoment* moment_;
   QString hint_;
 };

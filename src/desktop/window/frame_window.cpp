@@ -24,8 +24,11 @@
 #include "desktop/window/message_moment.h"
 #include "desktop/window/start_page.h"
 #include "desktop/window/tile_windows.h"
+#include "desktop/window/tour.h"
+#include "shell/current_window.h"
 #include "shell/data_folder.h"
 #include "shell/shell_state.h"
+#include "store/safe_file.h"
 
 namespace tallyroll {
 
@@ -75,6 +78,13 @@ FrameWindow::FrameWindow() {
   // What a Portal changes while it runs shows as soon as the program waits for the user.
   connect(QAbstractEventDispatcher::instance(), &QAbstractEventDispatcher::aboutToBlock, this,
           &FrameWindow::Sync);
+  // Then it is kept as well, and each minute that a Portal takes.
+  connect(QAbstractEventDispatcher::instance(), &QAbstractEventDispatcher::aboutToBlock, this,
+          [] { FrameForm->KeepWork(false); });
+  constexpr int kMinute = 60000;
+  auto* minute = new QTimer(this);
+  connect(minute, &QTimer::timeout, this, [] { FrameForm->KeepWork(true); });
+  minute->start(kMinute);
   resize(1024, 700);
   RestorePlace(*this, PlaceName());
 }
@@ -177,6 +187,7 @@ void FrameWindow::SyncStartPage() {
 }
 
 void FrameWindow::Sync() {
+  ListOpenWindows();
   menu_->Sync();
   if (front_ == nullptr && (start_ != nullptr || isVisible())) SyncStartPage();
   for (QMdiSubWindow* window : area_->subWindowList())
@@ -196,6 +207,12 @@ void FrameWindow::ShowFrame() {
   show();
   raise();
   QTimer::singleShot(0, this, &FrameWindow::Sync);
+}
+
+void FrameWindow::OfferTour() {
+  if (front_ != nullptr || !isVisible() || !PathExists(SamplePath())) return;
+  connect(new Tour(*this), &Tour::SampleWanted, this,
+          [this] { Press(QString::fromLatin1(kSampleEntry)); });
 }
 
 void FrameWindow::CloseFrame() {
@@ -247,6 +264,10 @@ void FrameWindow::BringToFront(Form1& window) {
 
 void FrameWindow::PopUpMenu(Form1& window, std::string_view entry) {
   if (ClassWindowView* view = ViewOf(window)) view->PopUpMenu(FromText(entry));
+}
+
+void FrameWindow::TogglePanel(Form1& window) {
+  if (ClassWindowView* view = ViewOf(window)) view->TogglePanel();
 }
 
 void FrameWindow::Arrange(Arrangement how) {

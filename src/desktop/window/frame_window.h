@@ -34,10 +34,13 @@ class FrameWindow : public QMainWindow, public FrameScreen {
   void DestroyWindow(Form1& window) override;
   void BringToFront(Form1& window) override;
   void PopUpMenu(Form1& window, std::string_view entry) override;
+  void TogglePanel(Form1& window) override;
   void Arrange(Arrangement how) override;
   void ShowAbout() override;
   std::vector<HelpTopic> HelpTopics() override;
 
+  // On a first start: the sample class, and steps that point at what is used every day.
+  void OfferTour();
   // Shows what the logic says now, in all windows; writes differences only.
   void Sync();
   // The class window in front; null while no class is open.

@@ -22,6 +22,7 @@ constexpr std::array kContexts = {
     200,  // the class window: Form1
     210,  // all keys
     215,  // finding students, grades, commands and classes: frmfind
+    218,  // the side panel and the status bar
     220,  // sorting by name or by ID
     230,  // the new class wizard: frmWizard
     240,  // class information: frmclassinfo
@@ -69,6 +70,8 @@ constexpr std::array kContexts = {
     820,  // unusual marks: frmunusual
     830,  // undo and redo
     840,  // the history of a class: frmhistory
+    870,  // work that was not saved: frmrecover
+    860,  // the class of an earlier day: frmsnapshots, frmsnapshot
     850,  // what a change of weights would do: frmchange
 };
 

@@ -21,13 +21,19 @@ class AskedMenuTest : public FrameTest {
 
   GridWidget& grid() const { return *window->Current()->findChild<GridWidget*>(); }
 
-  // Asks at a place of the grid, notes the entries and takes the first one.
-  void Ask(QContextMenuEvent::Reason reason, QPoint place) {
-    QTimer::singleShot(0, &grid(), [this] {
+  // Asks at a place of the grid, notes the entries and takes one of them.
+  void Ask(QContextMenuEvent::Reason reason, QPoint place, const char* take) {
+    QTimer::singleShot(0, &grid(), [this, take] {
       auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
       if (menu == nullptr) return;
-      for (const QAction* action : menu->actions()) entries << action->objectName();
-      QTest::keyClick(menu, Qt::Key_Down);
+      for (const QAction* action : menu->actions())
+        if (!action->isSeparator()) entries << action->objectName();
+      while (menu->activeAction() == nullptr ||
+             menu->activeAction()->objectName() != QString::fromLatin1(take)) {
+        const QAction* before = menu->activeAction();
+        QTest::keyClick(menu, Qt::Key_Down);
+        if (menu->activeAction() == before) break;
+      }
       QTest::keyClick(menu, Qt::Key_Return);
     });
     QContextMenuEvent event(reason, place, grid().viewport()->mapToGlobal(place));
@@ -41,8 +47,10 @@ class AskedMenuTest : public FrameTest {
 
 TEST_F(AskedMenuTest, TheOtherMouseButtonAsksAboutTheStudentUnderThePointer) {
   RecordPortals();
-  Ask(QContextMenuEvent::Mouse, grid().CellRect(3, 2).center());
-  EXPECT_EQ(entries.value(0), QStringLiteral("mnuexplain"));
+  Ask(QContextMenuEvent::Mouse, grid().CellRect(3, 2).center(), "mnuexplain");
+  EXPECT_EQ(entries,
+            (QStringList{QStringLiteral("double_click"), QStringLiteral("mnuexplain"),
+                         QStringLiteral("mnustudenthistory"), QStringLiteral("mnugradegraph")}));
   EXPECT_EQ(form.Grid1.Row, 3);
   EXPECT_EQ(portals_asked_for, std::vector<std::string>{"frmexplain"});
   EXPECT_EQ(CurrentStudent, 2);
@@ -51,15 +59,38 @@ TEST_F(AskedMenuTest, TheOtherMouseButtonAsksAboutTheStudentUnderThePointer) {
 TEST_F(AskedMenuTest, TheMenuKeyAsksAboutTheStudentOfTheCurrentCell) {
   RecordPortals();
   grid().MoveTo(2, 2);
-  Ask(QContextMenuEvent::Keyboard, QPoint(1, 1));
+  Ask(QContextMenuEvent::Keyboard, QPoint(1, 1), "mnuexplain");
   EXPECT_EQ(portals_asked_for, std::vector<std::string>{"frmexplain"});
   EXPECT_EQ(CurrentStudent, 1);
 }
 
-TEST_F(AskedMenuTest, WhereNoStudentStandsNothingIsAsked) {
+TEST_F(AskedMenuTest, TheFirstEntryIsTheDoubleClickOfTheCell) {
   RecordPortals();
-  Ask(QContextMenuEvent::Mouse, grid().CellRect(1, 2).center());
-  Ask(QContextMenuEvent::Mouse, grid().CellRect(6, 2).center());
+  Ask(QContextMenuEvent::Mouse, grid().CellRect(2, 2).center(), "double_click");
+  Ask(QContextMenuEvent::Mouse, grid().CellRect(3, 0).center(), "double_click");
+  Ask(QContextMenuEvent::Mouse, grid().CellRect(0, 0).center(), "double_click");
+  Ask(QContextMenuEvent::Mouse, grid().CellRect(0, 2).center(), "double_click");
+  EXPECT_EQ(portals_asked_for,
+            (std::vector<std::string>{"frmEmarks", "frmEdit", "frmAdd", "frmMarks"}));
+}
+
+TEST_F(AskedMenuTest, TheGraphIsOfTheGradeInTheColumn) {
+  RecordPortals();
+  Ask(QContextMenuEvent::Mouse, grid().CellRect(1, 2).center(), "mnugradegraph");
+  EXPECT_EQ(portals_asked_for, std::vector<std::string>{"frmgraph"});
+  EXPECT_EQ(CurrentStudent, 1);
+}
+
+TEST_F(AskedMenuTest, WhereNoStudentAndNoGradeStandsOnlyTheDoubleClickIsOffered) {
+  RecordPortals();
+  Ask(QContextMenuEvent::Mouse, grid().CellRect(6, 3).center(), "double_click");
+  EXPECT_EQ(entries, QStringList{QStringLiteral("double_click")});
+  EXPECT_EQ(form.Grid1.Row, 6);
+}
+
+TEST_F(AskedMenuTest, WhereADoubleClickDoesNothingNothingIsAsked) {
+  RecordPortals();
+  Ask(QContextMenuEvent::Mouse, grid().CellRect(1, 0).center(), "double_click");
   EXPECT_TRUE(entries.isEmpty());
   EXPECT_TRUE(portals_asked_for.empty());
 }

@@ -86,6 +86,18 @@ TEST_F(FrameWindowTest, CtrlF6GoesToTheNextClassAndCtrlF4ClosesIt) {
   EXPECT_EQ(window->Current()->form(), ClassWindows[2].get());
 }
 
+TEST_F(FrameWindowTest, TheWindowMenuListsTheOpenClasses) {
+  Form1& math = OpenClass("MATH.TYR");
+  OpenClass("ART.TYR");
+  const MenuView& menu = window->Current()->menu();
+  EXPECT_TRUE(menu.Action(QStringLiteral("mnuWindowList1"))->isChecked());
+  EXPECT_FALSE(menu.Action(QStringLiteral("mnuWindowList2"))->isVisible());
+  EXPECT_EQ(menu.Action(QStringLiteral("mnuWindowList0"))->text(), QStringLiteral("&1. MATH.TYR"));
+  PressMenu("mnuWindowList0");
+  EXPECT_EQ(window->Current()->form(), &math);
+  EXPECT_TRUE(window->Current()->menu().Action(QStringLiteral("mnuWindowList0"))->isChecked());
+}
+
 TEST_F(FrameWindowTest, CtrlWClosesTheClass) {
   OpenClass("MATH.TYR");
   window->activateWindow();

@@ -14,9 +14,11 @@ SAMPLE = pathlib.Path(os.environ["TALLYROLL_SAMPLE"])
 
 
 class Story:
-    def __init__(self, folder):
+    def __init__(self, folder, first_start):
         self.folder = pathlib.Path(folder)
         self.programs = []
+        if not first_start:
+            keep_settings("[TALLYRLG8]\nstartup\\TOUR=1\n")
 
     def start(self, *arguments, **options):
         self.programs.append(Program(sys.argv[1], *map(str, arguments), **options))
@@ -41,10 +43,19 @@ def take_picture(name):
     print(f"the screen as it was: {os.path.abspath(name)}")
 
 
-def run(tell):
+def keep_settings(text):
+    """The settings of a program that was here before, unless there are some."""
+    folder = pathlib.Path(os.environ["XDG_CONFIG_HOME"]) / "Tallyroll"
+    folder.mkdir(parents=True, exist_ok=True)
+    path = folder / "Tallyroll.conf"
+    if not path.exists():
+        path.write_text(text)
+
+
+def run(tell, first_start=False):
     """Tells the story; on failure the screen is kept in the current folder."""
     with tempfile.TemporaryDirectory(dir=os.environ["HOME"]) as folder:
-        story = Story(folder)
+        story = Story(folder, first_start)
         try:
             tell(story)
         except Exception:  # whatever went wrong, the picture says more

@@ -1,27 +1,29 @@
 # SPDX-License-Identifier: GPL-3.0-or-later
-# A server that nobody here wrote takes a run of ten with PDF, and passes each on as it was.
+# A server that nobody here wrote takes a run of ten with PDF after a login over STARTTLS, and passes each
+# on as it was.
 import email
 import email.policy
+import pathlib
 import sys
 
 import servers
-from servers import Mailbox, OpenSmtpd, build_class, expect, mail, states, wait_for
+from servers import Mailbox, Exim, build_class, expect, mail, states, wait_for
 
 
 def tell(folder):
-    if not OpenSmtpd.is_there():
-        print("OpenSMTPD is not there, or this is not root")
+    if not Exim.is_there():
+        print("Exim is not there, or this is not root")
         sys.exit(77)
     path = build_class(folder + "/class.TYR", 10)
     box = Mailbox()
-    server = OpenSmtpd(folder, box)
-    try:
-        status, out, err = mail(path, "--security", "plain", "--server", f"localhost:{server.port}",
-                                "--subject", "\u00c9l\u00e8ve", "--pdf")
-        expect("the run", (status, states(out), err), (0, ["sent"] * 10, ""))
-        wait_for("what it passes on", lambda: len(box.arrived) == 10)
-    finally:
-        server.stop()
+    secret = pathlib.Path(folder) / "password"
+    secret.write_text(Exim.LOGIN[1] + "\n")
+    server = Exim(box)
+    status, out, err = mail(path, "--server", f"localhost:{server.port}", "--ca", server.cert,
+                            "--user", Exim.LOGIN[0], "--password-from", secret,
+                            "--subject", "\u00c9l\u00e8ve", "--pdf")
+    expect("the run", (status, states(out), err), (0, ["sent"] * 10, ""))
+    wait_for("what it passes on", lambda: len(box.arrived) == 10)
     expect("each one once", sorted(each[1][0] for each in box.arrived),
            sorted(f"parent{i}@home.example" for i in range(1, 11)))
     for _, to, content, _ in box.arrived:
