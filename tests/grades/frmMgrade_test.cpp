@@ -41,6 +41,11 @@ TEST_F(FrmMgradeTest, ListsWhatTheStudentHasNotGot) {
   EXPECT_EQ(driver->Text("comments"), "often late");
 }
 
+TEST_F(FrmMgradeTest, EachLineTellsHowMuchIsMissing) {
+  OpenPortal();
+  EXPECT_EQ(portal.list1.Counts, (std::vector<int>{4, 0}));
+}
+
 TEST_F(FrmMgradeTest, AnExcusedGradeNeverShows) {
   OpenPortal();
   for (int row = 1; row < portal.grdgrade.Rows(); ++row) EXPECT_NE(Row(row).at(3), "EXC");

@@ -101,6 +101,33 @@ TEST_F(FrmPrintPreTest, ZoomGoesStepByStepAndStopsAtTheEnds) {
   EXPECT_EQ(portal.picture1.Zoom, 0.55);
 }
 
+TEST_F(FrmPrintPreTest, AFittedPageHasNoneOfTheFiveSizes) {
+  OpenReport(19, 3);
+  Zoom(3);
+  const unsigned before = portal.picture1.Revision;
+  driver->Press("fitwidth");
+  EXPECT_EQ(portal.picture1.Fit, SheetFit::kWidth);
+  EXPECT_NE(portal.picture1.Revision, before);
+  EXPECT_EQ(portal.size.ListIndex, -1);
+  EXPECT_EQ(portal.size.List.size(), 5u);
+  driver->Press("fitpage");
+  EXPECT_EQ(portal.picture1.Fit, SheetFit::kPage);
+}
+
+TEST_F(FrmPrintPreTest, ASizeOrAStepEndsTheFit) {
+  OpenReport(19, 3);
+  driver->Press("fitpage");
+  Zoom(1);
+  EXPECT_EQ(portal.picture1.Fit, SheetFit::kZoom);
+  EXPECT_EQ(portal.picture1.Zoom, 0.75);
+  driver->Press("fitwidth");
+  driver->Press("one");  // back to where the steps were left
+  EXPECT_EQ(portal.picture1.Fit, SheetFit::kZoom);
+  EXPECT_EQ(driver->Text("size"), "75 %");
+  driver->Press("one");
+  EXPECT_EQ(driver->Text("size"), "100 %");
+}
+
 TEST_F(FrmPrintPreTest, PagesAreTurned) {
   OpenReport(19, 120);
   const std::vector<std::pair<const char*, const char*>> turns = {

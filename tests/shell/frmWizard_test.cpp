@@ -50,6 +50,14 @@ TEST_F(FrmWizardTest, BeginsAtTheWelcomeWithBackDisabledAndThePicture) {
   EXPECT_EQ(driver->Text("cmdNext"), "&Next >");
 }
 
+TEST_F(FrmWizardTest, EachPageTellsItsStep) {
+  EXPECT_EQ(portal.stepline.Caption, "Step 1 of 8");
+  driver->Press("cmdNext");
+  EXPECT_EQ(portal.stepline.Caption, "Step 2 of 8");
+  GoToStep(8);
+  EXPECT_EQ(portal.stepline.Caption, "Step 8 of 8");
+}
+
 TEST_F(FrmWizardTest, NextAndBackWalkThePages) {
   driver->Press("cmdNext");
   EXPECT_EQ(portal.Step, 2);

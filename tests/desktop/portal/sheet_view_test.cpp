@@ -127,5 +127,26 @@ TEST_F(SheetViewTest, AnotherPageAskedForMeanwhileIsDrawnAfterwards) {
   EXPECT_EQ(deepest, 1);
 }
 
+TEST_F(SheetViewTest, AFittedSheetIsAsWideAsItsDeskAndFollowsIt) {
+  portal.sheet.Fit = SheetFit::kWidth;
+  Open();
+  const auto fits = [this] {
+    const int free = area().viewport()->width() - area().widget()->width();
+    return free >= 0 && free <= 40;
+  };
+  EXPECT_TRUE(fits()) << area().widget()->width() << " of " << area().viewport()->width();
+  dialog->resize(dialog->width() + 150, dialog->height());
+  QTest::qWait(50);
+  EXPECT_TRUE(fits()) << area().widget()->width() << " of " << area().viewport()->width();
+}
+
+TEST_F(SheetViewTest, AFittedPageIsSeenWhole) {
+  portal.sheet.Fit = SheetFit::kPage;
+  Open();
+  EXPECT_LE(area().widget()->width(), area().viewport()->width());
+  EXPECT_LE(area().widget()->height(), area().viewport()->height());
+  EXPECT_GE(area().widget()->height(), area().viewport()->height() - 40);
+}
+
 }  // namespace
 }  // namespace tallyroll

@@ -7,9 +7,12 @@
 #include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
+#include <QScrollBar>
+#include <QTabBar>
 #include <QToolButton>
 #include <QToolTip>
 
+#include "desktop/grid/grid_widget.h"
 #include "desktop/letter/rich_text_edit.h"
 #include "desktop/style/appearance.h"
 #include "tests/desktop/every_window.h"
@@ -94,6 +97,31 @@ TEST_F(EveryWindowTest, EachFitsASmallScreenAtEveryDensity) {
       EXPECT_LE(least.height(), kSmallRoom.height()) << name << " at " << static_cast<int>(density);
     });
   }
+}
+
+// The room of a sheet beyond its last column.
+int FreeRoomOf(const GridWidget& grid) {
+  return grid.viewport()->width() + grid.verticalScrollBar()->sizeHint().width() -
+         grid.WholeWidth();
+}
+
+TEST_F(EveryWindowTest, NothingIsCutBesideFreeRoom) {
+  int cells = 0;
+  ForEach([&cells](const std::string& name, PortalDialog& window) {
+    window.resize(window.size().expandedTo(kSmallRoom));
+    QCoreApplication::processEvents();
+    for (const auto* tabs : window.findChildren<QTabBar*>()) {
+      if (!tabs->isVisible()) continue;
+      EXPECT_GE(tabs->width() + 1, tabs->sizeHint().width()) << name;
+    }
+    for (const auto* grid : window.findChildren<GridWidget*>()) {
+      if (!grid->isVisible() || !grid->grid() || FreeRoomOf(*grid) <= 0) continue;
+      for (int row = 0; row < grid->grid()->Rows(); ++row)
+        for (int col = 0; col < grid->grid()->Cols(); ++col, ++cells)
+          EXPECT_FALSE(grid->IsCut(row, col)) << name << ": " << grid->grid()->TextMatrix(row, col);
+    }
+  });
+  EXPECT_GT(cells, 0);
 }
 
 // A caption needs its width; a label that wraps needs its height.

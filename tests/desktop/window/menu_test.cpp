@@ -36,6 +36,20 @@ class MenuTest : public testing::Test {
   MenuView view{menu, &parent};
 };
 
+// An entry that is off says why as a tip; what can be pressed needs none.
+TEST_F(MenuTest, AnEntryThatIsOffTellsWhy) {
+  Menu of_class;
+  of_class.Add({.name = "mnuFile", .caption = "&File"});
+  of_class.Add({.name = "mnupasschange", .caption = "&Change", .level = 1, .enabled = false});
+  MenuView shown(of_class, &parent);
+  QAction* change = shown.Action(QStringLiteral("mnupasschange"));
+  EXPECT_EQ(change->toolTip(), QStringLiteral("The class has no password."));
+  EXPECT_TRUE(shown.Action(QStringLiteral("mnuFile"))->menu()->toolTipsVisible());
+  of_class.Enable("mnupasschange", true);
+  shown.Sync();
+  EXPECT_NE(change->toolTip(), QStringLiteral("The class has no password."));
+}
+
 TEST_F(MenuTest, PutsHeadingsIntoTheBarAndEntriesIntoTheirMenus) {
   QMenuBar bar;
   view.ShowIn(&bar);

@@ -4,6 +4,7 @@
 
 #include <QFile>
 #include <QIcon>
+#include <QMainWindow>
 #include <QSignalSpy>
 #include <QSvgRenderer>
 #include <QToolButton>
@@ -162,6 +163,23 @@ TEST(PaletteIcon, IsEmptyForANameWithoutAnIcon) {
 
 TEST(ProgramIcon, TravelsInsideTheProgram) {
   EXPECT_TRUE(QSvgRenderer(QStringLiteral(":/icons/tallyroll.svg")).isValid());
+}
+
+TEST(ToolbarInAWindow, TheWordsFollowTheHeightAtOnce) {
+  const std::vector<ToolButton> buttons = {{"New", "New Class"}};
+  QMainWindow window;
+  auto* view = new ToolbarView(buttons, &window);
+  window.addToolBar(view);
+  window.resize(1200, 700);
+  window.show();
+  Settle();
+  EXPECT_EQ(view->toolButtonStyle(), Qt::ToolButtonTextUnderIcon);
+  window.resize(1200, 400);
+  Settle();
+  EXPECT_EQ(view->toolButtonStyle(), Qt::ToolButtonIconOnly);
+  window.resize(1200, 700);
+  Settle();
+  EXPECT_EQ(view->toolButtonStyle(), Qt::ToolButtonTextUnderIcon);
 }
 
 }  // namespace
