@@ -23,6 +23,7 @@ constexpr const char* kNoTypes = "No grade types yet";
 
 constexpr std::array kEmptyTexts = {
     EmptyText{"FRMROLLBOOK", "Grid1", kNoStudents},
+    EmptyText{"frmAdd", "entered", "Students whom you add stand here"},
     EmptyText{"frmAtsum", "Grid1", kNoStudents},
     EmptyText{"frmAtt", "Grid1", kNoStudents},
     EmptyText{"frmDatt", "list1", kNoSummaries},
