@@ -111,6 +111,7 @@ void ClassWindowView::ConnectPanel() {
   connect(panel_, &SidePanel::GradeChosen, this, [this](int grade) {
     if (form_ == nullptr) return;
     GoToGrade(grade);
+    grid_->setFocus();  // where the keys go on when the Portal is left
     Q_EMIT CellChosen(form_->Grid1.Row, form_->Grid1.Col);
   });
   connect(panel_, &SidePanel::MethodAsked, this, [this] {
