@@ -24,10 +24,10 @@ std::string TimeOf(CivilDate date, int hour, int minute, int second) {
 std::string SaveTimeText(double serial) {
   constexpr int kSecondsOfDay = 86400;
   auto second = static_cast<std::int64_t>(std::llround(serial * kSecondsOfDay));
-  const auto day = static_cast<double>(second / kSecondsOfDay);
+  const std::int64_t day = second / kSecondsOfDay;
   second %= kSecondsOfDay;
   const int of_day = static_cast<int>(second);
-  return TimeOf(DateOfSerial(day), of_day / 3600, of_day / 60 % 60, of_day % 60);
+  return TimeOf(DateOfSerial(static_cast<double>(day)), of_day / 3600, of_day / 60 % 60, of_day % 60);
 }
 
 std::string FileTimeText(std::int64_t modified) {

@@ -197,6 +197,9 @@ TEST_F(SidePanelTest, TheMissingMarksAreReachedByKeys) {
   QTest::keyClick(&Missing(), Qt::Key_Return);
   Settle();
   EXPECT_EQ(portals_asked_for, std::vector<std::string>{"frmEmarks"});
+  EXPECT_TRUE(grid().hasFocus());  // the Portal is left into the table
+  QTest::keyClick(&grid(), Qt::Key_F6);
+  QTest::keyClick(QApplication::focusWidget(), Qt::Key_F6);
   QTest::keyClick(&Missing(), Qt::Key_F6);
   EXPECT_TRUE(grid().hasFocus());
   QTest::keyClick(&grid(), Qt::Key_F6);
