@@ -63,7 +63,8 @@ def missing(program):
     program.window("Edit Grades by Title Portal")
     program.keys("Escape")
     program.frame("ROLL.TYR")
-    program.type("ng")  # the table has the keys again
+    program.await_focus(ROLE.TABLE, "Students and grades")
+    program.type("ng")
     program.await_labels("Ada Ng")
     program.keys("F4")
     wait_for("no panel", lambda: program.find_label("Ada Ng") is None)
