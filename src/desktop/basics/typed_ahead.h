@@ -15,6 +15,10 @@ class TypedAhead {
   // begins anew when the keys have rested, and when the current place is another than it led to.
   bool Take(const QKeyEvent& event, int place);
   void LeadsTo(int place) { place_ = place; }
+  // Whoever goes elsewhere has ended the name, even on the way back.
+  void MovedTo(int place) {
+    if (place != place_) typed_.clear();
+  }
   // In the code page.
   const std::string& typed() const { return typed_; }
 

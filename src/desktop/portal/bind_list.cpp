@@ -29,6 +29,7 @@ class ListBinding : public Binding<ListBox, QListWidget> {
     if (control.MultiSelect) list.setSelectionMode(QAbstractItemView::ExtendedSelection);
     QObject::connect(&list, &QListWidget::currentRowChanged, this, [this] {
       press_is_told_ = true;
+      typed_.MovedTo(widget_.currentRow());
       // Keys walk through the lines; a click means the line.
       if (by_mouse_)
         UserDid({&ControlRow::change, &ControlRow::click});

@@ -39,8 +39,11 @@ QString PanelKey() {
 }
 
 // The current cell as one number.
+int PlaceOf(const Grid& grid, int row) {
+  return row * grid.Cols() + grid.Col;
+}
 int PlaceOf(const Grid& grid) {
-  return grid.Row * grid.Cols() + grid.Col;
+  return PlaceOf(grid, grid.Row);
 }
 
 // That of the window's slot; the one that is never handed out while it has none.
@@ -69,6 +72,9 @@ ClassWindowView::ClassWindowView(Form1& form)
       [this] { EndStatus(); }, this);
   connect(menu_, &MenuView::Pressed, this, &ClassWindowView::MenuPressed);
   connect(toolbar_, &ToolbarView::Pressed, this, &ClassWindowView::ToolPressed);
+  connect(grid_, &GridWidget::currentCellChanged, this, [this] {
+    if (form_ != nullptr) typed_.MovedTo(PlaceOf(form_->Grid1));
+  });
   connect(grid_, &GridWidget::hovered, this, &ClassWindowView::PointAt);
   // Queued: a Portal that the double click opens must not run inside the mouse event.
   connect(grid_, &GridWidget::cellDoubleClicked, this, &ClassWindowView::CellChosen,
@@ -170,8 +176,8 @@ void ClassWindowView::GoToTyped() {
   const int line = LineToGoTo(typed_.typed(), lines, grid.Row - grid.FixedRows);
   if (line >= 0) {
     form_->EndStatus();
+    typed_.LeadsTo(PlaceOf(grid, line + grid.FixedRows));
     grid_->MoveTo(line + grid.FixedRows, grid.Col);
-    typed_.LeadsTo(PlaceOf(grid));
   } else if (!typed_.typed().empty()) {
     QApplication::beep();
     form_->ShowStatus("No student begins with \"" + typed_.typed() + "\".");

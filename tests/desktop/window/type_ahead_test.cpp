@@ -53,6 +53,15 @@ TEST_F(TypeAheadInTheTableTest, AnArrowBeginsANewName) {
   EXPECT_EQ(form.Grid1.Row, 2);
 }
 
+TEST_F(TypeAheadInTheTableTest, AwayAndBackBeginsANewName) {
+  grid().setFocus();
+  QTest::keyClicks(&grid(), QStringLiteral("br"));
+  QTest::keyClick(&grid(), Qt::Key_Up);
+  QTest::keyClick(&grid(), Qt::Key_Down);
+  QTest::keyClicks(&grid(), QStringLiteral("a"));
+  EXPECT_EQ(form.Grid1.Row, 2);
+}
+
 TEST_F(TypeAheadInTheTableTest, TheBlankStillDoesWhatADoubleClickDoes) {
   RecordPortals();
   grid().setFocus();
