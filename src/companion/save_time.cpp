@@ -27,7 +27,8 @@ std::string SaveTimeText(double serial) {
   const std::int64_t day = second / kSecondsOfDay;
   second %= kSecondsOfDay;
   const int of_day = static_cast<int>(second);
-  return TimeOf(DateOfSerial(static_cast<double>(day)), of_day / 3600, of_day / 60 % 60, of_day % 60);
+  return TimeOf(DateOfSerial(static_cast<double>(day)), of_day / 3600, of_day / 60 % 60,
+                of_day % 60);
 }
 
 std::string FileTimeText(std::int64_t modified) {

@@ -45,7 +45,7 @@ struct Change {
   int student = 0;  // of the class
   ShortText before, after;
   std::string comment;  // that stands by the mark
-  std::string reason;  // of what cannot be used, or what is to be known of the rest
+  std::string reason;   // of what cannot be used, or what is to be known of the rest
   std::vector<StudentGuess> guesses;
   bool ticked = false;
 };

@@ -69,8 +69,7 @@ TEST_F(FrmAddTest, AStudentWithoutAnIdIsNotLeftForAnother) {
   TypeStudent("Orr", "Bo", "9");
   driver->Press("nextt");
   driver->Type("lastname", "Ng");
-  screen.ExpectBox("You must fill in FULL name and ID.\nPress Tab for next field.",
-                   BoxAnswer::kOk);
+  screen.ExpectBox("You must fill in FULL name and ID.\nPress Tab for next field.", BoxAnswer::kOk);
   driver->Choose("entered", 0);
   EXPECT_EQ(portal.Position, 2);
   EXPECT_EQ(driver->Text("lastname"), "Ng");

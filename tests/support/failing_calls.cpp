@@ -3,6 +3,7 @@
 
 #include <fcntl.h>
 #include <sys/ptrace.h>
+#include <sys/stat.h>
 #include <sys/syscall.h>
 #include <sys/user.h>
 #include <sys/wait.h>
@@ -10,6 +11,7 @@
 
 #include <csignal>
 #include <set>
+#include <string>
 
 namespace tallyroll {
 
@@ -17,7 +19,16 @@ namespace tallyroll {
 
 namespace {
 
-bool ChangesTheDisk(const user_regs_struct& call) {
+// Of a file or a folder: what a runtime writes to a pipe of its own, to learn whether an address
+// can be read, is no change of the disk.
+bool IsOnDisk(pid_t who, unsigned long long descriptor) {
+  const std::string path =
+      "/proc/" + std::to_string(who) + "/fd/" + std::to_string(static_cast<int>(descriptor));
+  struct stat status {};
+  return stat(path.c_str(), &status) == 0 && (S_ISREG(status.st_mode) || S_ISDIR(status.st_mode));
+}
+
+bool ChangesTheDisk(pid_t who, const user_regs_struct& call) {
   switch (call.orig_rax) {
     case SYS_openat:
       return (call.rdx & (O_CREAT | O_WRONLY | O_RDWR)) != 0;
@@ -30,6 +41,9 @@ bool ChangesTheDisk(const user_regs_struct& call) {
     case SYS_fdatasync:
     case SYS_ftruncate:
     case SYS_fallocate:
+    case SYS_fchmod:
+    case SYS_fchown:
+      return IsOnDisk(who, call.rdi);
     case SYS_rename:
     case SYS_renameat:
     case SYS_renameat2:
@@ -37,8 +51,6 @@ bool ChangesTheDisk(const user_regs_struct& call) {
     case SYS_linkat:
     case SYS_unlink:
     case SYS_unlinkat:
-    case SYS_fchmod:
-    case SYS_fchown:
       return true;
     default:
       return false;
@@ -96,7 +108,7 @@ class Watch {
       return;
     }
     inside_.insert(who);
-    if (!ChangesTheDisk(registers) || ++calls_ != nth_) return;
+    if (!ChangesTheDisk(who, registers) || ++calls_ != nth_) return;
     met_ = true;
     if (fate_ == Fate::kKilled) {
       kill(child_, SIGKILL);
