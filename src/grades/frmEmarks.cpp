@@ -37,6 +37,7 @@ frmEmarks::frmEmarks() : GradeForm("frmEmarks") {
 
 void frmEmarks::Declare(ControlTable& table) {
   table.Add("list1", list1).Change([this] { list1_Change(); }).Click([this] { list1_Click(); });
+  table.Add("fields", fields);
   DeclareHeader(table, "Title");
   table.Add("tempdate", tempdate);
   DeclareMarks(table);
@@ -71,6 +72,7 @@ void frmEmarks::GoToStudent(int student) {
 }
 
 void frmEmarks::EnableFields(bool on) {
+  fields.Current = on ? 1 : 0;
   for (TextBox* box : {&title, &code, &mvalue, &dropyn, &lowpass}) box->Enabled = on;
   testdate.Enabled = ttypelist.Enabled = on;
   marks.Enable(on);

@@ -15,6 +15,7 @@ struct frmEmarks : GradeForm {
   void QueryUnload() override { cancel_Click(); }
 
   ListBox list1;   // the titles
+  Pages fields;    // a sentence until a title is chosen, then its header
   Label tempdate;  // the date as its text stands, where that is no date
   CommandButton Exitt, cancel;
 

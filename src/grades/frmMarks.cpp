@@ -52,6 +52,7 @@ void frmMarks::Declare(ControlTable& table) {
   table.Add("headerframe", headerframe);
   DeclareHeader(table, "title");
   table.Add("actions", actions);
+  table.Add("feet", feet);
   table.Add("specialframe", specialframe);
   table.Add("clipframe", clipframe);
   table.Add("fillframe", fillframe);
@@ -111,7 +112,7 @@ void frmMarks::StartOver() {
 
 // While the fill is open nothing else can be reached.
 void frmMarks::OpenFill(bool open) {
-  actions.Current = open ? 1 : 0;
+  actions.Current = feet.Current = open ? 1 : 0;
   fillframe.Visible = open;
   for (Control* rest : std::initializer_list<Control*>{&headerframe, &specialframe, &clipframe,
                                                        &Grid1, &fill, &another, &exit, &cancel})

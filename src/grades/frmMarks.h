@@ -22,6 +22,7 @@ struct frmMarks : GradeForm {
   Frame specialframe;  // the buttons of the special marks
   Frame clipframe;
   Pages actions;    // the frames and buttons, or the fill in their place
+  Pages feet;       // the ways out: of the Portal, or of the fill
   Frame fillframe;  // shown while the fill is open
   OptionButton Option1, Option2, Option3, Option4, Option5;
   TextBox Text1;

@@ -19,7 +19,7 @@ namespace {
 
 constexpr int kLongestMark = 5;
 constexpr int kTitleWidth = 2600, kFigureWidth = 860, kNoteWidth = 4400;
-constexpr int kTypeWidth = 2600, kNeedsLabelWidth = 2000, kNeedsMarkWidth = 1500;
+constexpr int kTypeWidth = 1800, kNeedsLabelWidth = 1500, kNeedsMarkWidth = 1600;
 constexpr i16 kAveragesTab = 4;
 constexpr i16 kSkipsRounding = 1;  // RoundMode
 

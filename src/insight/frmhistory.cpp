@@ -91,7 +91,7 @@ void frmhistory::Fill() {
 }
 
 void frmhistory::ShowLines() {
-  Grid1.FixedCols = 0;
+  Grid1.FixedCols = Grid1.LeftCol = 0;
   Grid1.SetRedraw(false);
   Grid1.SetSize(1 + static_cast<int>(lines_.size()), static_cast<int>(kHistoryColumns.size()));
   for (std::size_t i = 0; i < kHistoryColumns.size(); ++i) {

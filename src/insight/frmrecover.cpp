@@ -54,7 +54,7 @@ void frmrecover::Declare(ControlTable& table) {
 void frmrecover::Load() {
   const std::vector<NamedChange>& changes = WorkFound.changes;
   found.Caption = FoundText();
-  Grid1.FixedCols = 0;
+  Grid1.FixedCols = Grid1.LeftCol = 0;
   Grid1.SetRedraw(false);
   Grid1.SetSize(1 + static_cast<int>(changes.size()), static_cast<int>(kRecoverColumns.size()));
   for (std::size_t i = 0; i < kRecoverColumns.size(); ++i) {

@@ -39,7 +39,7 @@ constexpr std::array kDifferenceColumns = {
 
 template <std::size_t kCount>
 void HeadColumns(Grid& grid, const std::array<SnapshotColumn, kCount>& columns, std::size_t rows) {
-  grid.FixedCols = 0;
+  grid.FixedCols = grid.LeftCol = 0;
   grid.SetSize(1 + static_cast<int>(rows), static_cast<int>(kCount));
   for (std::size_t i = 0; i < kCount; ++i) {
     grid.SetTextMatrix(0, static_cast<int>(i), columns[i].head);

@@ -18,9 +18,10 @@ struct UnusualColumn {
   std::string_view head;
   int width;
 };
-constexpr std::array kUnusualColumns = {UnusualColumn{"Student", 2800},
-                                        UnusualColumn{"Grade", 2200}, UnusualColumn{"Mark", 800},
-                                        UnusualColumn{"What", 2600}, UnusualColumn{"Why", 6200}};
+// All of them stand beside one another on a small screen too.
+constexpr std::array kUnusualColumns = {UnusualColumn{"Student", 1900},
+                                        UnusualColumn{"Grade", 2200}, UnusualColumn{"Mark", 600},
+                                        UnusualColumn{"What", 2450}, UnusualColumn{"Why", 5720}};
 
 std::string FoundWords(std::size_t count) {
   if (count == 0) return "No mark of this class is unusual.";
@@ -55,7 +56,7 @@ void frmunusual::Load() {
   found.Caption = FoundWords(marks_.size());
   rule.Caption = kFarRule;
   goto_cell.Enabled = !marks_.empty();
-  Grid1.FixedCols = 0;
+  Grid1.FixedCols = Grid1.LeftCol = 0;
   Grid1.SetSize(1 + static_cast<int>(marks_.size()), static_cast<int>(kUnusualColumns.size()));
   for (std::size_t i = 0; i < kUnusualColumns.size(); ++i) {
     Grid1.SetTextMatrix(0, static_cast<int>(i), kUnusualColumns[i].head);

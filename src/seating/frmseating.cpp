@@ -54,7 +54,7 @@ frmseating::frmseating() : Portal("frmseating") {
   indiv.Caption = "Individual Method";
   bywishes.Caption = "By Wishes";
   FillSizes();
-  Grid1.FixedRows = Grid1.FixedCols = 0;
+  Grid1.FixedRows = Grid1.FixedCols = Grid1.TopRow = Grid1.LeftCol = 0;
   Grid1.SmallLine = [this](int row, int col) { return CardLine(row, col); };
 }
 

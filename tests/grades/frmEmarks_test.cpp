@@ -70,7 +70,9 @@ TEST_F(FrmEmarksTest, WithoutAGradeTheFieldsWaitForAPick) {
   EXPECT_FALSE(driver->Enabled("Title"));
   EXPECT_FALSE(driver->Enabled("Grid1"));
   EXPECT_FALSE(driver->Enabled("Command1"));
+  EXPECT_EQ(portal.fields.Current, 0);
   driver->Choose("list1", 2);
+  EXPECT_EQ(portal.fields.Current, 1);
   EXPECT_EQ(CurrentStudent, 3);
   EXPECT_EQ(driver->Text("Title"), "Hills");
   EXPECT_TRUE(driver->Enabled("Grid1"));

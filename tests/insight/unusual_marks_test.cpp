@@ -97,6 +97,7 @@ TEST_F(UnusualMarksTest, ThePortalLeadsToTheCell) {
   Open(portal);
   EXPECT_EQ(driver->Text("found"), "2 marks are unusual.");
   EXPECT_EQ(Column(portal.Grid1, 0), (Texts{"Orr, Ada", "Orr, Ada"}));
+  EXPECT_EQ(portal.Grid1.LeftCol, 0) << "the students' names are in sight";
   EXPECT_EQ(Column(portal.Grid1, 3), (Texts{"empty", "negative"}));
   driver->PickCell("Grid1", 2, 0);
   driver->Press("goto_cell");

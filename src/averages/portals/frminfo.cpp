@@ -2,6 +2,7 @@
 #include "averages/portals/frminfo.h"
 
 #include "averages/explained/explain_student.h"
+#include "base/text.h"
 #include "platform/class_window.h"
 #include "platform/surroundings.h"
 
@@ -21,6 +22,7 @@ void frminfo::Declare(ControlTable& table) {
   table.Add("mnuext", mnuext).Click([this] { ShowNext(); });
   table.Add("mnugraph", mnugraph).Click([this] { mnugraph_Click(); });
   DeclareList(table, "list1");
+  table.Add("fullname", fullname);
   DeclareRecord(table);
   table.Add("explain", explain).Click([] { ShowExplanation(CurrentStudent); });
   table.Add("exit", exit).Click([this] { exit_Click(); });
@@ -30,6 +32,12 @@ void frminfo::Load() {
   const int wanted = OpenState == kInfoOfStudent ? CurrentStudent : 0;
   StudentScreen::Load();
   if (wanted >= 1 && wanted <= Current().NumStudents) Show(wanted);
+}
+
+void frminfo::ShowMore() {
+  const Student& student = Current().Students[static_cast<std::size_t>(CurrentStudent)];
+  fullname.Caption =
+      Trim(std::string(Trim(student.firstname)) + " " + std::string(Trim(student.lastname)));
 }
 
 // Whatever the graph does with CurrentStudent, the comment on the screen stays this student's.

@@ -15,9 +15,13 @@ struct frminfo : StudentScreen {
   void Load() override;
 
   ListBox list1;
+  Label fullname;
   CommandButton mnuprevious, mnuext, mnugraph, explain;  // entries of its menu
 
   void mnugraph_Click();
+
+ protected:
+  void ShowMore() override;
 };
 
 }  // namespace tallyroll

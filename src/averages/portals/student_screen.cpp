@@ -48,6 +48,7 @@ void StudentScreen::DeclareList(ControlTable& table, std::string_view name) {
 }
 
 void StudentScreen::DeclareRecord(ControlTable& table) {
+  table.Add("studentid", studentid);
   table.Add("grdgrade", grdgrade);
   table.Add("grdatt", grdatt);
   table.Add("comments", comments).Change([] { Current().Changed = kTrue; });
@@ -76,6 +77,7 @@ void StudentScreen::Show(int student) {
   students_.ListIndex = student - 1;
   comments.Enabled = true;
   comments.Text = StudentOnScreen().comments;
+  studentid.Caption = Trim(StudentOnScreen().id);
   FillGrades();
   FillAttendance();
   ShowMore();

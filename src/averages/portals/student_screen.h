@@ -11,6 +11,7 @@ struct StudentScreen : Portal {
   void Load() override;
   void QueryUnload() override { exit_Click(); }
 
+  Label studentid;
   Grid grdgrade;  // title, code and mark of each grade
   Grid grdatt;    // the attendance summaries
   TextBox comments;

@@ -11,13 +11,13 @@ namespace tallyroll {
 namespace {
 
 // A grid of few columns is never narrower than they are: the last one is often the one that takes
-// keys. In average characters.
+// keys. In average characters. One of more is as narrow as its form lets it be.
 constexpr int kWholeUpTo = 90;
 
 class GridBinding : public Binding<Grid, GridWidget> {
  public:
   GridBinding(Grid& control, ControlRow& row, GridWidget& widget, BindingOwner& owner)
-      : Binding(control, row, widget, owner) {
+      : Binding(control, row, widget, owner), form_least_(widget.minimumWidth()) {
     const QString portal = widget.window()->objectName();
     widget.Keep(portal + QLatin1Char('.') + widget.objectName());
     widget.SetEmptyText(EmptyTextOf(portal, widget.objectName()));
@@ -39,7 +39,8 @@ class GridBinding : public Binding<Grid, GridWidget> {
     widget_.UpdateFromGrid();
     const int whole = widget_.sizeHint().width();
     const int widest = widget_.fontMetrics().averageCharWidth() * kWholeUpTo;
-    widget_.setMinimumWidth(std::min(whole, widest));
+    const int least = form_least_ > 0 ? std::min(form_least_, widest) : widest;
+    widget_.setMinimumWidth(widget_.WholeWidth() <= widest ? whole : least);
     // Beyond its last column a sheet ends.
     if (control_.Cols() > 0)
       widget_.setMaximumWidth(std::max(widget_.WholeWidth(), widget_.minimumWidth()));
@@ -60,6 +61,8 @@ class GridBinding : public Binding<Grid, GridWidget> {
       UserDropped(source);
     };
   }
+
+  const int form_least_;
 };
 
 }  // namespace

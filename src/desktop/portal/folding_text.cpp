@@ -86,12 +86,15 @@ void FoldingText::paintEvent(QPaintEvent*) {
   painter.drawText(room, Qt::AlignLeft | Qt::AlignBottom, folded_ ? tr("More...") : tr("Less"));
 }
 
-void FoldingText::showEvent(QShowEvent* event) {
-  QLabel::showEvent(event);
-  if (!event->spontaneous()) SetFolded(QSettings().value(SettingsKey()).toBool());
+void FoldingText::FoldAsKept() {
+  SetFolded(QSettings().value(SettingsKey()).toBool());
 }
 
-// Who has seen it once has read it.
+void FoldingText::showEvent(QShowEvent* event) {
+  QLabel::showEvent(event);
+  if (!event->spontaneous()) FoldAsKept();
+}
+
 void FoldingText::hideEvent(QHideEvent* event) {
   QLabel::hideEvent(event);
   if (!event->spontaneous() && !text().isEmpty()) QSettings().setValue(SettingsKey(), true);

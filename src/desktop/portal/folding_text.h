@@ -15,6 +15,8 @@ class FoldingText : public QLabel {
 
   bool IsFolded() const { return folded_; }
   void SetFolded(bool folded);
+  // As it was left: who has seen it once has read it. Its window asks before it takes its room.
+  void FoldAsKept();
   // What stands there now.
   QString ShownText() const;
 

@@ -1,16 +1,23 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "desktop/portal/form_labels.h"
 
+#include <QApplication>
 #include <QHelpEvent>
 #include <QListWidget>
 #include <QPainter>
 #include <QStyle>
+#include <QStyleOptionButton>
 #include <QToolTip>
+#include <algorithm>
+
+#include "desktop/style/tokens.h"
 
 namespace tallyroll {
 namespace {
 
 constexpr int kLeastLettersShown = 12;
+// In average characters, so that a sentence takes a few lines.
+constexpr int kUsualTickLine = 34, kLeastTickLine = 18;
 
 }  // namespace
 
@@ -19,12 +26,14 @@ ElidedLabel::ElidedLabel(QWidget* parent) : QLabel(parent) {
   setTextFormat(Qt::PlainText);
 }
 
+// A part of a pixel too few would cost the last letters.
 QSize ElidedLabel::sizeHint() const {
-  return minimumSizeHint();
+  return {fontMetrics().horizontalAdvance(text()) + 2, fontMetrics().height()};
 }
 
 QSize ElidedLabel::minimumSizeHint() const {
-  return {fontMetrics().averageCharWidth() * kLeastLettersShown, fontMetrics().height()};
+  const QSize least(fontMetrics().averageCharWidth() * kLeastLettersShown, fontMetrics().height());
+  return least.boundedTo(sizeHint());
 }
 
 QString ElidedLabel::Shown() const {
@@ -44,6 +53,23 @@ void ElidedLabel::paintEvent(QPaintEvent* /*event*/) {
                         isEnabled(), Shown(), foregroundRole());
 }
 
+bool StateWord::IsOn() const {
+  return !text().startsWith(QLatin1String("Not "));
+}
+
+QSize StateWord::sizeHint() const {
+  const QFontMetrics strong(FontFor(QApplication::font(), TextUse::kHeading));
+  return {strong.horizontalAdvance(text()), strong.height()};
+}
+
+void StateWord::paintEvent(QPaintEvent* /*event*/) {
+  QPainter painter(this);
+  if (IsOn()) painter.setFont(FontFor(QApplication::font(), TextUse::kHeading));
+  style()->drawItemText(&painter, contentsRect(), Qt::AlignLeft | Qt::AlignVCenter, palette(),
+                        isEnabled(), text(),
+                        IsOn() ? QPalette::WindowText : QPalette::PlaceholderText);
+}
+
 // The list may come after it in the form.
 void ListCount::showEvent(QShowEvent* event) {
   QLabel::showEvent(event);
@@ -57,6 +83,42 @@ void ListCount::showEvent(QShowEvent* event) {
     connect(list->model(), changed, this, count);
   connect(list->model(), &QAbstractItemModel::modelReset, this, count);
   count();
+}
+
+WrappingTick::WrappingTick(QWidget* parent) : QCheckBox(parent) {
+  // The style wraps the words of a box whose height follows its width.
+  QSizePolicy policy(QSizePolicy::Preferred, QSizePolicy::Fixed, QSizePolicy::CheckBox);
+  policy.setHeightForWidth(true);
+  setSizePolicy(policy);
+}
+
+// What the style keeps free of words.
+int WrappingTick::BesideWords() const {
+  QStyleOptionButton option;
+  initStyleOption(&option);
+  const QRect words = style()->subElementRect(QStyle::SE_CheckBoxContents, &option, this);
+  return option.rect.width() - words.width();
+}
+
+int WrappingTick::heightForWidth(int width) const {
+  const QRect room(0, 0, std::max(1, width - BesideWords()), 10000);
+  const QRect words = fontMetrics().boundingRect(room, Qt::TextWordWrap, text());
+  const int one_line = QCheckBox::sizeHint().height();
+  return std::max(one_line, one_line + words.height() - fontMetrics().height());
+}
+
+QSize WrappingTick::SizeAt(int width) const {
+  const int whole = std::min(width, QCheckBox::sizeHint().width());
+  return {whole, heightForWidth(whole)};
+}
+
+QSize WrappingTick::sizeHint() const {
+  return SizeAt(BesideWords() + fontMetrics().averageCharWidth() * kUsualTickLine);
+}
+
+QSize WrappingTick::minimumSizeHint() const {
+  const int width = BesideWords() + fontMetrics().averageCharWidth() * kLeastTickLine;
+  return {std::min(width, QCheckBox::sizeHint().width()), QCheckBox::sizeHint().height()};
 }
 
 }  // namespace tallyroll

@@ -1,13 +1,15 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Labels of which a form says only where they stand.
+// Labels, ticks and keys of which a form says only where they stand.
 #pragma once
 
+#include <QCheckBox>
 #include <QLabel>
+#include <QPushButton>
 
 namespace tallyroll {
 
-// A line of a class's own words, however long they are. It never widens its window; what has no
-// room is told by a tip.
+// A line of a class's own words, however long they are. It never widens its window, and takes no
+// more than its words where the form says so; what has no room is told by a tip.
 class ElidedLabel : public QLabel {
   Q_OBJECT
 
@@ -25,6 +27,21 @@ class ElidedLabel : public QLabel {
   QString Shown() const;
 };
 
+// Whether a setting is on, in the words of its Portal: what is on stands out, what is off is muted.
+class StateWord : public QLabel {
+  Q_OBJECT
+
+ public:
+  using QLabel::QLabel;
+
+  bool IsOn() const;
+  QSize sizeHint() const override;
+  QSize minimumSizeHint() const override { return sizeHint(); }
+
+ protected:
+  void paintEvent(QPaintEvent* event) override;
+};
+
 // Says how many lines a list has. Its name is the list's with "_count" behind it, its text in the
 // form the words, with %1 for the number.
 class ListCount : public QLabel {
@@ -38,6 +55,33 @@ class ListCount : public QLabel {
 
  private:
   QString words_;  // empty until it was shown
+};
+
+// A box to tick whose words are a sentence. They wrap, with the box beside their first line.
+class WrappingTick : public QCheckBox {
+  Q_OBJECT
+
+ public:
+  explicit WrappingTick(QWidget* parent = nullptr);
+
+  QSize sizeHint() const override;
+  QSize minimumSizeHint() const override;
+  int heightForWidth(int width) const override;
+
+ private:
+  int BesideWords() const;
+  QSize SizeAt(int width) const;
+};
+
+// A small button for what most press by the key that its words name.
+class KeyChip : public QPushButton {
+  Q_OBJECT
+  Q_PROPERTY(bool chip READ IsChip CONSTANT)
+
+ public:
+  using QPushButton::QPushButton;
+
+  bool IsChip() const { return true; }
 };
 
 }  // namespace tallyroll

@@ -45,6 +45,9 @@ QWidget* MakeOwnWidget(const QString& class_name, QWidget* parent) {
   if (class_name == QLatin1String("QPlainTextEdit")) return new CodePageTextEdit(parent);
   if (class_name == QLatin1String("tallyroll::TotalFigure")) return new TotalFigure(parent);
   if (class_name == QLatin1String("tallyroll::FoldingText")) return new FoldingText(parent);
+  if (class_name == QLatin1String("tallyroll::StateWord")) return new StateWord(parent);
+  if (class_name == QLatin1String("tallyroll::WrappingTick")) return new WrappingTick(parent);
+  if (class_name == QLatin1String("tallyroll::KeyChip")) return new KeyChip(parent);
   if (class_name == QLatin1String("tallyroll::CodeKey")) return new CodeKey(parent);
   if (class_name == QLatin1String("tallyroll::DateArrow")) return new DateArrow(parent);
   if (class_name == QLatin1String("tallyroll::ElidedLabel")) return new ElidedLabel(parent);
@@ -133,6 +136,9 @@ LoadedForm FormLoader::Load(const QString& file, QDialog& dialog) {
   PrepareLabels(form_.objects);
   DrawTools(form_.objects);
   ComplainOfDynamicProperties();
+  // A window takes no more room than what it will show.
+  for (QObject* object : form_.objects)
+    if (auto* text = qobject_cast<FoldingText*>(object)) text->FoldAsKept();
   return std::exchange(form_, {});
 }
 

@@ -4,6 +4,9 @@
 #include <QApplication>
 #include <QBoxLayout>
 #include <QDialog>
+#include <QGridLayout>
+#include <QScrollBar>
+#include <QStyle>
 #include <algorithm>
 
 #include "desktop/basics/window_places.h"
@@ -13,6 +16,18 @@ namespace {
 
 // What of the body is always seen.
 constexpr QSize kLeast(320, 120);
+
+// A wrapped text is as high as its width makes it. The toolkit would then ask for what everything
+// else would like, and scroll beside sheets and lists that can do with less.
+class Body : public QWidget {
+ public:
+  using QWidget::QWidget;
+
+  int heightForWidth(int width) const override {
+    const QLayout* rows = layout();
+    return rows && rows->hasHeightForWidth() ? rows->minimumHeightForWidth(width) : -1;
+  }
+};
 
 bool IsFoot(const QLayoutItem& item) {
   const QLayout* row = const_cast<QLayoutItem&>(item).layout();
@@ -29,6 +44,9 @@ void Append(QBoxLayout& layout, QLayoutItem& item) {
 }  // namespace
 
 ScrollingBody* ScrollingBody::Of(QDialog& dialog) {
+  auto* panes = qobject_cast<QGridLayout*>(dialog.layout());
+  if (panes && panes->objectName() == QLatin1String("panes"))
+    return new ScrollingBody(dialog, *panes);
   auto* whole = qobject_cast<QVBoxLayout*>(dialog.layout());
   if (!whole || whole->count() < 2 || !IsFoot(*whole->itemAt(whole->count() - 1))) return nullptr;
   return new ScrollingBody(dialog);
@@ -44,7 +62,7 @@ ScrollingBody::ScrollingBody(QDialog& dialog) : QScrollArea(&dialog) {
   setFocusPolicy(Qt::NoFocus);
   setWidgetResizable(true);
   // Within the dialog from the start, so that Tab goes on in its order.
-  auto* body = new QWidget(viewport());
+  auto* body = new Body(viewport());
   setWidget(body);
   body->setLayout(whole);
   whole->setContentsMargins(0, 0, 0, 0);
@@ -56,12 +74,48 @@ ScrollingBody::ScrollingBody(QDialog& dialog) : QScrollArea(&dialog) {
   Append(*rows, *foot);
 }
 
+// The layout in the corner moves into it. The rows below are as wide as that, without the bar.
+ScrollingBody::ScrollingBody(QDialog& dialog, QGridLayout& panes)
+    : QScrollArea(&dialog), panes_(&panes) {
+  bar_room_ = style()->pixelMetric(QStyle::PM_ScrollBarExtent, nullptr, this);
+  setFrameShape(QFrame::NoFrame);
+  setFocusPolicy(Qt::NoFocus);
+  setWidgetResizable(true);
+  setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Maximum);
+  QLayout* head = panes.itemAtPosition(0, 0)->layout();
+  panes.removeItem(head);
+  auto* body = new Body(viewport());
+  setWidget(body);
+  body->setLayout(head);
+  head->setContentsMargins(0, 0, 0, 0);
+  // Its fields are as wide with a bar as without.
+  const auto keep_room = [this](int, int most) {
+    setViewportMargins(0, 0, most > 0 ? 0 : bar_room_, 0);
+  };
+  connect(verticalScrollBar(), &QAbstractSlider::rangeChanged, this, keep_room);
+  keep_room(0, 0);
+  panes.addWidget(this, 0, 0);
+  for (int row = 1; row < panes.rowCount(); ++row) {
+    QLayoutItem* below = panes.itemAtPosition(row, 0);
+    if (below && below->layout()) below->layout()->setContentsMargins(0, 0, bar_room_, 0);
+  }
+}
+
 QSize ScrollingBody::sizeHint() const {
-  return widget()->sizeHint();
+  return widget()->sizeHint() + QSize(bar_room_, 0);
 }
 
 QSize ScrollingBody::minimumSizeHint() const {
-  return widget()->minimumSizeHint().boundedTo(kLeast);
+  return (widget()->minimumSizeHint() + QSize(bar_room_, 0)).boundedTo(kLeast);
+}
+
+int ScrollingBody::LacksBeside() const {
+  int column = 0;
+  for (int row = 0; panes_ && row < panes_->rowCount(); ++row)
+    if (const QLayoutItem* item = panes_->itemAtPosition(row, 0))
+      column = std::max(column, item->minimumSize().width());
+  const int whole = widget()->minimumSizeHint().width() + bar_room_;
+  return panes_ ? std::max(0, whole - column) : 0;
 }
 
 void ScrollingBody::BringIntoSight(QWidget* focused) {
@@ -74,6 +128,7 @@ void TakeRoom(QDialog& dialog, const ScrollingBody* body) {
   const QLayout& layout = *dialog.layout();
   QSize least = layout.totalMinimumSize();
   if (body) {
+    least.rwidth() += body->LacksBeside();
     const QSize whole = body->widget()->minimumSizeHint();
     const QMargins margins = layout.contentsMargins();
     least.setWidth(std::max(least.width(), whole.width() + margins.left() + margins.right()));

@@ -1,11 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // ScrollingBody: what stands between the menu and the buttons at the foot of a form. It is as large
 // as it wants to be where there is room; on a small screen it scrolls, and the foot stays in sight.
+// In a form of two panes it is the upper part of the left one, above the rows that stay.
 #pragma once
 
 #include <QScrollArea>
 
 class QDialog;
+class QGridLayout;
 
 namespace tallyroll {
 
@@ -18,11 +20,17 @@ class ScrollingBody : public QScrollArea {
 
   QSize sizeHint() const override;
   QSize minimumSizeHint() const override;
+  // What the form's least width lacks so that a pane need not scroll sideways.
+  int LacksBeside() const;
   // What gets the focus otherwise than by a press is scrolled to.
   void BringIntoSight(QWidget* widget);
 
  private:
   explicit ScrollingBody(QDialog& dialog);
+  ScrollingBody(QDialog& dialog, QGridLayout& panes);
+
+  QGridLayout* panes_ = nullptr;  // null where the whole form scrolls
+  int bar_room_ = 0;              // kept free beside a pane, so that its bar covers nothing
 };
 
 // Makes the form large enough that its body (null: it has none) need not scroll, where the screen

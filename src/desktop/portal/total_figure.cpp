@@ -4,6 +4,7 @@
 #include <QApplication>
 #include <QLocale>
 #include <QPainter>
+#include <algorithm>
 
 #include "desktop/style/tokens.h"
 
@@ -12,6 +13,14 @@ namespace {
 
 constexpr double kWhole = 100;
 constexpr int kFigurePadding = 8;
+
+QFontMetrics FigureMetrics() {
+  return QFontMetrics(FontFor(QApplication::font(), TextUse::kDisplay));
+}
+
+QFontMetrics BesideMetrics() {
+  return QFontMetrics(FontFor(QApplication::font(), TextUse::kSmall));
+}
 
 }  // namespace
 
@@ -31,30 +40,33 @@ QString TotalFigure::Remainder() const {
 
 // As wide as its longest words, so that nothing moves while a weight is typed.
 QSize TotalFigure::sizeHint() const {
-  const QFontMetrics figure(FontFor(QApplication::font(), TextUse::kTitle));
-  const QFontMetrics words(FontFor(QApplication::font(), TextUse::kSmall));
-  return {figure.horizontalAdvance(QStringLiteral("100.000")) +
-              words.horizontalAdvance(QStringLiteral("100.000 too much")) + 3 * kFigurePadding,
-          figure.height() + kFigurePadding};
+  return {FigureMetrics().horizontalAdvance(QStringLiteral("100.00")) +
+              BesideMetrics().horizontalAdvance(tr("%1 too much").arg(QStringLiteral("100.00"))) +
+              3 * kFigurePadding,
+          std::max(FigureMetrics().height(), 2 * BesideMetrics().height()) + kFigurePadding / 2};
 }
 
 void TotalFigure::paintEvent(QPaintEvent*) {
   const Tokens t = TokensOf(palette());
   const bool reached = IsReached();
-  const QString remainder = Remainder();
+  const QString beside = tr("of 100"), remainder = Remainder();
+  const int words = std::max(BesideMetrics().horizontalAdvance(beside),
+                             BesideMetrics().horizontalAdvance(remainder));
   QPainter painter(this);
   painter.setRenderHint(QPainter::Antialiasing);
   painter.setPen(Qt::NoPen);
   painter.setBrush(reached ? t.success_soft : t.danger_soft);
   painter.drawRoundedRect(rect(), 6, 6);
-  const QFont figure = FontFor(QApplication::font(), TextUse::kTitle),
-              words = FontFor(QApplication::font(), TextUse::kSmall);
   painter.setPen(reached ? t.success : t.danger);
-  painter.setFont(figure);
   const QRect room = rect().adjusted(kFigurePadding, 0, -kFigurePadding, 0);
-  painter.drawText(room, Qt::AlignLeft | Qt::AlignVCenter, text());
-  painter.setFont(words);
-  painter.drawText(room, Qt::AlignRight | Qt::AlignVCenter, remainder);
+  const QRect figure = room.adjusted(0, 0, -words - kFigurePadding, 0);
+  // A sum of many figures is as large as there is room for it.
+  const bool fits = FigureMetrics().horizontalAdvance(text()) <= figure.width();
+  painter.setFont(FontFor(QApplication::font(), fits ? TextUse::kDisplay : TextUse::kTitle));
+  painter.drawText(figure, Qt::AlignLeft | Qt::AlignVCenter, text());
+  painter.setFont(FontFor(QApplication::font(), TextUse::kSmall));
+  painter.drawText(room, Qt::AlignRight | Qt::AlignVCenter,
+                   remainder.isEmpty() ? beside : beside + QLatin1Char('\n') + remainder);
 }
 
 }  // namespace tallyroll

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// TotalFigure: a label for a sum that must be 100. It turns from red to green when it is, and tells
-// beside it what is missing.
+// TotalFigure: a label for a sum that must be 100, large, with "of 100" beside it. It turns from
+// red to green when it is reached, and tells what is missing.
 #pragma once
 
 #include <QLabel>

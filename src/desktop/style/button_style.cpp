@@ -9,6 +9,16 @@
 namespace tallyroll {
 namespace {
 
+// A button for what most press by its key: small, so that several stand in a row.
+bool IsChip(const QWidget* widget) {
+  return widget && widget->property("chip").toBool();
+}
+
+// The words of a box whose height follows its width wrap; the box stands beside the first line.
+bool Wraps(const QWidget* widget) {
+  return widget && widget->sizePolicy().hasHeightForWidth();
+}
+
 constexpr double kButtonRadius = 6, kSmallRadius = 4;
 constexpr double kIndicatorSide = 16, kIndicatorGap = 8, kIndicatorInset = 3;
 constexpr double kLeastButton = 84, kArrowButton = 36, kBesideWord = 14;
@@ -56,8 +66,9 @@ void DrawPanel(const QStyleOptionButton& button, StyleBrush& b) {
   if (button.features & QStyleOptionButton::Flat) return DrawFlat(b, rect);
   if (IsMain(button, b.enabled)) return DrawMain(b, rect);
   const QColor edge = !b.enabled ? b.t.line : Destroys(button.text) ? b.t.danger : b.t.border;
-  DrawBox(b.painter, rect, b.m.Px(kButtonRadius), GroundOf(b), edge, 1);
-  if (b.shows_focus) DrawBox(b.painter, rect, b.m.Px(kButtonRadius), QColor(), b.t.focus, 2);
+  const double radius = b.m.Px(IsChip(b.widget) ? kSmallRadius : kButtonRadius);
+  DrawBox(b.painter, rect, radius, GroundOf(b), edge, 1);
+  if (b.shows_focus) DrawBox(b.painter, rect, radius, QColor(), b.t.focus, 2);
 }
 
 QColor WordColor(const QStyleOptionButton& button, const StyleBrush& b) {
@@ -73,7 +84,10 @@ void DrawWord(const QStyleOptionButton& button, StyleBrush& b) {
     return DrawArrow(b.painter, button.rect, way, color, b.m.Px(4.5));
   b.painter.save();
   if (IsMain(button, b.enabled)) b.painter.setFont(FontFor(b.painter.font(), TextUse::kHeading));
+  if (IsChip(b.widget)) b.painter.setFont(FontFor(b.painter.font(), TextUse::kSmall));
   b.painter.setPen(color);
+  // Blanks in front of a word would only push it out of the middle.
+  const QString word = button.text.trimmed();
   QRect place = button.rect;
   if (!button.icon.isNull()) {
     QRect icon(QPoint(), button.iconSize);
@@ -83,9 +97,9 @@ void DrawWord(const QStyleOptionButton& button, StyleBrush& b) {
     button.icon.paint(&b.painter, icon, Qt::AlignCenter,
                       b.enabled ? QIcon::Normal : QIcon::Disabled);
     place.setLeft(icon.right() + b.m.Px(6));
-    b.painter.drawText(place, Qt::AlignVCenter | Qt::AlignLeft | b.Mnemonic(button), button.text);
+    b.painter.drawText(place, Qt::AlignVCenter | Qt::AlignLeft | b.Mnemonic(button), word);
   } else {
-    b.painter.drawText(place, Qt::AlignCenter | b.Mnemonic(button), button.text);
+    b.painter.drawText(place, Qt::AlignCenter | b.Mnemonic(button), word);
   }
   b.painter.restore();
 }
@@ -122,13 +136,18 @@ void DrawIndicatorIn(const QRectF& box, bool round, bool partly, StyleBrush& b) 
 }
 
 void DrawTickRow(const QStyleOptionButton& button, bool round, StyleBrush& b) {
-  const QRect box = IndicatorPlace(button.rect, b.m);
+  const bool wraps = Wraps(b.widget);
+  QRect first = button.rect;
+  if (wraps) first.setHeight(std::min(first.height(), b.m.TickRow()));
+  const QRect box = IndicatorPlace(first, b.m);
   DrawIndicatorIn(box, round, button.state & QStyle::State_NoChange, b);
   const QRect words =
       button.rect.adjusted(box.right() + 1 - button.rect.left() + b.m.Px(kIndicatorGap), 0, 0, 0);
   b.painter.save();
   b.painter.setPen(b.Text());
-  b.painter.drawText(words, Qt::AlignVCenter | Qt::AlignLeft | b.Mnemonic(button), button.text);
+  const int wrapped = wraps ? static_cast<int>(Qt::TextWordWrap) : 0;
+  b.painter.drawText(words, Qt::AlignVCenter | Qt::AlignLeft | wrapped | b.Mnemonic(button),
+                     button.text);
   b.painter.restore();
   if (b.shows_focus) DrawBox(b.painter, button.rect, b.m.Px(kSmallRadius), QColor(), b.t.focus, 2);
 }
@@ -140,9 +159,17 @@ QSize TickSize(const QStyleOptionButton& button, const Measures& m) {
           std::max(m.TickRow(), lines + m.Px(6))};
 }
 
+QSize ChipSize(const QStyleOptionButton& button, const Measures& m, const QWidget& widget) {
+  constexpr double kBesideChip = 4;
+  const QFontMetrics words(FontFor(widget.font(), TextUse::kSmall));
+  const int width = words.size(Qt::TextShowMnemonic, button.text).width();
+  return {width + 2 * m.Px(kBesideChip), m.TickRow()};
+}
+
 QSize PushSize(const QStyleOptionButton& button, const QSize& contents, const Measures& m,
                const QWidget* widget) {
   if (ArrowFor(button.text) != Qt::NoArrow) return {m.Px(kArrowButton), m.Control()};
+  if (IsChip(widget)) return ChipSize(button, m, *widget);
   int width = contents.width();
   const bool may_be_main =
       button.features & (QStyleOptionButton::DefaultButton | QStyleOptionButton::AutoDefaultButton);

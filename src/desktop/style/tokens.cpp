@@ -115,6 +115,19 @@ QColor TextOn(const QColor& ground) {
                                                                     : QColor(Qt::black);
 }
 
+bool StandsFor(const QPalette& palette, const Tokens& tokens) {
+  return palette.color(QPalette::Active, QPalette::Light).rgb() == tokens.raised.rgb() &&
+         palette.color(QPalette::Active, QPalette::Midlight).rgb() == tokens.hover.rgb() &&
+         palette.color(QPalette::Active, QPalette::Mid).rgb() == tokens.line.rgb();
+}
+
+// A list's palette has a Highlight of its own, in which its lines are chosen: once a palette was
+// made from such a table, the accent is told by another colour.
+QColor AccentOf(const QPalette& palette, const Tokens& derived) {
+  const bool made_here = StandsFor(palette, derived);
+  return palette.color(QPalette::Active, made_here ? QPalette::LinkVisited : QPalette::Highlight);
+}
+
 Tokens Derived(const QPalette& palette) {
   constexpr auto kGroup = QPalette::Active;
   Tokens t;
@@ -132,26 +145,20 @@ Tokens Derived(const QPalette& palette) {
   t.grid_line = Mix(t.surface, t.text, 0.2);
   t.strong_line = Mix(t.surface, t.text, 0.45);
   t.border = Told(Mix(t.surface, t.text, 0.7), t.header, t.text, 3);
-  t.accent = palette.color(kGroup, QPalette::Highlight);
+  t.hover = Mix(t.surface, t.text, 0.1);
+  t.pressed = Mix(t.surface, t.text, 0.18);
+  t.accent = AccentOf(palette, t);
   t.on_accent = TextOn(t.accent);
   t.accent_hover = Mix(t.accent, t.on_accent == QColor(Qt::white) ? Qt::black : Qt::white, 0.15);
   t.accent_pressed = Mix(t.accent, t.on_accent == QColor(Qt::white) ? Qt::black : Qt::white, 0.3);
   t.accent_soft = Mix(t.surface, t.accent, 0.14);
   t.selection = Mix(t.surface, t.accent, 0.25);
-  t.hover = Mix(t.surface, t.text, 0.1);
-  t.pressed = Mix(t.surface, t.text, 0.18);
   t.focus = Told(t.accent, t.selection, t.text, 3);
   DeriveSigns(t, t.dark ? DarkTokens() : LightTokens());
   t.tooltip = palette.color(kGroup, QPalette::ToolTipBase);
   t.on_tooltip = TextOn(t.tooltip);
   t.desk = Mix(t.window, t.dark ? Qt::black : t.text, 0.2);
   return t;
-}
-
-bool StandsFor(const QPalette& palette, const Tokens& tokens) {
-  return palette.color(QPalette::Active, QPalette::Light).rgb() == tokens.raised.rgb() &&
-         palette.color(QPalette::Active, QPalette::Midlight).rgb() == tokens.hover.rgb() &&
-         palette.color(QPalette::Active, QPalette::Mid).rgb() == tokens.line.rgb();
 }
 
 void SetGroup(QPalette& palette, QPalette::ColorGroup group, const Tokens& t) {
@@ -175,7 +182,7 @@ void SetGroup(QPalette& palette, QPalette::ColorGroup group, const Tokens& t) {
   set(QPalette::Highlight, off ? t.pressed : t.accent);
   set(QPalette::HighlightedText, off ? t.off : t.on_accent);
   set(QPalette::Link, t.focus);
-  set(QPalette::LinkVisited, t.focus);
+  set(QPalette::LinkVisited, t.accent);  // tells the table by its palette, as those three do
   set(QPalette::ToolTipBase, t.tooltip);
   set(QPalette::ToolTipText, t.on_tooltip);
   set(QPalette::PlaceholderText, t.muted);

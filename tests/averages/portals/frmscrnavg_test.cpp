@@ -63,6 +63,7 @@ TEST_F(FrmScrnAvgTest, AClickShowsTheStudent) {
   driver->Choose("lstName", 0);
   EXPECT_EQ(driver->Text("lname"), "Ng");
   EXPECT_EQ(driver->Text("fname"), "Ada");
+  EXPECT_EQ(driver->Text("studentid"), "101");
   EXPECT_EQ(driver->Text("comments"), "reads a lot");
   EXPECT_EQ(Column(portal.grdgrade, 1), (Texts{"Qui", "Tes"}));
   EXPECT_EQ(Column(portal.grdgrade, 2), (Texts{"80", "ABS"}));
@@ -244,6 +245,8 @@ TEST_F(FrmInfoTest, ShowsTheRecordWithoutTheAverage) {
   EXPECT_EQ(portal.Caption, "Show Information Portal");
   EXPECT_EQ(portal.grdgrade.TextMatrix(0, 1), "Codes");
   driver->Choose("list1", 0);
+  EXPECT_EQ(driver->Text("fullname"), "Ada Ng");
+  EXPECT_EQ(driver->Text("studentid"), "101");
   EXPECT_EQ(Column(portal.grdgrade, 2), (Texts{"80", "ABS"}));
   EXPECT_EQ(portal.grdatt.TextMatrix(1, 1), "2");
   EXPECT_EQ(Current().Students[1].Marks[0], "");

@@ -94,6 +94,16 @@ TEST(Tokens, ADesktopsOwnPaletteStaysWhatItIs) {
   EXPECT_TRUE(t.dark);
 }
 
+TEST(Tokens, AListInHighContrastHasTheColoursOfItsWindow) {
+  const Tokens t = TokensOf(HighContrast(Qt::black, Qt::white, Qt::yellow));
+  QPalette list = PaletteOf(t);
+  list.setColor(QPalette::Highlight, t.selection);
+  list.setColor(QPalette::HighlightedText, t.text);
+  EXPECT_EQ(TokensOf(list).selection.rgb(), t.selection.rgb());
+  EXPECT_EQ(TokensOf(list).focus.rgb(), t.focus.rgb());
+  EXPECT_EQ(TokensOf(list).accent.rgb(), t.accent.rgb());
+}
+
 TEST(Tokens, ThePaletteIsCompleteInAllThreeGroups) {
   const Tokens& t = DarkTokens();
   const QPalette palette = PaletteOf(t);
