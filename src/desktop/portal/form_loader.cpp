@@ -25,6 +25,7 @@
 #include "desktop/portal/folding_text.h"
 #include "desktop/portal/form_labels.h"
 #include "desktop/portal/form_pictures.h"
+#include "desktop/basics/part_names.h"
 #include "desktop/portal/telling_label.h"
 #include "desktop/portal/total_figure.h"
 #include "desktop/style/program_style.h"
@@ -62,10 +63,11 @@ bool IsOfClass(const QObject& object, const QString& class_name) {
 }
 
 // What a label's words are for, which the style draws them by; the picture of a tool; the button
-// that Enter presses while a page is shown.
+// that Enter presses while a page is shown; the field from which a list is walked.
 bool IsOwnProperty(const QObject& object, const QByteArray& property) {
   return (property == "mainAction" && object.isWidgetType()) ||
          (property == "textUse" && qobject_cast<const QLabel*>(&object)) ||
+         (property == "toldIn" && qobject_cast<const QAbstractItemView*>(&object)) ||
          (property == "iconName" && qobject_cast<const QToolButton*>(&object));
 }
 
@@ -92,18 +94,10 @@ void DrawTools(const QObjectList& objects) {
       tool->setIcon(ThemeIcon(tool->property("iconName").toString()));
 }
 
-// A list does not take its name from its label by itself, as a field does.
-void NameList(const QLabel& label) {
-  auto* list = qobject_cast<QAbstractItemView*>(label.buddy());
-  if (list && list->accessibleName().isEmpty())
-    list->setAccessibleName(label.text().remove(QLatin1Char('&')));
-}
-
 void PrepareLabels(const QObjectList& objects) {
   for (QObject* object : objects) {
     auto* label = qobject_cast<QLabel*>(object);
     if (!label || !label->buddy()) continue;
-    NameList(*label);
     // Underlining a letter parts it from its neighbour: "Teacher" comes out wider than measured.
     label->setMinimumWidth(label->sizeHint().width() + 3);
   }
@@ -131,6 +125,7 @@ LoadedForm FormLoader::Load(const QString& file, QDialog& dialog) {
   dialog.setAttribute(Qt::WA_Moved, false);
   ScaleToFont(form_.objects, dialog);
   PrepareLabels(form_.objects);
+  NameParts(form_.objects);
   DrawTools(form_.objects);
   ComplainOfDynamicProperties();
   return std::exchange(form_, {});
