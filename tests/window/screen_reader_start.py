@@ -57,6 +57,7 @@ def follow_steps(program, tour):
 
 def tell(this):
     program = this.start()
+    program.window("Welcome to Tallyroll")
     tour = Tour(program, None)
     read_greeting(program, tour)
     frame = program.frame()

@@ -13,6 +13,7 @@
 #include <utility>
 
 #include "desktop/basics/palette_icon.h"
+#include "desktop/basics/part_names.h"
 #include "desktop/basics/text_conversion.h"
 #include "desktop/grid/cell_list.h"
 #include "desktop/grid/grid_widget.h"
@@ -25,7 +26,6 @@
 #include "desktop/portal/folding_text.h"
 #include "desktop/portal/form_labels.h"
 #include "desktop/portal/form_pictures.h"
-#include "desktop/basics/part_names.h"
 #include "desktop/portal/telling_label.h"
 #include "desktop/portal/total_figure.h"
 #include "desktop/style/program_style.h"
