@@ -18,6 +18,7 @@
 #include "desktop/basics/text_conversion.h"
 #include "desktop/grid/grid_widget.h"
 #include "desktop/panel/side_panel.h"
+#include "desktop/style/appearance.h"
 #include "desktop/window/frame_window.h"
 #include "shell/shell_state.h"
 #include "store/class_defaults.h"
@@ -160,9 +161,11 @@ void KeyThatScrollsClassGrid(benchmark::State& state) {
 }
 BENCHMARK(KeyThatScrollsClassGrid)->Unit(benchmark::kMillisecond)->UseRealTime();
 
-// The class window in its frame, with panel and status line, as the program shows it.
+// The class window in its frame, with panel and status line, as the program shows it. From the
+// first one on everything has the program's own look.
 struct WindowOfClass : GridOfClass {
   WindowOfClass() {
+    if (!Appearance::Instance()) new Appearance(*qApp);  // its child
     FrameForm = std::make_unique<MDIForm1>();
     Current().Method = 2;
     PrepareWeights();
@@ -200,6 +203,43 @@ void KeyInClassWindow(benchmark::State& state) {
   }
 }
 BENCHMARK(KeyInClassWindow)->Unit(benchmark::kMillisecond)->UseRealTime();
+
+// A wheel's step, or a drag of the bar, through the whole class.
+void ScrollClassWindow(benchmark::State& state) {
+  WindowOfClass open;
+  QScrollBar& bar =
+      *(state.range(0) == 0 ? open.grid->horizontalScrollBar() : open.grid->verticalScrollBar());
+  const int step = static_cast<int>(state.range(1));
+  for (auto _ : state) {
+    bar.setValue(bar.value() + step > bar.maximum() ? bar.minimum() : bar.value() + step);
+    QApplication::processEvents();
+    open.frame->Sync();
+  }
+}
+// Sideways by a grade, down by a student, by the three of a wheel, and by a page.
+BENCHMARK(ScrollClassWindow)
+    ->Args({0, 1})
+    ->Args({1, 1})
+    ->Args({1, 3})
+    ->Args({1, 30})
+    ->Unit(benchmark::kMillisecond)
+    ->UseRealTime();
+
+// The pointer over a table of marks: tints, and what the status bar says of the place.
+void HoverOverClassWindow(benchmark::State& state) {
+  WindowOfClass open;
+  int step = 0;
+  for (auto _ : state) {
+    const QPointF place(400 + step % 7 * 60, 120 + step % 25 * 20);
+    ++step;
+    QMouseEvent move(QEvent::MouseMove, place, open.grid->viewport()->mapToGlobal(place),
+                     Qt::NoButton, Qt::NoButton, Qt::NoModifier);
+    QApplication::sendEvent(open.grid->viewport(), &move);
+    QApplication::processEvents();
+    open.frame->Sync();
+  }
+}
+BENCHMARK(HoverOverClassWindow)->Unit(benchmark::kMillisecond)->UseRealTime();
 
 // What follows when the keys rest: the figures of another cell, and their picture.
 void PanelOfAnotherCell(benchmark::State& state) {

@@ -41,6 +41,10 @@ frmexchange::frmexchange() : Portal("frmexchange") {
   outframe.Caption = "Special Marks and Warnings";
   okbt.Caption = "&OK";
   cancelbt.Caption = "&Cancel";
+  changes.Notes.Of = [this](int row, int col) {
+    const bool blocks = changes.Style(row, col) == CellStyle::kFailing;
+    return blocks ? CellNote{CellMark::kNone, "cannot be carried out as it stands"} : CellNote();
+  };
 }
 
 void frmexchange::Declare(ControlTable& table) {

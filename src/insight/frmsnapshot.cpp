@@ -37,6 +37,10 @@ frmsnapshot::frmsnapshot() : Portal("frmsnapshot") {
   Caption = "Snapshot";
   HelpContext = 860;
   exit.Caption = "E&xit";
+  Grid1.Notes.Of = [this](int row, int col) {
+    const bool differs = Grid1.Style(row, col) == CellStyle::kInWork;
+    return differs ? CellNote{CellMark::kNone, "differs"} : CellNote();
+  };
 }
 
 void frmsnapshot::Declare(ControlTable& table) {

@@ -21,9 +21,13 @@ int GradeOfColumn(int col) {
 
 CellNote NoteOfCell(const Form1& window, int row, int col) {
   const int grade = row < kHeadRows ? 0 : GradeOfColumn(col);
-  if (grade == 0) return {};
-  const Instrument& instrument = Current().Instruments[static_cast<std::size_t>(grade)];
-  return NoteOfMark(window.Grid1.TextMatrix(row, col), BoundsOf(instrument));
+  CellNote note;
+  if (grade > 0)
+    note = NoteOfMark(window.Grid1.TextMatrix(row, col),
+                      BoundsOf(Current().Instruments[static_cast<std::size_t>(grade)]));
+  const bool came_back = window.Grid1.Style(row, col) == CellStyle::kInWork;
+  if (came_back && note.words.empty()) note.words = "changed just now";
+  return note;
 }
 
 std::string MaximumOf(int col) {

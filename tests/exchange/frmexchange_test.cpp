@@ -77,9 +77,11 @@ TEST_F(FrmexchangeTest, ProblemsKeepItFromBeingTakenUntilTheyAreSettled) {
 
   driver->PickCell("changes", 3, 2);
   EXPECT_EQ(Cell(portal, 3, 2), "unknown student");
+  EXPECT_EQ(NoteOf(portal.changes.Notes, 3, 2).words, "cannot be carried out as it stands");
   ASSERT_TRUE(driver->Enabled("who"));
   EXPECT_EQ(portal.who.List[1], "Abel, Bo (by last name)");
   driver->Choose("who", 1);
+  EXPECT_EQ(NoteOf(portal.changes.Notes, 3, 2).words, "");
   EXPECT_EQ(driver->Text("told"), "canvas.csv: 4 lines ticked, 1 problem, 0 with nothing to do");
   driver->Tick("leaveout");
   driver->Press("okbt");

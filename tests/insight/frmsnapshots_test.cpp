@@ -196,6 +196,8 @@ TEST_F(FrmSnapshotsTest, OneStandsBesideTheClassWithWhatDiffersInColour) {
   EXPECT_EQ(beside->Grid1.Style(1, 2), CellStyle::kPlain);
   EXPECT_EQ(beside->Grid1.TextMatrix(2, 2), "80");
   EXPECT_EQ(beside->Grid1.Style(2, 2), CellStyle::kInWork);
+  EXPECT_EQ(NoteOf(beside->Grid1.Notes, 2, 2).words, "differs");
+  EXPECT_EQ(NoteOf(beside->Grid1.Notes, 1, 2).words, "");
   // It goes with the class.
   EXPECT_TRUE(FrameForm->CloseWindow(*window));
   EXPECT_EQ(screen.PortalBeside("frmsnapshot"), nullptr);

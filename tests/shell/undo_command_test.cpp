@@ -58,6 +58,7 @@ TEST_F(UndoCommandTest, TheCellsThatCameBackAreMarkedUntilTheNextCommand) {
   EnterGrade(window, "Quiz 5");
   window.ClickMenu("mnuundo");
   EXPECT_EQ(window.Grid1.Style(2, 3), CellStyle::kInWork);
+  EXPECT_EQ(NoteOf(window.Grid1.Notes, 2, 3).words, "changed just now");
   EXPECT_EQ(window.Grid1.Style(2, 2), CellStyle::kPlain);
   EXPECT_EQ(window.Grid1.Row, 2);
   EXPECT_EQ(window.Grid1.Col, 3);

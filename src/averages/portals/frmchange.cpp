@@ -50,6 +50,10 @@ frmchange::frmchange() : Portal("frmchange") {
   Caption = "Preview Change Portal";
   HelpContext = 850;
   exit.Caption = "E&xit";
+  Grid1.Notes.Of = [this](int row, int col) {
+    const bool changes = Grid1.Style(row, col) == CellStyle::kInWork;
+    return changes ? CellNote{CellMark::kNone, "the final grade changes"} : CellNote();
+  };
 }
 
 void frmchange::Declare(ControlTable& table) {

@@ -82,6 +82,10 @@ frmroundoff::frmroundoff() : Portal("frmroundoff") {
   contprinter.Caption = "&Printer";
   continueprint.Caption = "C&ontinue";
   cancel.Caption = "&Cancel";
+  grdgrade.Notes.Of = [this](int row, int col) {
+    const bool idle = grdgrade.Style(row, col) == CellStyle::kShaded;
+    return idle ? CellNote{CellMark::kNone, "not in force"} : CellNote();
+  };
 }
 
 void frmroundoff::Declare(ControlTable& table) {

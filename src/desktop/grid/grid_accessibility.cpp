@@ -9,9 +9,26 @@
 
 #include "desktop/basics/text_conversion.h"
 #include "desktop/grid/grid_widget.h"
+#include "desktop/grid/seats_widget.h"
 
 namespace tallyroll {
 namespace {
+
+bool IsRoom(const GridWidget* widget) {
+  return qobject_cast<const SeatsWidget*>(widget) != nullptr;
+}
+
+// The rows of a classroom stand side by side, their seats one behind the other.
+QString RowOfRoom(int col) {
+  return QObject::tr("Row %1").arg(col + 1);
+}
+QString SeatOfRow(int row) {
+  return QObject::tr("seat %1 from the front").arg(row + 1);
+}
+
+bool HasWords(const QAccessibleInterface* cell) {
+  return cell && !cell->text(QAccessible::Name).isEmpty();
+}
 
 class GridCellInterface : public QAccessibleInterface,
                           public QAccessibleTableCellInterface,
@@ -90,6 +107,7 @@ class GridCellInterface : public QAccessibleInterface,
  private:
   // What the eye learns of a colour, a chip or the line below a head.
   QString State() const {
+    if (IsRoom(widget_)) return PlaceInRoom();
     const GridNotes& notes = widget_->grid()->Notes;
     if (role() == QAccessible::ColumnHeader && notes.Tip) {
       QString tip = FromText(notes.Tip(row_, col_));
@@ -99,6 +117,18 @@ class GridCellInterface : public QAccessibleInterface,
       return FromText(note.words);
     return widget_->grid()->Style(row_, col_) == CellStyle::kFailing ? QStringLiteral("failing")
                                                                      : QString();
+  }
+
+  // Where the seat is, whether it is taken, and what stands small on its card.
+  QString PlaceInRoom() const {
+    const Grid& grid = *widget_->grid();
+    QStringList words{RowOfRoom(col_), SeatOfRow(row_)};
+    if (grid.TextMatrix(row_, col_).empty())
+      words << QObject::tr("empty");
+    else if (grid.SmallLine)
+      words << FromText(grid.SmallLine(row_, col_));
+    words.removeAll(QString());
+    return words.join(QLatin1String(", "));
   }
 
   QPointer<GridWidget> widget_;
@@ -155,9 +185,15 @@ class GridInterface : public QAccessibleWidget, public QAccessibleTableInterface
   QAccessibleInterface* caption() const override { return nullptr; }
   QAccessibleInterface* summary() const override { return nullptr; }
   QString columnDescription(int col) const override {
-    return Heading(widget()->grid()->FixedRows - 1, col);
+    if (IsRoom(widget())) return RowOfRoom(col);
+    const int heads = widget()->grid() ? widget()->grid()->FixedRows : 0;
+    for (int row = heads - 1; row >= 0; --row)
+      if (const QString words = Heading(row, col); !words.isEmpty()) return words;
+    return {};
   }
-  QString rowDescription(int row) const override { return Heading(row, 0); }
+  QString rowDescription(int row) const override {
+    return IsRoom(widget()) ? SeatOfRow(row) : Heading(row, 0);
+  }
   int selectedCellCount() const override { return focusChild() ? widget()->Range().Count() : 0; }
   QList<QAccessibleInterface*> selectedCells() const override {
     QList<QAccessibleInterface*> cells;
@@ -196,17 +232,21 @@ class GridInterface : public QAccessibleWidget, public QAccessibleTableInterface
   mutable QHash<int, QAccessible::Id> cells_;
 };
 
+// The one beside the cells comes first, and is what most readers say: one that stands over several
+// columns tells none of them. A head without words is none.
 QList<QAccessibleInterface*> GridCellInterface::columnHeaderCells() const {
   QList<QAccessibleInterface*> cells;
   QAccessibleTableInterface* whole = parent()->tableInterface();
-  for (int r = 0; r < widget_->grid()->FixedRows; ++r) cells << whole->cellAt(r, col_);
+  for (int r = widget_->grid()->FixedRows - 1; r >= 0; --r)
+    if (QAccessibleInterface* head = whole->cellAt(r, col_); HasWords(head)) cells << head;
   return cells;
 }
 
 QList<QAccessibleInterface*> GridCellInterface::rowHeaderCells() const {
   QList<QAccessibleInterface*> cells;
   QAccessibleTableInterface* whole = parent()->tableInterface();
-  for (int c = 0; c < widget_->grid()->FixedCols; ++c) cells << whole->cellAt(row_, c);
+  for (int c = 0; c < widget_->grid()->FixedCols; ++c)
+    if (QAccessibleInterface* head = whole->cellAt(row_, c); HasWords(head)) cells << head;
   return cells;
 }
 
@@ -216,6 +256,17 @@ QAccessibleInterface* MakeInterface(const QString&, QObject* object) {
 }
 
 }  // namespace
+
+// Readers speak a description that changes at the focus; the toolkit knows no announcements.
+void TellAtCurrentCell(GridWidget& grid, const QString& words) {
+  if (words == grid.Told()) return;
+  grid.SetTold(words);
+  QAccessibleInterface* whole = QAccessible::queryAccessibleInterface(&grid);
+  QAccessibleInterface* cell = whole ? whole->focusChild() : nullptr;
+  if (!cell || !cell->isValid()) return;
+  QAccessibleEvent event(cell, QAccessible::DescriptionChanged);
+  QAccessible::updateAccessibility(&event);
+}
 
 // The toolkit keeps a factory once, however often it is given.
 void InstallGridAccessibility() {

@@ -80,6 +80,8 @@ void SeatsWidget::paintEvent(QPaintEvent* event) {
   painter.fillRect(event->rect(), palette().color(QPalette::Window));
   painter.setRenderHint(QPainter::Antialiasing);
   if (!grid()) return;
+  painter.setPen(palette().color(QPalette::PlaceholderText));
+  painter.drawText(viewport()->rect(), Qt::AlignCenter | Qt::TextWordWrap, NoticeShown());
   for (int row = 0; row < grid()->Rows(); ++row)
     for (int col = 0; col < grid()->Cols(); ++col)
       if (CellRect(row, col).intersects(event->rect())) PaintSeat(painter, row, col);

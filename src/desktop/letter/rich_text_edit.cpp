@@ -105,7 +105,19 @@ void RichTextEdit::SetSpelling(Spelling* spelling) {
 }
 
 // A new paragraph does not begin another page because the one before does.
+// Tab is a tab of the letter. With Ctrl it leads out of it, and with Shift back, or the choices
+// above could never be reached by keys.
+bool RichTextEdit::focusNextPrevChild(bool next) {
+  return next ? QTextEdit::focusNextPrevChild(true) : QWidget::focusNextPrevChild(false);
+}
+
 void RichTextEdit::keyPressEvent(QKeyEvent* event) {
+  const bool with_ctrl = event->modifiers() & Qt::ControlModifier;
+  const bool back = event->key() == Qt::Key_Backtab;
+  if (with_ctrl && (back || event->key() == Qt::Key_Tab)) {
+    QWidget::focusNextPrevChild(!back);
+    return;
+  }
   const int blocks = document()->blockCount();
   QTextEdit::keyPressEvent(event);
   if (document()->blockCount() != blocks + 1) return;

@@ -24,7 +24,7 @@ QString PointInWords(const GlancePoint& point) {
 
 }  // namespace
 
-PercentLine::PercentLine(QWidget* parent) : QWidget(parent) {
+PercentLine::PercentLine(QWidget* parent) : QWidget(parent), SpokenAs(QAccessible::Graphic) {
   setObjectName(QStringLiteral("percents"));
   setAccessibleName(tr("Percents by grade"));
   setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
@@ -101,7 +101,7 @@ void PercentLine::paintEvent(QPaintEvent*) {
   PaintPoints(painter);
 }
 
-TenBars::TenBars(QWidget* parent) : QWidget(parent) {
+TenBars::TenBars(QWidget* parent) : QWidget(parent), SpokenAs(QAccessible::Graphic) {
   setObjectName(QStringLiteral("bars"));
   setAccessibleName(tr("Marks by percent"));
   setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);

@@ -4,13 +4,14 @@
 
 #include <QWidget>
 
+#include "desktop/basics/spoken_role.h"
 #include "insight/grade_glance.h"
 #include "insight/student_glance.h"
 
 namespace tallyroll {
 
 // All percents of a student, from 40 up, with the line that passes.
-class PercentLine : public QWidget {
+class PercentLine : public QWidget, public SpokenAs {
  public:
   explicit PercentLine(QWidget* parent = nullptr);
 
@@ -31,7 +32,7 @@ class PercentLine : public QWidget {
 };
 
 // The marks of a grade by tens of percent, with their counts; the failing part of a bar is red.
-class TenBars : public QWidget {
+class TenBars : public QWidget, public SpokenAs {
  public:
   explicit TenBars(QWidget* parent = nullptr);
 

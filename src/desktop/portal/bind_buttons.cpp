@@ -4,6 +4,7 @@
 #include <QAction>
 #include <QButtonGroup>
 #include <QCheckBox>
+#include <QGroupBox>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QToolButton>
@@ -30,6 +31,15 @@ class CaptionedBinding : public Binding<C, W> {
   }
 };
 
+// "1 (empty)" says nothing without the caption of its frame.
+void NameWithFrame(QWidget& button, const QString& caption) {
+  const auto* frame = qobject_cast<const QGroupBox*>(button.parentWidget());
+  const QString words = QString(caption).remove(QLatin1Char('&'));
+  if (!frame || words.isEmpty() || !words.front().isDigit()) return;
+  const QString name = frame->title() + QLatin1Char(' ') + words;
+  if (button.accessibleName() != name) button.setAccessibleName(name);
+}
+
 template <typename W>
 class PressBinding : public CaptionedBinding<CommandButton, W> {
  public:
@@ -40,6 +50,13 @@ class PressBinding : public CaptionedBinding<CommandButton, W> {
       QObject::connect(&widget, &QAction::triggered, this, pressed);
     else
       QObject::connect(&widget, &W::clicked, this, pressed);
+  }
+
+ protected:
+  void ShowValue() override {
+    CaptionedBinding<CommandButton, W>::ShowValue();
+    if constexpr (std::is_same_v<W, QPushButton>)
+      NameWithFrame(this->widget_, this->widget_.text());
   }
 };
 

@@ -7,6 +7,7 @@
 #include "desktop/basics/text_conversion.h"
 #include "desktop/portal/control_binding.h"
 #include "desktop/portal/telling_label.h"
+#include "desktop/portal/total_figure.h"
 
 namespace tallyroll {
 namespace {
@@ -23,6 +24,7 @@ class LabelBinding : public Binding<Label, QLabel> {
  protected:
   void ShowValue() override {
     const QString text = LinesFromText(control_.Caption);
+    if (auto* total = qobject_cast<TotalFigure*>(&widget_)) return total->Show(text);
     if (widget_.text() == text) return;
     if (auto* telling = qobject_cast<TellingLabel*>(&widget_))
       telling->Tell(text);

@@ -17,6 +17,11 @@
 namespace tallyroll {
 namespace {
 
+// The columns of a line, parted as a sentence is.
+QString InWords(const QString& line) {
+  return line.split(QLatin1Char('\t'), Qt::SkipEmptyParts).join(QLatin1String(", "));
+}
+
 class ListBinding : public Binding<ListBox, QListWidget> {
  public:
   ListBinding(ListBox& control, ControlRow& row, QListWidget& list, BindingOwner& owner)
@@ -66,6 +71,7 @@ class ListBinding : public Binding<ListBox, QListWidget> {
       if (control_.ListIndex < 0) widget_.clearSelection();
     }
     if (control_.MultiSelect) ShowMarks();
+    TellInField();
   }
 
   bool eventFilter(QObject* watched, QEvent* event) override {
@@ -107,6 +113,19 @@ class ListBinding : public Binding<ListBox, QListWidget> {
       QApplication::beep();
     }
     return true;
+  }
+
+  // Who walks the list from a field hears there which line is chosen.
+  void TellInField() {
+    if (told_in_.isEmpty()) return;
+    auto* field = widget_.window()->findChild<QWidget*>(told_in_);
+    const QListWidgetItem* line = widget_.currentItem();
+    const QString words =
+        line ? tr("%1, %2 of %3")
+                   .arg(line->data(Qt::AccessibleTextRole).toString(),
+                        QString::number(widget_.currentRow() + 1), QString::number(widget_.count()))
+             : widget_.accessibleDescription();
+    if (field && field->accessibleDescription() != words) field->setAccessibleDescription(words);
   }
 
   // A line can be dragged to another control, and what is dragged from there dropped here.
@@ -187,7 +206,7 @@ class ListBinding : public Binding<ListBox, QListWidget> {
       const int count = at < counts_.size() ? counts_[at] : 0;
       QListWidgetItem& item = *widget_.item(row);
       item.setData(ListColumns::kCountRole, count);
-      QString words = item.text().replace(QLatin1Char('\t'), QLatin1Char(' '));
+      QString words = InWords(item.text());
       if (count > 0) words += QStringLiteral(", %1").arg(count);
       item.setData(Qt::AccessibleTextRole, words);
     }
@@ -201,16 +220,17 @@ class ListBinding : public Binding<ListBox, QListWidget> {
     for (std::size_t i = 0; i < list_.size(); ++i) {
       const int row = static_cast<int>(i);
       QListWidgetItem* item = same_length ? widget_.item(row) : new QListWidgetItem(&widget_);
-      QString text = FromText(list_[i]);
+      const QString text = FromText(list_[i]);
       item->setText(text);
       item->setData(ListColumns::kCountRole, 0);
-      item->setData(Qt::AccessibleTextRole, text.replace(QLatin1Char('\t'), QLatin1Char(' ')));
+      item->setData(Qt::AccessibleTextRole, InWords(text));
     }
     columns_->Measure(widget_);
   }
 
   TypedAhead typed_;
-  ListColumns* columns_;  // the list's
+  const QString told_in_ = widget_.property("toldIn").toString();  // the field's name
+  ListColumns* columns_;                                           // the list's
   std::vector<std::string> list_;
   std::vector<int> counts_;
   bool press_is_told_ = false;

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Pictures: ornaments, and sheets of paper that scroll.
+#include <QAccessibleWidget>
 #include <QEvent>
 #include <QPainter>
 #include <QScrollArea>
@@ -13,10 +14,18 @@ namespace {
 
 using OrnamentBinding = Binding<PictureBox, QWidget>;
 
+// To a screen reader the area with a sheet is a document, not a part of the window.
+QAccessibleInterface* MakeSpokenSheet(const QString&, QObject* object) {
+  auto* area = qobject_cast<QScrollArea*>(object);
+  const bool has_sheet = area && qobject_cast<const SheetView*>(area->widget());
+  return has_sheet ? new QAccessibleWidget(area, QAccessible::Document) : nullptr;
+}
+
 class SheetBinding : public Binding<PictureBox, QScrollArea> {
  public:
   SheetBinding(PictureBox& control, ControlRow& row, QScrollArea& area, BindingOwner& owner)
       : Binding(control, row, area, owner), view_(new SheetView) {
+    QAccessible::installFactory(MakeSpokenSheet);
     // What the form puts there stays its own.
     if (QWidget* old = area.takeWidget()) {
       old->setParent(&area);
@@ -26,11 +35,18 @@ class SheetBinding : public Binding<PictureBox, QScrollArea> {
     area.setAlignment(Qt::AlignCenter);
     area.setWidgetResizable(false);
     area.setWidget(view_);
+    // The toolkit has taken the area for an empty one as soon as the form gave it a name.
+    if (QAccessibleInterface* empty = QAccessible::queryAccessibleInterface(&area))
+      QAccessible::deleteAccessibleInterface(QAccessible::uniqueId(empty));
     area.viewport()->installEventFilter(this);
   }
 
  protected:
-  void ShowValue() override { view_->ShowSheet(control_, Room()); }
+  void ShowValue() override {
+    view_->ShowSheet(control_, Room());
+    if (view_->Words() != widget_.accessibleDescription())
+      widget_.setAccessibleDescription(view_->Words());
+  }
 
   // The sheet lies on its desk and throws a shadow.
   bool eventFilter(QObject* watched, QEvent* event) override {

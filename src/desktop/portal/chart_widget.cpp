@@ -47,7 +47,7 @@ std::string SvgOf(const Chart& chart, const ChartFrame& frame) {
 
 }  // namespace
 
-ChartWidget::ChartWidget(QWidget* parent) : QWidget(parent) {
+ChartWidget::ChartWidget(QWidget* parent) : QWidget(parent), SpokenAs(QAccessible::Chart) {
   setFocusPolicy(Qt::StrongFocus);
   setMouseTracking(true);
   setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);

@@ -8,10 +8,11 @@
 #include <vector>
 
 #include "analysis/chart_drawing.h"
+#include "desktop/basics/spoken_role.h"
 
 namespace tallyroll {
 
-class ChartWidget : public QWidget {
+class ChartWidget : public QWidget, public SpokenAs {
   Q_OBJECT
 
  public:

@@ -38,7 +38,7 @@ std::array<int, kCodeWords.size() + 1> PlacesOf(const GridFonts& fonts) {
 
 }  // namespace
 
-CodeKey::CodeKey(QWidget* parent) : QWidget(parent) {
+CodeKey::CodeKey(QWidget* parent) : QWidget(parent), SpokenAs(QAccessible::Graphic) {
   setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
   QStringList words;
   for (const CodeWord& each : kCodeWords)

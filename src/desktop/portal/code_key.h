@@ -4,9 +4,11 @@
 
 #include <QWidget>
 
+#include "desktop/basics/spoken_role.h"
+
 namespace tallyroll {
 
-class CodeKey : public QWidget {
+class CodeKey : public QWidget, public SpokenAs {
   Q_OBJECT
 
  public:

@@ -79,6 +79,7 @@ constexpr std::array kEmptyTexts = {
     EmptyText{"frmscrnavg", "grdatt", kNoSummaries},
     EmptyText{"frmrecover", "Grid1", "Attendance, seats or the order of records"},
     EmptyText{"frmseating", "Listchart", "No charts yet"},
+    EmptyText{"frmseating", "Grid1", "The chosen chart"},
     EmptyText{"frmseating", "students", "Everybody has a seat"},
     EmptyText{"frmseating", "unmet", "Every wish is met"},
     EmptyText{"frmseating", "column", "The columns of the room"},

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "desktop/portal/folding_text.h"
 
+#include <QAccessibleWidget>
 #include <QApplication>
 #include <QKeyEvent>
 #include <QMouseEvent>
@@ -16,6 +17,40 @@ constexpr int kFoldPadding = 10;
 constexpr int kFoldRadius = 6;
 constexpr int kUsualWidth = 460;
 
+// To a screen reader it is a button that says all of the text, folded or not.
+class SpokenFoldingText : public QAccessibleWidget {
+ public:
+  explicit SpokenFoldingText(FoldingText& text)
+      : QAccessibleWidget(&text, QAccessible::Button), text_(text) {}
+
+  QString text(QAccessible::Text type) const override {
+    if (type == QAccessible::Name) return text_.text();
+    return type == QAccessible::Description ? text_.toolTip() : QAccessibleWidget::text(type);
+  }
+  QAccessible::State state() const override {
+    QAccessible::State state = QAccessibleWidget::state();
+    state.expandable = true;
+    state.expanded = !text_.IsFolded();
+    state.collapsed = text_.IsFolded();
+    return state;
+  }
+  QStringList actionNames() const override {
+    return QStringList{pressAction()} + QAccessibleWidget::actionNames();
+  }
+  void doAction(const QString& action) override {
+    if (action != pressAction()) return QAccessibleWidget::doAction(action);
+    text_.SetFolded(!text_.IsFolded());
+  }
+
+ private:
+  FoldingText& text_;
+};
+
+QAccessibleInterface* MakeSpokenFoldingText(const QString&, QObject* object) {
+  auto* text = qobject_cast<FoldingText*>(object);
+  return text ? new SpokenFoldingText(*text) : nullptr;
+}
+
 QString FirstSentence(const QString& text) {
   const auto end = text.indexOf(QLatin1String(". "));
   return end < 0 ? text : text.left(end + 1);
@@ -24,6 +59,7 @@ QString FirstSentence(const QString& text) {
 }  // namespace
 
 FoldingText::FoldingText(QWidget* parent) : QLabel(parent) {
+  QAccessible::installFactory(MakeSpokenFoldingText);
   setWordWrap(true);
   setFocusPolicy(Qt::TabFocus);
   setCursor(Qt::PointingHandCursor);
@@ -42,6 +78,10 @@ void FoldingText::SetFolded(bool folded) {
   folded_ = folded;
   updateGeometry();
   update();
+  QAccessible::State changed;
+  changed.expanded = true;
+  QAccessibleStateChangeEvent event(this, changed);
+  QAccessible::updateAccessibility(&event);
 }
 
 QString FoldingText::ShownText() const {

@@ -13,6 +13,7 @@
 #include <utility>
 
 #include "desktop/basics/palette_icon.h"
+#include "desktop/basics/part_names.h"
 #include "desktop/basics/text_conversion.h"
 #include "desktop/grid/cell_list.h"
 #include "desktop/grid/grid_widget.h"
@@ -65,10 +66,11 @@ bool IsOfClass(const QObject& object, const QString& class_name) {
 }
 
 // What a label's words are for, which the style draws them by; the picture of a tool; the button
-// that Enter presses while a page is shown.
+// that Enter presses while a page is shown; the field from which a list is walked.
 bool IsOwnProperty(const QObject& object, const QByteArray& property) {
   return (property == "mainAction" && object.isWidgetType()) ||
          (property == "textUse" && qobject_cast<const QLabel*>(&object)) ||
+         (property == "toldIn" && qobject_cast<const QAbstractItemView*>(&object)) ||
          (property == "iconName" && qobject_cast<const QToolButton*>(&object));
 }
 
@@ -95,18 +97,10 @@ void DrawTools(const QObjectList& objects) {
       tool->setIcon(ThemeIcon(tool->property("iconName").toString()));
 }
 
-// A list does not take its name from its label by itself, as a field does.
-void NameList(const QLabel& label) {
-  auto* list = qobject_cast<QAbstractItemView*>(label.buddy());
-  if (list && list->accessibleName().isEmpty())
-    list->setAccessibleName(label.text().remove(QLatin1Char('&')));
-}
-
 void PrepareLabels(const QObjectList& objects) {
   for (QObject* object : objects) {
     auto* label = qobject_cast<QLabel*>(object);
     if (!label || !label->buddy()) continue;
-    NameList(*label);
     // Underlining a letter parts it from its neighbour: "Teacher" comes out wider than measured.
     label->setMinimumWidth(label->sizeHint().width() + 3);
   }
@@ -134,6 +128,7 @@ LoadedForm FormLoader::Load(const QString& file, QDialog& dialog) {
   dialog.setAttribute(Qt::WA_Moved, false);
   ScaleToFont(form_.objects, dialog);
   PrepareLabels(form_.objects);
+  NameParts(form_.objects);
   DrawTools(form_.objects);
   ComplainOfDynamicProperties();
   // A window takes no more room than what it will show.

@@ -4,7 +4,7 @@
 #include <QPainter>
 #include <algorithm>
 
-#include "desktop/paper/qt_print_target.h"
+#include "desktop/paper/heard_page.h"
 
 namespace tallyroll {
 namespace {
@@ -40,7 +40,7 @@ SheetView::Look SheetView::LookOf(const PictureBox& box, const QSize& room) cons
   return look;
 }
 
-QPixmap SheetView::Draw(const PictureBox& box, double zoom) const {
+QPixmap SheetView::Draw(const PictureBox& box, double zoom) {
   const double ratio = devicePixelRatioF();
   const QSizeF size(box.SheetWidth * logicalDpiX() / kTwipsPerInch * zoom,
                     box.SheetHeight * logicalDpiY() / kTwipsPerInch * zoom);
@@ -51,9 +51,10 @@ QPixmap SheetView::Draw(const PictureBox& box, double zoom) const {
   QPainter painter(&pixmap);
   ScaleToTwips(painter, *this);
   painter.scale(zoom, zoom);
-  QtPrintTarget target({box.SheetWidth, box.SheetHeight, box.SheetWidth, box.SheetHeight},
-                       &painter);
+  const Sheet sheet{box.SheetWidth, box.SheetHeight, box.SheetWidth, box.SheetHeight};
+  HeardPage target(sheet, &painter);
   box.Draw(target);
+  words_ = target.Words();
   return pixmap;
 }
 

@@ -18,6 +18,8 @@ class SheetView : public QWidget {
   // Draws the sheet anew when it has changed since the last time, and only then; as large as fits
   // `room` where the box asks for that.
   void ShowSheet(const PictureBox& box, const QSize& room);
+  // The words of the sheet, for who hears the screen.
+  const QString& Words() const { return words_; }
 
  protected:
   void paintEvent(QPaintEvent* event) override;
@@ -30,10 +32,11 @@ class SheetView : public QWidget {
     friend bool operator==(const Look&, const Look&) = default;
   };
   Look LookOf(const PictureBox& box, const QSize& room) const;
-  QPixmap Draw(const PictureBox& box, double zoom) const;
+  QPixmap Draw(const PictureBox& box, double zoom);
 
   Look shown_;
   QPixmap sheet_;
+  QString words_;
   bool drawing_ = false;
 };
 

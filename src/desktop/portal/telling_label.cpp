@@ -6,6 +6,7 @@
 #include <QListWidget>
 #include <QTimer>
 
+#include "desktop/grid/grid_accessibility.h"
 #include "desktop/grid/grid_widget.h"
 
 namespace tallyroll {
@@ -19,11 +20,7 @@ void Note(QAccessibleInterface* what, QAccessible::Event change) {
 
 // What of the widget the reader stands on: a cell, a line, or all of it.
 void Describe(QWidget& widget, const QString& text) {
-  QAccessibleInterface* whole = QAccessible::queryAccessibleInterface(&widget);
-  if (auto* grid = qobject_cast<GridWidget*>(&widget)) {
-    grid->SetTold(text);
-    return Note(whole ? whole->focusChild() : nullptr, QAccessible::DescriptionChanged);
-  }
+  if (auto* grid = qobject_cast<GridWidget*>(&widget)) return TellAtCurrentCell(*grid, text);
   auto* list = qobject_cast<QListWidget*>(&widget);
   if (!list || !list->currentItem()) return widget.setAccessibleDescription(text);
   if (!list->accessibleDescription().isEmpty()) list->setAccessibleDescription({});
@@ -31,6 +28,7 @@ void Describe(QWidget& widget, const QString& text) {
   for (int row = 0; row < list->count(); ++row)
     list->item(row)->setData(Qt::AccessibleDescriptionRole,
                              row == list->currentRow() ? text : QString());
+  QAccessibleInterface* whole = QAccessible::queryAccessibleInterface(list);
   Note(whole ? whole->child(list->currentRow()) : nullptr, QAccessible::DescriptionChanged);
 }
 

@@ -24,6 +24,12 @@ QFontMetrics BesideMetrics() {
 
 }  // namespace
 
+void TotalFigure::Show(const QString& figure) {
+  if (figure != text()) setText(figure);
+  if (const QString told = Remainder(); told != accessibleDescription())
+    setAccessibleDescription(told);
+}
+
 bool TotalFigure::IsReached() const {
   bool number = false;
   const double sum = QLocale::c().toDouble(text(), &number);

@@ -13,6 +13,8 @@ class TotalFigure : public QLabel {
  public:
   using QLabel::QLabel;
 
+  // What is missing is told beside it, to the eye as to a screen reader.
+  void Show(const QString& figure);
   bool IsReached() const;
   // "15 missing", "5 too much"; empty when it is reached or no number.
   QString Remainder() const;

@@ -20,6 +20,7 @@ void ShowAboutBox(QWidget* parent) {
       "version. It comes with no warranty.</p>"));
   box.setIconPixmap(box.windowIcon().pixmap(64, 64));
   box.setStandardButtons(QMessageBox::Close);
+  box.setDefaultButton(QMessageBox::Close);
   box.setEscapeButton(QMessageBox::Close);
   box.exec();
 }

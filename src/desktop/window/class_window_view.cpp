@@ -16,6 +16,7 @@
 
 #include "base/number_text.h"
 #include "desktop/basics/text_conversion.h"
+#include "desktop/grid/grid_accessibility.h"
 #include "desktop/grid/grid_widget.h"
 #include "desktop/panel/panel_words.h"
 #include "desktop/panel/side_panel.h"
@@ -74,6 +75,7 @@ ClassWindowView::ClassWindowView(Form1& form)
   connect(toolbar_, &ToolbarView::Pressed, this, &ClassWindowView::ToolPressed);
   connect(grid_, &GridWidget::currentCellChanged, this, [this] {
     if (form_ != nullptr) typed_.MovedTo(PlaceOf(form_->Grid1));
+    TellAtCurrentCell(*grid_, {});  // the cell tells its own state again
   });
   connect(grid_, &GridWidget::hovered, this, &ClassWindowView::PointAt);
   // Queued: a Portal that the double click opens must not run inside the mouse event.
@@ -195,6 +197,7 @@ void ClassWindowView::Sync() {
   grid_->UpdateFromGrid();
   if (const QString title = Title(); title != windowTitle()) setWindowTitle(title);
   moment_->Follow(form_->MessagesTold);
+  spoken_.Follow(*grid_, form_->MessagesTold, FromText(form_->StatusText));
   status_->ShowMessage(hint_.isEmpty() ? FromText(form_->StatusText) : hint_);
   status_->ShowChanged(ClassOf(*form_).Changed != kFalse);
   status_->ShowPanel(panel);

@@ -5,6 +5,7 @@
 #include <QMdiSubWindow>
 
 #include "desktop/basics/typed_ahead.h"
+#include "desktop/window/spoken_status.h"
 #include "shell/form1.h"
 
 namespace tallyroll {
@@ -75,6 +76,7 @@ class ClassWindowView : public QMdiSubWindow {
   bool wants_panel_;
   bool insists_on_panel_ = false;  // in a window without room for it
   MessageMoment* moment_;
+  SpokenStatus spoken_;
   QString hint_;
 };
 

@@ -54,6 +54,9 @@ ToolbarView::ToolbarView(const std::vector<ToolButton>& buttons, QWidget* parent
     : QToolBar(parent), buttons_(&buttons) {
   setObjectName(QStringLiteral("Toolbar2"));
   setAccessibleName(tr("Toolbar"));
+  // What shows the buttons that have no room.
+  if (auto* more = findChild<QWidget*>(QStringLiteral("qt_toolbar_ext_button")))
+    more->setAccessibleName(tr("More buttons"));
   for (const ToolButton& button : buttons) AddButton(button);
   DrawIcons();
   Sync();

@@ -46,6 +46,10 @@ frmSendMany::frmSendMany() : Portal("frmSendMany") {
   cmdPrint.Caption = "&Print List";
   cmdCsv.Caption = "Save &List...";
   cmdClose.Caption = "E&xit";
+  Grid1.Notes.Of = [this](int row, int col) {
+    const bool stays = Grid1.Style(row, col) == CellStyle::kFailing;
+    return stays ? CellNote{CellMark::kNone, "to be looked at"} : CellNote();
+  };
 }
 
 void frmSendMany::Declare(ControlTable& table) {

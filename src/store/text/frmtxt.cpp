@@ -65,6 +65,12 @@ frmtxt::frmtxt() : Portal("frmtxt") {
   capitals.Caption = "&Letters in capitals";
   okbt.Caption = "&OK";
   cancelbt.Caption = "&Cancel";
+  preview.Notes.Of = [this](int row, int col) -> CellNote {
+    const CellStyle style = preview.Style(row, col);
+    if (style == CellStyle::kFailing) return {CellMark::kNone, "this ID is taken"};
+    if (style == CellStyle::kShaded) return {CellMark::kNone, "a title, not taken in"};
+    return {};
+  };
 }
 
 void frmtxt::Declare(ControlTable& table) {

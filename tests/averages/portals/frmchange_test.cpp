@@ -34,6 +34,9 @@ class FrmChangeTest : public AveragePortalTest {
         std::string text;
         for (int col = 0; col < grid.Cols(); ++col)
           text += (col > 0 ? " | " : "") + std::string(grid.TextMatrix(row, col));
+        // The row that is set off by its colour says so.
+        const bool changes = grid.TextMatrix(row, 2) != grid.TextMatrix(row, 4);
+        EXPECT_EQ(NoteOf(grid.Notes, row, 4).words, changes ? "the final grade changes" : "");
         shown.push_back(text);
       }
       EXPECT_EQ(shown, rows);

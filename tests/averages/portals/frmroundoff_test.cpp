@@ -55,6 +55,8 @@ TEST_F(FrmRoundOffTest, NumbersLeaveTheFirstLetterBlank) {
   Open(portal);
   EXPECT_EQ(portal.grdgrade.TextMatrix(1, 0), "    ");
   EXPECT_EQ(portal.grdgrade.Style(1, 0), CellStyle::kShaded);
+  EXPECT_EQ(NoteOf(portal.grdgrade.Notes, 1, 0).words, "not in force");
+  EXPECT_EQ(NoteOf(portal.grdgrade.Notes, 1, 1).words, "");
   driver->Tick("finalletter");
   EXPECT_EQ(Current().FinalGradeForm, 3);
   EXPECT_EQ(portal.grdgrade.TextMatrix(1, 0), "A+ ");

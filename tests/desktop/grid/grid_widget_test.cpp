@@ -356,12 +356,40 @@ TEST_F(GridWidgetTest, AScreenReaderFindsATableWithItsCells) {
   EXPECT_EQ(cell->text(QAccessible::Name), QStringLiteral("90"));
   EXPECT_EQ(cell->role(), QAccessible::Cell);
   EXPECT_EQ(cell, cells->cellAt(4, 2));
-  EXPECT_EQ(cell->tableCellInterface()->columnHeaderCells().last()->text(QAccessible::Name),
-            QStringLiteral("T1"));
   EXPECT_EQ(cells->cellAt(4, 0)->text(QAccessible::Name), QStringLiteral("3 Smith, Ann"));
   EXPECT_EQ(cells->cellAt(60, 0), nullptr);
   EXPECT_EQ(table->indexOfChild(cell), 82);
   EXPECT_EQ(cell->rect().size(), widget.CellRect(4, 2).size());
+}
+
+// The code of a grade, not "Testing Instruments", which stands over all of them.
+TEST_F(GridWidgetTest, AScreenReaderHearsTheHeadBesideTheCellsFirst) {
+  grid.SetTextMatrix(0, 0, "NAME");
+  grid.SetTextMatrix(0, 2, "Testing Instruments");
+  grid.SetTextMatrix(1, 2, " T1 ");
+  grid.SetTextMatrix(4, 0, " 3 Smith, Ann");
+  QAccessibleTableInterface* cells =
+      QAccessible::queryAccessibleInterface(&widget)->tableInterface();
+  const auto words = [](const QList<QAccessibleInterface*>& heads) {
+    QStringList names;
+    for (const QAccessibleInterface* head : heads) names << head->text(QAccessible::Name);
+    return names.join(u'|').toStdString();
+  };
+  QAccessibleTableCellInterface* mark = cells->cellAt(4, 2)->tableCellInterface();
+  EXPECT_EQ(words(mark->columnHeaderCells()), "T1|Testing Instruments");
+  EXPECT_EQ(words(mark->rowHeaderCells()), "3 Smith, Ann");
+  EXPECT_EQ(words(cells->cellAt(4, 0)->tableCellInterface()->columnHeaderCells()), "NAME");
+  EXPECT_EQ(cells->columnDescription(0), QStringLiteral("NAME"));
+  EXPECT_EQ(cells->columnDescription(2), QStringLiteral("T1"));
+  EXPECT_EQ(cells->rowDescription(4), QStringLiteral("3 Smith, Ann"));
+}
+
+TEST_F(GridWidgetTest, ATableWithoutAGridHasNoHeads) {
+  widget.SetGrid(nullptr);
+  QAccessibleTableInterface* cells =
+      QAccessible::queryAccessibleInterface(&widget)->tableInterface();
+  EXPECT_EQ(cells->columnCount(), 0);
+  EXPECT_EQ(cells->columnDescription(0), QString());
 }
 
 TEST_F(GridWidgetTest, AScreenReaderMovesTheCurrentCell) {

@@ -148,10 +148,10 @@ TEST_F(BindChoicesTest, AComboBoxRefusesWhatTheCodePageLacks) {
   EXPECT_EQ(Events(), Lines{});
 }
 
-TEST_F(BindChoicesTest, ListLinesAreSplitByTabsAndReadWithoutThem) {
+TEST_F(BindChoicesTest, ListLinesAreSplitByTabsAndReadAsASentence) {
   Open();
   EXPECT_EQ(list().item(1)->text(), QStringLiteral("Bertha\tB2"));
-  EXPECT_EQ(list().item(1)->data(Qt::AccessibleTextRole).toString(), QStringLiteral("Bertha B2"));
+  EXPECT_EQ(list().item(1)->data(Qt::AccessibleTextRole).toString(), QStringLiteral("Bertha, B2"));
 }
 
 TEST_F(BindChoicesTest, ARefusedPickLeavesTheFormerLineMarked) {

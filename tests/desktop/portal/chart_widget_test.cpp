@@ -4,6 +4,7 @@
 
 #include <gtest/gtest.h>
 
+#include <QAccessible>
 #include <QApplication>
 #include <QClipboard>
 #include <QFile>
@@ -70,6 +71,13 @@ class ChartWidgetTest : public testing::Test {
   ChartPortal portal;
   std::unique_ptr<PortalDialog> dialog;
 };
+
+TEST_F(ChartWidgetTest, AScreenReaderFindsAChartWithItsTitle) {
+  const QAccessibleInterface* spoken = QAccessible::queryAccessibleInterface(&widget());
+  EXPECT_EQ(spoken->role(), QAccessible::Chart);
+  EXPECT_EQ(spoken->text(QAccessible::Description), QStringLiteral("QUIZ"));
+  EXPECT_TRUE(spoken->state().focusable);
+}
 
 TEST_F(ChartWidgetTest, IsDrawnAnewWhenThePortalDraws) {
   EXPECT_EQ(widget().Spots().size(), 3u + 2u);

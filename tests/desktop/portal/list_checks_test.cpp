@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Lists whose lines have boxes to tick.
 #include <QAbstractButton>
+#include <QAccessible>
 #include <QListWidget>
 #include <QStyle>
 #include <QStyleOptionViewItem>
@@ -41,6 +42,16 @@ TEST_F(ListChecksTest, TheTicksOfTheControlAreShown) {
   EXPECT_EQ(StateOf(1), Qt::Checked);
   EXPECT_EQ(StateOf(2), Qt::Unchecked);
   EXPECT_TRUE(list().item(0)->data(Qt::CheckStateRole).isValid());
+}
+
+TEST_F(ListChecksTest, AScreenReaderIsToldWhichLinesAreTicked) {
+  Open();
+  const QAccessibleInterface* lines = QAccessible::queryAccessibleInterface(&list());
+  for (int line = 0; line < 3; ++line) {
+    const QAccessible::State state = lines->child(line)->state();
+    EXPECT_TRUE(state.checkable) << line;
+    EXPECT_EQ(static_cast<bool>(state.checked), line == 1) << line;
+  }
 }
 
 TEST_F(ListChecksTest, AListWithoutBoxesShowsNone) {

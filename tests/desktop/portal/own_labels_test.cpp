@@ -1,5 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The labels that the system brings itself: a sum that must be 100, an explanation that folds.
+#include <QAccessible>
+#include <QPushButton>
 #include <QSettings>
 
 #include "averages/portals/frmroundoff.h"
@@ -47,6 +49,53 @@ TEST_F(OwnLabels, TheTotalTurnsFromRedToGreenAtAHundred) {
   EXPECT_TRUE(Shows(total, t.success_soft));
   QTest::keyClicks(&grid, QStringLiteral("0"));  // 400
   EXPECT_EQ(total.Remainder(), QStringLiteral("360 too much"));
+  dialog.reset();
+}
+
+TEST_F(OwnLabels, WhatIsMissingToAHundredIsToldToAScreenReader) {
+  frmweights portal;
+  Open(portal);
+  const auto told = [this] {
+    return QAccessible::queryAccessibleInterface(&Find<TotalFigure>("totals"))
+        ->text(QAccessible::Description)
+        .toStdString();
+  };
+  EXPECT_EQ(told(), "100 missing");
+  QTest::keyClicks(&Find<GridWidget>("grdgrade"), QStringLiteral("60"));
+  EXPECT_EQ(told(), "40 missing");
+  dialog.reset();
+}
+
+// A button that Tab comes to, whose words are all of the text.
+TEST_F(OwnLabels, AnExplanationThatFoldsIsAButtonToAScreenReader) {
+  Current().Method = 0;
+  frmroundoff portal;
+  Open(portal);
+  auto& text = Find<FoldingText>("mesage");
+  text.SetFolded(true);
+  QAccessibleInterface* spoken = QAccessible::queryAccessibleInterface(&text);
+  EXPECT_EQ(spoken->role(), QAccessible::Button);
+  EXPECT_EQ(spoken->text(QAccessible::Name), text.text());
+  EXPECT_TRUE(spoken->state().expandable);
+  EXPECT_TRUE(spoken->state().collapsed);
+  spoken->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+  EXPECT_FALSE(text.IsFolded());
+  EXPECT_TRUE(spoken->state().expanded);
+  dialog.reset();
+}
+
+TEST_F(OwnLabels, AButtonThatIsANumberIsCalledByItsFrameToo) {
+  Current().Method = 0;
+  frmroundoff portal;
+  Open(portal);
+  const auto name = [this](const char* button) {
+    return QAccessible::queryAccessibleInterface(&Find<QPushButton>(button))
+        ->text(QAccessible::Name)
+        .toStdString();
+  };
+  EXPECT_EQ(name("usescale1"), "Use Rounding Values 1 (empty)");
+  EXPECT_EQ(name("savescale3"), "Save Rounding Values as 3 (empty)");
+  EXPECT_EQ(name("usescale0"), "Default");
   dialog.reset();
 }
 

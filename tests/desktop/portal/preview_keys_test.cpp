@@ -2,6 +2,7 @@
 // The keys of the Print Preview Portal, as they come from the keyboard.
 #include <gtest/gtest.h>
 
+#include <QAccessible>
 #include <QComboBox>
 #include <QLabel>
 #include <QScrollArea>
@@ -9,6 +10,8 @@
 
 #include "desktop/portal/portal_dialog.h"
 #include "printing/frmprintpre.h"
+#include "tests/desktop/keyboard_round.h"
+#include "tests/desktop/spoken_window.h"
 #include "tests/printing/report_test.h"
 
 namespace tallyroll {
@@ -48,6 +51,15 @@ TEST_F(PreviewKeysTest, PageKeysTurnPagesWhereverTheFocusIs) {
     EXPECT_EQ(portal.pagenum.ListIndex, 1) << name;
     Press(Qt::Key_PageUp);
   }
+}
+
+TEST_F(PreviewKeysTest, APageIsADocumentAmongToolsThatHaveNames) {
+  Open(19, 3);
+  EXPECT_EQ(QAccessible::queryAccessibleInterface(&Find("picture1"))->role(),
+            QAccessible::Document);
+  const QStringList faults =
+      SpokenFaults(*dialog) + FocusFaults(*dialog) + MnemonicFaults(*dialog) + TabFaults(*dialog);
+  EXPECT_EQ(faults.join(u'\n').toStdString(), "");
 }
 
 TEST_F(PreviewKeysTest, ControlWithPlusAndMinusZooms) {

@@ -73,6 +73,29 @@ TEST_F(SheetViewTest, ASheetIsAsLargeAsItsPaper) {
   EXPECT_NEAR(view().height(), 11 * DotsPerInch(), 1);
 }
 
+// Line by line, whatever was drawn first; a page that is turned is told anew.
+TEST_F(SheetViewTest, WhoHearsTheScreenIsToldTheWordsOfThePage) {
+  std::string name = "Ng, Ada";
+  portal.sheet.Draw = [&name](PrintTarget& target) {
+    target.Cls();
+    target.CurrentY = 720;
+    target.CurrentX = 3000;
+    target.PrintOpen("80");
+    target.CurrentX = 100;
+    target.Print(name);
+    target.CurrentX = 100;
+    target.Print("Average 80");
+  };
+  Open();
+  EXPECT_EQ(area().accessibleDescription(), QStringLiteral("Ng, Ada 80\nAverage 80"));
+  portal.when_pressed = [&] {
+    name = "Orr, Bo";
+    ++portal.sheet.Revision;
+  };
+  Press();
+  EXPECT_EQ(area().accessibleDescription(), QStringLiteral("Orr, Bo 80\nAverage 80"));
+}
+
 TEST_F(SheetViewTest, ZoomMakesItLargerAndScrolls) {
   portal.sheet.Zoom = 1.4;
   Open();

@@ -1,12 +1,15 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // What a screen reader hears of cards that keys move: the place of the focus says what happened.
 #include <QAccessible>
+#include <QAccessibleTableInterface>
 #include <QListWidget>
 
 #include "seating/chart_records.h"
 #include "seating/fill_chart.h"
 #include "seating/frmseating.h"
 #include "tests/desktop/class_dialogs.h"
+#include "tests/desktop/keyboard_round.h"
+#include "tests/desktop/spoken_window.h"
 
 namespace tallyroll {
 namespace {
@@ -63,6 +66,30 @@ TEST_F(TellingLabelTest, ACardPutBackOnTheListIsToldThere) {
   Find<QListWidget>("students").setFocus();
   Key(Qt::Key_Space);
   EXPECT_EQ(Told(), "Without a seat: Student, C is back on the list.");
+}
+
+// What the eye sees by the board above, on the card (the ID is 1), and by an empty place.
+TEST_F(TellingLabelTest, ASeatTellsItsPlaceAndWhetherItIsTaken) {
+  QAccessibleTableInterface* seats =
+      QAccessible::queryAccessibleInterface(&grid())->tableInterface();
+  const auto said = [seats](int row, int col) {
+    const QAccessibleInterface* seat = seats->cellAt(row, col);
+    return (seat->text(QAccessible::Name) + QStringLiteral(": ") +
+            seat->text(QAccessible::Description))
+        .toStdString();
+  };
+  EXPECT_EQ(said(1, 0), "Student, B: Row 1, seat 2 from the front, 1");
+  EXPECT_EQ(said(0, 1), "Student, E: Row 2, seat 1 from the front, 1");
+  EXPECT_EQ(seats->columnDescription(1), QStringLiteral("Row 2"));
+  EXPECT_EQ(seats->rowDescription(0), QStringLiteral("seat 1 from the front"));
+  portal.Grid1.SetTextMatrix(0, 1, "");
+  EXPECT_EQ(said(0, 1), ": Row 2, seat 1 from the front, empty");
+}
+
+TEST_F(TellingLabelTest, AChartWithItsSeatsHasANameForEverything) {
+  const QStringList faults =
+      SpokenFaults(*dialog) + FocusFaults(*dialog) + MnemonicFaults(*dialog) + TabFaults(*dialog);
+  EXPECT_EQ(faults.join(u'\n').toStdString(), "");
 }
 
 TEST_F(TellingLabelTest, WhatWasToldIsTakenBackWithTheNextWords) {

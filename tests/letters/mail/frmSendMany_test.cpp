@@ -110,6 +110,7 @@ TEST_F(FrmSendManyTest, AnUncertainOneIsShownAndLeft) {
   Open();
   EXPECT_EQ(Column(4)[0], "uncertain");
   EXPECT_EQ(portal->Grid1.Style(1, 4), CellStyle::kFailing);
+  EXPECT_EQ(NoteOf(portal->Grid1.Notes, 1, 4).words, "to be looked at");
   Send("Send 1 messages, one to each address? 1 get none: they have no address.",
        "0 to be sent, 1 sent, 1 uncertain.");
   EXPECT_EQ(server.tried, Rows{"bo@home.org"});

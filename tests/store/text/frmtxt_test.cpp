@@ -72,6 +72,9 @@ TEST_F(FrmTxtTest, IdsThatAreTakenAreFlaggedAndCounted) {
   EXPECT_EQ(StyleOfId(4), CellStyle::kFailing);
   EXPECT_EQ(StyleOfId(5), CellStyle::kPlain);
   EXPECT_EQ(StyleOfId(6), CellStyle::kPlain);
+  EXPECT_EQ(NoteOf(portal.preview.Notes, 1, 0).words, "a title, not taken in");
+  EXPECT_EQ(NoteOf(portal.preview.Notes, 3, 0).words, "this ID is taken");
+  EXPECT_EQ(NoteOf(portal.preview.Notes, 5, 0).words, "");
 }
 
 TEST_F(FrmTxtTest, IntoANewClassOnlyTheFilesOwnIdsClash) {
