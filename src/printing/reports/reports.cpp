@@ -74,6 +74,7 @@ bool LayOutRows(PrintTarget& target) {
   const Report* report = FindReport(Job.ReportCode);
   if (!report) return false;
   ReportPass pass{.target = target, .page = Job.PageCount + 1, .recording = true};
+  if (report->one_student) NoteStudentOnPage(CurrentStudent, pass.page);
   return Run([&] { report->print(pass); });
 }
 
