@@ -2,8 +2,6 @@
 #include "exchange/frmexchange.h"
 
 #include <algorithm>
-#include <map>
-#include <tuple>
 
 #include "base/code_page.h"
 #include "base/number_text.h"
@@ -13,10 +11,7 @@
 #include "platform/class_window.h"
 #include "platform/surroundings.h"
 #include "store/program_state.h"
-#include "store/safe_file.h"
 #include "store/student_names.h"
-#include "store/text/text_import.h"
-#include "store/text_layout.h"
 
 namespace tallyroll {
 namespace {
@@ -103,60 +98,7 @@ void frmexchange::way_Click() {
   ShowChanges();
 }
 
-void frmexchange::system_Change() {
-  chosen_.clear();
-  if (GivesOut()) {
-    FillSigns();
-    MakeOut();
-  } else if (!path_.empty()) {
-    Read();
-  }
-}
-
 // ---- In ----
-
-void frmexchange::choose_Click() {
-  FileDialogRequest dialog;
-  dialog.folder = LastFolder;
-  dialog.filter = "School Systems (*.csv *.zip)|*.CSV;*.ZIP;*.TXT";
-  dialog.file_must_exist = true;
-  dialog.help_context = HelpContext;
-  const std::optional<std::string> path = Platform().FileDialog(dialog);
-  if (!path || path->empty()) return;
-  const FileContents file = ReadWholeFile(*path, kLargestTextFile);
-  if (file.error != 0) return ShowTextFileError(file.error);
-  LastFolder = FolderOfFile(*path);
-  const std::optional<ExchangeFormat> format = RecognisedFormat(file.bytes);
-  if (!format) {
-    ShowMessage(PathForDisplay(*path) +
-                    " is of none of these systems as far as its head tells. "
-                    "Choose the system yourself.",
-                BoxIcon::kExclamation);
-  } else {
-    const auto rows = ExchangeFormats();
-    system.ListIndex = static_cast<int>(
-        std::ranges::find(rows, *format, &ExchangeFormatRow::format) - rows.begin());
-  }
-  path_ = *path;
-  bytes_ = file.bytes;
-  chosen_.clear();
-  Read();
-  SetFocus(changes);
-}
-
-// Ticks that the teacher changed are kept where a chosen student made the list anew.
-void frmexchange::Read() {
-  std::map<std::tuple<ChangeKind, int, int>, bool> ticks;
-  for (const Change& change : preview_.changes)
-    ticks[{change.kind, change.row, change.grade}] = change.ticked;
-  const bool same_file = !chosen_.empty();
-  preview_ = PreviewOfFile(Format(), bytes_, chosen_);
-  for (Change& change : preview_.changes)
-    if (const auto kept = ticks.find({change.kind, change.row, change.grade});
-        same_file && kept != ticks.end())
-      change.ticked = kept->second;
-  ShowChanges();
-}
 
 void frmexchange::ShowChanges() {
   shown_.clear();
@@ -263,14 +205,6 @@ void frmexchange::TickShown(bool on) {
     if (Change& change = preview_.changes[i]; CanTick(change)) change.ticked = on;
   for (int row = 1; row < changes.Rows(); ++row) ShowChange(row);
   ShowCounts();
-}
-
-void frmexchange::who_Change() {
-  const Change* change = CurrentChange();
-  if (!change || change->kind != ChangeKind::kUnknownStudent || who.ListIndex < 1) return;
-  chosen_[change->row] = change->guesses[static_cast<std::size_t>(who.ListIndex - 1)].student;
-  Read();
-  SetFocus(changes);
 }
 
 void frmexchange::Take() {

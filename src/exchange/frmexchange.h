@@ -53,7 +53,7 @@ struct frmexchange : Portal {
   ExchangeFormat Format() const;
   bool GivesOut() const { return giveout.Value; }
 
-  void Read();
+  bool Read();
   void ShowChanges();
   void ShowChange(int row);
   void ShowWho();
@@ -73,6 +73,7 @@ struct frmexchange : Portal {
   std::string path_;
   std::string bytes_;
   StudentsByRow chosen_;
+  int read_system_ = 0;  // of the list that is shown
   ExchangePreview preview_;
   std::vector<std::size_t> shown_;  // by row of the grid, the change
   OutTable out_;

@@ -6,6 +6,7 @@
 #include "exchange/exchange_texts.h"
 #include "exchange/frmexchange.h"
 #include "platform/class_window.h"
+#include "platform/long_work.h"
 #include "platform/surroundings.h"
 #include "store/program_state.h"
 #include "store/safe_file.h"
@@ -96,7 +97,9 @@ void frmexchange::GiveOut() {
   dialog.help_context = HelpContext;
   const std::optional<std::string> path = Platform().FileDialog(dialog);
   if (!path || path->empty()) return;
+  LongWork work("Writing the file", 1);
   const ForeignFile file = OutFile(Format(), out_);
+  if (work.Cancelled()) return;
   if (!file.refusal.empty())
     return (void)ShowMessage("The class " + file.refusal + ".", BoxIcon::kExclamation);
   if (const int error = ReplaceFile(*path, file.bytes, OldTail::kDrop))

@@ -12,6 +12,7 @@
 #include "exchange/out_warnings.h"
 #include "grades/grade_types.h"
 #include "grades/marks.h"
+#include "platform/long_work.h"
 #include "platform/surroundings.h"
 #include "store/program_state.h"
 #include "store/settings.h"
@@ -33,7 +34,8 @@ class OutTableMaker {
   OutTableMaker(ExchangeFormat format, const OutSigns& signs)
       : format_(RowOfFormat(format)), signs_(signs), kept_(KeptIdsOf(format)), comments_(format) {}
 
-  ForeignTable Make() {
+  // Cut short where the work was cancelled.
+  ForeignTable Make(LongWork& work) {
     const Class& c = Current();
     table_.course = kept_.course;
     table_.section = Trim(c.description);
@@ -45,7 +47,8 @@ class OutTableMaker {
     const TypesByCode types(codes);
     for (int i = 1; i <= GradeCount(c); ++i)
       AddGrade(c.Instruments[static_cast<std::size_t>(i)], types);
-    for (int i = 1; i <= c.NumStudents; ++i) AddStudent(c.Students[static_cast<std::size_t>(i)]);
+    for (int i = 1; i <= c.NumStudents && work.Step(); ++i)
+      AddStudent(c.Students[static_cast<std::size_t>(i)]);
     return std::move(table_);
   }
 
@@ -156,15 +159,20 @@ OutTable MakeOutTable(ExchangeFormat format, const OutSigns& signs) {
   if (Current().NumStudents == 0) out.refusal = "has no students";
   if (out.refusal.empty() && Current().NumInstruments == 0) out.refusal = "has no grades";
   if (!out.refusal.empty()) return out;
-  out.table = OutTableMaker(format, signs).Make();
+  LongWork work("Looking through the class", Current().NumStudents);
+  out.table = OutTableMaker(format, signs).Make(work);
+  if (work.Cancelled()) {
+    out.table = {};
+    out.refusal = "was not looked through to its end";
+    return out;
+  }
   out.warnings = WarningsOf(format, out.table);
   return out;
 }
 
 ForeignFile OutFile(ExchangeFormat format, const OutTable& out) {
   ForeignTable table = out.table;
-  for (const OutWarning& warning : out.warnings)
-    if (warning.mended) Mend(format, warning, table);
+  Mend(format, out.warnings, table);
   return WriteForeign(format, table);
 }
 

@@ -57,7 +57,7 @@ class WarningFinder {
 
   std::vector<OutWarning> Find() {
     for (int g = 0; g < static_cast<int>(table_.grades.size()); ++g) LookAtGrade(g);
-    for (int g = 0; g < static_cast<int>(table_.grades.size()); ++g) LookAtMarks(g);
+    LookAtMarks();
     LookAtStudents();
     return std::move(found_);
   }
@@ -94,23 +94,31 @@ class WarningFinder {
            Quoted(title) + " is not known there and stays out: take its bulk grades in first.", "");
   }
 
-  void LookAtMarks(int g) {
-    int decimals = 0;
-    int texts = 0;
-    const std::string& title = table_.grades[static_cast<std::size_t>(g)].title;
+  struct UnfitMarks {
+    int decimals = 0, texts = 0;
+  };
+
+  void LookAtMarks() {
+    std::vector<UnfitMarks> unfit(table_.grades.size());
     for (const ForeignMark& mark : table_.marks) {
-      if (mark.grade != g) continue;
-      decimals += HasTooManyDecimals(mark, row_.most_decimals);
-      texts += IsUnreadable(mark.text);
+      UnfitMarks& of_grade = unfit[static_cast<std::size_t>(mark.grade)];
+      of_grade.decimals += HasTooManyDecimals(mark, row_.most_decimals);
+      of_grade.texts += IsUnreadable(mark.text);
     }
-    if (decimals > 0)
+    for (std::size_t g = 0; g < unfit.size(); ++g) WarnOfMarks(static_cast<int>(g), unfit[g]);
+  }
+
+  void WarnOfMarks(int g, const UnfitMarks& unfit) {
+    const std::string& title = table_.grades[static_cast<std::size_t>(g)].title;
+    if (unfit.decimals > 0)
       Warn(OutTrouble::kDecimals, g,
-           Quoted(title) + " has " + PlainNumberText(decimals) +
+           Quoted(title) + " has " + PlainNumberText(unfit.decimals) +
                " marks with more than two decimals.",
            "Round them to two.");
-    if (texts > 0)
+    if (unfit.texts > 0)
       Warn(OutTrouble::kText, g,
-           Quoted(title) + " has " + PlainNumberText(texts) + " marks that are no numbers there.",
+           Quoted(title) + " has " + PlainNumberText(unfit.texts) +
+               " marks that are no numbers there.",
            "Leave them out.");
   }
 
@@ -145,31 +153,28 @@ class WarningFinder {
   std::vector<OutWarning> found_;
 };
 
-void MendMarks(const OutWarning& warning, ExchangeFormat format, ForeignTable& table) {
+// By grade, whether its marks are to be mended.
+using GradesToMend = std::vector<bool>;
+
+void MendMarks(const GradesToMend& grades, ExchangeFormat format, ForeignTable& table) {
   const int most = RowOfFormat(format).most_decimals;
   for (ForeignMark& mark : table.marks)
-    if (mark.grade == warning.grade && HasTooManyDecimals(mark, most))
+    if (grades[static_cast<std::size_t>(mark.grade)] && HasTooManyDecimals(mark, most))
       mark.text = PlainNumberText(RoundedTo(*NumberOfMark(mark.text), most));
 }
 
-void DropTexts(const OutWarning& warning, ExchangeFormat format, ForeignTable& table) {
+void DropTexts(const GradesToMend& grades, ExchangeFormat format, ForeignTable& table) {
   const std::string_view excused = RowOfFormat(format).excused;
   const bool letters = format != ExchangeFormat::kMoodle && format != ExchangeFormat::kEdx;
   std::erase_if(table.marks, [&](const ForeignMark& mark) {
-    if (mark.grade != warning.grade || mark.text == excused || NumberOfMark(mark.text))
+    if (!grades[static_cast<std::size_t>(mark.grade)] || mark.text == excused ||
+        NumberOfMark(mark.text))
       return false;
     return !letters || !IsLetterOfGrades(mark.text);
   });
 }
 
-}  // namespace
-
-std::vector<OutWarning> WarningsOf(ExchangeFormat format, const ForeignTable& table) {
-  return WarningFinder(format, table).Find();
-}
-
-void Mend(ExchangeFormat format, const OutWarning& warning, ForeignTable& table) {
-  if (warning.grade < 0) return;
+void MendTitle(const OutWarning& warning, ForeignTable& table) {
   std::string& title = table.grades[static_cast<std::size_t>(warning.grade)].title;
   switch (warning.trouble) {
     case OutTrouble::kTotalTitle:
@@ -191,13 +196,32 @@ void Mend(ExchangeFormat format, const OutWarning& warning, ForeignTable& table)
       title += " - " + PlainNumberText(nth);
       return;
     }
-    case OutTrouble::kDecimals:
-      return MendMarks(warning, format, table);
-    case OutTrouble::kText:
-      return DropTexts(warning, format, table);
     default:
       return;
   }
+}
+
+}  // namespace
+
+std::vector<OutWarning> WarningsOf(ExchangeFormat format, const ForeignTable& table) {
+  return WarningFinder(format, table).Find();
+}
+
+// The marks are walked once for all grades.
+void Mend(ExchangeFormat format, const std::vector<OutWarning>& warnings, ForeignTable& table) {
+  GradesToMend decimals(table.grades.size()), texts(table.grades.size());
+  for (const OutWarning& warning : warnings) {
+    if (!warning.mended || warning.grade < 0) continue;
+    const auto grade = static_cast<std::size_t>(warning.grade);
+    if (warning.trouble == OutTrouble::kDecimals)
+      decimals[grade] = true;
+    else if (warning.trouble == OutTrouble::kText)
+      texts[grade] = true;
+    else
+      MendTitle(warning, table);
+  }
+  MendMarks(decimals, format, table);
+  DropTexts(texts, format, table);
 }
 
 }  // namespace tallyroll

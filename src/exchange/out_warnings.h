@@ -10,6 +10,7 @@ namespace tallyroll {
 
 // Each with its remedy, where there is one.
 std::vector<OutWarning> WarningsOf(ExchangeFormat format, const ForeignTable& table);
-void Mend(ExchangeFormat format, const OutWarning& warning, ForeignTable& table);
+// Those that are to be mended.
+void Mend(ExchangeFormat format, const std::vector<OutWarning>& warnings, ForeignTable& table);
 
 }  // namespace tallyroll

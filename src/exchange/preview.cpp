@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <optional>
+#include <utility>
 
 #include "base/number_text.h"
 #include "base/text.h"
@@ -10,6 +11,7 @@
 #include "exchange/formats/foreign_mark.h"
 #include "exchange/kept_ids.h"
 #include "grades/marks.h"
+#include "platform/long_work.h"
 #include "store/class_defaults.h"
 #include "store/class_format.h"
 #include "store/program_state.h"
@@ -54,7 +56,7 @@ class PreviewMaker {
     for (const ForeignFault& fault : table().faults)
       Add(ChangeKind::kUnusable, fault.line, fault.column,
           (fault.cell.empty() ? "" : "\"" + fault.cell + "\" ") + fault.reason);
-    for (const ForeignMark& mark : table().marks) AddMark(mark);
+    if (!AddMarks()) return Refusal("was not read to its end");
     std::stable_sort(preview_.changes.begin() + static_cast<std::ptrdiff_t>(grades),
                      preview_.changes.end(),
                      [](const Change& a, const Change& b) { return a.line < b.line; });
@@ -63,6 +65,23 @@ class PreviewMaker {
 
  private:
   const ForeignTable& table() const { return preview_.table; }
+
+  static ExchangePreview Refusal(std::string_view why) {
+    ExchangePreview preview;
+    preview.refusal = why;
+    return preview;
+  }
+
+  // False where it was cancelled.
+  bool AddMarks() {
+    LongWork work("Comparing the marks", static_cast<int>(table().students.size()));
+    int student = -1;  // whose marks are being compared
+    for (const ForeignMark& mark : table().marks) {
+      if (std::exchange(student, mark.student) != mark.student && !work.Step()) return false;
+      AddMark(mark);
+    }
+    return true;
+  }
 
   Change& Add(ChangeKind kind, int line, int column, std::string reason = {}) {
     Change& change = preview_.changes.emplace_back();
@@ -252,7 +271,10 @@ ExchangePreview PreviewOf(ExchangeFormat format, ForeignTable table, const Stude
 
 ExchangePreview PreviewOfFile(ExchangeFormat format, std::string_view bytes,
                               const StudentsByRow& chosen) {
-  return PreviewOf(format, ReadForeign(format, bytes), chosen);
+  LongWork work("Reading the file", 2);
+  ForeignTable table = ReadForeign(format, bytes);
+  work.Step();
+  return PreviewOf(format, std::move(table), chosen);
 }
 
 std::string GradeTitleOf(const ExchangePreview& preview, const Change& change) {

@@ -67,6 +67,7 @@ struct ExchangePreview {
 // Of the class in work. The identifiers of the system that its companion keeps are used.
 ExchangePreview PreviewOf(ExchangeFormat format, ForeignTable table,
                           const StudentsByRow& chosen = {});
+// Nothing but a refusal where the teacher cancelled it.
 ExchangePreview PreviewOfFile(ExchangeFormat format, std::string_view bytes,
                               const StudentsByRow& chosen = {});
 

@@ -12,7 +12,7 @@
 
 namespace tallyroll {
 
-std::vector<FindEntry> (*MakeFindEntries)() = nullptr;
+std::function<std::vector<FindEntry>()> MakeFindEntries;
 
 namespace {
 

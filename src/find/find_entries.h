@@ -17,13 +17,13 @@ struct FindEntry {
   std::string name = {};    // by which it is remembered: the menu entry's, never its words
   std::string text = {};    // what is shown and searched first
   std::string place = {};   // where it stands: "Records > Enter Records"
-  std::string key = {};     // "Ctrl+G"; empty for none
+  std::string key = {};     // "Ctrl+G", or the page of a report; empty for none
   std::string reason = {};  // why it cannot be chosen now; empty when it can
   std::function<void()> run = {};
 };
 
 // The shell makes the list afresh each time that Find opens.
-extern std::vector<FindEntry> (*MakeFindEntries)();
+extern std::function<std::vector<FindEntry>()> MakeFindEntries;
 
 // What stands above when nothing is typed yet, and wins between equals.
 enum class FindFirst { kStudents, kCommands };

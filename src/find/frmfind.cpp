@@ -38,6 +38,12 @@ void RunFind(FindFirst first) {
   if (const std::function<void()> run = std::exchange(ChosenFind, nullptr)) run();
 }
 
+void RunFindAmong(std::function<std::vector<FindEntry>()> entries) {
+  const auto usual = std::exchange(MakeFindEntries, std::move(entries));
+  RunFind(FindFirst::kStudents);
+  MakeFindEntries = usual;
+}
+
 frmfind::frmfind() : Portal("frmfind") {
   Caption = "Find";
   HelpContext = 215;

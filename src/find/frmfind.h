@@ -18,6 +18,8 @@ extern std::function<void()> ChosenFind;
 
 // Opens the window and does what was chosen in it.
 void RunFind(FindFirst first);
+// The same over these entries alone.
+void RunFindAmong(std::function<std::vector<FindEntry>()> entries);
 
 struct frmfind : Portal {
   frmfind();

@@ -2,6 +2,7 @@
 #include "find/type_ahead.h"
 
 #include <algorithm>
+#include <array>
 
 #include "find/find_match.h"
 
@@ -37,6 +38,46 @@ bool ColumnOf(std::string_view line, std::size_t column, std::string_view& text)
   return true;
 }
 
+bool NameBegins(std::string_view text, const std::string& wanted) {
+  return LettersOf(WithoutNumber(text)).starts_with(wanted);
+}
+
+// A number behind a blank tells the place of the line and is nobody's ID.
+bool IdBegins(std::string_view text, const std::string& wanted) {
+  return !text.starts_with(' ') && LettersOf(text).starts_with(wanted);
+}
+
+bool LaterWordBegins(std::string_view text, const std::string& wanted) {
+  const std::vector<std::string> words = MakeFindText(WithoutNumber(text)).words;
+  std::string behind;
+  for (std::size_t i = words.size(); i-- > 1;) {
+    behind.insert(0, words[i]);
+    if (behind.starts_with(wanted)) return true;
+  }
+  return false;
+}
+
+using Begins = bool (*)(std::string_view text, const std::string& wanted);
+constexpr std::array<Begins, 3> kWays = {NameBegins, IdBegins, LaterWordBegins};
+
+// The first line from `first` on, round, one of whose columns begins in this way.
+int LineByWay(Begins begins, const std::string& wanted, const std::vector<std::string>& lines,
+              int first) {
+  const int count = static_cast<int>(lines.size());
+  bool more = true;
+  for (std::size_t column = 0; more; ++column) {
+    more = false;
+    for (int step = 0; step < count; ++step) {
+      const int line = (first + step) % count;
+      std::string_view text;
+      if (!ColumnOf(lines[static_cast<std::size_t>(line)], column, text)) continue;
+      more = true;
+      if (begins(text, wanted)) return line;
+    }
+  }
+  return -1;
+}
+
 bool IsOneLetterRepeated(std::string_view typed) {
   return typed.find_first_not_of(typed.front()) == std::string_view::npos;
 }
@@ -48,17 +89,8 @@ int LineThatBegins(std::string_view typed, const std::vector<std::string>& lines
   const int count = static_cast<int>(lines.size());
   if (wanted.empty() || count == 0) return -1;
   const int first = from >= 0 && from < count ? from : 0;
-  bool more = true;
-  for (std::size_t column = 0; more; ++column) {
-    more = false;
-    for (int step = 0; step < count; ++step) {
-      const int line = (first + step) % count;
-      std::string_view text;
-      if (!ColumnOf(lines[static_cast<std::size_t>(line)], column, text)) continue;
-      more = true;
-      if (LettersOf(WithoutNumber(text)).starts_with(wanted)) return line;
-    }
-  }
+  for (const Begins begins : kWays)
+    if (const int line = LineByWay(begins, wanted, lines, first); line >= 0) return line;
   return -1;
 }
 

@@ -83,6 +83,7 @@ void frmMarks::Declare(ControlTable& table) {
 void frmMarks::Load() {
   if (OpenState == kGradesById || OpenState == kGradesByName) {
     imported_ = ReadGradeImport(OpenState);
+    if (imported_.cancelled) return Unload();
     next_import_ = imported_.columns.begin();
     TellImport();
     TellNoGrades();

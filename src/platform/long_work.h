@@ -24,8 +24,12 @@ extern MakeProgressScreen NewProgressScreen;
 // Exists as long as the work. What is over within 0.3 seconds shows nothing.
 class LongWork {
  public:
-  // `what` is done, of which there are `all`.
+  // `what` is done, of which there are `all`. A work that begins within another is the next step of
+  // that one: it has no window of its own, and a Cancel ends both.
   LongWork(std::string_view what, int all);
+  ~LongWork();
+  LongWork(const LongWork&) = delete;
+  LongWork& operator=(const LongWork&) = delete;
 
   // One more is done. False once the work was cancelled: it then ends with nothing half done.
   bool Step();
@@ -33,6 +37,11 @@ class LongWork {
   int Done() const { return done_; }
 
  private:
+  bool Tell(int done, int all);
+
+  static inline LongWork* innermost_ = nullptr;  // of those that go on
+
+  LongWork* around_;  // the work that this is a step of; null for none
   std::string what_;
   int all_;
   int done_ = 0;

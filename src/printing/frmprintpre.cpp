@@ -48,6 +48,8 @@ frmprintpre::frmprintpre() : Portal("frmprintpre") {
   pdf.Caption = "Save as P&DF";
   eleven.Caption = "H&elp";
   twelve.Caption = "E&xit";
+  findstudent.Caption = "Find St&udent";
+  findkey.Caption = "Find Student";
   zoom_in.Caption = zoom_in_unshifted.Caption = "Zoom In";
   zoom_out.Caption = "Zoom Out";
   page_back.Caption = "Back";
@@ -69,6 +71,7 @@ void frmprintpre::Declare(ControlTable& table) {
   table.Add("pagenum", pagenum).Change([this] { ShowPage(pagenum.ListIndex); });
   table.Add("Pagen", Pagen);
   table.Add("Pagel", Pagel);
+  table.Add("findstudent", findstudent).Click([this] { findstudent_Click(); });
   table.Add("Frame1", Frame1);
   const auto choose = [this](bool current_only) {
     current.Value = current_only;
@@ -82,13 +85,14 @@ void frmprintpre::Declare(ControlTable& table) {
   DeclareKeys(table);
 }
 
-// Ctrl with plus, with or without the shift key, and minus; Page Up and Down.
+// Ctrl with plus, with or without the shift key, and minus; Page Up and Down; Ctrl+F.
 void frmprintpre::DeclareKeys(ControlTable& table) {
   table.Add("zoom_in", zoom_in).Click([this] { StepZoom(1); });
   table.Add("zoom_in_unshifted", zoom_in_unshifted).Click([this] { StepZoom(1); });
   table.Add("zoom_out", zoom_out).Click([this] { StepZoom(-1); });
   table.Add("page_back", page_back).Click([this] { ShowPage(pagenum.ListIndex - 1); });
   table.Add("page_on", page_on).Click([this] { ShowPage(pagenum.ListIndex + 1); });
+  table.Add("findkey", findkey).Click([this] { findstudent_Click(); });
 }
 
 void frmprintpre::DeclareToolbar(ControlTable& table) {
@@ -127,6 +131,7 @@ void frmprintpre::startup() {
   makesize();
   makepage();
   Pagel.Caption = PlainNumberText(Job.PageCount);
+  findstudent.Enabled = findkey.Enabled = Job.FirstPage.size() > 1;
   ShowPage(0);
 }
 

@@ -5,7 +5,9 @@
 
 #include <array>
 #include <string>
+#include <vector>
 
+#include "find/find_entries.h"
 #include "platform/portal.h"
 
 namespace tallyroll {
@@ -26,7 +28,8 @@ struct frmprintpre : Portal {
   Label size_label, pagenum_label;
   ComboBox size, pagenum;
   CommandButton zoom_in, zoom_in_unshifted, zoom_out, page_back, page_on;  // keys alone
-  Label Pagen, Pagel;  // the page on screen, and how many there are
+  Label Pagen, Pagel;                  // the page on screen, and how many there are
+  CommandButton findstudent, findkey;  // on which page a student stands; the second is its key
   PictureBox picture1;
   Frame Frame1;  // which students a file holds
   OptionButton all, current;
@@ -56,6 +59,8 @@ struct frmprintpre : Portal {
   bool Refuses(std::string_view function) const;
   // Whether the sheet is another than the one that the pages were laid out for.
   bool SheetChanged() const;
+  std::vector<FindEntry> StudentsOfReport();
+  void findstudent_Click();
   void eight_Click();
   // The text of the student on screen alone; false when there is none, and the teacher was told.
   bool LeaveTextForMail();

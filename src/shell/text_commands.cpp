@@ -93,6 +93,7 @@ void Form1::AppendStudents() {
   if (!ReadImportFile(roster)) return;
   const int before = Current().NumStudents;
   const ImportOutcome outcome = AddImportedStudents(roster);
+  if (outcome.cancelled) return;
   EnableClassMenus(true);
   showform3();
   ShowStatus(Counted(Current().NumStudents - before, "student") + " added.");
@@ -102,15 +103,19 @@ void Form1::AppendStudents() {
 void Form1::StartFromText() {
   if (!TakeSlot()) return;
   const i16 before = std::exchange(CurrentClass, static_cast<i16>(SlotIndex));
-  TextRoster roster;
-  if (!ReadImportFile(roster)) {
+  const auto leave = [&] {
     GiveSlotBack();
     CurrentClass = before;
-    return;
-  }
+  };
+  TextRoster roster;
+  if (!ReadImportFile(roster)) return leave();
   StartNewClass();
   SetNewClassDefaults();
   const ImportOutcome outcome = AddImportedStudents(roster);
+  if (outcome.cancelled) {
+    ResetClassSlot();
+    return leave();
+  }
   ShowNewClass();
   TellGivenIds(outcome);
 }
@@ -169,6 +174,7 @@ void Form1::ExportStudents(int what) {
   if (path.empty()) return;
   if (readyopen(path)) return void(ShowMessage(" The file is already open "));
   const TextOfClass text = ExportText(Current(), what, TextMode, SavedTextEncoding);
+  if (text.cancelled) return;
   if (const int error = ReplaceFile(path, text.bytes, OldTail::kDrop))
     return ShowTextFileError(error);
   std::string told = Counted(Current().NumStudents, "student") + " written to " +

@@ -16,7 +16,7 @@ TEST(TypeAheadTest, ALineIsFoundByTheBeginningOfItsName) {
   EXPECT_EQ(LineThatBegins("obr", kLines, 0), 5);
   EXPECT_EQ(LineThatBegins("delacr", kLines, 0), 3);
   EXPECT_EQ(LineThatBegins("abrams,n", kLines, 0), 0);
-  EXPECT_EQ(LineThatBegins("naomi", kLines, 0), -1);
+  EXPECT_EQ(LineThatBegins("aomi", kLines, 0), -1);
   EXPECT_EQ(LineThatBegins("", kLines, 0), -1);
   EXPECT_EQ(LineThatBegins(",", kLines, 0), -1);
   EXPECT_EQ(LineThatBegins("a", {}, 0), -1);
@@ -33,6 +33,30 @@ TEST(TypeAheadTest, ANumberBeforeANameIsPassedOver) {
   EXPECT_EQ(LineThatBegins("orr", numbered, 0), 1);
   EXPECT_EQ(LineThatBegins("47", numbered, 0), 2);
   EXPECT_EQ(LineThatBegins("12", numbered, 0), 3);
+}
+
+TEST(TypeAheadTest, AFirstNameIsFoundWhereNoNameBeginsSo) {
+  EXPECT_EQ(LineThatBegins("naomi", kLines, 0), 0);
+  EXPECT_EQ(LineThatBegins("chloe", kLines, 3), 1);
+  EXPECT_EQ(LineThatBegins("cruzana", kLines, 0), 3);
+  EXPECT_EQ(LineThatBegins("a", kLines, 1), 0);  // Abrams, and not Ana
+  EXPECT_EQ(LineThatBegins("an", kLines, 0), 3);
+}
+
+TEST(TypeAheadTest, AnIdBeforeANameIsFoundAndTheNameBehindIt) {
+  const std::vector<std::string> labels = {"101 Ng, Ada", "A7 Orr, Bo", "207 Diaz, Cy"};
+  EXPECT_EQ(LineThatBegins("207", labels, 0), 2);
+  EXPECT_EQ(LineThatBegins("a7", labels, 0), 1);
+  EXPECT_EQ(LineThatBegins("or", labels, 0), 1);
+  EXPECT_EQ(LineThatBegins("di", labels, 0), 2);
+  EXPECT_EQ(LineThatBegins("ada", labels, 0), 0);
+  EXPECT_EQ(LineThatBegins("bo", labels, 0), 1);
+}
+
+TEST(TypeAheadTest, TheNumberOfALineIsNobodysId) {
+  const std::vector<std::string> numbered = {" 1 Ng, Ada\t22", " 2 Orr, Bo\t31"};
+  EXPECT_EQ(LineThatBegins("2", numbered, 0), 0);
+  EXPECT_EQ(LineThatBegins("1", numbered, 0), -1);
 }
 
 TEST(TypeAheadTest, TheSearchGoesRound) {

@@ -38,7 +38,7 @@ const std::map<std::string, Folders, std::less<>> kStandsOn = {
     {"averages/portals", {"averages/explained", "store/text"}},
     {"printing/page", {"averages", "store/text"}},
     {"printing/reports", {"printing/page", "averages/explained"}},
-    {"printing", {"printing/reports"}},
+    {"printing", {"printing/reports", "find"}},
     {"analysis", {"printing", "averages/portals", "roster"}},
     {"letters/mail", {"printing", "roster", "companion"}},
     {"letters/text", {"store/text"}},

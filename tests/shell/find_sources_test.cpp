@@ -3,7 +3,6 @@
 
 #include <algorithm>
 
-#include "find/find_match.h"
 #include "find/frmfind.h"
 #include "store/settings.h"
 #include "tests/shell/shell_test.h"
@@ -22,38 +21,6 @@ class FindSourcesTest : public ShellTest {
     return found == entries.end() ? nullptr : &*found;
   }
 };
-
-// Where the entry stands among what is found for the text; -1 when it is not.
-int PlaceOf(const std::vector<FindEntry>& entries, std::string_view name,
-            const std::string& typed) {
-  const std::vector<std::size_t> found = Find(typed, entries, FindFirst::kCommands);
-  for (std::size_t i = 0; i < found.size(); ++i)
-    if (entries[found[i]].name == name) return static_cast<int>(i);
-  return -1;
-}
-
-TEST_F(FindSourcesTest, EveryCommandIsFoundByWordInitialsAndWithASlip) {
-  Open("c30_12.TYR", Sample(30, 12));
-  const std::vector<FindEntry> entries = ProgramFindEntries();
-  int commands = 0;
-  for (const FindEntry& entry : entries) {
-    if (entry.kind != FindKind::kCommand || !entry.reason.empty()) continue;
-    ++commands;
-    const FindText text = MakeFindText(entry.text);
-    ASSERT_FALSE(text.words.empty()) << entry.name;
-    EXPECT_GE(PlaceOf(entries, entry.name, text.words.front()), 0) << entry.name;
-    EXPECT_GE(PlaceOf(entries, entry.name, text.plain), 0) << entry.name;
-    std::string initials;
-    for (const std::string& word : text.words) initials += word.substr(0, 2);
-    EXPECT_GE(PlaceOf(entries, entry.name, initials), 0) << entry.name << " by " << initials;
-    const std::string longest = *std::ranges::max_element(text.words, {}, &std::string::size);
-    if (longest.size() < 5) continue;
-    std::string slip = longest;
-    slip.erase(2, 1);
-    EXPECT_GE(PlaceOf(entries, entry.name, slip), 0) << entry.name << " by " << slip;
-  }
-  EXPECT_GT(commands, 40);
-}
 
 TEST_F(FindSourcesTest, CommandsTellTheirPlaceAndKey) {
   Open("c3_2.TYR", Sample(3, 2));

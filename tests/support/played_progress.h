@@ -35,12 +35,17 @@ class PlayedProgress {
   PlayedProgress& operator=(const PlayedProgress&) = delete;
 
   static inline std::vector<std::string> shown;  // the works that got a window
+  static inline int done = 0, all = 0;           // what the last one was told last
 
  private:
   class Window : public ProgressScreen {
    public:
     explicit Window(int cancel_at) : at_(cancel_at) {}
-    bool Show(int done, int) override { return at_ == 0 || done < at_; }
+    bool Show(int now_done, int of_all) override {
+      done = now_done;
+      all = of_all;
+      return at_ == 0 || now_done < at_;
+    }
 
    private:
     int at_;

@@ -1,10 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Combo boxes, tabs, pages and date pickers.
 #include <QAbstractItemView>
+#include <QApplication>
 #include <QCalendarWidget>
 #include <QComboBox>
 #include <QDateEdit>
 #include <QEvent>
+#include <QKeyEvent>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QSignalBlocker>
@@ -13,10 +15,12 @@
 #include <cmath>
 
 #include "desktop/basics/text_conversion.h"
+#include "desktop/basics/typed_ahead.h"
 #include "desktop/grid/cell_list.h"
 #include "desktop/grid/grid_widget.h"
 #include "desktop/portal/control_binding.h"
 #include "desktop/portal/field_validator.h"
+#include "find/type_ahead.h"
 
 namespace tallyroll {
 namespace {
@@ -26,13 +30,11 @@ class ComboBinding : public Binding<ComboBox, QComboBox> {
   ComboBinding(ComboBox& control, ControlRow& row, QComboBox& combo, BindingOwner& owner)
       : Binding(control, row, combo, owner) {
     combo.setInsertPolicy(QComboBox::NoInsert);
-    QObject::connect(&combo, &QComboBox::activated, this, [this](int index) {
-      // The line that is chosen already changes nothing, but a cell may take it again.
-      if (!control_.Over && index == control_.ListIndex) return;
-      index_ = index;
-      UserDid({&ControlRow::change, &ControlRow::click});
-    });
-    if (!combo.isEditable()) return;
+    QObject::connect(&combo, &QComboBox::activated, this, [this](int index) { Choose(index); });
+    if (!combo.isEditable()) {
+      combo.installEventFilter(this);
+      return;
+    }
     // What is typed stands as typed; completing it would be the program's doing.
     combo.setCompleter(nullptr);
     new FieldValidator(*combo.lineEdit());
@@ -64,7 +66,45 @@ class ComboBinding : public Binding<ComboBox, QComboBox> {
     if (control_.Over) StandInGrid();
   }
 
+  bool eventFilter(QObject* watched, QEvent* event) override {
+    if (event->type() == QEvent::FocusIn && TakesNames()) widget_.view()->installEventFilter(this);
+    if (event->type() == QEvent::KeyPress && TakesNames() &&
+        GoToTyped(*static_cast<const QKeyEvent*>(event), watched != &widget_))
+      return true;
+    return ControlBinding::eventFilter(watched, event);
+  }
+
  private:
+  // Its letters are nobody else's: neither a cell's nor a handler's.
+  bool TakesNames() const { return !control_.Over && !row().key_down && !row().key_press; }
+
+  // As in a list; the dropped lines are only walked until one is taken.
+  bool GoToTyped(const QKeyEvent& event, bool dropped) {
+    const int current = dropped ? widget_.view()->currentIndex().row() : widget_.currentIndex();
+    if (!ahead_.Take(event, current)) return false;
+    const int line = LineToGoTo(ahead_.typed(), list_, current);
+    if (line < 0) {
+      if (!ahead_.typed().empty()) QApplication::beep();
+      return true;
+    }
+    ahead_.LeadsTo(line);
+    if (dropped) {
+      widget_.view()->setCurrentIndex(
+          widget_.model()->index(line, widget_.modelColumn(), widget_.rootModelIndex()));
+    } else if (line != current) {
+      widget_.setCurrentIndex(line);
+      Choose(line);
+    }
+    return true;
+  }
+
+  void Choose(int index) {
+    // The line that is chosen already changes nothing, but a cell may take it again.
+    if (!control_.Over && index == control_.ListIndex) return;
+    index_ = index;
+    UserDid({&ControlRow::change, &ControlRow::click});
+  }
+
   bool typed() const { return widget_.isEditable() && index_ == -1; }
   // A choice changes the text as well, and is told by `activated` alone.
   bool combo_typing() const { return widget_.lineEdit()->isModified(); }
@@ -85,6 +125,7 @@ class ComboBinding : public Binding<ComboBox, QComboBox> {
     list->Place();
   }
 
+  TypedAhead ahead_;
   std::vector<std::string> list_;
   int index_ = -1;
   std::string text_;

@@ -10,6 +10,7 @@
 #include "exchange/formats/csv_writer.h"
 #include "exchange/formats/foreign_mark.h"
 #include "exchange/formats/formats.h"
+#include "platform/long_work.h"
 
 namespace tallyroll {
 namespace {
@@ -53,7 +54,7 @@ class CanvasReader {
     FindHeadLines();
     for (std::size_t column = *section + 1; column < source_.columns(); ++column)
       ReadGradeTitle(column);
-    for (std::size_t row = first_; row < source_.rows(); ++row) ReadRow(row);
+    ReadRows(source_, first_, table_, [this](std::size_t row) { ReadRow(row); });
     return std::move(table_);
   }
 
@@ -161,7 +162,8 @@ std::string WriteCanvas(const ForeignTable& table) {
     out.Add(grade.maximum ? PlainNumberText(*grade.maximum) : "");
   out.EndRow();
   const MarksByCell marks(table);
-  for (std::size_t s = 0; s < table.students.size(); ++s) {
+  LongWork work(kWritingLines, static_cast<int>(table.students.size()));
+  for (std::size_t s = 0; s < table.students.size() && work.Step(); ++s) {
     const ForeignStudent& student = table.students[s];
     out.Row({student.lastname + ", " + student.firstname, student.key, student.id, student.login,
              table.section});

@@ -5,12 +5,14 @@
 
 #include "base/text.h"
 #include "exchange/formats/foreign_mark.h"
+#include "platform/long_work.h"
 #include "store/text/roster_text.h"
 
 namespace tallyroll {
 namespace {
 
 const std::vector<CsvCell> kNoCells;
+constexpr std::size_t kRowsAtATime = 50;
 
 const std::vector<CsvCell>& CellsOf(const CsvTable& table, std::size_t record) {
   return record < table.records.size() ? table.records[record].cells : kNoCells;
@@ -30,6 +32,7 @@ CsvSource::CsvSource(std::string_view bytes) : text_(SourceText::FromBytes(bytes
   table_ = ParseCsv(text_->text());
   refusal_ = FaultOf(table_);
   if (refusal_.empty() && table_.records.empty()) refusal_ = "is empty";
+  for (std::size_t i = 0; i < columns(); ++i) column_of_.emplace(LowerCase(Title(i)), i);
 }
 
 const std::vector<CsvCell>& CsvSource::Titles() const {
@@ -55,10 +58,8 @@ bool CsvSource::IsBlankRow(std::size_t row) const {
 }
 
 std::optional<std::size_t> CsvSource::Find(std::string_view title) const {
-  const std::string wanted = LowerCase(title);
-  for (std::size_t i = 0; i < columns(); ++i)
-    if (LowerCase(Title(i)) == wanted) return i;
-  return std::nullopt;
+  const auto found = column_of_.find(LowerCase(title));
+  return found == column_of_.end() ? std::nullopt : std::optional(found->second);
 }
 
 std::optional<std::size_t> CsvSource::FindAny(const std::vector<std::string_view>& titles) const {
@@ -89,6 +90,19 @@ bool CsvSource::HoldsCell(std::size_t row, std::size_t column) const {
 
 std::string CsvSource::ShownCell(std::size_t row, std::size_t column) const {
   return Shown(CellsOf(table_, row + 1), column);
+}
+
+void ReadRows(const CsvSource& source, std::size_t first, ForeignTable& table,
+              const std::function<void(std::size_t row)>& read) {
+  LongWork work("Reading the lines", static_cast<int>(source.rows() / kRowsAtATime) + 1);
+  for (std::size_t row = first; row < source.rows(); ++row) {
+    if (row % kRowsAtATime == 0 && !work.Step()) {
+      table = {};
+      table.refusal = "was not read to its end";
+      return;
+    }
+    read(row);
+  }
 }
 
 void TakeMark(const CsvSource& source, std::size_t row, std::size_t column, int student, int grade,

@@ -2,9 +2,11 @@
 // A file of comma-separated values with titles, and how readers take its cells.
 #pragma once
 
+#include <functional>
 #include <optional>
 #include <string>
 #include <string_view>
+#include <unordered_map>
 #include <vector>
 
 #include "exchange/formats/foreign_table.h"
@@ -48,8 +50,13 @@ class CsvSource {
 
   std::optional<SourceText> text_;
   CsvTable table_;
+  std::unordered_map<std::string, std::size_t> column_of_;  // by title in small letters
   std::string refusal_;
 };
+
+// Reads each row from `first` on. Where that is cancelled the table holds nothing but a refusal.
+void ReadRows(const CsvSource& source, std::size_t first, ForeignTable& table,
+              const std::function<void(std::size_t row)>& read);
 
 // Adds a mark, or the fault of a cell that is none.
 void TakeMark(const CsvSource& source, std::size_t row, std::size_t column, int student, int grade,

@@ -11,6 +11,9 @@
 
 namespace tallyroll {
 
+// What a writer of many lines is about.
+inline constexpr std::string_view kWritingLines = "Writing the lines";
+
 // Fields are in the code page. No field is a formula to a spreadsheet.
 class CsvWriter {
  public:

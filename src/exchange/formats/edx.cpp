@@ -11,6 +11,7 @@
 #include "exchange/formats/csv_writer.h"
 #include "exchange/formats/foreign_mark.h"
 #include "exchange/formats/formats.h"
+#include "platform/long_work.h"
 
 namespace tallyroll {
 namespace {
@@ -38,29 +39,22 @@ class EdxReader {
   ForeignTable Bulk() {
     for (std::size_t column = 0; column < source_.columns(); ++column)
       if (source_.Title(column).starts_with(kNamePrefix)) BulkTitle(column);
-    for (std::size_t row = 0; row < source_.rows(); ++row)
-      if (!source_.IsBlankRow(row)) BulkRow(row);
+    ReadRows(source_, 0, table_, [this](std::size_t row) { BulkRow(row); });
     return std::move(table_);
   }
 
   ForeignTable Problems() {
     std::map<std::string, int> students, problems;
     std::set<std::pair<int, int>> known;
-    for (std::size_t row = 0; row < source_.rows(); ++row) {
-      if (source_.IsBlankRow(row)) continue;
+    ReadRows(source_, 0, table_, [&](std::size_t row) {
+      if (source_.IsBlankRow(row)) return;
       const int problem = ProblemOf(row, problems);
       const int student = StudentOf(row, students);
-      if (!known.emplace(student, problem).second) {
-        const auto column = static_cast<int>(*source_.Find("user_id")) + 1;
-        table_.faults.push_back({source_.LineOf(row), column, CellOf(row, "user_id"),
-                                 "has points for this problem on an earlier line already"});
-        continue;
-      }
-      const std::size_t changed = *source_.Find("New Points");
-      const bool is_new = !source_.Cell(row, changed).empty();
-      TakeMark(source_, row, is_new ? changed : *source_.Find("Previous Points"), student, problem,
-               table_);
-    }
+      if (known.emplace(student, problem).second) return ReadPoints(row, student, problem);
+      const auto column = static_cast<int>(*source_.Find("user_id")) + 1;
+      table_.faults.push_back({source_.LineOf(row), column, CellOf(row, "user_id"),
+                               "has points for this problem on an earlier line already"});
+    });
     return std::move(table_);
   }
 
@@ -69,8 +63,7 @@ class EdxReader {
     for (std::size_t column = *grade + 1; column < source_.columns(); ++column)
       if (const std::string title = source_.Title(column); title.find(": ") != std::string::npos)
         ReportTitle(column, title);
-    for (std::size_t row = 0; row < source_.rows(); ++row)
-      if (!source_.IsBlankRow(row)) ReportRow(row);
+    ReadRows(source_, 0, table_, [this](std::size_t row) { ReportRow(row); });
     return std::move(table_);
   }
 
@@ -80,6 +73,13 @@ class EdxReader {
     std::optional<std::size_t> grade, override_;
     int place;
   };
+
+  void ReadPoints(std::size_t row, int student, int problem) {
+    const std::size_t changed = *source_.Find("New Points");
+    const bool is_new = !source_.Cell(row, changed).empty();
+    TakeMark(source_, row, is_new ? changed : *source_.Find("Previous Points"), student, problem,
+             table_);
+  }
 
   // The title of a subsection stands in its column, on every line.
   void BulkTitle(std::size_t column) {
@@ -134,6 +134,7 @@ class EdxReader {
   }
 
   void BulkRow(std::size_t row) {
+    if (source_.IsBlankRow(row)) return;
     const std::string course = CellOf(row, "course_id");
     if (table_.course.empty()) table_.course = course;
     if (course != table_.course) {
@@ -165,6 +166,7 @@ class EdxReader {
   }
 
   void ReportRow(std::size_t row) {
+    if (source_.IsBlankRow(row)) return;
     ForeignStudent student;
     student.line = source_.LineOf(row);
     student.key = CellOf(row, "Student ID");
@@ -212,7 +214,8 @@ ForeignFile WriteEdx(const ForeignTable& table) {
       out.Add(part + table.grades[g].key);
   out.EndRow();
   const MarksByCell marks(table);
-  for (std::size_t s = 0; s < table.students.size(); ++s) {
+  LongWork work(kWritingLines, static_cast<int>(table.students.size()));
+  for (std::size_t s = 0; s < table.students.size() && work.Step(); ++s) {
     const ForeignStudent& student = table.students[s];
     if (student.key.empty()) continue;
     out.Row({student.key, student.login, student.id, table.course, "", ""});

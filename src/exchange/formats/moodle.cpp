@@ -7,6 +7,7 @@
 #include "base/text.h"
 #include "exchange/formats/csv_writer.h"
 #include "exchange/formats/formats.h"
+#include "platform/long_work.h"
 
 namespace tallyroll {
 namespace {
@@ -70,8 +71,7 @@ class MoodleReader {
       return std::move(table_);
     }
     for (std::size_t column = 0; column < source_.columns(); ++column) ReadTitle(column);
-    for (std::size_t row = 0; row < source_.rows(); ++row)
-      if (!source_.IsBlankRow(row)) ReadRow(row);
+    ReadRows(source_, 0, table_, [this](std::size_t row) { ReadRow(row); });
     return std::move(table_);
   }
 
@@ -111,6 +111,7 @@ class MoodleReader {
   }
 
   void ReadRow(std::size_t row) {
+    if (source_.IsBlankRow(row)) return;
     ForeignStudent student;
     student.line = source_.LineOf(row);
     student.id = CellAt(row, id_);
@@ -160,7 +161,8 @@ std::string WriteMoodle(const ForeignTable& table) {
   }
   out.EndRow();
   const MarksByCell marks(table);
-  for (std::size_t s = 0; s < table.students.size(); ++s) {
+  LongWork work(kWritingLines, static_cast<int>(table.students.size()));
+  for (std::size_t s = 0; s < table.students.size() && work.Step(); ++s) {
     const ForeignStudent& student = table.students[s];
     out.Row({student.firstname, student.lastname, student.id, LowerCase(student.email)});
     for (std::size_t g = 0; g < table.grades.size(); ++g) {

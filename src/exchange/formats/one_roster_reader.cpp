@@ -26,6 +26,7 @@ class OneRosterTable {
     if (refusal.empty()) refusal = LacksColumns(source_, columns);
     return refusal.empty() ? "" : "holds a " + name_ + ".csv that " + refusal;
   }
+  const CsvSource& source() const { return source_; }
   std::size_t rows() const { return source_.rows(); }
   std::string Cell(std::size_t row, std::string_view title) const {
     const auto column = source_.Find(title);
@@ -170,9 +171,9 @@ class OneRosterReader {
         Open("results", {"lineItemSourcedId", "studentSourcedId", "scoreStatus", "score"});
     if (!results) return;
     std::set<std::pair<int, int>> known;
-    for (std::size_t row = 0; row < results->rows(); ++row) {
+    ReadRows(results->source(), 0, table_, [&](std::size_t row) {
       const std::string item = results->Cell(row, "lineItemSourcedId");
-      if (results->IsDeleted(row) || elsewhere_.contains(item)) continue;
+      if (results->IsDeleted(row) || elsewhere_.contains(item)) return;
       const auto grade = grades_.find(item);
       const auto student = students_.find(results->Cell(row, "studentSourcedId"));
       if (grade == grades_.end())
@@ -186,7 +187,7 @@ class OneRosterReader {
             results->Fault(row, "studentSourcedId", "has this grade on an earlier line already"));
       else
         ReadResult(*results, row, student->second, grade->second);
-    }
+    });
   }
 
   void ReadResult(const OneRosterTable& results, std::size_t row, int student, int grade) {

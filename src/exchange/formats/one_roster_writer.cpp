@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include <cstdint>
 #include <map>
+#include <utility>
+#include <vector>
 
 #include "base/number_text.h"
 #include "base/text.h"
@@ -9,6 +11,7 @@
 #include "exchange/formats/formats.h"
 #include "exchange/formats/one_roster.h"
 #include "exchange/formats/zip_file.h"
+#include "platform/long_work.h"
 
 namespace tallyroll {
 namespace {
@@ -43,7 +46,7 @@ class OneRosterWriter {
                     session_, "", "", ""});
     for (const ForeignStudent& student : table_.students) AddStudent(student);
     for (const ForeignGrade& grade : table_.grades) AddLineItem(grade);
-    for (const ForeignMark& mark : table_.marks) AddResult(mark);
+    if (!AddResults()) return {"was not written to its end", ""};
     return Packed();
   }
 
@@ -71,7 +74,7 @@ class OneRosterWriter {
   }
 
   void AddStudent(const ForeignStudent& student) {
-    const std::string id = IdOf(student);
+    const std::string& id = student_ids_.emplace_back(IdOf(student));
     Add("users", {id,
                   "",
                   "",
@@ -112,16 +115,28 @@ class OneRosterWriter {
 
   void AddLineItem(const ForeignGrade& grade) {
     const std::string date = DateOf(grade);
-    Add("lineItems", {IdOf(grade), "", "", grade.title, "", date, date, class_, CategoryOf(grade),
-                      session_, "0", grade.maximum ? PlainNumberText(*grade.maximum) : "", org_});
+    const std::string& id = grade_ids_.emplace_back(IdOf(grade));
+    Add("lineItems", {id, "", "", grade.title, "", date, date, class_, CategoryOf(grade), session_,
+                      "0", grade.maximum ? PlainNumberText(*grade.maximum) : "", org_});
+  }
+
+  // False where it was cancelled.
+  bool AddResults() {
+    LongWork work(kWritingLines, static_cast<int>(table_.students.size()));
+    int student = -1;  // whose marks are being written
+    for (const ForeignMark& mark : table_.marks) {
+      if (std::exchange(student, mark.student) != mark.student && !work.Step()) return false;
+      AddResult(mark);
+    }
+    return true;
   }
 
   void AddResult(const ForeignMark& mark) {
     const ForeignGrade& grade = table_.grades[static_cast<std::size_t>(mark.grade)];
-    const std::string student = IdOf(table_.students[static_cast<std::size_t>(mark.student)]);
+    const std::string& student = student_ids_[static_cast<std::size_t>(mark.student)];
     const bool excused = mark.text == "exempt";
     const bool number = NumberOfMark(mark.text).has_value();
-    const std::string item = IdOf(grade);
+    const std::string& item = grade_ids_[static_cast<std::size_t>(mark.grade)];
     Add("results",
         {StableId("result", item + "\n" + student), "", "", item, student,
          excused ? "exempt" : "fully graded", number ? mark.text : "", DateOf(grade), mark.comment,
@@ -157,6 +172,7 @@ class OneRosterWriter {
   std::string org_, session_, course_, class_;
   std::map<std::string, CsvWriter> files_;
   std::map<std::string, bool> categories_;
+  std::vector<std::string> student_ids_, grade_ids_;  // as they went out, by the table's places
 };
 
 }  // namespace

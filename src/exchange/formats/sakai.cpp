@@ -8,6 +8,7 @@
 #include "exchange/formats/csv_writer.h"
 #include "exchange/formats/foreign_mark.h"
 #include "exchange/formats/formats.h"
+#include "platform/long_work.h"
 
 namespace tallyroll {
 namespace {
@@ -37,8 +38,7 @@ class SakaiReader {
     for (std::size_t column = kFirstSakaiColumn; column < source_.columns(); ++column)
       ReadTitle(column);
     for (const auto& [column, title] : comments_) JoinComment(column, title);
-    for (std::size_t row = 0; row < source_.rows(); ++row)
-      if (!source_.IsBlankRow(row)) ReadRow(row);
+    ReadRows(source_, 0, table_, [this](std::size_t row) { ReadRow(row); });
     return std::move(table_);
   }
 
@@ -82,6 +82,7 @@ class SakaiReader {
   }
 
   void ReadRow(std::size_t row) {
+    if (source_.IsBlankRow(row)) return;
     ForeignStudent student;
     student.line = source_.LineOf(row);
     student.id = source_.Cell(row, 0);
@@ -130,7 +131,8 @@ std::string WriteSakai(const ForeignTable& table) {
   }
   out.EndRow();
   const MarksByCell marks(table);
-  for (std::size_t s = 0; s < table.students.size(); ++s) {
+  LongWork work(kWritingLines, static_cast<int>(table.students.size()));
+  for (std::size_t s = 0; s < table.students.size() && work.Step(); ++s) {
     const ForeignStudent& student = table.students[s];
     out.Row({student.id, student.lastname + ", " + student.firstname});
     for (std::size_t g = 0; g < table.grades.size(); ++g) {

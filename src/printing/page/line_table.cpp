@@ -59,17 +59,17 @@ void Write(TextReport& text, const Lines& lines, int width) {
 }
 
 Section SectionOf(const Paper& paper, const LineBlock& block) {
-  return {
-      .rows = block.count,
-      .print =
-          [&paper, &block](int row) {
-            paper.Print(block.row(row));
-            if (row == block.count) paper.Print(block.foot);
-          },
-      .head = [&paper, &block] { paper.Print(block.head); },
-      .head_lines = LinesOnPaper(block.head),
-      .lines =
-          [&block](int row) { return 1 + (row == block.count ? LinesOnPaper(block.foot) : 0); }};
+  return {.rows = block.count,
+          .print =
+              [&paper, &block](int row) {
+                paper.Print(block.row(row));
+                if (row == block.count) paper.Print(block.foot);
+              },
+          .head = [&paper, &block] { paper.Print(block.head); },
+          .head_lines = LinesOnPaper(block.head),
+          .lines =
+              [&block](int row) { return 1 + (row == block.count ? LinesOnPaper(block.foot) : 0); },
+          .student = block.of_students ? StudentOfRow : std::function<int(int)>()};
 }
 
 }  // namespace

@@ -33,6 +33,7 @@ struct LineBlock {
   // since a page shows few of them.
   std::function<std::vector<TableLine>(int row)> row = nullptr;
   std::vector<TableLine> foot = {};  // behind the last row
+  bool of_students = false;          // its rows are the students of the class
 };
 
 struct LineTable {

@@ -29,8 +29,20 @@ ReportChoice Choice;
 void ClearPageTable() {
   Job.PageFirst = Job.PageLast = Job.WrapFirst = Job.WrapLast = {0};
   Job.PageStudent = {0};
+  Job.FirstPage = {0};
   Job.PageCount = 0;
   Job.Notice.clear();
+}
+
+void NoteStudentOnPage(int student, int page) {
+  const auto s = static_cast<std::size_t>(student);
+  if (s >= Job.FirstPage.size()) Job.FirstPage.resize(s + 1);
+  if (Job.FirstPage[s] == 0) Job.FirstPage[s] = page;
+}
+
+int PageOfStudent(int student) {
+  const auto s = static_cast<std::size_t>(student);
+  return s < Job.FirstPage.size() ? Job.FirstPage[s] : 0;
 }
 
 void ResetPrintJob() {

@@ -38,6 +38,7 @@ struct PrintJob {
   int PageCount = 0;
   std::vector<int> PageFirst{0}, PageLast{0};
   std::vector<i16> PageStudent{0};  // CurrentStudent when the page ended
+  std::vector<int> FirstPage{0};    // by student, the first page that he stands on; 0 for none
   // First and last grade of each wrapped row of the grade matrix, found once for the first student.
   // The missing grades of the class keep the last row of each student in WrapLast.
   std::vector<int> WrapFirst{0}, WrapLast{0};
@@ -57,6 +58,10 @@ struct ReportPass {
 
 // Clears the page table.
 void ClearPageTable();
+// Enters that a student stands on a page, unless he stands on an earlier one.
+void NoteStudentOnPage(int student, int page);
+// The first page that a student stands on; 0 where the report has none of him.
+int PageOfStudent(int student);
 // The same, and asks for the title; PrintFlag then tells whether the run goes ahead.
 void ResetPrintJob();
 

@@ -15,7 +15,10 @@ class SectionWalk {
     for (int row = first; row <= last; ++row) {
       if (Cancelled()) return;
       Enter(row);
-      if (pass_.recording) Fit(row);
+      if (pass_.recording) {
+        Fit(row);
+        NoteStudent(row);
+      }
       PrintHeads(row);
       sections_[section_].print(row - before_);
       page_is_empty_ = false;
@@ -95,6 +98,11 @@ class SectionWalk {
     BeginPage(pass_.target);
     headed_ = false;
     page_is_empty_ = true;
+  }
+
+  void NoteStudent(int row) const {
+    const Section& section = sections_[section_];
+    if (section.student) NoteStudentOnPage(section.student(row - before_), pass_.page);
   }
 
   ReportPass& pass_;

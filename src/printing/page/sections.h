@@ -19,7 +19,14 @@ struct Section {
   std::function<int(int row)> lines = [](int) { return 1; };  // what a row takes
   // Decides in the layout pass instead of the lines whether a row begins a new page, and breaks it.
   std::function<void(ReportPass& pass, int row)> fit = nullptr;
+  // Who stands in a row, so that the page table knows each student's page; null where nobody does.
+  std::function<int(int row)> student = nullptr;
 };
+
+// Of a section whose rows are the students of the class.
+inline int StudentOfRow(int row) {
+  return row;
+}
 
 int RowCount(const std::vector<Section>& sections);
 

@@ -5,6 +5,7 @@
 #include "base/number_text.h"
 #include "base/text.h"
 #include "printing/page/html_parts.h"
+#include "printing/page/print_job.h"
 #include "printing/page/report_choice.h"
 #include "printing/reports/month_table.h"
 #include "store/program_state.h"
@@ -53,7 +54,7 @@ std::string AttendanceHtml(std::string_view title) {
   std::string html = HtmlHead(title);
   for (const Month& month : MonthsOf(Choice.month_first, Choice.month_last)) {
     html += HtmlHeadOf(month);
-    for (int i = 1; i <= Current().NumStudents; ++i)
+    for (int i = 1; i <= Current().NumStudents && !Cancelled(); ++i)
       html += HtmlRowOf(Current().Students[static_cast<std::size_t>(i)], month);
     html += "</table>\r\n";
   }

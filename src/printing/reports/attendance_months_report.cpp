@@ -151,7 +151,8 @@ LineTable MonthsTable(Sheet sheet) {
       const Student& student = Current().Students[static_cast<std::size_t>(i)];
       return std::vector<TableLine>{MonthLineOf(student, month, id_column, sheet)};
     };
-    table.blocks.push_back({MonthHeadOf(month, id_column), Current().NumStudents, row_at});
+    table.blocks.push_back(
+        {MonthHeadOf(month, id_column), Current().NumStudents, row_at, {}, true});
   }
   return table;
 }

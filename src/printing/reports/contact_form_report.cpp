@@ -56,7 +56,8 @@ void PrintContactForms(ReportPass& pass) {
   PageHeader(pass, kFormTitle);
   PrintSections(pass, {{.rows = Current().NumStudents,
                         .print = [&](int row) { PrintBlock(pass.target, StudentOfForm(row)); },
-                        .lines = [](int) { return kBlockLines; }}});
+                        .lines = [](int) { return kBlockLines; },
+                        .student = StudentOfRow}});
 }
 
 void WriteContactForms(TextReport& text) {

@@ -45,6 +45,8 @@ class StudentBlocks {
 
   int Count() const { return static_cast<int>(rows_.size()); }
 
+  int StudentOf(int row) const { return rows_[static_cast<std::size_t>(row) - 1].student; }
+
   void Fit(ReportPass& pass, int row) {
     const Row& r = Enter(row);
     if (r.line > 1) {
@@ -155,7 +157,8 @@ void PrintFullGrades(ReportPass& pass) {
   StudentBlocks blocks(pass);
   std::vector<Section> sections = {{.rows = blocks.Count(),
                                     .print = [&](int row) { blocks.Print(row); },
-                                    .fit = [&](ReportPass& at, int row) { blocks.Fit(at, row); }}};
+                                    .fit = [&](ReportPass& at, int row) { blocks.Fit(at, row); },
+                                    .student = [&](int row) { return blocks.StudentOf(row); }}};
   if (EndsWithDetails()) {
     sections.push_back(CodeDetailsSection(pass.target));
     sections.push_back(TypeTotalsSection(pass.target));

@@ -8,6 +8,7 @@
 #include "platform/class_window.h"
 #include "platform/surroundings.h"
 #include "printing/page/html_parts.h"
+#include "printing/page/report_work.h"
 #include "printing/reports/report_codes.h"
 #include "printing/reports/reports.h"
 #include "store/class_file.h"
@@ -77,8 +78,11 @@ std::string HtmlHead(std::string_view title) {
 std::string ReportHtml() {
   const std::string title =
       PathForDisplay(std::filesystem::path(Current().FileName).stem().string());
-  if (Job.ReportCode == kRollBook) return RollBookHtml(title);
-  if (Job.ReportCode == kMonths) return AttendanceHtml(title);
+  if (IsOneOf(Job.ReportCode, {kRollBook, kMonths})) {
+    const ReportWork work(Job.ReportCode == kRollBook ? Current().NumStudents : 0);
+    std::string html = Job.ReportCode == kRollBook ? RollBookHtml(title) : AttendanceHtml(title);
+    return Job.PrintFlag == kPrintCancelled ? std::string() : html;
+  }
   const std::string text = ReportText();
   return Job.PrintFlag == kPrintCancelled ? text : TextAsHtml(title, text);
 }

@@ -150,7 +150,8 @@ void PrintMissingForClass(ReportPass& pass) {
   const ClassRows rows(pass);
   PrintSections(pass, {{.rows = ClassRows::Count(),
                         .print = [&](int row) { PrintClassRow(pass.target, rows.At(row)); },
-                        .lines = [&](int row) { return rows.At(row).lines; }}});
+                        .lines = [&](int row) { return rows.At(row).lines; },
+                        .student = [&](int row) { return rows.At(row).student; }}});
 }
 
 void WriteMissingForClass(TextReport& text) {

@@ -21,6 +21,7 @@ constexpr int kOneGradeRule = 80;
 constexpr double kOneGradeColumnsOfTable = 51;
 
 struct OneGradeRow {
+  int student = 0;
   std::string label;  // name or ID
   std::string id;     // beside the name, when both are shown
   std::string mark;
@@ -28,18 +29,21 @@ struct OneGradeRow {
   bool counts = true;  // marks that are left out stand behind all others, whatever the order
 };
 
-OneGradeRow OneGradeRowOf(const Student& student) {
+OneGradeRow OneGradeRowOf(int number) {
+  const Student& student = Current().Students[static_cast<std::size_t>(number)];
   const std::string_view mark = Trim(MarkOf(student, Choice.grade));
   const std::string id(Trim(student.id));
-  return {Choice.shown == Shown::kId ? id : PlainName(student),
-          Choice.shown == Shown::kNameAndId ? id : std::string(), std::string(mark),
-          GradeValue(mark), KindOfMark(mark) != MarkKind::kLeftOut};
+  return {number,
+          Choice.shown == Shown::kId ? id : PlainName(student),
+          Choice.shown == Shown::kNameAndId ? id : std::string(),
+          std::string(mark),
+          GradeValue(mark),
+          KindOfMark(mark) != MarkKind::kLeftOut};
 }
 
 std::vector<OneGradeRow> RowsInOrder() {
   std::vector<OneGradeRow> rows;
-  for (int i = 1; i <= Current().NumStudents; ++i)
-    rows.push_back(OneGradeRowOf(Current().Students[static_cast<std::size_t>(i)]));
+  for (int i = 1; i <= Current().NumStudents; ++i) rows.push_back(OneGradeRowOf(i));
   if (Choice.rank == Rank::kNone) return rows;
   const bool falling = Choice.rank == Rank::kHighToLow;
   std::stable_sort(rows.begin(), rows.end(), [falling](const OneGradeRow& a, const OneGradeRow& b) {
@@ -77,21 +81,24 @@ void PrintOneGrade(ReportPass& pass) {
   const auto place = [&line](double units, int, std::string_view text) {
     line.Put(units * ColumnUnit(kOneGradeColumnsOfTable), text);
   };
-  PrintSections(pass, {{.rows = static_cast<int>(rows.size()),
-                        .print =
-                            [&](int row) {
-                              const OneGradeRow& r = rows[static_cast<std::size_t>(row) - 1];
-                              PutOneGradeRow(r.label, r.id, r.mark, place);
-                              line.End();
-                              Rule(target);
-                            },
-                        .head =
-                            [&] {
-                              PutOneGradeRow(LabelHead(), "ID", "GRADE", place);
-                              line.End();
-                              Rule(target);
-                            },
-                        .head_lines = 1}});
+  PrintSections(
+      pass,
+      {{.rows = static_cast<int>(rows.size()),
+        .print =
+            [&](int row) {
+              const OneGradeRow& r = rows[static_cast<std::size_t>(row) - 1];
+              PutOneGradeRow(r.label, r.id, r.mark, place);
+              line.End();
+              Rule(target);
+            },
+        .head =
+            [&] {
+              PutOneGradeRow(LabelHead(), "ID", "GRADE", place);
+              line.End();
+              Rule(target);
+            },
+        .head_lines = 1,
+        .student = [&](int row) { return rows[static_cast<std::size_t>(row) - 1].student; }}});
 }
 
 void WriteOneGrade(TextReport& text) {

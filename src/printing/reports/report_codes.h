@@ -7,6 +7,7 @@
 
 namespace tallyroll {
 
+inline constexpr int kFullGrades = 1;
 inline constexpr int kRollBook = 3, kRollBookTitles = 4, kMonths = 8, kOneSummary = 9;
 inline constexpr int kOneGrade = 10, kFullClass = 11, kAveragesOfOne = 12, kGradesOfOne = 13;
 inline constexpr int kExplainedAverage = 25;

@@ -10,6 +10,8 @@
 #include "platform/surroundings.h"
 #include "printing/page/page_frame.h"
 #include "printing/page/report_choice.h"
+#include "printing/page/report_work.h"
+#include "printing/reports/report_codes.h"
 #include "printing/reports/report_writers.h"
 #include "store/class_file.h"
 #include "store/program_state.h"
@@ -74,6 +76,7 @@ bool LayOutRows(PrintTarget& target) {
   const Report* report = FindReport(Job.ReportCode);
   if (!report) return false;
   ReportPass pass{.target = target, .page = Job.PageCount + 1, .recording = true};
+  if (report->one_student) NoteStudentOnPage(CurrentStudent, pass.page);
   return Run([&] { report->print(pass); });
 }
 
@@ -88,16 +91,30 @@ bool RenderPage(PrintTarget& target, int page) {
   return done;
 }
 
+namespace {
+
+// The reports on one student are a step each, the others row by row.
+void WriteReport(const Report& report, TextReport& text) {
+  if (!report.one_student) {
+    const bool by_student = IsOneOf(report.code, {kFullGrades, kFullClass});
+    const ReportWork work(by_student ? Current().NumStudents : 0);
+    return report.write(text);
+  }
+  LongWork work("Writing the report", static_cast<int>(Choice.students.size()));
+  for (const i16 student : Choice.students) {
+    CurrentStudent = student;
+    report.write(text);
+    if (!work.Step()) Job.PrintFlag = kPrintCancelled;
+    if (work.Cancelled()) return;
+  }
+}
+
+}  // namespace
+
 std::string ReportText() {
   const Report* report = FindReport(Job.ReportCode);
   TextReport text;
-  const bool done = report && Run([&] {
-                      if (!report->one_student) return report->write(text);
-                      for (const i16 student : Choice.students) {
-                        CurrentStudent = student;
-                        report->write(text);
-                      }
-                    });
+  const bool done = report && Run([&] { WriteReport(*report, text); });
   return done ? text.text() : std::string();
 }
 

@@ -37,7 +37,7 @@ std::string NothingToReport();
 bool RenderPage(PrintTarget& target, int page);
 
 // The report of Job.ReportCode as text; that of each of Choice.students where it is on one student.
-// Empty when it could not be made, and the teacher was told.
+// Empty when it could not be made, and the teacher was told or cancelled it.
 std::string ReportText();
 // Writes it. Returns 0 or the run-time error number; the teacher was told "File Error" then.
 int SaveReportText(const std::string& path);

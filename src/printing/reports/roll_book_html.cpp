@@ -60,7 +60,7 @@ std::string RollBookHtml(std::string_view title) {
   html += HtmlRollRowOf(kHeadRow, "", grades,
                         [](int i) { return std::string_view(GradeInReport(i).code); });
   html += HtmlRollRowOf(kHeadRow, "", grades, [](int i) { return WholeDateWithoutYear(i); });
-  for (int s = 1; s <= Current().NumStudents; ++s) {
+  for (int s = 1; s <= Current().NumStudents && !Cancelled(); ++s) {
     const Student& student = Current().Students[static_cast<std::size_t>(s)];
     html += HtmlRollRowOf("<TR>", StudentColumnText(student), grades,
                           [&](int i) { return MarkOf(student, i); });

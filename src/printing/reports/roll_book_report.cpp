@@ -79,7 +79,7 @@ LineBlock BlockOf(const std::vector<int>& grades) {
     if (i > 1) row.push_back({{}, '_'});
     return row;
   };
-  return {RollHeadOf(grades), Current().NumStudents, row_at, {{{}, '='}}};
+  return {RollHeadOf(grades), Current().NumStudents, row_at, {{{}, '='}}, true};
 }
 
 LineTable RollTable() {
@@ -166,7 +166,8 @@ void PrintFullTitles(ReportPass& pass) {
     sections.push_back({.rows = Current().NumStudents,
                         .print = [&target, &grades](int row) { PrintStudent(target, row, grades); },
                         .head = [&target, &grades] { PrintTitles(target, grades); },
-                        .head_lines = TitleLines(target, grades) + 1});
+                        .head_lines = TitleLines(target, grades) + 1,
+                        .student = StudentOfRow});
   PrintSections(pass, sections);
 }
 

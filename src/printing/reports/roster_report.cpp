@@ -101,7 +101,8 @@ void PrintRoster(ReportPass& pass) {
   PrintSections(pass, {{.rows = Current().NumStudents,
                         .print = [&](int row) { PrintRosterRow(pass.target, row); },
                         .head = [&] { PutRosterHead(RosterSheet(pass.target)); },
-                        .head_lines = 2}});
+                        .head_lines = 2,
+                        .student = StudentOfRow}});
 }
 
 void WriteRoster(TextReport& text) {

@@ -74,7 +74,7 @@ LineTable OnePeriodTable() {
   head.cells.push_back({kAbsenceColumn, "TOTAL ABSENCE"});
   head.cells.push_back({kLateColumn, "LATE"});
   const auto row_at = [](int i) { return std::vector<TableLine>{OnePeriodLine(StudentAt(i))}; };
-  return {80, {{{head, {{}, '_'}}, Current().NumStudents, row_at}}};
+  return {80, {{{head, {{}, '_'}}, Current().NumStudents, row_at, {}, true}}};
 }
 
 // ---- 16: all periods ----
@@ -143,7 +143,8 @@ LineTable AllPeriodsTable(const Heads& heads) {
     const auto row_at = [periods](int i) {
       return std::vector<TableLine>{AllPeriodsLine(StudentAt(i), periods), {{}, '_'}};
     };
-    table.blocks.push_back({AllPeriodsHead(periods, heads), Current().NumStudents, row_at});
+    table.blocks.push_back(
+        {AllPeriodsHead(periods, heads), Current().NumStudents, row_at, {}, true});
   }
   table.blocks.back().foot = {{{}, '='}};
   return table;

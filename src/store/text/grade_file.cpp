@@ -11,6 +11,7 @@
 #include "platform/surroundings.h"
 #include "store/program_state.h"
 #include "store/safe_file.h"
+#include "store/text/counted_lines.h"
 #include "store/text/grade_collector.h"
 #include "store/text/grade_lines.h"
 #include "store/text/source_text.h"
@@ -65,7 +66,12 @@ void ReadRecords(const SourceText& source, const CsvColumns& chosen, int open_st
   for (std::size_t i = 0; i < columns.uses.size(); ++i)
     if (columns.uses[i] == CsvUse::kGrade) grades.push_back(i);
   GradeCollector collector(source, file);
+  CountedLines work("Reading the lines", table.records.size());
   for (std::size_t i = 0; i < table.records.size(); ++i) {
+    if (!work.Next()) {
+      file.refusal = kNotReadToItsEnd;
+      return;
+    }
     const CsvRecord& record = table.records[i];
     const bool heading = i == 0 && columns.heading;
     const int student = heading ? 0 : matcher.Take(KeyOfRecord(record, columns, matcher.by_name()));
@@ -115,7 +121,10 @@ GradeFile ReadGradeImport(int open_state) {
     ShowTextFileError(contents.error);
     return {};
   }
+  const LongWork work("Reading the file", 1);
   GradeFile file = ReadGradeText(contents.bytes, TextMode, ImportColumns, open_state);
+  file.cancelled = work.Cancelled();
+  if (file.cancelled) return file;
   if (!file.refusal.empty())
     ShowMessage(PathForDisplay(ImportFile) + " " + file.refusal + ".", BoxIcon::kCritical);
   return AcceptsLacking(file.lacking) ? file : GradeFile();

@@ -29,6 +29,7 @@ struct GradeFile {
   int matched = 0;          // lines with a student of the class
   int skipped = 0;          // lines without
   int cut = 0;              // marks with more letters than a class holds
+  bool cancelled = false;   // by the teacher: nothing is taken
   // Texts that the code page cannot hold, a line each; they are left out.
   std::vector<std::string> lacking;
 };

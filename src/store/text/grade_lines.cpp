@@ -6,6 +6,7 @@
 
 #include "base/line_reader.h"
 #include "base/text.h"
+#include "store/text/counted_lines.h"
 #include "store/text/grade_collector.h"
 #include "store/text_layout.h"
 
@@ -109,7 +110,12 @@ class LinesOfMarks {
     LineReader lines(source_.text());
     bool behind_titles = false;
     bool first = true;
+    CountedLines work("Reading the lines", source_.text());
     while (const auto line = lines.Next()) {
+      if (!work.Next()) {
+        file_.refusal = kNotReadToItsEnd;
+        return;
+      }
       ++number_;
       if (Trim(*line).empty()) continue;
       if (first && TakeTitles(*line)) {

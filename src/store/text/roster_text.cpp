@@ -8,6 +8,7 @@
 #include "base/number_text.h"
 #include "base/text.h"
 #include "store/class_format.h"
+#include "store/text/counted_lines.h"
 #include "store/text/source_text.h"
 #include "store/text_layout.h"
 
@@ -72,7 +73,9 @@ void ReadLines(const SourceText& source, i16 mode, TextRoster& roster) {
   Taker taker(source, roster);
   LineReader lines(source.text());
   int number = 0;
+  CountedLines work("Reading the lines", source.text());
   while (const auto line = lines.Next()) {
+    if (!work.Next()) return taker.Refuse(std::string(kNotReadToItsEnd));
     ++number;
     const std::vector<std::string_view> fields = FieldsOf(*line, mode);
     if (NothingIn(fields)) continue;
@@ -115,7 +118,9 @@ void ReadRecords(const SourceText& source, const CsvColumns& chosen, TextRoster&
       chosen.uses.empty() ? GuessColumns(table, CsvPurpose::kStudents) : chosen;
   if (!table.records.empty() && !WhatIsMissing(columns, CsvPurpose::kStudents).empty())
     return taker.Refuse("has no column with the names of students");
+  CountedLines work("Reading the lines", table.records.size());
   for (std::size_t i = columns.heading ? 1 : 0; i < table.records.size(); ++i) {
+    if (!work.Next()) return taker.Refuse(std::string(kNotReadToItsEnd));
     roster.students.push_back(StudentOfRecord(table.records[i], columns, taker));
     if (!roster.refusal.empty() || roster.students.size() == kStudentsRead) return;
   }

@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "base/text.h"
+#include "platform/long_work.h"
 #include "store/csv_columns.h"
 #include "store/student_names.h"
 #include "store/text/saved_text.h"
@@ -14,6 +15,7 @@ namespace tallyroll {
 namespace {
 
 constexpr std::string_view kLineEnd = "\r\n";
+constexpr std::string_view kWritingStudents = "Writing the students";
 // No text file holds them: a reader would end the line there, or take the file for no text.
 bool IsControl(char c) {
   return c >= '\0' && c < ' ' && c != '\t';
@@ -161,8 +163,10 @@ TextOfClass ExportCsv(const Class& c, int what) {
   TextOfClass out;
   if (what != kExportGradesPlain) AddCsvRecord(CsvTitles(c, what), out);
   const auto grades = static_cast<std::size_t>(UpperBound(c.Instruments));
-  for (std::size_t i = 1; i < c.Students.size(); ++i)
+  LongWork work(kWritingStudents, UpperBound(c.Students));
+  for (std::size_t i = 1; i < c.Students.size() && work.Step(); ++i)
     AddCsvRecord(CsvValues(c.Students[i], what, grades), out);
+  out.cancelled = work.Cancelled();
   return out;
 }
 
@@ -171,8 +175,10 @@ TextOfClass ExportLines(const Class& c, int what, i16 mode) {
   LineWriter line(mode, out);
   if (what == kExportGrades) AddHeaders(c, mode, line);
   const auto grades = static_cast<std::size_t>(UpperBound(c.Instruments));
-  for (std::size_t i = 1; i < c.Students.size(); ++i)
+  LongWork work(kWritingStudents, UpperBound(c.Students));
+  for (std::size_t i = 1; i < c.Students.size() && work.Step(); ++i)
     AddLine(c.Students[i], what, mode, grades, line);
+  out.cancelled = work.Cancelled();
   return out;
 }
 

@@ -17,7 +17,8 @@ inline constexpr int kExportGradesPlain = 561;  // with marks alone
 
 struct TextOfClass {
   std::string bytes;
-  int changed = 0;  // values that the layout could not carry as they are
+  int changed = 0;         // values that the layout could not carry as they are
+  bool cancelled = false;  // by the teacher: the text ends early
 };
 
 // Each line ends with CR LF. A value is cut to its column; a mark of the layout or a line end

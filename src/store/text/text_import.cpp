@@ -15,6 +15,7 @@
 #include "store/sort_students.h"
 #include "store/student_names.h"
 #include "store/text/box_list.h"
+#include "store/text/counted_lines.h"
 #include "store/text/taken_ids.h"
 #include "store/text_layout.h"
 
@@ -36,6 +37,19 @@ void AddStudent(Student& imported) {
   AddStudentDefaults();
 }
 
+// What a class is without the students who are being added behind its own.
+struct ClassBefore {
+  i16 students, last_width, first_width;
+};
+
+void TakeBack(const ClassBefore& before) {
+  Class& c = Current();
+  ReDimPreserve(c.Students, before.students);
+  c.NumStudents = before.students;
+  c.LastNameWidth = before.last_width;
+  c.FirstNameWidth = before.first_width;
+}
+
 std::string Count(std::size_t count, std::string_view what) {
   return PlainNumberText(static_cast<std::int64_t>(count)) + " " + std::string(what);
 }
@@ -45,9 +59,17 @@ std::string Count(std::size_t count, std::string_view what) {
 ImportOutcome AddStudents(TextRoster& roster) {
   Class& c = Current();
   ImportOutcome outcome;
+  const ClassBefore own{c.NumStudents, c.LastNameWidth, c.FirstNameWidth};
+  CountedLines work("Adding the students", roster.students.size());
   TakenIds ids(c);
   for (const Student& student : roster.students) ids.Reserve(student.id);
   for (Student& student : roster.students) {
+    if (!work.Next()) {
+      TakeBack(own);
+      outcome = {};
+      outcome.cancelled = true;
+      return outcome;
+    }
     if (c.NumStudents == std::numeric_limits<i16>::max()) {
       outcome.error = kErrorOverflow;
       break;
@@ -95,7 +117,9 @@ bool ReadImportFile(TextRoster& roster) {
     ShowTextFileError(file.error);
     return false;
   }
+  const LongWork work("Reading the file", 1);
   roster = ReadRosterText(file.bytes, TextMode, ImportColumns);
+  if (work.Cancelled()) return false;
   if (!roster.refusal.empty()) {
     ShowMessage(PathForDisplay(ImportFile) + " " + roster.refusal + ".", BoxIcon::kCritical);
     return false;

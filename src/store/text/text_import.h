@@ -17,6 +17,7 @@ struct GivenId {
 
 struct ImportOutcome {
   int error = 0;               // 6 when the class can take no more; those that it took stay
+  bool cancelled = false;      // by the teacher: none was added
   std::vector<GivenId> given;  // in the order of the file
 };
 

@@ -62,6 +62,24 @@ TEST_F(PreviewKeysTest, APageIsADocumentAmongToolsThatHaveNames) {
   EXPECT_EQ(faults.join(u'\n').toStdString(), "");
 }
 
+TEST_F(PreviewKeysTest, ControlFFindsAStudentWhereverTheFocusIs) {
+  Open(19, 160);
+  for (const char* name : {"one", "size", "pagenum", "picture1"}) {
+    screen.ExpectPortal("frmfind", [](PortalDriver& find) {
+      find.Type("typed", "last260");
+      find.Press("go");
+    });
+    Find(name).setFocus();
+    Press(Qt::Key_F, Qt::ControlModifier);
+    EXPECT_EQ(portal.pagenum.ListIndex, Job.PageCount - 1) << name;
+    EXPECT_EQ(static_cast<QComboBox&>(Find("pagenum")).currentIndex(), Job.PageCount - 1) << name;
+    Find("three").setFocus();
+    Press(Qt::Key_F, Qt::AltModifier);  // back to the first page
+    QTest::qWait(150);
+    EXPECT_EQ(portal.pagenum.ListIndex, 0) << name;
+  }
+}
+
 TEST_F(PreviewKeysTest, ControlWithPlusAndMinusZooms) {
   Open(19, 3);
   Press(Qt::Key_Plus, Qt::ControlModifier);
