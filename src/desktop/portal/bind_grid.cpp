@@ -41,7 +41,7 @@ class GridBinding : public Binding<Grid, GridWidget> {
     const int widest = widget_.fontMetrics().averageCharWidth() * kWholeUpTo;
     widget_.setMinimumWidth(std::min(whole, widest));
     // Beyond its last column a sheet ends.
-    if (control_.Cols() > 0)
+    if (control_.Cols() > 0 && !widget_.LastColumnFills())
       widget_.setMaximumWidth(std::max(widget_.WholeWidth(), widget_.minimumWidth()));
   }
 
