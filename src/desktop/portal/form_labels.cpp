@@ -15,7 +15,8 @@ constexpr int kLeastLettersShown = 12;
 }  // namespace
 
 ElidedLabel::ElidedLabel(QWidget* parent) : QLabel(parent) {
-  setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+  // It keeps the distances of a label.
+  setSizePolicy({QSizePolicy::Ignored, QSizePolicy::Preferred, QSizePolicy::Label});
   setTextFormat(Qt::PlainText);
 }
 

@@ -5,6 +5,7 @@
 #include <QBoxLayout>
 #include <QDialog>
 #include <algorithm>
+#include <utility>
 
 #include "desktop/basics/window_places.h"
 
@@ -13,6 +14,18 @@ namespace {
 
 // What of the body is always seen.
 constexpr QSize kLeast(320, 120);
+
+// A wrapped text is as high as its width makes it. The toolkit would then ask for what everything
+// else would like, and scroll beside sheets and lists that can do with less.
+class Body : public QWidget {
+ public:
+  using QWidget::QWidget;
+
+  int heightForWidth(int width) const override {
+    const QLayout* rows = layout();
+    return rows && rows->hasHeightForWidth() ? rows->minimumHeightForWidth(width) : -1;
+  }
+};
 
 bool IsFoot(const QLayoutItem& item) {
   const QLayout* row = const_cast<QLayoutItem&>(item).layout();
@@ -44,7 +57,7 @@ ScrollingBody::ScrollingBody(QDialog& dialog) : QScrollArea(&dialog) {
   setFocusPolicy(Qt::NoFocus);
   setWidgetResizable(true);
   // Within the dialog from the start, so that Tab goes on in its order.
-  auto* body = new QWidget(viewport());
+  auto* body = new Body(viewport());
   setWidget(body);
   body->setLayout(whole);
   whole->setContentsMargins(0, 0, 0, 0);
@@ -69,18 +82,29 @@ void ScrollingBody::BringIntoSight(QWidget* focused) {
   if (QApplication::mouseButtons() == Qt::NoButton) ensureWidgetVisible(focused);
 }
 
-void TakeRoom(QDialog& dialog, const ScrollingBody* body) {
+void TakeRoom(QDialog& dialog, ScrollingBody* body, QSize& taken) {
   if (!dialog.layout()) return;  // of a form that could not be read
+  // What was shown or hidden just now counts, however deep it stands.
+  QCoreApplication::sendPostedEvents(nullptr, QEvent::LayoutRequest);
+  // What is in the body does not tell the layout around it.
+  if (body) body->updateGeometry();
   const QLayout& layout = *dialog.layout();
   QSize least = layout.totalMinimumSize();
   if (body) {
     const QSize whole = body->widget()->minimumSizeHint();
     const QMargins margins = layout.contentsMargins();
-    least.setWidth(std::max(least.width(), whole.width() + margins.left() + margins.right()));
-    least.rheight() += whole.height() - body->minimumSizeHint().height();
+    const int beside = margins.left() + margins.right();
+    least.setWidth(std::max(least.width(), whole.width() + beside));
+    const int width = std::max(least.width(), dialog.width()) - beside;
+    const int height = std::max(whole.height(), body->widget()->heightForWidth(width));
+    least.rheight() += height - body->minimumSizeHint().height();
   }
-  dialog.resize(least.expandedTo(dialog.size()));
+  const QSize before = std::exchange(taken, taken.expandedTo(least));
+  if (taken == before || dialog.isMaximized() || dialog.isFullScreen()) return;
+  const QSize before_growing = dialog.size();
+  dialog.resize(least.expandedTo(before_growing));
   KeepOnScreen(dialog);
+  if (dialog.isVisible()) dialog.resize(dialog.size().expandedTo(before_growing));
 }
 
 }  // namespace tallyroll

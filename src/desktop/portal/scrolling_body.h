@@ -26,7 +26,8 @@ class ScrollingBody : public QScrollArea {
 };
 
 // Makes the form large enough that its body (null: it has none) need not scroll, where the screen
-// has room for that.
-void TakeRoom(QDialog& dialog, const ScrollingBody* body);
+// has room for that. `taken` is what it wanted at most until now: only what shows anew makes it
+// larger, so that a window which the user made small stays small.
+void TakeRoom(QDialog& dialog, ScrollingBody* body, QSize& taken);
 
 }  // namespace tallyroll
