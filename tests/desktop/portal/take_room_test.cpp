@@ -2,11 +2,14 @@
 // A window is as large as what it shows needs, and grows when a press shows more.
 #include <QAbstractButton>
 #include <QLineEdit>
+#include <QListWidget>
 #include <QRadioButton>
 #include <QScrollArea>
 #include <QScrollBar>
+#include <QStackedWidget>
 
 #include "attendance/frmAtsum.h"
+#include "seating/frmseating.h"
 #include "shell/frmclassinfo.h"
 #include "store/text/frmtxt.h"
 #include "tests/desktop/class_dialogs.h"
@@ -39,6 +42,7 @@ class TakeRoomTest : public ClassDialogs {
   frmAtsum summary;
   frmclassinfo information;
   frmtxt text;
+  frmseating seating;
 };
 
 TEST_F(TakeRoomTest, WrappedWordsBesideASheetMakeNothingScroll) {
@@ -76,6 +80,19 @@ TEST_F(TakeRoomTest, AWindowMadeSmallStaysSmallWhileNothingNewIsShown) {
   Press("Hand");
   EXPECT_TRUE(Find<QLineEdit>("Title").isVisible());
   EXPECT_EQ(dialog->size(), small);
+}
+
+TEST_F(TakeRoomTest, ListsBesideOneAnotherBeginAtOneHeightHoweverLongTheirWordsAre) {
+  Open(seating);
+  dialog->focusWidget()->clearFocus();
+  Find<QStackedWidget>("step").setCurrentIndex(1);
+  dialog->resize(700, 500);
+  QCoreApplication::processEvents();
+  const auto& left = Find<QListWidget>("column");
+  const auto& right = Find<QListWidget>("seatsrow");
+  EXPECT_EQ(left.mapTo(dialog.get(), QPoint(0, 0)).y(),
+            right.mapTo(dialog.get(), QPoint(0, 0)).y());
+  EXPECT_EQ(left.height(), right.height());
 }
 
 TEST_F(TakeRoomTest, BothDatesOfATermStandInOneRow) {
