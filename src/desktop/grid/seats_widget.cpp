@@ -15,7 +15,7 @@ namespace {
 constexpr int kGap = 3;     // pixels round a seat
 constexpr int kMargin = 4;  // from the edge of a card to its text
 constexpr int kRadius = 6;
-constexpr int kRing = 2;
+constexpr int kSeatRing = 2;
 constexpr int kPadding = 4;        // above and below the words of the head
 constexpr double kSmallest = 0.6;  // of the font, before a text is cut
 
@@ -95,7 +95,7 @@ void SeatsWidget::PaintSeat(QPainter& painter, int row, int col) const {
   const Tokens t = TokensOf(palette());
   painter.setBrush(lifted ? t.selection : taken ? t.surface : t.window);
   QPen pen(t.border, 1, taken && !lifted ? Qt::SolidLine : Qt::DashLine);
-  if (current) pen = QPen(hasFocus() ? t.focus : t.border, kRing);
+  if (current) pen = QPen(hasFocus() ? t.focus : t.border, kSeatRing);
   painter.setPen(pen);
   const double inset = pen.widthF() / 2;
   painter.drawRoundedRect(QRectF(seat).adjusted(inset, inset, -inset, -inset), kRadius, kRadius);

@@ -100,6 +100,10 @@ class Pictures : public EveryWindow {
 
   void Further(const std::string& name, const QString& look) {
     if (name == "frmcompare") return Compare(look);
+    if (name == "frmAtsum") {
+      Click("Summary");
+      Keep(*dialog, look, QStringLiteral("frmAtsum-range"));
+    }
     for (const char* list : {"lstName", "lsttitles", "list1", "List1"}) {
       auto* found = dialog->findChild<QListWidget*>(QString::fromLatin1(list));
       if (!found || !found->isVisible() || found->count() == 0 || found->currentRow() >= 0)
