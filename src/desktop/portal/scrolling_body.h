@@ -25,6 +25,10 @@ class ScrollingBody : public QScrollArea {
   explicit ScrollingBody(QDialog& dialog);
 };
 
+// How large the form must be that its body (null: it has none) need not scroll, nor a sheet in it
+// that lacks but little.
+QSize RoomWanted(const QDialog& dialog, ScrollingBody* body);
+
 // Makes the form large enough that its body (null: it has none) need not scroll, where the screen
 // has room for that. `taken` is what it wanted at most until now: only what shows anew makes it
 // larger, so that a window which the user made small stays small.

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // A window is as large as what it shows needs, and grows when a press shows more.
 #include <QAbstractButton>
+#include <QLayout>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QRadioButton>
@@ -9,6 +10,7 @@
 #include <QStackedWidget>
 
 #include "attendance/frmAtsum.h"
+#include "desktop/portal/scrolling_body.h"
 #include "seating/frmseating.h"
 #include "shell/frmclassinfo.h"
 #include "store/text/frmtxt.h"
@@ -52,6 +54,16 @@ TEST_F(TakeRoomTest, WrappedWordsBesideASheetMakeNothingScroll) {
   EXPECT_EQ(Hidden(), QSize(0, 0));
   Press("Summary");
   EXPECT_EQ(Hidden(), QSize(0, 0)) << "the sheet of a range is wider";
+}
+
+TEST_F(TakeRoomTest, ASheetThatLacksLittleIsWantedWhole) {
+  Open(summary);
+  Press("Summary");
+  auto* body = dialog->findChild<ScrollingBody*>();
+  const int left = grid().mapTo(dialog.get(), QPoint(0, 0)).x();
+  const int margin = dialog->layout()->contentsMargins().right();
+  EXPECT_GT(grid().WholeWidth(), grid().minimumWidth()) << "otherwise this shows nothing";
+  EXPECT_GE(RoomWanted(*dialog, body).width(), left + grid().WholeWidth() + margin);
 }
 
 TEST_F(TakeRoomTest, ASheetStandsBesideWhatActsOnItInFullHeight) {
