@@ -63,7 +63,11 @@ TEST_F(TakeRoomTest, ASheetThatLacksLittleIsWantedWhole) {
   const int left = grid().mapTo(dialog.get(), QPoint(0, 0)).x();
   const int margin = dialog->layout()->contentsMargins().right();
   EXPECT_GT(grid().WholeWidth(), grid().minimumWidth()) << "otherwise this shows nothing";
-  EXPECT_GE(RoomWanted(*dialog, body).width(), left + grid().WholeWidth() + margin);
+  const int wanted = left + grid().WholeWidth() + margin;
+  EXPECT_GE(RoomWanted(*dialog, body).width(), wanted);
+  dialog->resize(wanted, 560);
+  QCoreApplication::processEvents();
+  EXPECT_EQ(grid().width(), grid().WholeWidth());
 }
 
 TEST_F(TakeRoomTest, ASheetStandsBesideWhatActsOnItInFullHeight) {
