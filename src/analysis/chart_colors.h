@@ -1,8 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The colours of charts, one set for light ground and one for dark.
+// The colours and the type of charts, one set for light ground and one for dark.
 #pragma once
 
 #include <array>
+#include <string_view>
 
 #include "platform/print_target.h"
 
@@ -19,6 +20,7 @@ struct ChartColors {
   PrintColor thin;  // the thin line and the dots
   std::array<PrintColor, kChartSets> sets;
   std::array<PrintColor, kChartSlices> slices;
+  std::string_view font = "Arial";  // of all words
 };
 
 // The first is that of paper.

@@ -6,7 +6,6 @@
 namespace tallyroll {
 namespace {
 
-constexpr std::string_view kChartFont = "Arial";
 constexpr std::string_view kPoints = "\x85";  // three points in one character
 constexpr double kLargest = 10, kSmallest = 6;
 constexpr double kTwipsOfAPoint = 680;  // of the frame, for each point of the font
@@ -72,7 +71,7 @@ ChartPainter::ChartPainter(const Chart& chart, PrintTarget& target, const ChartF
       y_before_(target.CurrentY),
       bold_before_(target.FontBold),
       color_before_(target.ForeColor) {
-  target_.FontName = kChartFont;
+  target_.FontName = colors.font;
   target_.FontBold = false;
   Fill(Rectangle(frame.left, frame.top, frame.left + frame.width, frame.top + frame.height),
        colors.ground);

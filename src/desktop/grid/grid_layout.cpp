@@ -73,6 +73,13 @@ GridAxis GridAxis::WithLeast(int index, int size) const {
   return SizeOf(index) == 0 || SizeOf(index) >= size ? *this : With(index, size);
 }
 
+GridAxis GridAxis::Filling(int extent) const {
+  int last = Count() - 1;
+  while (last >= 0 && SizeOf(last) == 0) --last;
+  if (last < 0 || TotalSize() >= extent) return *this;
+  return With(last, SizeOf(last) + extent - TotalSize());
+}
+
 int PixelsOfTwips(int twips, int logical_dpi, double font_points) {
   return static_cast<int>(
       std::lround(twips * (logical_dpi * font_points) / (kTwipsToTheInch * kDesignPoints)));

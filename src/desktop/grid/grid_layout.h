@@ -43,6 +43,8 @@ class GridAxis {
   // The same with one of another size; with one that is at least so large, unless it is hidden.
   GridAxis With(int index, int size) const;
   GridAxis WithLeast(int index, int size) const;
+  // The same with the last one that shows so large that all fill `extent`.
+  GridAxis Filling(int extent) const;
   // The next one in a direction that is neither fixed nor hidden; `from` when there is none.
   int Next(int from, int step) const;
 

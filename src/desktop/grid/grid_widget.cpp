@@ -105,6 +105,9 @@ bool GridWidget::Measure() {
   }
   natural_width_ = columns.TotalSize();
   columns = WidenedForTexts(*grid_, columns, fonts_, viewport()->width(), set);
+  // A width that the user gave stays.
+  if (last_column_fills_ && std::find(set.begin(), set.end(), true) == set.end())
+    columns = columns.Filling(viewport()->width());
   measured_ = grid_->Revision();
   const bool same = rows == rows_ && columns == columns_;
   rows_ = std::move(rows);

@@ -14,6 +14,8 @@ namespace tallyroll {
 
 class GridWidget : public QAbstractScrollArea {
   Q_OBJECT
+  // Whether the last column takes the room that the others leave, as in a table of words.
+  Q_PROPERTY(bool lastColumnFills READ LastColumnFills WRITE SetLastColumnFills)
 
  public:
   explicit GridWidget(QWidget* parent = nullptr);
@@ -28,6 +30,8 @@ class GridWidget : public QAbstractScrollArea {
 
   // Under this name its widths and its size are kept between runs.
   void Keep(const QString& name);
+  bool LastColumnFills() const { return last_column_fills_; }
+  void SetLastColumnFills(bool on) { last_column_fills_ = on; }
   // In one sentence, what will stand here; shown while the grid has no row behind its heads.
   void SetEmptyText(const QString& text);
   // The same whatever the grid holds; empty for nothing.
@@ -147,6 +151,7 @@ class GridWidget : public QAbstractScrollArea {
   Cell hover_;                       // what it rests on
   std::vector<std::size_t> prints_;  // of the cells in view, as they are painted
   bool enter_double_clicks_ = true;
+  bool last_column_fills_ = false;
   bool setting_bars_ = false;
   bool moving_ = false;        // by what the user did, not by the logic
   bool pressed_here_ = false;  // a first press, which a double click needs

@@ -7,13 +7,15 @@
 #include <cmath>
 
 #include "desktop/basics/text_conversion.h"
+#include "desktop/style/tokens.h"
 
 namespace tallyroll {
 namespace {
 
 constexpr int kGap = 3;     // pixels round a seat
 constexpr int kMargin = 4;  // from the edge of a card to its text
-constexpr int kRadius = 5;
+constexpr int kRadius = 6;
+constexpr int kSeatRing = 2;
 constexpr int kPadding = 4;        // above and below the words of the head
 constexpr double kSmallest = 0.6;  // of the font, before a text is cut
 
@@ -24,12 +26,6 @@ QFont Narrower(QFont font, int width, int room) {
   const double fitting = std::floor(points * room / width * 2) / 2;
   font.setPointSizeF(std::max(fitting, points * kSmallest));
   return font;
-}
-
-QColor Mixed(const QColor& one, const QColor& other, double share) {
-  const auto mix = [share](int a, int b) { return static_cast<int>(a + (b - a) * share); };
-  return {mix(one.red(), other.red()), mix(one.green(), other.green()),
-          mix(one.blue(), other.blue())};
 }
 
 }  // namespace
@@ -48,10 +44,15 @@ class SeatsWidget::Head : public QWidget {
     QPainter painter(this);
     const int half = height() / 2;
     const QRect board(0, 0, width(), half - kPadding);
-    painter.fillRect(board, palette().color(QPalette::WindowText));
-    painter.setPen(palette().color(QPalette::Window));
+    const Tokens t = TokensOf(palette());
+    painter.fillRect(rect(), t.window);
+    painter.fillRect(board, t.header);
+    painter.fillRect(board.left(), board.bottom(), board.width(), 1, t.strong_line);
+    painter.setFont(FontFor(font(), TextUse::kHeading));
+    painter.setPen(t.text);
     painter.drawText(board, Qt::AlignCenter, QStringLiteral("Front of the room"));
-    painter.setPen(palette().color(QPalette::WindowText));
+    painter.setFont(FontFor(font(), TextUse::kSmall));
+    painter.setPen(t.muted);
     for (int col = 0; col < grid->Cols(); ++col) {
       const QRect cell = seats_.CellRect(std::max(grid->TopRow, 0), col);
       if (cell.isEmpty()) continue;
@@ -77,7 +78,7 @@ void SeatsWidget::resizeEvent(QResizeEvent* event) {
 
 void SeatsWidget::paintEvent(QPaintEvent* event) {
   QPainter painter(viewport());
-  painter.fillRect(event->rect(), palette().color(QPalette::Window));
+  painter.fillRect(event->rect(), TokensOf(palette()).window);
   painter.setRenderHint(QPainter::Antialiasing);
   if (!grid()) return;
   painter.setPen(palette().color(QPalette::PlaceholderText));
@@ -93,13 +94,13 @@ void SeatsWidget::PaintSeat(QPainter& painter, int row, int col) const {
   const bool taken = !grid()->TextMatrix(row, col).empty();
   const bool lifted = grid()->Style(row, col) == CellStyle::kInWork;
   const bool current = row == grid()->Row && col == grid()->Col;
-  const QColor ground = palette().color(taken ? QPalette::Base : QPalette::Window);
-  const QColor ink = palette().color(QPalette::Text);
-  painter.setBrush(lifted ? Mixed(ground, palette().color(QPalette::Highlight), 0.3) : ground);
-  QPen pen(Mixed(ground, ink, 0.55), 1, taken && !lifted ? Qt::SolidLine : Qt::DashLine);
-  if (current) pen = QPen(palette().color(hasFocus() ? QPalette::Highlight : QPalette::Mid), 3);
+  const Tokens t = TokensOf(palette());
+  painter.setBrush(lifted ? t.selection : taken ? t.surface : t.window);
+  QPen pen(t.border, 1, taken && !lifted ? Qt::SolidLine : Qt::DashLine);
+  if (current) pen = QPen(hasFocus() ? t.focus : t.border, kSeatRing);
   painter.setPen(pen);
-  painter.drawRoundedRect(QRectF(seat).adjusted(0.5, 0.5, -0.5, -0.5), kRadius, kRadius);
+  const double inset = pen.widthF() / 2;
+  painter.drawRoundedRect(QRectF(seat).adjusted(inset, inset, -inset, -inset), kRadius, kRadius);
   if (taken) PaintCard(painter, seat.adjusted(kMargin, kMargin, -kMargin, -kMargin), row, col);
 }
 
@@ -110,8 +111,7 @@ void SeatsWidget::PaintCard(QPainter& painter, const QRect& card, int row, int c
   const auto comma = label.indexOf(QLatin1String(", "));
   const QString above = comma < 0 ? label : label.left(comma + 1);
   const QString below = comma < 0 ? QString() : label.mid(comma + 2);
-  QFont bold = font();
-  bold.setBold(true);
+  const QFont bold = FontFor(font(), TextUse::kHeading);
   const int line = card.height() / 3;
   const auto write = [&](const QFont& with, const QString& text, int place) {
     if (text.isEmpty()) return;
@@ -125,10 +125,11 @@ void SeatsWidget::PaintCard(QPainter& painter, const QRect& card, int row, int c
     painter.drawText(QRect(card.left(), card.top() + place * line, card.width(), line),
                      Qt::AlignCenter, shown);
   };
-  painter.setPen(palette().color(QPalette::Text));
+  const Tokens t = TokensOf(palette());
+  painter.setPen(t.text);
   write(bold, above, 0);
   write(font(), below, 1);
-  painter.setPen(Mixed(palette().color(QPalette::Base), palette().color(QPalette::Text), 0.75));
+  painter.setPen(t.muted);
   write(font(), small, 2);
 }
 

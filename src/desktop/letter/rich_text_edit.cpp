@@ -2,10 +2,12 @@
 #include "desktop/letter/rich_text_edit.h"
 
 #include <QAbstractTextDocumentLayout>
+#include <QApplication>
 #include <QContextMenuEvent>
 #include <QKeyEvent>
 #include <QMenu>
 #include <QMimeData>
+#include <QPainter>
 #include <QScrollBar>
 #include <QTextDocument>
 #include <QTextDocumentFragment>
@@ -14,6 +16,7 @@
 
 #include "desktop/letter/rich_document.h"
 #include "desktop/letter/spelling_marks.h"
+#include "desktop/style/tokens.h"
 #include "letters/text/rtf_reader.h"
 #include "letters/text/rtf_writer.h"
 
@@ -128,6 +131,24 @@ void RichTextEdit::keyPressEvent(QKeyEvent* event) {
   cursor.joinPreviousEditBlock();
   cursor.setBlockFormat(format);
   cursor.endEditBlock();
+}
+
+bool RichTextEdit::event(QEvent* event) {
+  const bool done = QTextEdit::event(event);
+  if (event->type() == QEvent::Paint && paper_ > 0) PaintDesk();
+  return done;
+}
+
+// What the sheet lies on shows beside it.
+void RichTextEdit::PaintDesk() {
+  const int edge = frameWidth();
+  const QRect inside = rect().adjusted(edge, edge, -edge, -edge);
+  QRegion desk(inside);
+  desk -= viewport()->geometry();
+  if (verticalScrollBar()->isVisible()) desk -= verticalScrollBar()->parentWidget()->geometry();
+  QPainter painter(this);
+  painter.setClipRegion(desk);
+  painter.fillRect(inside, TokensOf(QApplication::palette()).desk);
 }
 
 void RichTextEdit::resizeEvent(QResizeEvent* event) {

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "desktop/platform/message_box.h"
 
+#include <QApplication>
 #include <QCloseEvent>
 #include <QGridLayout>
 #include <QKeyEvent>
@@ -8,6 +9,7 @@
 #include <QMessageBox>
 
 #include "desktop/basics/text_conversion.h"
+#include "desktop/style/program_style.h"
 
 namespace tallyroll {
 namespace {
@@ -56,6 +58,12 @@ BoxAnswer AnswerOf(int button) {
   }
 }
 
+constexpr double kWidestLine = 380;
+
+QLabel* WordsOf(const QMessageBox& box) {
+  return box.findChild<QLabel*>(QStringLiteral("qt_msgbox_label"));
+}
+
 // Yes and No alone leave no way out but a choice: the toolkit would take Escape for No, and No may
 // throw work away.
 class DecisionBox : public QMessageBox {
@@ -64,6 +72,15 @@ class DecisionBox : public QMessageBox {
   bool must_choose = false;
 
  protected:
+  // The toolkit sets the size at each change, with lines as long as it likes. Here it is set once.
+  bool event(QEvent* event) override {
+    const bool again = narrow_ && event->type() == QEvent::LayoutRequest;
+    return again ? QDialog::event(event) : QMessageBox::event(event);
+  }
+  void showEvent(QShowEvent* event) override {
+    QMessageBox::showEvent(event);
+    SetLines();
+  }
   void keyPressEvent(QKeyEvent* event) override {
     if (!must_choose || event->key() != Qt::Key_Escape) QMessageBox::keyPressEvent(event);
   }
@@ -73,13 +90,33 @@ class DecisionBox : public QMessageBox {
     else
       QMessageBox::closeEvent(event);
   }
+
+ private:
+  // A long line is hard to read: a text that is wider wraps.
+  void SetLines() {
+    QLabel* words = WordsOf(*this);
+    const auto* style = qobject_cast<const ProgramStyle*>(QApplication::style());
+    if (narrow_ || !words || !style) return;
+    words->setWordWrap(false);
+    const int widest = style->measures().Px(kWidestLine);
+    const bool long_text = words->sizeHint().width() > widest;
+    words->setWordWrap(long_text);
+    if (!long_text) return;
+    narrow_ = true;
+    words->setFixedWidth(widest);
+    layout()->activate();
+    const int wide = layout()->totalMinimumSize().width();
+    setFixedSize(wide, layout()->totalHeightForWidth(wide));
+  }
+
+  bool narrow_ = false;
 };
 
 // Words beside their sign, and wide enough that the title above them can be read.
 void SetOut(QMessageBox& box) {
   constexpr int kLeastLetters = 32;
   auto* rows = qobject_cast<QGridLayout*>(box.layout());
-  auto* words = box.findChild<QLabel*>(QStringLiteral("qt_msgbox_label"));
+  QLabel* words = WordsOf(box);
   if (!rows || !words) return;
   rows->setHorizontalSpacing(words->fontMetrics().averageCharWidth());
   // A longer text has its width from the box, which may wrap it.

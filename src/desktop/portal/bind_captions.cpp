@@ -31,6 +31,9 @@ class LabelBinding : public Binding<Label, QLabel> {
     else
       widget_.setText(text);
   }
+  bool TakesRoom() const override {
+    return !control_.Caption.empty() || !widget_.property("hideWhileEmpty").toBool();
+  }
 };
 
 class GroupBinding : public Binding<Frame, QGroupBox> {

@@ -2,6 +2,7 @@
 // Charts: the widget reads the chart in place, as a grid is read.
 #include "desktop/portal/chart_widget.h"
 #include "desktop/portal/control_binding.h"
+#include "desktop/portal/empty_texts.h"
 
 namespace tallyroll {
 namespace {
@@ -10,6 +11,7 @@ class ChartBinding : public Binding<Graph, ChartWidget> {
  public:
   ChartBinding(Graph& control, ControlRow& row, ChartWidget& widget, BindingOwner& owner)
       : Binding(control, row, widget, owner) {
+    widget.SetEmptyText(EmptyTextOf(widget.window()->objectName(), widget.objectName()));
     QObject::connect(&widget, &ChartWidget::spotClicked, this,
                      [this] { UserDid({&ControlRow::click}); });
     QObject::connect(&widget, &ChartWidget::spotDoubleClicked, this,

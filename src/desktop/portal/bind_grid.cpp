@@ -42,7 +42,7 @@ class GridBinding : public Binding<Grid, GridWidget> {
     const int least = form_least_ > 0 ? std::min(form_least_, widest) : widest;
     widget_.setMinimumWidth(widget_.WholeWidth() <= widest ? whole : least);
     // Beyond its last column a sheet ends.
-    if (control_.Cols() > 0)
+    if (control_.Cols() > 0 && !widget_.LastColumnFills())
       widget_.setMaximumWidth(std::max(widget_.WholeWidth(), widget_.minimumWidth()));
   }
 

@@ -64,11 +64,16 @@ void ChartWidget::ShowChart(const Chart* chart, unsigned revision) {
   stale_ = true;
   current_ = -1;
   spots_.clear();
-  setAccessibleDescription(chart ? FromText(chart->title) : QString());
+  setAccessibleDescription(IsEmpty() ? empty_text_ : FromText(chart->title));
   update();
 }
 
-// On the sheet of every other table, in the colours of its words and lines.
+void ChartWidget::SetEmptyText(const QString& text) {
+  empty_text_ = text;
+}
+
+// On the sheet of every other table, in the colours and the type of its words and lines; a set that
+// needs not be told from others in the one ink of the screen.
 ChartColors ChartWidget::Colors() const {
   const Tokens t = TokensOf(palette());
   ChartColors colors = t.dark ? kDarkChart : kLightChart;
@@ -77,6 +82,8 @@ ChartColors ChartWidget::Colors() const {
   colors.text = rgb(t.text);
   colors.grid = rgb(t.line);
   colors.thin = rgb(t.muted);
+  if (chart_ && chart_->sets.size() == 1) colors.sets.front() = rgb(t.focus);
+  colors.font = font_;
   return colors;
 }
 
@@ -88,6 +95,7 @@ void ChartWidget::DrawIfChanged() {
   const QSize pixels = size() * devicePixelRatioF();
   if (!stale_ && picture_.size() == pixels) return;
   stale_ = false;
+  font_ = ToText(font().family()).value_or("Arial");
   picture_ = QPixmap(pixels);
   picture_.setDevicePixelRatio(devicePixelRatioF());
   picture_.fill(QColor(Colors().ground));
@@ -122,9 +130,13 @@ void ChartWidget::paintEvent(QPaintEvent* /*event*/) {
   DrawIfChanged();
   QPainter painter(this);
   painter.drawPixmap(0, 0, picture_);
+  if (IsEmpty()) {
+    painter.setPen(TokensOf(palette()).muted);
+    painter.drawText(rect(), Qt::AlignCenter | Qt::TextWordWrap, empty_text_);
+  }
   if (hasFocus()) {
-    painter.setPen(palette().color(QPalette::Highlight));
-    painter.drawRect(rect().adjusted(0, 0, -1, -1));
+    painter.setPen(QPen(TokensOf(palette()).focus, 2));
+    painter.drawRect(rect().adjusted(1, 1, -1, -1));
   }
   if (const ChartSpot* spot = CurrentSpot()) {
     ScaleToTwips(painter, *this);
@@ -153,7 +165,8 @@ void ChartWidget::GoTo(int spot, bool tell_beside) {
 }
 
 bool ChartWidget::event(QEvent* event) {
-  if (event->type() == QEvent::PaletteChange || event->type() == QEvent::Resize) stale_ = true;
+  for (const auto change : {QEvent::PaletteChange, QEvent::FontChange, QEvent::Resize})
+    stale_ = stale_ || event->type() == change;
   return QWidget::event(event);
 }
 

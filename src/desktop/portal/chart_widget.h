@@ -5,6 +5,7 @@
 
 #include <QPixmap>
 #include <QWidget>
+#include <string>
 #include <vector>
 
 #include "analysis/chart_drawing.h"
@@ -20,6 +21,8 @@ class ChartWidget : public QWidget, public SpokenAs {
 
   // The chart is read in place and drawn anew when the revision has moved; null is no chart.
   void ShowChart(const Chart* chart, unsigned revision);
+  // In one sentence, what will stand here; shown while the chart has no point.
+  void SetEmptyText(const QString& text);
   // The spot that is told at the moment; null when none is.
   const ChartSpot* CurrentSpot() const;
   const std::vector<ChartSpot>& Spots();
@@ -48,6 +51,7 @@ class ChartWidget : public QWidget, public SpokenAs {
  private:
   ChartColors Colors() const;
   ChartFrame FrameInTwips() const;
+  bool IsEmpty() const { return !chart_ || chart_->Points() == 0; }
   void DrawIfChanged();
   int SpotAt(QPointF pixels) const;
   void GoTo(int spot, bool tell_beside);
@@ -61,6 +65,8 @@ class ChartWidget : public QWidget, public SpokenAs {
   QPixmap picture_;
   std::vector<ChartSpot> spots_;
   int current_ = -1;
+  QString empty_text_;
+  std::string font_;  // the screen's, by which the words of a chart are written
 };
 
 }  // namespace tallyroll

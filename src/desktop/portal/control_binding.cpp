@@ -52,7 +52,7 @@ void ControlBinding::Show() {
   // The control's own switch, not that of the frame around it.
   if (shown.testAttribute(Qt::WA_ForceDisabled) == control().Enabled)
     shown.setEnabled(control().Enabled);
-  ShowVisible(shown, control().Visible);
+  ShowVisible(shown, control().Visible && TakesRoom());
 }
 
 std::unique_ptr<ControlBinding> Bind(ControlRow& row, QObject& target, BindingOwner& owner) {

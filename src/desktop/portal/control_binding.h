@@ -53,6 +53,8 @@ class ControlBinding : public QObject {
 
  protected:
   virtual void ShowValue() {}
+  // Whether it takes room; what shows nothing may leave its own to others.
+  virtual bool TakesRoom() const { return true; }
   virtual const Control& control() const = 0;
   QObject& target() const { return *target_; }
 

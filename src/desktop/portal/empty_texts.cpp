@@ -95,6 +95,7 @@ constexpr std::array kEmptyTexts = {
     EmptyText{"frmsnapshots", "Grid1", "No snapshot is kept yet"},
     EmptyText{"frmsnapshots", "Grid2", "Nothing differs"},
     EmptyText{"frmstatistic", "lsttitles", kNoGrades},
+    EmptyText{"frmstatistic", "distribution", "Choose a title"},
     EmptyText{"frmstudents", "orglist", "All are chosen"},
     EmptyText{"frmstudents", "printlist", "Nobody is chosen yet"},
     EmptyText{"frmtotals", "grdgrade", kNoTypes},

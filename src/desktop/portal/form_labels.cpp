@@ -22,7 +22,8 @@ constexpr int kUsualTickLine = 34, kLeastTickLine = 18;
 }  // namespace
 
 ElidedLabel::ElidedLabel(QWidget* parent) : QLabel(parent) {
-  setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+  // It keeps the distances of a label.
+  setSizePolicy({QSizePolicy::Ignored, QSizePolicy::Preferred, QSizePolicy::Label});
   setTextFormat(Qt::PlainText);
 }
 

@@ -7,9 +7,11 @@
 #include <QApplication>
 #include <QCoreApplication>
 #include <QFile>
+#include <QFormLayout>
 #include <QLabel>
 #include <QLayout>
 #include <QToolButton>
+#include <algorithm>
 #include <utility>
 
 #include "desktop/basics/palette_icon.h"
@@ -26,6 +28,7 @@
 #include "desktop/portal/folding_text.h"
 #include "desktop/portal/form_labels.h"
 #include "desktop/portal/form_pictures.h"
+#include "desktop/portal/page_stack.h"
 #include "desktop/portal/telling_label.h"
 #include "desktop/portal/total_figure.h"
 #include "desktop/style/program_style.h"
@@ -53,6 +56,7 @@ QWidget* MakeOwnWidget(const QString& class_name, QWidget* parent) {
   if (class_name == QLatin1String("tallyroll::DateArrow")) return new DateArrow(parent);
   if (class_name == QLatin1String("tallyroll::ElidedLabel")) return new ElidedLabel(parent);
   if (class_name == QLatin1String("tallyroll::ListCount")) return new ListCount(parent);
+  if (class_name == QLatin1String("tallyroll::PageStack")) return new PageStack(parent);
   if (class_name == QLatin1String("tallyroll::MarginSheet")) return new MarginSheet(parent);
   if (class_name == QLatin1String("tallyroll::SideStrip")) return new SideStrip(parent);
   if (class_name == QLatin1String("QDateEdit")) return new DateField(parent);
@@ -65,12 +69,15 @@ bool IsOfClass(const QObject& object, const QString& class_name) {
   return class_name == QLatin1String(object.metaObject()->className());
 }
 
-// What a label's words are for, which the style draws them by; the picture of a tool; the button
-// that Enter presses while a page is shown; the field from which a list is walked.
+// What a label's words are for, which the style draws them by, and whether it stands there without
+// any; the word that a list shows as a chip; the picture of a tool; the button that Enter presses
+// while a page is shown; the field from which a list is walked.
 bool IsOwnProperty(const QObject& object, const QByteArray& property) {
   return (property == "mainAction" && object.isWidgetType()) ||
          (property == "textUse" && qobject_cast<const QLabel*>(&object)) ||
          (property == "toldIn" && qobject_cast<const QAbstractItemView*>(&object)) ||
+         (property == "chipWord" && qobject_cast<const QAbstractItemView*>(&object)) ||
+         (property == "hideWhileEmpty" && qobject_cast<const QLabel*>(&object)) ||
          (property == "iconName" && qobject_cast<const QToolButton*>(&object));
 }
 
@@ -91,6 +98,24 @@ void ScaleToFont(const QObjectList& objects, QDialog& dialog) {
   dialog.resize(scaled(dialog.width()), scaled(dialog.height()));
 }
 
+// The toolkit sets a label a little below the upper edge of its field, however high fields are:
+// each shall stand on the line of its field's words.
+void AlignFormLabels(const QObjectList& objects) {
+  const auto* style = qobject_cast<const ProgramStyle*>(QApplication::style());
+  if (!style) return;
+  for (QObject* object : objects) {
+    const auto* form = qobject_cast<const QFormLayout*>(object);
+    for (int row = 0; form && row < form->rowCount(); ++row) {
+      const QLayoutItem* label = form->itemAt(row, QFormLayout::LabelRole);
+      const QLayoutItem* field = form->itemAt(row, QFormLayout::FieldRole);
+      if (!label || !label->widget() || !field) continue;
+      const int height = field->sizeHint().height();
+      // A figure may be larger than a field; beside a box of many lines the label stays above.
+      if (2 * height <= 3 * style->measures().Control()) label->widget()->setMinimumHeight(height);
+    }
+  }
+}
+
 void DrawTools(const QObjectList& objects) {
   for (QObject* object : objects)
     if (auto* tool = qobject_cast<QToolButton*>(object))
@@ -102,7 +127,7 @@ void PrepareLabels(const QObjectList& objects) {
     auto* label = qobject_cast<QLabel*>(object);
     if (!label || !label->buddy()) continue;
     // Underlining a letter parts it from its neighbour: "Teacher" comes out wider than measured.
-    label->setMinimumWidth(label->sizeHint().width() + 3);
+    label->setMinimumWidth(std::max(label->minimumWidth(), label->sizeHint().width() + 3));
   }
 }
 
@@ -129,6 +154,7 @@ LoadedForm FormLoader::Load(const QString& file, QDialog& dialog) {
   ScaleToFont(form_.objects, dialog);
   PrepareLabels(form_.objects);
   NameParts(form_.objects);
+  AlignFormLabels(form_.objects);
   DrawTools(form_.objects);
   ComplainOfDynamicProperties();
   // A window takes no more room than what it will show.

@@ -5,6 +5,7 @@
 #include <QListWidget>
 #include <QPainter>
 #include <algorithm>
+#include <utility>
 
 #include "desktop/style/tokens.h"
 
@@ -22,30 +23,67 @@ int TextLeft(const QStyleOptionViewItem& line, const QStyle& style) {
   return box.right() - line.rect.left() + 2 * kMargin;
 }
 
-QFont CountFont() {
+QFont ChipFont() {
   return FontFor(QApplication::font(), TextUse::kChip);
 }
 
-// Of the number with its ground, 0 without one.
-int CountWidth(int count) {
-  if (count <= 0) return 0;
-  return QFontMetrics(CountFont()).horizontalAdvance(QString::number(count)) + 3 * kMargin;
+// With its ground.
+int ChipWidth(const QString& text) {
+  return QFontMetrics(ChipFont()).horizontalAdvance(text) + 3 * kMargin;
 }
 
-void PaintCount(QPainter& painter, const QStyleOptionViewItem& option, int count) {
-  const Tokens t = TokensOf(option.palette);
-  const int width = CountWidth(count), height = QFontMetrics(CountFont()).height() + 2;
-  const QRect chip(option.rect.right() - width - kMargin, option.rect.center().y() - height / 2 + 1,
-                   width, height);
+int CountWidth(int count) {
+  return count > 0 ? ChipWidth(QString::number(count)) : 0;
+}
+
+// In the middle of a line's height.
+void PaintChip(QPainter& painter, const QRect& line, int left, const QString& text,
+               const QColor& ground, const QColor& color) {
+  const int height = QFontMetrics(ChipFont()).height() + 2;
+  const QRect chip(left, line.center().y() - height / 2 + 1, ChipWidth(text), height);
   painter.save();
   painter.setRenderHint(QPainter::Antialiasing);
   painter.setPen(Qt::NoPen);
-  painter.setBrush(t.danger_soft);
+  painter.setBrush(ground);
   painter.drawRoundedRect(chip, kMargin, kMargin);
-  painter.setFont(CountFont());
-  painter.setPen(t.danger);
-  painter.drawText(chip, Qt::AlignCenter, QString::number(count));
+  painter.setFont(ChipFont());
+  painter.setPen(color);
+  painter.drawText(chip, Qt::AlignCenter, text);
   painter.restore();
+}
+
+void PaintCount(QPainter& painter, const QStyleOptionViewItem& option, int count) {
+  const Tokens t = TokensOf(QGuiApplication::palette());
+  PaintChip(painter, option.rect, option.rect.right() - CountWidth(count) - kMargin,
+            QString::number(count), t.danger_soft, t.danger);
+}
+
+// The word that a form wants as a chip where it ends a line of the list; empty on any other line.
+QString ChipWord(const QStyleOptionViewItem& line) {
+  const QString word = line.widget ? line.widget->property("chipWord").toString() : QString();
+  return !word.isEmpty() && line.text.endsWith(QLatin1Char(' ') + word) ? word : QString();
+}
+
+QColor WordsColor(const QStyleOptionViewItem& line) {
+  const bool selected = line.state & QStyle::State_Selected;
+  return line.palette.color(selected ? QPalette::HighlightedText : QPalette::Text);
+}
+
+void PaintWithChip(QPainter& painter, QStyleOptionViewItem line, const QString& word) {
+  const Tokens t = TokensOf(QGuiApplication::palette());
+  const QStyle& style = *line.widget->style();
+  const QString whole = std::exchange(line.text, QString());
+  style.drawControl(QStyle::CE_ItemViewItem, &line, &painter, line.widget);
+  const int left = line.rect.left() + TextLeft(line, style);
+  const int room = line.rect.right() - left - ChipWidth(word) - 2 * kMargin;
+  const QString words =
+      line.fontMetrics.elidedText(whole.chopped(word.size() + 1), Qt::ElideRight, room);
+  painter.setPen(WordsColor(line));
+  painter.setFont(line.font);
+  painter.drawText(line.rect.adjusted(left - line.rect.left(), 0, 0, 0),
+                   Qt::AlignVCenter | Qt::TextSingleLine, words);
+  const int behind = left + line.fontMetrics.horizontalAdvance(words) + 2 * kMargin;
+  PaintChip(painter, line.rect, behind, word, t.header, t.muted);
 }
 
 }  // namespace
@@ -74,15 +112,15 @@ void ListColumns::PaintWords(QPainter* painter, const QStyleOptionViewItem& opti
                              const QModelIndex& index) const {
   QStyleOptionViewItem line = option;
   initStyleOption(&line, index);
+  if (const QString word = ChipWord(line); !word.isEmpty())
+    return PaintWithChip(*painter, line, word);
   if (!line.text.contains(QLatin1Char('\t')))
     return QStyledItemDelegate::paint(painter, option, index);
   const QStringList parts = std::exchange(line.text, QString()).split(QLatin1Char('\t'));
   const QStyle& style = line.widget ? *line.widget->style() : *QApplication::style();
   style.drawControl(QStyle::CE_ItemViewItem, &line, painter, line.widget);
   const int left = TextLeft(line, style);
-  const bool selected = line.state & QStyle::State_Selected;
-  const auto role = selected ? QPalette::HighlightedText : QPalette::Text;
-  painter->setPen(line.palette.color(role));
+  painter->setPen(WordsColor(line));
   painter->setFont(line.font);
   for (int i = 0; i < parts.size(); ++i) {
     const QRect place = line.rect.adjusted(left + Start(i), 0, 0, 0);

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Paints the lines of a list whose columns are parted by tabs, each column as wide as its longest,
-// and the number that a line may have at its end.
+// the number that a line may have at its end, and the word that its form wants as a chip.
 #pragma once
 
 #include <QList>

@@ -55,7 +55,7 @@ PortalDialog::PortalDialog(Portal& portal, const QString& form_file, QWidget* pa
   for (const auto& binding : bindings_) binding->TakeCaption();
   body_ = ScrollingBody::Of(*this);
   ShowControls();
-  TakeRoom(*this, body_);
+  TakeRoom(*this, body_, room_);
   connect(qApp, &QApplication::focusChanged, this,
           [this](QWidget*, QWidget* now) { FocusMoved(now); });
 }
@@ -159,6 +159,8 @@ void PortalDialog::UserPressed(ControlBinding& binding, std::initializer_list<Ev
     return;
   }
   UserDid(binding, events);
+  // A press may show what was hidden; typing never makes the window larger.
+  if (isVisible()) TakeRoom(*this, body_, room_);
 }
 
 void PortalDialog::UserDropped(ControlBinding& binding, std::string_view source) {

@@ -77,6 +77,7 @@ class PortalDialog : public QDialog, private BindingOwner {
   std::vector<std::unique_ptr<ControlBinding>> bindings_;
   QStringList complaints_;
   ScrollingBody* body_ = nullptr;  // null in a form without a foot
+  QSize room_;                     // what it wanted at most until now
   ControlBinding* focused_ = nullptr;
   QWidget* swallow_press_of_ = nullptr;  // its press began with leaving a field that must be mended
   bool was_blocked_ = false;             // another window came up in front

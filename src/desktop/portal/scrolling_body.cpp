@@ -8,8 +8,10 @@
 #include <QScrollBar>
 #include <QStyle>
 #include <algorithm>
+#include <utility>
 
 #include "desktop/basics/window_places.h"
+#include "desktop/grid/grid_widget.h"
 
 namespace tallyroll {
 namespace {
@@ -34,6 +36,17 @@ bool IsFoot(const QLayoutItem& item) {
   const QWidget* pages = const_cast<QLayoutItem&>(item).widget();
   return (row && row->objectName() == QLatin1String("foot")) ||
          (pages && pages->objectName() == QLatin1String("actions"));
+}
+
+// What a sheet lacks to show its last columns, where it is little; it scrolls where it is much.
+int LackingOfSheets(const QDialog& dialog) {
+  int lacking = 0;
+  for (const auto* sheet : dialog.findChildren<GridWidget*>()) {
+    const int lacks = sheet->WholeWidth() - sheet->minimumWidth();
+    if (sheet->isVisibleTo(&dialog) && lacks <= sheet->WholeWidth() / 8)
+      lacking = std::max(lacking, lacks);
+  }
+  return lacking;
 }
 
 void Append(QBoxLayout& layout, QLayoutItem& item) {
@@ -123,19 +136,34 @@ void ScrollingBody::BringIntoSight(QWidget* focused) {
   if (QApplication::mouseButtons() == Qt::NoButton) ensureWidgetVisible(focused);
 }
 
-void TakeRoom(QDialog& dialog, const ScrollingBody* body) {
-  if (!dialog.layout()) return;  // of a form that could not be read
+QSize RoomWanted(const QDialog& dialog, ScrollingBody* body) {
+  // What was shown or hidden just now counts, however deep it stands.
+  QCoreApplication::sendPostedEvents(nullptr, QEvent::LayoutRequest);
+  // What is in the body does not tell the layout around it.
+  if (body) body->updateGeometry();
   const QLayout& layout = *dialog.layout();
   QSize least = layout.totalMinimumSize();
-  if (body) {
-    least.rwidth() += body->LacksBeside();
-    const QSize whole = body->widget()->minimumSizeHint();
-    const QMargins margins = layout.contentsMargins();
-    least.setWidth(std::max(least.width(), whole.width() + margins.left() + margins.right()));
-    least.rheight() += whole.height() - body->minimumSizeHint().height();
-  }
-  dialog.resize(least.expandedTo(dialog.size()));
+  if (!body) return least;
+  least.rwidth() += body->LacksBeside();
+  const QSize whole = body->widget()->minimumSizeHint();
+  const QMargins margins = layout.contentsMargins();
+  const int beside = margins.left() + margins.right();
+  least.setWidth(std::max(least.width(), whole.width() + beside + LackingOfSheets(dialog)));
+  const int width = std::max(least.width(), dialog.width()) - beside;
+  const int wrapped = body->IsPane() ? 0 : body->widget()->heightForWidth(width);
+  least.rheight() += std::max(whole.height(), wrapped) - body->minimumSizeHint().height();
+  return least;
+}
+
+void TakeRoom(QDialog& dialog, ScrollingBody* body, QSize& taken) {
+  if (!dialog.layout()) return;  // of a form that could not be read
+  const QSize least = RoomWanted(dialog, body);
+  const QSize before = std::exchange(taken, taken.expandedTo(least));
+  if (taken == before || dialog.isMaximized() || dialog.isFullScreen()) return;
+  const QSize before_growing = dialog.size();
+  dialog.resize(least.expandedTo(before_growing));
   KeepOnScreen(dialog);
+  if (dialog.isVisible()) dialog.resize(dialog.size().expandedTo(before_growing));
 }
 
 }  // namespace tallyroll

@@ -20,6 +20,8 @@ class ScrollingBody : public QScrollArea {
 
   QSize sizeHint() const override;
   QSize minimumSizeHint() const override;
+  // Whether it is one of two panes, and not the whole form above its foot.
+  bool IsPane() const { return panes_ != nullptr; }
   // What the form's least width lacks so that a pane need not scroll sideways.
   int LacksBeside() const;
   // What gets the focus otherwise than by a press is scrolled to.
@@ -33,8 +35,13 @@ class ScrollingBody : public QScrollArea {
   int bar_room_ = 0;              // kept free beside a pane, so that its bar covers nothing
 };
 
+// How large the form must be that its body (null: it has none) need not scroll, nor a sheet in it
+// that lacks but little.
+QSize RoomWanted(const QDialog& dialog, ScrollingBody* body);
+
 // Makes the form large enough that its body (null: it has none) need not scroll, where the screen
-// has room for that.
-void TakeRoom(QDialog& dialog, const ScrollingBody* body);
+// has room for that. `taken` is what it wanted at most until now: only what shows anew makes it
+// larger, so that a window which the user made small stays small.
+void TakeRoom(QDialog& dialog, ScrollingBody* body, QSize& taken);
 
 }  // namespace tallyroll

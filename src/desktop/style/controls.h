@@ -3,6 +3,7 @@
 // leaves that part to the toolkit.
 #pragma once
 
+#include <QGuiApplication>
 #include <QStyle>
 #include <QStyleOption>
 #include <optional>
@@ -20,7 +21,7 @@ struct StyleBrush {
              QPainter& painter, const QWidget* widget)
       : style(style),
         m(measures),
-        t(TokensOf(option.palette)),
+        t(TokensOf(QGuiApplication::palette())),
         painter(painter),
         widget(widget),
         enabled(option.state & QStyle::State_Enabled),

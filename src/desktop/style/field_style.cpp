@@ -40,7 +40,11 @@ bool IsDate(const QWidget* widget) {
 
 // A figure that is only shown, and a text that explains: a ground without a line.
 void DrawShown(const QStyleOption& option, StyleBrush& b) {
-  const bool explains = b.widget->property("textUse").toString() == QLatin1String("help");
+  const QString use = b.widget->property("textUse").toString();
+  // What a file would hold stands on the paper of one.
+  if (use == QLatin1String("sample"))
+    return DrawBox(b.painter, option.rect, b.m.Px(kFieldRadius), b.t.surface, b.t.line, 1);
+  const bool explains = use == QLatin1String("help");
   DrawBox(b.painter, option.rect, b.m.Px(explains ? kFieldRadius : kFrameRadius),
           explains ? b.t.accent_soft : b.t.total);
 }

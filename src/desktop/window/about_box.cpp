@@ -4,6 +4,8 @@
 
 #include <QMessageBox>
 
+#include "desktop/basics/palette_icon.h"
+
 namespace tallyroll {
 
 void ShowAboutBox(QWidget* parent) {
@@ -18,7 +20,7 @@ void ShowAboutBox(QWidget* parent) {
       "send it.</p>"
       "<p>Tallyroll is free software under the GNU General Public License, version 3 or any later "
       "version. It comes with no warranty.</p>"));
-  box.setIconPixmap(box.windowIcon().pixmap(64, 64));
+  box.setIconPixmap(PaletteIcon(QStringLiteral("tallyroll"), QPalette(Qt::white)).pixmap(64, 64));
   box.setStandardButtons(QMessageBox::Close);
   box.setDefaultButton(QMessageBox::Close);
   box.setEscapeButton(QMessageBox::Close);

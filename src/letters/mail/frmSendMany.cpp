@@ -19,7 +19,7 @@ constexpr int kManyTopic = 475;
 constexpr int kStateColumn = 4;
 constexpr int kLongestPause = 3600, kMostADay = 100'000;
 constexpr std::string_view kManyHeads[] = {"Student", "Address", "Subject", "Attachment", "State"};
-constexpr int kManyWidths[] = {2400, 3000, 1800, 2400, 4000};
+constexpr int kManyWidths[] = {2400, 3000, 1800, 2400, 3000};
 
 std::string Number(std::size_t count) {
   return PlainNumberText(static_cast<std::int64_t>(count));

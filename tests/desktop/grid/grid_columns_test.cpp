@@ -64,6 +64,23 @@ TEST_F(GridColumns, AWidthIsKeptWithItsHead) {
   later.SetGrid(nullptr);
 }
 
+TEST_F(GridColumns, TheLastColumnOfATableOfWordsReachesTheEdge) {
+  Grid words;
+  words.SetSize(3, 3);
+  GridWidget table;
+  table.SetLastColumnFills(true);
+  table.SetGrid(&words);
+  table.resize(700, 300);
+  table.show();
+  QCoreApplication::processEvents();
+  EXPECT_EQ(table.CellRect(0, 2).right() + 1, table.viewport()->width());
+  EXPECT_EQ(table.CellRect(0, 0).width(), table.CellRect(0, 1).width());
+  table.resize(500, 300);
+  QCoreApplication::processEvents();
+  EXPECT_EQ(table.CellRect(0, 2).right() + 1, table.viewport()->width());
+  table.SetGrid(nullptr);
+}
+
 TEST_F(GridColumns, TwoClicksOnABorderTakeTheWidthBack) {
   QSignalSpy twice(&widget, &GridWidget::cellDoubleClicked);
   const int before = WidthOf(3);

@@ -37,6 +37,15 @@ TEST(GridAxis, HiddenOnesAreNotInView) {
   EXPECT_EQ(seen, (std::vector<int>{0, 1, 3, 5, 6}));
 }
 
+TEST(GridAxis, TheLastThatShowsTakesTheRoomLeft) {
+  const GridAxis axis = Sample().Filling(200);  // 160 and 40 more
+  EXPECT_EQ(axis.SizeOf(6), 90);
+  EXPECT_EQ(axis.SizeOf(5), 40);
+  EXPECT_EQ(Sample().Filling(160), Sample());
+  EXPECT_EQ(Sample().Filling(100), Sample());
+  EXPECT_EQ(GridAxis({10, 20, 0}, 1).Filling(50).SizeOf(1), 40) << "the last one is hidden";
+}
+
 TEST(GridAxis, TheNextOneIsNeitherHiddenNorFixed) {
   const GridAxis axis = Sample();
   EXPECT_EQ(axis.Next(3, 1), 5);

@@ -10,6 +10,8 @@
 #include <QTimer>
 #include <string>
 
+#include "desktop/style/program_style.h"
+
 namespace tallyroll {
 namespace {
 
@@ -44,6 +46,15 @@ TEST(MessageBox, ShowsEveryTextWhole) {
     EXPECT_GE(seen.words.width(), seen.needed.width()) << text;
     EXPECT_GE(seen.words.height(), seen.needed.height()) << text;
   }
+}
+
+TEST(MessageBox, WrapsALineThatIsTooLongToReadWell) {
+  const auto* style = qobject_cast<const ProgramStyle*>(QApplication::style());
+  ASSERT_NE(style, nullptr);
+  const int widest = style->measures().Px(380);
+  const std::string words = "some words ";
+  EXPECT_LE(Look(words + words + words + words + words + words).words.width(), widest);
+  EXPECT_LT(Look("File Error: 61").words.width(), widest);
 }
 
 TEST(MessageBox, PutsTheWordsBesideTheirSign) {

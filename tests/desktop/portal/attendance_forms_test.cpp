@@ -4,7 +4,9 @@
 #include <QAction>
 #include <QComboBox>
 #include <QDateEdit>
+#include <QLabel>
 #include <QMenu>
+#include <QPushButton>
 #include <QScrollBar>
 
 #include "attendance/frmAtsum.h"
@@ -140,6 +142,26 @@ TEST_F(frmAttDialog, KeysGoToTheMonthAfterAndBack) {
   EXPECT_EQ(month.monthlabel.Caption, "September");
   QTest::keyClick(&grid(), Qt::Key_PageUp, Qt::ControlModifier);
   EXPECT_EQ(month.monthlabel.Caption, "September") << "the first month has none before";
+}
+
+TEST_F(frmAttDialog, TheMonthStandsBehindItsArrowsAsOneTitle) {
+  OpenState = 15;
+  Open(month);
+  const QRect arrow = Find<QPushButton>("Command2").geometry();
+  const QRect name = Find<QLabel>("monthlabel").geometry();
+  const QRect year = Find<QLabel>("endyear").geometry();
+  EXPECT_LT(arrow.right(), name.left());
+  EXPECT_LT(name.right(), year.left());
+  EXPECT_LE(year.left() - name.right(), name.height() / 2);
+}
+
+TEST_F(frmAttDialog, WhatIsNotToldTakesNoRoom) {
+  OpenState = 15;
+  Open(month);
+  EXPECT_TRUE(Find<QLabel>("status").isHidden());
+  month.status.Caption = "2 marks were lost.";
+  dialog->ShowControls();
+  EXPECT_TRUE(Find<QLabel>("status").isVisible());
 }
 
 TEST_F(frmAttDialog, TheViewHidesWhatChangesAnything) {

@@ -85,6 +85,24 @@ TEST_F(ChartWidgetTest, IsDrawnAnewWhenThePortalDraws) {
   EXPECT_EQ(widget().Spots().size(), 4u + 2u);
 }
 
+TEST_F(ChartWidgetTest, OneSetIsDrawnInTheInkOfTheScreen) {
+  const QPoint bar = widget().PlaceOf(widget().Spots().at(1));
+  const QImage picture = widget().grab().toImage();
+  EXPECT_EQ(picture.pixel(bar), TokensOf(widget().palette()).focus.rgb());
+}
+
+TEST_F(ChartWidgetTest, AnEmptyChartSaysWhatWillStandThere) {
+  ChartWidget empty;
+  empty.SetEmptyText(QStringLiteral("Choose a title"));
+  Chart chart;
+  empty.ShowChart(&chart, 1);
+  EXPECT_EQ(empty.accessibleDescription(), QStringLiteral("Choose a title"));
+  chart.title = "QUIZ";
+  chart.sets[0].values = {2, 4};
+  empty.ShowChart(&chart, 2);
+  EXPECT_EQ(empty.accessibleDescription(), QStringLiteral("QUIZ"));
+}
+
 TEST_F(ChartWidgetTest, ArrowsGoFromPointToPointAndTell) {
   widget().setFocus();
   Key(Qt::Key_Right);

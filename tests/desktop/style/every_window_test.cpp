@@ -124,6 +124,36 @@ TEST_F(EveryWindowTest, NothingIsCutBesideFreeRoom) {
   EXPECT_GT(cells, 0);
 }
 
+// Beside it, not above it.
+bool IsOnOneLine(const QRect& label, const QRect& field) {
+  return label.right() < field.left() && label.top() < field.bottom() &&
+         field.top() < label.bottom();
+}
+
+TEST_F(EveryWindowTest, ALabelStandsOnTheLineOfItsField) {
+  int pairs = 0;
+  for (const Density density : {Density::kCompact, Density::kNormal, Density::kRoomy}) {
+    Appearance::Instance()->SetDensity(density);
+    ForEach([&pairs](const std::string& name, PortalDialog& window) {
+      const auto place_of = [&window](const QWidget& widget) {
+        return QRect(widget.mapTo(&window, QPoint(0, 0)), widget.size());
+      };
+      for (const auto* label : window.findChildren<QLabel*>()) {
+        const QWidget* field = label->buddy();
+        if (!label->isVisible() || !field ||
+            field->height() > 2 * label->fontMetrics().height() + 8)
+          continue;
+        const QRect one = place_of(*label), other = place_of(*field);
+        if (!IsOnOneLine(one, other)) continue;
+        ++pairs;
+        EXPECT_NEAR(one.center().y(), other.center().y(), 1)
+            << name << ": " << label->objectName().toStdString();
+      }
+    });
+  }
+  EXPECT_GT(pairs, 100);
+}
+
 // A caption needs its width; a label that wraps needs its height.
 TEST_F(EveryWindowTest, NoCaptionIsCut) {
   ForEach([](const std::string& name, PortalDialog& window) {

@@ -15,6 +15,7 @@
 #include "desktop/grid/grid_widget.h"
 #include "desktop/style/program_style.h"
 #include "desktop/style/tokens.h"
+#include "tests/desktop/style/looks.h"
 
 namespace tallyroll {
 namespace {
@@ -113,6 +114,24 @@ TEST_F(DarkOutlines, TheButtonsOfAClassWindowAreDrawnInLightLines) {
       for (int y = 0; y < picture.height(); ++y)
         best = std::max(best, Contrast(Over(button, picture.pixelColor(x, y)), button));
     EXPECT_GE(best, 3) << icon;
+  }
+}
+
+// The palette of lists is one of their own: what is drawn in them is not.
+TEST(ListsInHighContrast, AChosenLineStandsOutAsTheDesktopWantsIt) {
+  for (const Look& look : kLooks) {
+    const WornLook worn(look);
+    QListWidget list;
+    list.addItems({QStringLiteral("One"), QStringLiteral("Two")});
+    list.setCurrentRow(0);
+    list.resize(200, 100);
+    list.show();
+    QApplication::processEvents();
+    const QRect line = list.visualItemRect(list.item(0));
+    const QImage picture = list.viewport()->grab().toImage();
+    EXPECT_EQ(picture.pixel(line.right() - 20, line.center().y()),
+              TokensOf(QApplication::palette()).selection.rgb())
+        << look.name;
   }
 }
 

@@ -10,6 +10,7 @@
 #include <QMenu>
 #include <QMenuBar>
 #include <QMessageBox>
+#include <QStackedWidget>
 #include <QTabWidget>
 #include <QTimer>
 
@@ -78,8 +79,31 @@ class Pictures : public EveryWindow {
     Keep(*dialog, look, QStringLiteral("frmcompare-4"));
   }
 
+  // The further pages of a form that shows them one after another.
+  void TurnPages(const std::string& name, const QString& look) {
+    // The logic would turn back as soon as the focus moves.
+    if (dialog->focusWidget()) dialog->focusWidget()->clearFocus();
+    for (auto* stack : dialog->findChildren<QStackedWidget*>()) {
+      const bool of_tabs = qobject_cast<QTabWidget*>(stack->parentWidget());
+      if (of_tabs || !stack->isVisible()) continue;
+      for (int page = 0; page < stack->count(); ++page) {
+        if (page == stack->currentIndex()) continue;
+        stack->setCurrentIndex(page);
+        QCoreApplication::processEvents();
+        Keep(*dialog, look,
+             QStringLiteral("%1-%2%3")
+                 .arg(QString::fromStdString(name), stack->objectName())
+                 .arg(page));
+      }
+    }
+  }
+
   void Further(const std::string& name, const QString& look) {
     if (name == "frmcompare") return Compare(look);
+    if (name == "frmAtsum") {
+      Click("Summary");
+      Keep(*dialog, look, QStringLiteral("frmAtsum-range"));
+    }
     for (const char* list : {"lstName", "lsttitles", "list1", "List1"}) {
       auto* found = dialog->findChild<QListWidget*>(QString::fromLatin1(list));
       if (!found || !found->isVisible() || found->count() == 0 || found->currentRow() >= 0)
@@ -88,6 +112,7 @@ class Pictures : public EveryWindow {
       QCoreApplication::processEvents();
       Keep(*dialog, look, QString::fromStdString(name) + QLatin1String("-chosen"));
     }
+    TurnPages(name, look);
   }
 };
 
