@@ -9,6 +9,7 @@
 #include <QFile>
 #include <QLabel>
 #include <QLayout>
+#include <QScrollArea>
 #include <QToolButton>
 #include <utility>
 
@@ -25,6 +26,7 @@
 #include "desktop/portal/folding_text.h"
 #include "desktop/portal/form_labels.h"
 #include "desktop/portal/form_pictures.h"
+#include "desktop/portal/scrolling_body.h"
 #include "desktop/portal/telling_label.h"
 #include "desktop/portal/total_figure.h"
 #include "desktop/style/program_style.h"
@@ -51,6 +53,7 @@ QWidget* MakeOwnWidget(const QString& class_name, QWidget* parent) {
   if (class_name == QLatin1String("tallyroll::ListCount")) return new ListCount(parent);
   if (class_name == QLatin1String("tallyroll::MarginSheet")) return new MarginSheet(parent);
   if (class_name == QLatin1String("tallyroll::SideStrip")) return new SideStrip(parent);
+  if (class_name == QLatin1String("tallyroll::SparePane")) return new SparePane(parent);
   if (class_name == QLatin1String("QDateEdit")) return new DateField(parent);
   return nullptr;
 }
@@ -61,12 +64,15 @@ bool IsOfClass(const QObject& object, const QString& class_name) {
   return class_name == QLatin1String(object.metaObject()->className());
 }
 
-// What a label's words are for, which the style draws them by; the picture of a tool; the button
-// that Enter presses while a page is shown.
+// What a label's words are for, which the style draws them by; the picture of a tool, the word
+// below it, and which tool is the main one; the button that Enter presses while a page is shown; a
+// sheet that waits for a pause.
 bool IsOwnProperty(const QObject& object, const QByteArray& property) {
   return (property == "mainAction" && object.isWidgetType()) ||
          (property == "textUse" && qobject_cast<const QLabel*>(&object)) ||
-         (property == "iconName" && qobject_cast<const QToolButton*>(&object));
+         (property == "whenIdle" && qobject_cast<const QScrollArea*>(&object)) ||
+         ((property == "iconName" || property == "shortWord" || property == "mainTool") &&
+          qobject_cast<const QToolButton*>(&object));
 }
 
 // The lengths in a form are those beside the usual font; they grow and shrink with it.

@@ -3,6 +3,8 @@
 // as it wants to be where there is room; on a small screen it scrolls, and the foot stays in sight.
 #pragma once
 
+#include <QGroupBox>
+#include <QPointer>
 #include <QScrollArea>
 
 class QDialog;
@@ -13,7 +15,8 @@ class ScrollingBody : public QScrollArea {
   Q_OBJECT
 
  public:
-  // Moves the body of a form into one; null when the form has no foot that must stay.
+  // Moves the body of a form into one; null when the form has no foot that must stay. A menu hangs
+  // at the very top, over the whole width of the window.
   static ScrollingBody* Of(QDialog& dialog);
 
   QSize sizeHint() const override;
@@ -23,6 +26,26 @@ class ScrollingBody : public QScrollArea {
 
  private:
   explicit ScrollingBody(QDialog& dialog);
+};
+
+// A group that a form can do without: it stands aside while the window is narrow.
+class SparePane : public QGroupBox {
+  Q_OBJECT
+
+ public:
+  using QGroupBox::QGroupBox;
+
+  // Shows it as soon as there is room for it.
+  void setVisible(bool wanted) override;
+
+ protected:
+  bool eventFilter(QObject* watched, QEvent* event) override;
+
+ private:
+  bool HasRoom() const;
+
+  QPointer<QWidget> window_;  // whose width it follows
+  bool wanted_ = false;
 };
 
 // Makes the form large enough that its body (null: it has none) need not scroll, where the screen
