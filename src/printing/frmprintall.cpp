@@ -1,15 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "printing/frmprintall.h"
 
-#include <algorithm>
-#include <cmath>
-
-#include "base/text.h"
-#include "grades/marks.h"
-#include "grades/method_reset.h"
-#include "platform/surroundings.h"
 #include "printing/reports/report_codes.h"
-#include "printing/reports/report_parts.h"
 #include "printing/reports/reports.h"
 #include "store/program_state.h"
 #include "store/student_names.h"
@@ -110,6 +102,7 @@ frmprintall::frmprintall() : Portal("frmprintall") {
   titleframe.Caption = "Titles";
   choose.Caption = "Choose All";
   clear.Caption = "Clear List";
+  firstframe.Caption = "First Page";
   prints.Caption = "&Print";
   preview.Caption = "P&review";
   cancel.Caption = "E&xit";
@@ -121,6 +114,8 @@ void frmprintall::Declare(ControlTable& table) {
   DeclareBoxes(table);
   DeclareGroups(table);
   DeclareLists(table);
+  FollowChoice(table);
+  DeclareFirstPage(table);
   table.Add("prints", prints).Click([this] { prints_Click(); });
   table.Add("preview", preview).Click([this] { preview_Click(); });
   table.Add("cancel", cancel).Click([this] { cancel_Click(); });
@@ -222,6 +217,10 @@ void frmprintall::Load() {
     lstName.List.push_back(StudentListLine(Current().Students[static_cast<std::size_t>(i)]));
   TickAll(false);
   ShowOptions();
+  firsttold.Visible = false;
+  firstpage.Fit = SheetFit::kPage;
+  firstpage.Draw = [this](PrintTarget& target) { first_.Draw(target); };
+  NoteChoice();
 }
 
 // The first report that the class has something for is chosen on each tab.
@@ -233,46 +232,6 @@ void frmprintall::LoadReports() {
     option.Value = option.Enabled && chosen_tab != row.tab;
     if (option.Value) chosen_tab = row.tab;
   }
-}
-
-void frmprintall::LoadShown() {
-  rollname.Value = NameMode == 57;
-  rollid.Value = NameMode == 73;
-  rollboth.Value = !rollname.Value && !rollid.Value;
-}
-
-// From the first to the last day that the class has, and today where it has none.
-void frmprintall::LoadDates() {
-  const Class& c = Current();
-  const double today = std::floor(Platform().Now());
-  std::vector<double> days, dates;
-  for (std::size_t i = 1; i < c.AttendanceDays.size(); ++i)
-    days.push_back(c.AttendanceDays[i].date);
-  for (int i = 1; i <= GradeCount(c); ++i)
-    if (const auto date = DateFromText(GradeInReport(i).testdate, Platform().ShortDateOrder()))
-      dates.push_back(*date);
-  if (days.empty()) days.push_back(today);
-  if (dates.empty()) dates.push_back(today);
-  start.Show(*std::min_element(days.begin(), days.end()));
-  end.Show(*std::max_element(days.begin(), days.end()));
-  datestart.Value = *std::min_element(dates.begin(), dates.end());
-  dateend.Value = *std::max_element(dates.begin(), dates.end());
-}
-
-// Also after a preview, from which a grade may have been saved: it can be chosen, and what was
-// chosen stays.
-void frmprintall::LoadGrades() {
-  onetypes.Fill();
-  rolltypes.Fill();
-  lsttitle.List.clear();
-  for (int i = 1; i <= GradeCount(Current()); ++i)
-    lsttitle.List.emplace_back(Trim(GradeInReport(i).title));
-}
-
-void frmprintall::LoadSummaries() {
-  const Class& c = Current();
-  for (int i = 1; i <= c.NumSummaries; ++i)
-    lstatt.List.emplace_back(Trim(c.Summaries[static_cast<std::size_t>(i)].title));
 }
 
 int frmprintall::Code() const {
@@ -301,6 +260,7 @@ void frmprintall::ShowOptions() {
   lstatt.Visible = code == 9;
   titleframe.Visible = IsOneOf(code, {9, 10});
   nameframe.Visible = IsOneOf(code, {12, 13, 14, 15, 17, 18, 21, 24});
+  firstframe.Visible = code != 0 && !nameframe.Visible;
 }
 
 void frmprintall::TabStrip1_Change() {

@@ -7,7 +7,10 @@
 #include <vector>
 
 #include "platform/portal.h"
+#include "platform/surroundings.h"
+#include "printing/first_page.h"
 #include "printing/month_stepper.h"
+#include "printing/page/report_choice.h"
 #include "printing/type_choice.h"
 #include "store/records.h"
 
@@ -54,6 +57,9 @@ struct frmprintall : Portal {
   Frame nameframe;
   ListBox lstName;  // a line a student, with a box to tick
   CommandButton choose, clear;
+  Frame firstframe;  // the first page, where no list stands
+  Label firsttold;   // why there is none
+  PictureBox firstpage;
 
   CommandButton prints, preview, cancel;
 
@@ -63,9 +69,22 @@ struct frmprintall : Portal {
   void prints_Click();
   void preview_Click();
   void cancel_Click();
+  // The teacher's choice has come to rest: its first page is laid out.
+  void firstpage_Change();
 
  private:
   struct Row;
+  // What the first page on the screen hangs on.
+  struct Asked {
+    int code = 0;
+    ReportChoice choice = {};
+
+    friend bool operator==(const Asked&, const Asked&) = default;
+  };
+  struct Refusal {
+    std::string_view why;
+    BoxIcon icon = BoxIcon::kNone;
+  };
   static const Row kRows[];
   using Group = std::vector<OptionButton*>;
 
@@ -76,6 +95,7 @@ struct frmprintall : Portal {
   void DeclareBoxes(ControlTable& table);
   void DeclareGroups(ControlTable& table);
   void DeclareLists(ControlTable& table);
+  void DeclareFirstPage(ControlTable& table);
   void LoadReports();
   void LoadShown();
   void LoadDates();
@@ -86,14 +106,20 @@ struct frmprintall : Portal {
   // Which report is chosen on the tab in front; 0 when the class has nothing for any of them.
   int Code() const;
   void ShowOptions();
-  void FillChoice();
+  // What is chosen for the report of that code.
+  ReportChoice Chosen(int code) const;
+  void FollowChoice(ControlTable& table);
+  void NoteChoice();
   std::vector<i16> TickedStudents() const;
   void RefreshNames();
   // The run up to the page table. False: the teacher left it, or was told what is missing.
   bool LayOut(bool for_preview);
-  bool CheckChoice() const;
+  // Why a report cannot be laid out as it is chosen; nothing where it can.
+  Refusal RefusalOf(int code, const ReportChoice& choice) const;
 
   bool running_ = false;  // a run lets events through, but no second run
+  FirstPage first_;
+  Asked asked_;
 };
 
 }  // namespace tallyroll

@@ -54,8 +54,6 @@ frmprintpre::frmprintpre() : Portal("frmprintpre") {
   zoom_out.Caption = "Zoom Out";
   page_back.Caption = "Back";
   page_on.Caption = "Next";
-  size_label.Caption = "Size";
-  pagenum_label.Caption = "Page";
   Frame1.Caption = "Save";
   all.Caption = "All selected students";
   current.Caption = "Current student only";
@@ -65,13 +63,6 @@ frmprintpre::frmprintpre() : Portal("frmprintpre") {
 
 void frmprintpre::Declare(ControlTable& table) {
   DeclareToolbar(table);
-  table.Add("size_label", size_label);
-  table.Add("size", size).Change([this] { ShowStep(size.ListIndex); });
-  table.Add("pagenum_label", pagenum_label);
-  table.Add("pagenum", pagenum).Change([this] { ShowPage(pagenum.ListIndex); });
-  table.Add("Pagen", Pagen);
-  table.Add("Pagel", Pagel);
-  table.Add("findstudent", findstudent).Click([this] { findstudent_Click(); });
   table.Add("Frame1", Frame1);
   const auto choose = [this](bool current_only) {
     current.Value = current_only;
@@ -98,12 +89,17 @@ void frmprintpre::DeclareKeys(ControlTable& table) {
 void frmprintpre::DeclareToolbar(ControlTable& table) {
   table.Add("one", one).Click([this] { StepZoom(1); });
   table.Add("two", two).Click([this] { StepZoom(-1); });
+  table.Add("size", size).Change([this] { ShowStep(size.ListIndex); });
   table.Add("fitwidth", fitwidth).Click([this] { ShowFitted(SheetFit::kWidth); });
   table.Add("fitpage", fitpage).Click([this] { ShowFitted(SheetFit::kPage); });
   table.Add("three", three).Click([this] { ShowPage(0); });
   table.Add("four", four).Click([this] { ShowPage(pagenum.ListIndex - 1); });
+  table.Add("pagenum", pagenum).Change([this] { ShowPage(pagenum.ListIndex); });
   table.Add("five", five).Click([this] { ShowPage(pagenum.ListIndex + 1); });
   table.Add("six", six).Click([this] { ShowPage(Job.PageCount - 1); });
+  table.Add("Pagen", Pagen);
+  table.Add("Pagel", Pagel);
+  table.Add("findstudent", findstudent).Click([this] { findstudent_Click(); });
   table.Add("seven", seven).Click([this] { ShowPrint(); });
   table.Add("eight", eight).Click([this] { eight_Click(); });
   table.Add("nine", nine).Click([this] { AskAndSave(Save::kText); });

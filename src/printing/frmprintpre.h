@@ -25,7 +25,6 @@ struct frmprintpre : Portal {
   CommandButton seven, eight;            // print, e-mail
   CommandButton nine, ten, pdf;          // save as text, HTML, PDF
   CommandButton eleven, twelve;          // help, exit
-  Label size_label, pagenum_label;
   ComboBox size, pagenum;
   CommandButton zoom_in, zoom_in_unshifted, zoom_out, page_back, page_on;  // keys alone
   Label Pagen, Pagel;                  // the page on screen, and how many there are

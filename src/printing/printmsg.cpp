@@ -15,6 +15,11 @@ constexpr int kLongestTitle = 80;
 
 }  // namespace
 
+std::string OfferedTitle() {
+  const std::string name = std::filesystem::path(Current().FileName).stem().string();
+  return PathForDisplay(name).substr(0, kLongestTitle);
+}
+
 printmsg::printmsg() : Portal("printmsg") {
   Caption = "Tallyroll Printing";
   HelpContext = 430;
@@ -44,8 +49,7 @@ void printmsg::Load() {
   printing.Visible = !message.Visible;
   ShowPage(0, 0);
   if (!message.Visible) return;
-  const std::string name = std::filesystem::path(Current().FileName).stem().string();
-  Text1.Text = PathForDisplay(name).substr(0, kLongestTitle);
+  Text1.Text = OfferedTitle();
   SetFocusAndSelect(Text1);
 }
 

@@ -3,9 +3,14 @@
 // and lets the teacher cancel it.
 #pragma once
 
+#include <string>
+
 #include "platform/portal.h"
 
 namespace tallyroll {
+
+// The title that a printout gets where the teacher gives it no other: the name of the class file.
+std::string OfferedTitle();
 
 struct printmsg : Portal {
   printmsg();

@@ -66,7 +66,7 @@ void frmprintpre::AskAndSave(Save form) {
 
 void frmprintpre::ShowFrame1(bool on) {
   Frame1.Visible = on;
-  size.Visible = pagenum.Visible = size_label.Visible = pagenum_label.Visible = !on;
+  size.Visible = pagenum.Visible = !on;
   all.Value = true;
   current.Value = false;
   if (on) SetFocus(all);

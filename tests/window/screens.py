@@ -4,6 +4,7 @@ import pathlib
 import shutil
 import subprocess
 import sys
+import time
 
 from gi.repository import Atspi
 from support import story
@@ -196,6 +197,7 @@ def reports(program):
     program.keys("ctrl+p")
     program.window("Printer Portal")
     program.click(program.widget(Atspi.Role.RADIO_BUTTON, "Roll Book"))
+    time.sleep(0.6)  # the first page follows a moment after the choice
     take(program, "frmprintall")
     program.keys("alt+c")
     program.click(program.widget(Atspi.Role.PUSH_BUTTON, "Preview"))

@@ -74,16 +74,33 @@ StatusLine::StatusLine(QWidget* parent) : QWidget(parent), message_(new QLabel) 
   }
   changed_ = new ChangedMark;
   row->addWidget(changed_);
-  panel_ = new QToolButton;
-  panel_->setObjectName(QStringLiteral("panel"));
-  panel_->setAccessibleName(tr("Side panel"));
+  density_ = AddTool(QStringLiteral("density"), tr("How much stands on the screen"));
+  density_->setToolTip(density_->accessibleName());
+  density_->setPopupMode(QToolButton::InstantPopup);
+  panel_ = AddTool(QStringLiteral("panel"), tr("Side panel"));
   panel_->setToolTip(tr("Side panel (F4)"));
   panel_->setCheckable(true);
-  panel_->setAutoRaise(true);
-  panel_->setFocusPolicy(Qt::TabFocus);
-  panel_->setIcon(PaletteIcon(QStringLiteral("Panel"), palette()));
   connect(panel_, &QToolButton::clicked, this, &StatusLine::PanelPressed);
-  row->addWidget(panel_);
+  DrawIcons();
+}
+
+QToolButton* StatusLine::AddTool(const QString& name, const QString& said) {
+  auto* tool = new QToolButton;
+  tool->setObjectName(name);
+  tool->setAccessibleName(said);
+  tool->setAutoRaise(true);
+  tool->setFocusPolicy(Qt::TabFocus);
+  layout()->addWidget(tool);
+  return tool;
+}
+
+void StatusLine::DrawIcons() {
+  density_->setIcon(PaletteIcon(QStringLiteral("Density"), palette()));
+  panel_->setIcon(PaletteIcon(QStringLiteral("Panel"), palette()));
+}
+
+void StatusLine::TakeDensities(QMenu* menu) {
+  density_->setMenu(menu);
 }
 
 void StatusLine::ShowMessage(const QString& text) {
@@ -129,8 +146,7 @@ void StatusLine::resizeEvent(QResizeEvent* event) {
 
 void StatusLine::changeEvent(QEvent* event) {
   QWidget::changeEvent(event);
-  if (event->type() == QEvent::PaletteChange)
-    panel_->setIcon(PaletteIcon(QStringLiteral("Panel"), palette()));
+  if (event->type() == QEvent::PaletteChange) DrawIcons();
 }
 
 }  // namespace tallyroll

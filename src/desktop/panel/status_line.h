@@ -7,6 +7,7 @@
 #include <array>
 
 class QLabel;
+class QMenu;
 class QToolButton;
 
 namespace tallyroll {
@@ -19,6 +20,8 @@ class StatusLine : public QWidget {
  public:
   explicit StatusLine(QWidget* parent = nullptr);
 
+  // What the button of the density drops down.
+  void TakeDensities(QMenu* menu);
   void ShowMessage(const QString& text);
   // `name` stands for a class without a description.
   void ShowClass(const ClassGlance& glance, const QString& name);
@@ -34,10 +37,13 @@ class StatusLine : public QWidget {
 
  private:
   void FitFacts();
+  QToolButton* AddTool(const QString& name, const QString& said);
+  void DrawIcons();
 
   QLabel* message_;
   std::array<QLabel*, 5> facts_;  // class, students, grades, method, average
   QLabel* changed_;
+  QToolButton* density_;
   QToolButton* panel_;
 };
 

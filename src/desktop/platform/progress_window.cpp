@@ -24,6 +24,7 @@ ProgressWindow::ProgressWindow(const QString& what, QWidget* parent)
   rows->addWidget(bar_);
   auto* buttons = new QDialogButtonBox;
   QPushButton* cancel = buttons->addButton(tr("&Cancel"), QDialogButtonBox::RejectRole);
+  cancel->setAutoDefault(false);  // nothing here is what one goes on with
   connect(cancel, &QPushButton::clicked, this, &ProgressWindow::reject);
   rows->addWidget(buttons);
 }

@@ -1,10 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Pictures: ornaments, and sheets of paper that scroll.
 #include <QAccessibleWidget>
+#include <QApplication>
 #include <QEvent>
 #include <QPainter>
 #include <QScrollArea>
 #include <QScrollBar>
+#include <QTimer>
 
 #include "desktop/portal/control_binding.h"
 #include "desktop/portal/sheet_view.h"
@@ -21,10 +23,14 @@ QAccessibleInterface* MakeSpokenSheet(const QString&, QObject* object) {
   return has_sheet ? new QAccessibleWidget(area, QAccessible::Document) : nullptr;
 }
 
+// A sheet whose form says "whenIdle" waits until the teacher's choices have come to rest: then its
+// change is raised, in which the Portal lays it out anew, and it is drawn.
 class SheetBinding : public Binding<PictureBox, QScrollArea> {
  public:
   SheetBinding(PictureBox& control, ControlRow& row, QScrollArea& area, BindingOwner& owner)
-      : Binding(control, row, area, owner), view_(new SheetView) {
+      : Binding(control, row, area, owner),
+        view_(new SheetView),
+        waits_(area.property("whenIdle").toBool()) {
     QAccessible::installFactory(MakeSpokenSheet);
     // What the form puts there stays its own.
     if (QWidget* old = area.takeWidget()) {
@@ -39,27 +45,32 @@ class SheetBinding : public Binding<PictureBox, QScrollArea> {
     if (QAccessibleInterface* empty = QAccessible::queryAccessibleInterface(&area))
       QAccessible::deleteAccessibleInterface(QAccessible::uniqueId(empty));
     area.viewport()->installEventFilter(this);
+    constexpr int kRest = 250;  // milliseconds
+    rest_.setSingleShot(true);
+    rest_.setInterval(kRest);
+    rest_.callOnTimeout(this, [this] { AtRest(); });
+    if (waits_) area.parentWidget()->installEventFilter(this);
   }
 
  protected:
   void ShowValue() override {
-    view_->ShowSheet(control_, Room());
-    if (view_->Words() != widget_.accessibleDescription())
-      widget_.setAccessibleDescription(view_->Words());
+    if (waits_ && laid_out_ != control_.Revision) return rest_.start();
+    Draw();
   }
 
   // The sheet lies on its desk and throws a shadow.
   bool eventFilter(QObject* watched, QEvent* event) override {
+    if (waits_ && event->type() == QEvent::Show) rest_.start();
     if (event->type() == QEvent::Resize && watched == widget_.viewport() &&
         control_.Fit != SheetFit::kZoom)
-      QMetaObject::invokeMethod(
-          this, [this] { ShowValue(); }, Qt::QueuedConnection);
+      FollowRoom();
     if (event->type() != QEvent::Paint || watched != widget_.viewport())
       return ControlBinding::eventFilter(watched, event);
     QPainter painter(widget_.viewport());
     painter.fillRect(widget_.viewport()->rect(), widget_.palette().color(QPalette::Dark));
     constexpr int kDepth = 6, kDarkest = 36;
     const QRect sheet = view_->geometry().translated(0, 1);
+    if (sheet.isEmpty()) return true;
     painter.setPen(Qt::NoPen);
     for (int i = kDepth; i > 0; --i) {
       painter.setBrush(QColor(0, 0, 0, kDarkest / kDepth));
@@ -72,11 +83,39 @@ class SheetBinding : public Binding<PictureBox, QScrollArea> {
   // What a fitted sheet has: the desk without its edge, whether or not a bar stands at its side.
   QSize Room() const {
     constexpr int kEdge = 12;
-    const int bar = widget_.verticalScrollBar()->sizeHint().width();
+    const bool never = widget_.verticalScrollBarPolicy() == Qt::ScrollBarAlwaysOff;
+    const int bar = never ? 0 : widget_.verticalScrollBar()->sizeHint().width();
     return widget_.size() - QSize(2 * kEdge + bar, 2 * kEdge);
   }
 
+  void FollowRoom() {
+    if (waits_) return rest_.start();
+    QMetaObject::invokeMethod(
+        this, [this] { ShowValue(); }, Qt::QueuedConnection);
+  }
+
+  // Nothing is laid out behind another window that has the teacher's attention, nor where it would
+  // not be seen.
+  void AtRest() {
+    const QWidget* front = QApplication::activeModalWidget();
+    if (!widget_.parentWidget()->isVisible() || (front && front != widget_.window())) return;
+    if (laid_out_ != control_.Revision) {
+      laid_out_ = control_.Revision;
+      UserDid({&ControlRow::change});
+    }
+    Draw();
+  }
+
+  void Draw() {
+    view_->ShowSheet(control_, Room());
+    if (view_->Words() != widget_.accessibleDescription())
+      widget_.setAccessibleDescription(view_->Words());
+  }
+
   SheetView* view_;  // the area's
+  QTimer rest_;
+  bool waits_;
+  unsigned laid_out_ = 0;  // the revision that the Portal has laid out
 };
 
 }  // namespace

@@ -20,6 +20,7 @@
 
 #include "desktop/grid/grid_widget.h"
 #include "desktop/portal/chart_widget.h"
+#include "desktop/portal/scrolling_body.h"
 
 namespace tallyroll {
 namespace {
@@ -27,7 +28,9 @@ namespace {
 void ShowVisible(QWidget& widget, bool visible) {
   // The pages of a stack are shown by the stack.
   if (qobject_cast<QStackedWidget*>(widget.parentWidget())) return;
-  if (widget.isHidden() == visible) widget.setVisible(visible);
+  // A pane may be hidden for want of room alone.
+  const bool spare = qobject_cast<SparePane*>(&widget) != nullptr;
+  if (spare || widget.isHidden() == visible) widget.setVisible(visible);
 }
 
 template <typename... W>

@@ -10,6 +10,7 @@
 #include <QFormLayout>
 #include <QLabel>
 #include <QLayout>
+#include <QScrollArea>
 #include <QToolButton>
 #include <algorithm>
 #include <utility>
@@ -29,6 +30,7 @@
 #include "desktop/portal/form_labels.h"
 #include "desktop/portal/form_pictures.h"
 #include "desktop/portal/page_stack.h"
+#include "desktop/portal/scrolling_body.h"
 #include "desktop/portal/telling_label.h"
 #include "desktop/portal/total_figure.h"
 #include "desktop/style/program_style.h"
@@ -59,6 +61,7 @@ QWidget* MakeOwnWidget(const QString& class_name, QWidget* parent) {
   if (class_name == QLatin1String("tallyroll::PageStack")) return new PageStack(parent);
   if (class_name == QLatin1String("tallyroll::MarginSheet")) return new MarginSheet(parent);
   if (class_name == QLatin1String("tallyroll::SideStrip")) return new SideStrip(parent);
+  if (class_name == QLatin1String("tallyroll::SparePane")) return new SparePane(parent);
   if (class_name == QLatin1String("QDateEdit")) return new DateField(parent);
   return nullptr;
 }
@@ -70,15 +73,18 @@ bool IsOfClass(const QObject& object, const QString& class_name) {
 }
 
 // What a label's words are for, which the style draws them by, and whether it stands there without
-// any; the word that a list shows as a chip; the picture of a tool; the button that Enter presses
-// while a page is shown; the field from which a list is walked.
+// any; the word that a list shows as a chip, and the field from which it is walked; the picture of
+// a tool, the word below it, and which tool is the main one; the button that Enter presses while a
+// page is shown; a sheet that waits for a pause.
 bool IsOwnProperty(const QObject& object, const QByteArray& property) {
   return (property == "mainAction" && object.isWidgetType()) ||
          (property == "textUse" && qobject_cast<const QLabel*>(&object)) ||
          (property == "toldIn" && qobject_cast<const QAbstractItemView*>(&object)) ||
          (property == "chipWord" && qobject_cast<const QAbstractItemView*>(&object)) ||
          (property == "hideWhileEmpty" && qobject_cast<const QLabel*>(&object)) ||
-         (property == "iconName" && qobject_cast<const QToolButton*>(&object));
+         (property == "whenIdle" && qobject_cast<const QScrollArea*>(&object)) ||
+         ((property == "iconName" || property == "shortWord" || property == "mainTool") &&
+          qobject_cast<const QToolButton*>(&object));
 }
 
 // The lengths in a form are those beside the usual font; they grow and shrink with it.

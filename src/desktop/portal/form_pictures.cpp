@@ -6,6 +6,7 @@
 #include <QPainter>
 #include <algorithm>
 
+#include "desktop/style/shapes.h"
 #include "desktop/style/tokens.h"
 
 namespace tallyroll {
@@ -48,10 +49,8 @@ void MarginSheet::paintEvent(QPaintEvent* /*event*/) {
   constexpr int kLines = 9;
   const Tokens t = TokensOf(palette());
   QPainter painter(this);
-  painter.fillRect(rect(), Qt::white);
   const Tokens& paper = LightTokens();
-  painter.setPen(t.border);
-  painter.drawRect(rect().adjusted(0, 0, -1, -1));
+  DrawBox(painter, rect(), 0, Qt::white, t.border);
   const QRectF printed = PrintedPart();
   painter.setPen(QPen(paper.focus, 1, Qt::DashLine));
   painter.drawRect(printed);

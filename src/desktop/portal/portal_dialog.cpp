@@ -13,6 +13,7 @@
 #include "desktop/basics/key_mapping.h"
 #include "desktop/basics/text_conversion.h"
 #include "desktop/basics/window_places.h"
+#include "desktop/portal/exit_tips.h"
 #include "desktop/portal/form_loader.h"
 #include "desktop/portal/scrolling_body.h"
 #include "desktop/portal/wheel_guard.h"
@@ -53,6 +54,7 @@ PortalDialog::PortalDialog(Portal& portal, const QString& form_file, QWidget* pa
   LeaveEnterToTheDefault(form);
   if (portal_.Caption.empty()) portal_.Caption = ToText(windowTitle()).value_or("");
   for (const auto& binding : bindings_) binding->TakeCaption();
+  TellWhatExitDoes(*this, FromText(portal_.Name()));
   body_ = ScrollingBody::Of(*this);
   ShowControls();
   TakeRoom(*this, body_, room_);

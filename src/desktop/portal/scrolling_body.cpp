@@ -4,7 +4,9 @@
 #include <QApplication>
 #include <QBoxLayout>
 #include <QDialog>
+#include <QEvent>
 #include <QGridLayout>
+#include <QMenuBar>
 #include <QScrollBar>
 #include <QStyle>
 #include <algorithm>
@@ -12,6 +14,7 @@
 
 #include "desktop/basics/window_places.h"
 #include "desktop/grid/grid_widget.h"
+#include "desktop/style/program_style.h"
 
 namespace tallyroll {
 namespace {
@@ -49,6 +52,20 @@ int LackingOfSheets(const QDialog& dialog) {
   return lacking;
 }
 
+// A length that was chosen beside the usual font.
+int Scaled(double length) {
+  const auto* style = qobject_cast<const ProgramStyle*>(QApplication::style());
+  return style ? style->measures().Px(length) : static_cast<int>(length);
+}
+
+void HangMenu(QLayout& layout, QMenuBar& menu) {
+  constexpr double kBelowMenu = 8;
+  layout.setMenuBar(&menu);
+  QMargins margins = layout.contentsMargins();
+  margins.setTop(Scaled(kBelowMenu));
+  layout.setContentsMargins(margins);
+}
+
 void Append(QBoxLayout& layout, QLayoutItem& item) {
   if (QLayout* row = item.layout()) return layout.addLayout(row);
   layout.addItem(&item);
@@ -61,8 +78,13 @@ ScrollingBody* ScrollingBody::Of(QDialog& dialog) {
   if (panes && panes->objectName() == QLatin1String("panes"))
     return new ScrollingBody(dialog, *panes);
   auto* whole = qobject_cast<QVBoxLayout*>(dialog.layout());
-  if (!whole || whole->count() < 2 || !IsFoot(*whole->itemAt(whole->count() - 1))) return nullptr;
-  return new ScrollingBody(dialog);
+  if (!whole) return nullptr;
+  auto* menu = dialog.findChild<QMenuBar*>();
+  if (menu) whole->removeWidget(menu);
+  const bool has_foot = whole->count() >= 2 && IsFoot(*whole->itemAt(whole->count() - 1));
+  auto* body = has_foot ? new ScrollingBody(dialog) : nullptr;
+  if (menu) HangMenu(*dialog.layout(), *menu);
+  return body;
 }
 
 ScrollingBody::ScrollingBody(QDialog& dialog) : QScrollArea(&dialog) {
@@ -134,6 +156,27 @@ int ScrollingBody::LacksBeside() const {
 void ScrollingBody::BringIntoSight(QWidget* focused) {
   if (!focused || !widget()->isAncestorOf(focused)) return;
   if (QApplication::mouseButtons() == Qt::NoButton) ensureWidgetVisible(focused);
+}
+
+void SparePane::setVisible(bool wanted) {
+  wanted_ = wanted;
+  if (window_ != window()) {
+    if (window_) window_->removeEventFilter(this);
+    window_ = window();
+    window_->installEventFilter(this);
+  }
+  QGroupBox::setVisible(wanted && HasRoom());
+}
+
+bool SparePane::HasRoom() const {
+  constexpr double kLeastWindow = 860;
+  return window()->width() >= Scaled(kLeastWindow);
+}
+
+bool SparePane::eventFilter(QObject* watched, QEvent* event) {
+  if (watched == window_ && event->type() == QEvent::Resize && wanted_ && isHidden() == HasRoom())
+    QGroupBox::setVisible(HasRoom());
+  return QGroupBox::eventFilter(watched, event);
 }
 
 QSize RoomWanted(const QDialog& dialog, ScrollingBody* body) {

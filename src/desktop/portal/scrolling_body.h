@@ -4,6 +4,8 @@
 // In a form of two panes it is the upper part of the left one, above the rows that stay.
 #pragma once
 
+#include <QGroupBox>
+#include <QPointer>
 #include <QScrollArea>
 
 class QDialog;
@@ -15,7 +17,8 @@ class ScrollingBody : public QScrollArea {
   Q_OBJECT
 
  public:
-  // Moves the body of a form into one; null when the form has no foot that must stay.
+  // Moves the body of a form into one; null when the form has no foot that must stay. A menu hangs
+  // at the very top, over the whole width of the window.
   static ScrollingBody* Of(QDialog& dialog);
 
   QSize sizeHint() const override;
@@ -33,6 +36,26 @@ class ScrollingBody : public QScrollArea {
 
   QGridLayout* panes_ = nullptr;  // null where the whole form scrolls
   int bar_room_ = 0;              // kept free beside a pane, so that its bar covers nothing
+};
+
+// A group that a form can do without: it stands aside while the window is narrow.
+class SparePane : public QGroupBox {
+  Q_OBJECT
+
+ public:
+  using QGroupBox::QGroupBox;
+
+  // Shows it as soon as there is room for it.
+  void setVisible(bool wanted) override;
+
+ protected:
+  bool eventFilter(QObject* watched, QEvent* event) override;
+
+ private:
+  bool HasRoom() const;
+
+  QPointer<QWidget> window_;  // whose width it follows
+  bool wanted_ = false;
 };
 
 // How large the form must be that its body (null: it has none) need not scroll, nor a sheet in it

@@ -101,11 +101,12 @@ void Appearance::Apply() {
   const QFont font = FontAt(density_, font_);
   const Tokens tokens = Wanted();
   QApplication::setFont(font);
-  QApplication::setFont(FontFor(font, TextUse::kSmall), "QToolButton");
-  QApplication::setFont(FontFor(font, TextUse::kSmall), "QTipLabel");
   auto* style = qobject_cast<ProgramStyle*>(QApplication::style());
   if (!style || style->measures().density() != density_)
     QApplication::setStyle(new ProgramStyle(Measures(density_, font)));
+  // A new style forgets what single classes are written in.
+  QApplication::setFont(FontFor(font, TextUse::kSmall), "QToolButton");
+  QApplication::setFont(FontFor(font, TextUse::kSmall), "QTipLabel");
   const QPalette palette = PaletteOf(tokens);
   QApplication::setPalette(palette);
   QPalette list(palette);

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Buttons, ticks, options and tools.
+// Buttons, ticks and options.
 #include <QAbstractButton>
 #include <QPainter>
 
@@ -23,6 +23,31 @@ constexpr double kButtonRadius = 6, kSmallRadius = 4;
 constexpr double kIndicatorSide = 16, kIndicatorGap = 8, kIndicatorInset = 3;
 constexpr double kLeastButton = 84, kArrowButton = 36, kBesideWord = 14;
 
+QColor GroundOf(const StyleBrush& b) {
+  if (!b.enabled) return b.t.window;
+  if (b.pressed || b.on) return b.t.pressed;
+  return b.hover ? b.t.hover : b.t.raised;
+}
+
+}  // namespace
+
+void DrawMainGround(StyleBrush& b, const QRectF& rect) {
+  const QColor fill = b.pressed ? b.t.accent_pressed : b.hover ? b.t.accent_hover : b.t.accent;
+  const double radius = b.m.Px(kButtonRadius);
+  DrawBox(b.painter, rect, radius, fill);
+  if (!b.shows_focus) return;
+  DrawBox(b.painter, rect, radius, QColor(), b.t.focus, 2);
+  DrawBox(b.painter, rect.adjusted(2.5, 2.5, -2.5, -2.5), radius - 2, QColor(), b.t.on_accent, 1.5);
+}
+
+void DrawFlatGround(StyleBrush& b, const QRectF& rect) {
+  const double radius = b.m.Px(kButtonRadius);
+  if (b.hover || b.pressed || b.on) DrawBox(b.painter, rect, radius, GroundOf(b));
+  if (b.shows_focus) DrawBox(b.painter, rect, radius, QColor(), b.t.focus, 2);
+}
+
+namespace {
+
 QString Bare(QString caption) {
   return caption.remove(QLatin1Char('&')).trimmed();
 }
@@ -40,31 +65,10 @@ bool IsMain(const QStyleOptionButton& button, bool enabled) {
          !Destroys(button.text) && ArrowFor(button.text) == Qt::NoArrow;
 }
 
-QColor GroundOf(const StyleBrush& b) {
-  if (!b.enabled) return b.t.window;
-  if (b.pressed || b.on) return b.t.pressed;
-  return b.hover ? b.t.hover : b.t.raised;
-}
-
-void DrawMain(StyleBrush& b, const QRectF& rect) {
-  const QColor fill = b.pressed ? b.t.accent_pressed : b.hover ? b.t.accent_hover : b.t.accent;
-  const double radius = b.m.Px(kButtonRadius);
-  DrawBox(b.painter, rect, radius, fill);
-  if (!b.shows_focus) return;
-  DrawBox(b.painter, rect, radius, QColor(), b.t.focus, 2);
-  DrawBox(b.painter, rect.adjusted(2.5, 2.5, -2.5, -2.5), radius - 2, QColor(), b.t.on_accent, 1.5);
-}
-
-void DrawFlat(StyleBrush& b, const QRectF& rect) {
-  const double radius = b.m.Px(kButtonRadius);
-  if (b.hover || b.pressed || b.on) DrawBox(b.painter, rect, radius, GroundOf(b));
-  if (b.shows_focus) DrawBox(b.painter, rect, radius, QColor(), b.t.focus, 2);
-}
-
 void DrawPanel(const QStyleOptionButton& button, StyleBrush& b) {
   const QRectF rect(button.rect);
-  if (button.features & QStyleOptionButton::Flat) return DrawFlat(b, rect);
-  if (IsMain(button, b.enabled)) return DrawMain(b, rect);
+  if (button.features & QStyleOptionButton::Flat) return DrawFlatGround(b, rect);
+  if (IsMain(button, b.enabled)) return DrawMainGround(b, rect);
   const QColor edge = !b.enabled ? b.t.line : Destroys(button.text) ? b.t.danger : b.t.border;
   const double radius = b.m.Px(IsChip(b.widget) ? kSmallRadius : kButtonRadius);
   DrawBox(b.painter, rect, radius, GroundOf(b), edge, 1);
@@ -225,27 +229,11 @@ bool DrawIndicator(QStyle::PrimitiveElement element, const QStyleOption& option,
       DrawIndicatorIn(box, true, partly, brush);
       return true;
     case QStyle::PE_PanelButtonTool:
-      DrawFlat(brush, box);
+      DrawFlatGround(brush, box);
       return true;
     default:
       return false;
   }
-}
-
-bool DrawTool(const QStyleOptionComplex& option, StyleBrush& brush) {
-  const auto* tool = qstyleoption_cast<const QStyleOptionToolButton*>(&option);
-  if (!tool) return false;
-  DrawFlat(brush, QRectF(tool->rect).adjusted(1, 1, -1, -1));
-  QStyleOptionToolButton label(*tool);
-  label.state &= ~QStyle::State_Sunken;  // its icon does not jump
-  const bool has_menu = tool->features & QStyleOptionToolButton::HasMenu;
-  if (has_menu) label.rect.setRight(label.rect.right() - brush.m.Px(12));
-  brush.style.drawControl(QStyle::CE_ToolButtonLabel, &label, &brush.painter, brush.widget);
-  if (!has_menu) return true;
-  const QRectF arrow(tool->rect.right() - brush.m.Px(14), tool->rect.top(), brush.m.Px(12),
-                     tool->rect.height());
-  DrawArrow(brush.painter, arrow, Qt::DownArrow, brush.Text(), brush.m.Px(3.5));
-  return true;
 }
 
 std::optional<QRect> ButtonPart(QStyle::SubElement element, const QStyleOption& option,
@@ -281,7 +269,7 @@ std::optional<QSize> ButtonSize(QStyle::ContentsType type, const QStyleOption* o
       if (!button) return std::nullopt;
       return TickSize(*button, m);
     case QStyle::CT_ToolButton:
-      return contents + QSize(m.Px(12), m.Px(8));
+      return ToolSize(option, contents, m, widget);
     default:
       return std::nullopt;
   }

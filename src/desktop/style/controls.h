@@ -49,10 +49,16 @@ struct StyleBrush {
 // A button whose word says that something goes for good.
 bool Destroys(const QString& caption);
 
+// The grounds of the main action, and of what has none until it is pointed at.
+void DrawMainGround(StyleBrush& brush, const QRectF& rect);
+void DrawFlatGround(StyleBrush& brush, const QRectF& rect);
+
 // Buttons, ticks, options, tools.
 bool DrawButton(QStyle::ControlElement element, const QStyleOption& option, StyleBrush& brush);
 bool DrawIndicator(QStyle::PrimitiveElement element, const QStyleOption& option, StyleBrush& brush);
 bool DrawTool(const QStyleOptionComplex& option, StyleBrush& brush);
+QSize ToolSize(const QStyleOption* option, const QSize& contents, const Measures& m,
+               const QWidget* widget);
 std::optional<QRect> ButtonPart(QStyle::SubElement element, const QStyleOption& option,
                                 const Measures& m);
 std::optional<QSize> ButtonSize(QStyle::ContentsType type, const QStyleOption* option,
@@ -67,6 +73,9 @@ std::optional<QRect> ChoicePart(const QStyleOptionComplex& option, QStyle::SubCo
                                 const Measures& m);
 std::optional<QSize> FieldSize(QStyle::ContentsType type, const QSize& contents, const Measures& m,
                                const QWidget* widget);
+
+// Left and right of a word in a menu bar.
+inline constexpr double kBarItemSide = 11;
 
 // Menus and their bar.
 bool DrawMenu(QStyle::ControlElement element, const QStyleOption& option, StyleBrush& brush);

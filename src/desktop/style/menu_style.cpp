@@ -9,7 +9,7 @@ namespace tallyroll {
 namespace {
 
 constexpr double kMenuLeft = 32, kMenuRight = 28, kMenuInset = 4, kMenuRadius = 4;
-constexpr double kMenuRule = 9, kBarItemSide = 11, kBarHeight = 32;
+constexpr double kMenuRule = 9, kBarHeight = 32;
 
 void DrawSign(const QStyleOptionMenuItem& item, StyleBrush& b) {
   if (item.checkType == QStyleOptionMenuItem::NotCheckable) {

@@ -60,8 +60,12 @@ void ProgramStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* o
     case PE_PanelItemViewItem:
       if (DrawLine(*option, brush)) return;
       break;
+    case PE_FrameTabWidget: {
+      // The line below the tabs goes on to the end of their page.
+      const QRect& r = option->rect;
+      return painter->fillRect(QRect(r.left(), r.top() - 1, r.width(), 1), brush.t.line);
+    }
     case PE_PanelItemViewRow:
-    case PE_FrameTabWidget:
     case PE_FrameGroupBox:
     case PE_PanelMenuBar:
     case PE_FrameButtonTool:
@@ -82,8 +86,8 @@ void ProgramStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* o
     case PE_PanelTipLabel:
       return DrawBox(*painter, option->rect, 0, brush.t.tooltip, brush.t.tooltip, 1);
     case PE_IndicatorToolBarSeparator: {
-      const int inset = measures_.Px(10);
       const QRect& r = option->rect;
+      const int inset = r.height() / 5;
       return painter->fillRect(QRect(r.center().x(), r.top() + inset, 1, r.height() - 2 * inset),
                                brush.t.strong_line);
     }

@@ -40,6 +40,11 @@ int SpaceBeside(QSizePolicy::ControlType left, QSizePolicy::ControlType right, c
   return m.Px(kFields);
 }
 
+// The first word of a menu bar stands over what the dialog begins with.
+bool HangsInDialog(const QWidget* bar) {
+  return bar && qobject_cast<const QDialog*>(bar->parentWidget());
+}
+
 }  // namespace
 
 int SpaceBetween(QSizePolicy::ControlType one, QSizePolicy::ControlType other,
@@ -96,8 +101,9 @@ std::optional<int> MeasureOf(QStyle::PixelMetric metric, const Measures& m, cons
     case QStyle::PM_MenuBarItemSpacing:
       return 0;
     case QStyle::PM_MenuVMargin:
-    case QStyle::PM_MenuBarHMargin:
       return m.Px(4);
+    case QStyle::PM_MenuBarHMargin:
+      return m.Px(HangsInDialog(widget) ? kDialogMargin - kBarItemSide : 4);
     case QStyle::PM_MenuPanelWidth:
       return 1;
     case QStyle::PM_ToolBarFrameWidth:

@@ -58,6 +58,15 @@ void Fill(QMenu& menu) {
 
 }  // namespace
 
+QMenu* MakeDensityMenu(QWidget* parent) {
+  auto* menu = new QMenu(parent);
+  QObject::connect(menu, &QMenu::aboutToShow, menu, [menu] {
+    menu->clear();
+    if (Appearance* appearance = Appearance::Instance()) AddDensities(*menu, *appearance);
+  });
+  return menu;
+}
+
 // Filled when it drops down: a start that nobody looks at the menu in shall not wait for it.
 void AddAppearanceMenu(QMenu& menu) {
   menu.addSeparator();

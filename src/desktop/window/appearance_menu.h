@@ -3,10 +3,14 @@
 #pragma once
 
 class QMenu;
+class QWidget;
 
 namespace tallyroll {
 
 // Adds "Appearance" at the end of the menu: light or dark, and how much stands on the screen.
 void AddAppearanceMenu(QMenu& menu);
+
+// How much stands on the screen, alone.
+QMenu* MakeDensityMenu(QWidget* parent);
 
 }  // namespace tallyroll

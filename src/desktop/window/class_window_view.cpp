@@ -96,6 +96,7 @@ QWidget* ClassWindowView::MakePage() {
   panel_ = new SidePanel(page);
   panel_->hide();
   status_ = new StatusLine(page);
+  status_->TakeDensities(MakeDensityMenu(status_));
 
   auto* middle = new QHBoxLayout;
   middle->setSpacing(0);

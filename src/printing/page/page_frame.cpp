@@ -129,6 +129,7 @@ void PageFooter(ReportPass& pass, int position, bool& restart) {
   Job.PageStudent.push_back(CurrentStudent);
   ++pass.page;
   restart = false;
+  if (Job.FirstPageAlone) throw ReportEnds{};
 }
 
 void PageFooter(ReportPass& pass, int position) {

@@ -49,8 +49,9 @@ void Rule(PrintTarget& target);
 // Lines of the current font from below the head of a report to the bottom of its first page.
 int LinesBelowHead(const PrintTarget& target);
 
-// Ends a pass: thrown by FitBlock for a block taller than a page, and by writers that cannot go on,
-// with what the teacher is told. What was laid out stays where there is no reason.
+// Ends a pass: thrown by FitBlock for a block taller than a page, behind the first page where that
+// alone is wanted, and by writers that cannot go on, with what the teacher is told. What was laid
+// out stays where there is no reason.
 struct ReportEnds {
   std::string reason = {};
 };

@@ -52,6 +52,7 @@ void ResetPrintJob() {
 }
 
 bool Cancelled() {
+  if (Job.FirstPageAlone) return false;
   if (Job.AtEachRow) Job.AtEachRow();
   Platform().PumpEvents();
   return Job.PrintFlag == kPrintCancelled;

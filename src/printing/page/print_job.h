@@ -27,6 +27,8 @@ struct PrintJob {
   i16 ReportCode = 0;
   std::string PrintTitle;           // the teacher's own title, below the report's
   std::function<void()> AtEachRow;  // told once a row, by whoever shows how far the run has come
+  // A look at one page: the layout ends with the first, and nobody is asked, told or waited for.
+  bool FirstPageAlone = false;
 
   int PageTextWidth = 0;  // twips from the left to the right margin
   int PageBottom = 0;     // the CurrentY below which no body line starts

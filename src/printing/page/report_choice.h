@@ -37,6 +37,8 @@ struct ReportChoice {
   double month_first = 0, month_last = 0;  // day serials of firsts of months
 
   std::vector<i16> students;  // Students indices of the reports on one student, in order
+
+  friend bool operator==(const ReportChoice&, const ReportChoice&) = default;
 };
 
 extern ReportChoice Choice;

@@ -47,13 +47,17 @@ constexpr std::array kReports = {
     Report{25, 4, PrintExplained, WriteExplained, true},
 };
 
-// Runs a writer to its end. One that cannot go on tells the teacher why, and the run is cancelled.
+// Runs a writer to its end. One that cannot go on tells the teacher why, or leaves it in the notice
+// of a mere look, and the run is cancelled.
 bool Run(const std::function<void()>& writer) {
   try {
     writer();
   } catch (const ReportEnds& end) {
     if (end.reason.empty()) return true;  // a block taller than a page: what was laid out stays
-    ShowMessage(end.reason, BoxIcon::kCritical);
+    if (Job.FirstPageAlone)
+      Job.Notice = end.reason;
+    else
+      ShowMessage(end.reason, BoxIcon::kCritical);
     Job.PrintFlag = kPrintCancelled;
   }
   return Job.PrintFlag != kPrintCancelled;

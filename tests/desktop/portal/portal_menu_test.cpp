@@ -97,5 +97,19 @@ TEST_F(PortalMenuTest, EscapeLeavesWhereNoButtonDoes) {
   EXPECT_TRUE(missing.Unloaded());
 }
 
+// The words of the bar begin where the list below it does, and the bar is as wide as the window.
+TEST_F(PortalMenuTest, TheMenuHangsOverTheWholeWindowAndBeginsWithItsContent) {
+  Open(info);
+  const auto* bar = dialog->findChild<QMenuBar*>();
+  EXPECT_EQ(bar->mapTo(dialog.get(), QPoint()), QPoint(0, 0));
+  EXPECT_EQ(bar->width(), dialog->width());
+  const auto* list = dialog->findChild<QWidget*>(QStringLiteral("list1"));
+  const int content = list->mapTo(dialog.get(), QPoint()).x();
+  QAction* first = bar->actions().front();
+  const int word = bar->fontMetrics().size(Qt::TextShowMnemonic, first->text()).width();
+  const QRect place = bar->actionGeometry(first);
+  EXPECT_NEAR(place.x() + (place.width() - word) / 2, content, 2);
+}
+
 }  // namespace
 }  // namespace tallyroll

@@ -3,12 +3,14 @@
 #include <gtest/gtest.h>
 
 #include <QAccessible>
+#include <QApplication>
 #include <QComboBox>
 #include <QLabel>
 #include <QScrollArea>
 #include <QTest>
 
 #include "desktop/portal/portal_dialog.h"
+#include "desktop/style/tokens.h"
 #include "printing/frmprintpre.h"
 #include "tests/desktop/keyboard_round.h"
 #include "tests/desktop/spoken_window.h"
@@ -91,19 +93,61 @@ TEST_F(PreviewKeysTest, ControlWithPlusAndMinusZooms) {
   EXPECT_EQ(portal.size.ListIndex, 2);
 }
 
-TEST_F(PreviewKeysTest, TheFrameTakesTheListsAndTheirLabelsPlaceUntilEscape) {
+TEST_F(PreviewKeysTest, TheFrameTakesTheListsPlaceUntilEscape) {
   Open(13, 2);
   dialog->findChild<QAbstractButton*>(QStringLiteral("nine"))->click();
   EXPECT_TRUE(Find("Frame1").isVisible());
-  for (const char* name : {"size", "size_label", "pagenum", "pagenum_label"})
-    EXPECT_FALSE(Find(name).isVisible()) << name;
+  for (const char* name : {"size", "pagenum"}) EXPECT_FALSE(Find(name).isVisible()) << name;
   Press(Qt::Key_Escape);
   EXPECT_FALSE(Find("Frame1").isVisible());
   EXPECT_TRUE(dialog->isVisible());
-  for (const char* name : {"size", "size_label", "pagenum", "pagenum_label"})
-    EXPECT_TRUE(Find(name).isVisible()) << name;
+  for (const char* name : {"size", "pagenum"}) EXPECT_TRUE(Find(name).isVisible()) << name;
   Press(Qt::Key_Escape);
   EXPECT_FALSE(dialog->isVisible());
+}
+
+TEST_F(PreviewKeysTest, OneBarHoldsEveryToolInItsOrder) {
+  Open(19, 3);
+  int after = 0;
+  const int middle = Find("seven").geometry().center().y();
+  for (const char* name :
+       {"one",     "two",   "size", "fitwidth",    "fitpage", "three",       "four",
+        "pagenum", "five",  "six",  "Pagen_label", "Pagen",   "Pagel_label", "Pagel",
+        "seven",   "eight", "nine", "ten",         "pdf",     "eleven",      "twelve"}) {
+    const QRect place = Find(name).geometry();
+    EXPECT_GE(place.left(), after) << name;
+    EXPECT_NEAR(place.center().y(), middle, 1) << name;
+    EXPECT_LE(place.height(), 46) << name;
+    after = place.right();
+  }
+  EXPECT_LE(after, dialog->width());
+}
+
+// Its icon alone, or a short word below it, is what is seen: the name and the tip say all of it.
+TEST_F(PreviewKeysTest, AToolIsNamedInFullWhateverStandsOnIt) {
+  Open(19, 3);
+  for (const auto& [name, whole] : {std::pair{"nine", "Save to Text File"},
+                                    {"ten", "Save to HTML"},
+                                    {"pdf", "Save as PDF"},
+                                    {"six", "Last"}}) {
+    QAccessibleInterface* tool = QAccessible::queryAccessibleInterface(&Find(name));
+    ASSERT_NE(tool, nullptr);
+    EXPECT_EQ(tool->text(QAccessible::Name).toStdString(), whole);
+    EXPECT_EQ(Find(name).toolTip().toStdString(), whole);
+  }
+  const QFontMetrics metrics(Find("nine").font());
+  EXPECT_LT(Find("nine").width(), metrics.horizontalAdvance(QStringLiteral("Save to Text File")));
+}
+
+TEST_F(PreviewKeysTest, PrintIsTheOneThatIsFilled) {
+  Open(19, 3);
+  const auto ground = [this](const char* name) {
+    const QImage picture = Find(name).grab().toImage();
+    return picture.pixelColor(5, picture.height() / 2);
+  };
+  const Tokens t = TokensOf(QApplication::palette());
+  EXPECT_EQ(ground("seven"), t.accent);
+  EXPECT_EQ(ground("eight"), t.window);
 }
 
 }  // namespace

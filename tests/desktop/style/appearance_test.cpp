@@ -8,6 +8,7 @@
 #include <QFontInfo>
 #include <QLineEdit>
 #include <QSettings>
+#include <QToolButton>
 
 #include "desktop/style/desktop_wish.h"
 #include "desktop/style/program_style.h"
@@ -50,6 +51,16 @@ TEST_F(AppearanceTest, DensityMovesFontAndHeightsTogether) {
   EXPECT_GT(field.sizeHint().height(), compact);
   QCoreApplication::processEvents();
   EXPECT_GT(QFontInfo(field.font()).pointSizeF(), small);
+}
+
+TEST_F(AppearanceTest, ToolsAreWrittenSmallAtEveryDensity) {
+  for (const Density density : {Density::kCompact, Density::kNormal, Density::kRoomy}) {
+    look.SetDensity(density);
+    const QToolButton tool;
+    tool.ensurePolished();
+    EXPECT_NEAR(tool.font().pointSizeF(), 0.88 * QApplication::font().pointSizeF(), 0.05)
+        << static_cast<int>(density);
+  }
 }
 
 TEST_F(AppearanceTest, TheNextRunFindsWhatWasChosen) {

@@ -8,6 +8,8 @@
 #include <QLineEdit>
 #include <QListWidget>
 #include <QPushButton>
+#include <QTabBar>
+#include <QTabWidget>
 #include <QVBoxLayout>
 #include <algorithm>
 
@@ -133,6 +135,21 @@ TEST(ListsInHighContrast, AChosenLineStandsOutAsTheDesktopWantsIt) {
               TokensOf(QApplication::palette()).selection.rgb())
         << look.name;
   }
+}
+
+TEST(TabLine, GoesOnBehindTheLastTab) {
+  QTabWidget tabs;
+  tabs.addTab(new QWidget, QStringLiteral("One"));
+  tabs.addTab(new QWidget, QStringLiteral("Two"));
+  tabs.resize(600, 200);
+  tabs.show();
+  QApplication::processEvents();
+  const QImage picture = tabs.grab().toImage();
+  const int line = tabs.tabBar()->geometry().bottom();
+  ASSERT_LT(tabs.tabBar()->geometry().right(), 590);
+  EXPECT_EQ(picture.pixelColor(595, line), TokensOf(tabs.palette()).line);
+  EXPECT_EQ(picture.pixelColor(tabs.tabBar()->geometry().right() - 2, line),
+            TokensOf(tabs.palette()).line);
 }
 
 }  // namespace

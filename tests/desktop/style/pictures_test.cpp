@@ -1,59 +1,69 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Pictures of every window, for the eye: TALLYROLL_PICTURES names the folder they go to, and
-// TALLYROLL_PICTURE_CLASS the class they show. TALLYROLL_PICTURE_LOOK takes one look alone,
-// TALLYROLL_PICTURE_FORMS forms that are not built in yet. Without a folder there is nothing to do.
+// Pictures of every Portal. TALLYROLL_PICTURE_PORTALS takes some alone, TALLYROLL_PICTURE_FORMS
+// forms that are not built in yet, TALLYROLL_PICTURE_OTHER a class to compare with.
+#include "tests/desktop/style/pictures.h"
+
 #include <QAbstractButton>
 #include <QCalendarWidget>
 #include <QComboBox>
-#include <QDir>
 #include <QListWidget>
-#include <QMenu>
-#include <QMenuBar>
-#include <QMessageBox>
 #include <QStackedWidget>
 #include <QTabWidget>
-#include <QTimer>
+#include <QTest>
 
-#include "desktop/platform/message_box.h"
-#include "desktop/style/appearance.h"
-#include "desktop/window/about_box.h"
-#include "desktop/window/class_window_view.h"
-#include "desktop/window/help_window.h"
+#include "desktop/grid/grid_widget.h"
+#include "desktop/paper/qt_print_target.h"
+#include "printing/print_run.h"
+#include "printing/reports/reports.h"
 #include "shell/opened_class.h"
 #include "tests/desktop/every_window.h"
-#include "tests/desktop/style/looks.h"
-#include "tests/desktop/window/frame_fixture.h"
 
 namespace tallyroll {
 namespace {
 
-QString PictureFolder() {
-  return qEnvironmentVariable("TALLYROLL_PICTURES");
-}
-
-std::string PictureClass() {
-  return qEnvironmentVariable("TALLYROLL_PICTURE_CLASS").toStdString();
-}
-
-void Keep(QWidget& window, const QString& look, const QString& name) {
-  const QString folder = PictureFolder();
-  QDir(folder).mkpath(look);
-  EXPECT_TRUE(window.grab().save(QStringLiteral("%1/%2/%3.png").arg(folder, look, name)));
-}
-
-// In each look that is wanted, with its name.
-void ForEachLook(const std::function<void(const QString&)>& take) {
-  const QString only = qEnvironmentVariable("TALLYROLL_PICTURE_LOOK");
-  for (const Look& look : kLooks) {
-    const QString name = QString::fromLatin1(look.name);
-    if (!only.isEmpty() && only != name) continue;
-    const WornLook worn(look);
-    take(name);
+// Reports stand on a sheet of letter paper, in the fonts that they are printed in.
+class PaperScreen : public HeadlessSurroundings {
+ public:
+  std::unique_ptr<PrintTarget> MakePrintBox(bool landscape) override {
+    const Sheet sheet = WholeSheet(QPageSize(QPageSize::Letter));
+    return std::make_unique<QtPrintTarget>(landscape ? Turned(sheet) : sheet);
   }
-}
+};
 
 class Pictures : public EveryWindow {
  protected:
+  Pictures() { SetPlatform(&paper); }
+  ~Pictures() override { dialog.reset(); }
+
+  // What the preview shows: the averages of the class, or its grades while it has none.
+  static void LayOutReport() {
+    ResetPrinting();
+    Job.PrintFlag = kPrintRuns;
+    Job.PrintTab = HasAverages() ? 4 : 1;
+    Job.ReportCode = HasAverages() ? 11 : 1;
+    Job.PrintTitle = "First Term";
+    tallyroll::LayOutReport();
+  }
+
+  // A sheet beside options is drawn a moment after them.
+  static void AwaitSheet(const std::string& name) {
+    if (name.starts_with("frmprintall")) QTest::qWait(400);
+  }
+
+  // Marks as they are typed, of which one may be a slip.
+  void TypeMarks(const QString& look) {
+    auto& sheet = Find<GridWidget>("Grid1");
+    sheet.setFocus();
+    for (const char* mark : {"18", "9.5", "200", "CUT"}) {
+      QTest::keyClicks(&sheet, QString::fromLatin1(mark));
+      QTest::keyClick(&sheet, Qt::Key_Return);
+    }
+    QTest::keyClick(&sheet, Qt::Key_Up);
+    QTest::keyClick(&sheet, Qt::Key_Up);
+    QCoreApplication::processEvents();
+    Keep(*dialog, look, QStringLiteral("frmMarks-typed"));
+  }
+
   void Click(const char* button) {
     auto* found = dialog->findChild<QAbstractButton*>(QString::fromLatin1(button));
     ASSERT_NE(found, nullptr) << button;
@@ -104,6 +114,7 @@ class Pictures : public EveryWindow {
       Click("Summary");
       Keep(*dialog, look, QStringLiteral("frmAtsum-range"));
     }
+    if (name == "frmMarks") return TypeMarks(look);
     for (const char* list : {"lstName", "lsttitles", "list1", "List1"}) {
       auto* found = dialog->findChild<QListWidget*>(QString::fromLatin1(list));
       if (!found || !found->isVisible() || found->count() == 0 || found->currentRow() >= 0)
@@ -114,6 +125,8 @@ class Pictures : public EveryWindow {
     }
     TurnPages(name, look);
   }
+
+  PaperScreen paper;
 };
 
 TEST_F(Pictures, OfEveryPortalInEveryLook) {
@@ -129,13 +142,16 @@ TEST_F(Pictures, OfEveryPortalInEveryLook) {
     CurrentClass = 1;
   }
   const QString only = qEnvironmentVariable("TALLYROLL_PICTURE_PORTALS");
+  LayOutReport();
   ForEachLook([&](const QString& look) {
     ForEach([&](const std::string& name, PortalDialog& window) {
       if (!only.isEmpty() && !only.split(u',').contains(QString::fromStdString(name))) return;
+      AwaitSheet(name);
       Keep(window, look, QString::fromStdString(name));
       for (auto* tabs : window.findChildren<QTabWidget*>())
         for (int i = 1; i < tabs->count(); ++i) {
           tabs->setCurrentIndex(i);
+          AwaitSheet(name);
           Keep(window, look, QStringLiteral("%1-page%2").arg(QString::fromStdString(name)).arg(i));
         }
       Further(name, look);
@@ -143,78 +159,6 @@ TEST_F(Pictures, OfEveryPortalInEveryLook) {
     QCalendarWidget calendar;
     calendar.show();
     Keep(calendar, look, QStringLiteral("calendar"));
-  });
-}
-
-class FramePictures : public FrameTest {
- protected:
-  // A box runs until it is answered: it is looked at from within.
-  static void KeepBox(const QString& look, const QString& name, const std::function<void()>& show) {
-    QTimer::singleShot(50, qApp, [&] {
-      QWidget* box = QApplication::activeModalWidget();
-      ASSERT_NE(box, nullptr);
-      Keep(*box, look, name);
-      qobject_cast<QDialog*>(box)->done(QMessageBox::Ok);
-    });
-    show();
-  }
-
-  void KeepMenus(const QString& look) {
-    for (const QAction* heading : window->menuBar()->actions()) {
-      QMenu* menu = heading->menu();
-      if (!menu || !heading->isVisible()) continue;
-      menu->popup(window->mapToGlobal(QPoint(0, 40)));
-      Settle();
-      Keep(*menu, look, QStringLiteral("menu-") + heading->text().remove(u'&').remove(u' '));
-      menu->close();
-    }
-  }
-
-  void KeepBoxes(const QString& look) {
-    const std::pair<const char*, MessageRequest> boxes[] = {
-        {"box-question",
-         {"Do you want to save the changes to SAMPLE8.TYR?", "SAVE", BoxButtons::kYesNoCancel,
-          BoxIcon::kQuestion}},
-        {"box-information",
-         {"The report was saved.", "Saved", BoxButtons::kOk, BoxIcon::kInformation}},
-        {"box-warning",
-         {"A name with \"<\" in it, and a sentence which is longer than a line of this box can "
-          "be, so that it wraps.",
-          "CANCEL", BoxButtons::kOkCancel, BoxIcon::kExclamation}},
-        {"box-error", {"File Error: 61", "ERROR", BoxButtons::kOk, BoxIcon::kCritical}}};
-    for (const auto& [name, request] : boxes)
-      KeepBox(look, QLatin1String(name),
-              [&, &asked = request] { ShowMessageBox(asked, window.get()); });
-    KeepBox(look, QStringLiteral("box-about"), [&] { ShowAboutBox(window.get()); });
-  }
-};
-
-TEST_F(FramePictures, OfTheFrameInEveryLook) {
-  if (PictureFolder().isEmpty()) GTEST_SKIP() << "TALLYROLL_PICTURES is not set";
-  const std::string file = PictureClass();
-  window->resize(1366, 768);
-  ForEachLook([&](const QString& look) {
-    Settle();
-    Keep(*window, look, QStringLiteral("start"));
-    if (file.empty()) return;
-    FrameForm->OpenRecent(file);
-    window->Sync();
-    Settle();
-    ASSERT_NE(window->Current(), nullptr);
-    Keep(*window, look, QStringLiteral("class"));
-    KeepMenus(look);
-    KeepBoxes(look);
-    window->resize(1000, 500);
-    Settle();
-    Keep(*window, look, QStringLiteral("class-small"));
-    window->resize(1366, 768);
-    HelpWindow help(window.get());
-    help.ShowTopic(0);
-    help.show();
-    Settle();
-    Keep(help, look, QStringLiteral("help"));
-    EXPECT_TRUE(FrameForm->CloseWindow(*ClassWindows[1]));
-    Settle();
   });
 }
 

@@ -16,6 +16,7 @@
 
 #include "desktop/grid/grid_widget.h"
 #include "desktop/panel/missing_line.h"
+#include "desktop/style/appearance.h"
 #include "desktop/window/class_window_view.h"
 #include "store/class_defaults.h"
 #include "tests/desktop/window/frame_fixture.h"
@@ -290,6 +291,24 @@ TEST_F(SidePanelTest, ADotStandsWhileTheClassIsNotSaved) {
   EXPECT_EQ(Said("not_saved"), QStringLiteral("not saved"));
   PressMenu("mnusave");
   EXPECT_EQ(Said("not_saved"), QStringLiteral("-"));
+}
+
+TEST_F(SidePanelTest, TheStatusLineOffersHowMuchStandsOnTheScreen) {
+  auto* button = view().findChild<QToolButton*>(QStringLiteral("density"));
+  ASSERT_NE(button, nullptr);
+  EXPECT_EQ(button->accessibleName(), QStringLiteral("How much stands on the screen"));
+  EXPECT_NE(button->focusPolicy() & Qt::TabFocus, 0);
+  QTimer::singleShot(0, button, [button] {
+    auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+    ASSERT_EQ(menu, button->menu());
+    ASSERT_EQ(menu->actions().size(), 3);
+    EXPECT_TRUE(menu->actions().at(1)->isChecked());  // Normal
+    QTest::keyClick(menu, Qt::Key_C);
+  });
+  QTest::mouseClick(button, Qt::LeftButton);
+  Settle();
+  EXPECT_EQ(Appearance::Instance()->density(), Density::kCompact);
+  Appearance::Instance()->SetDensity(Density::kNormal);
 }
 
 }  // namespace
