@@ -114,7 +114,7 @@ class Pictures : public EveryWindow {
       Click("Summary");
       Keep(*dialog, look, QStringLiteral("frmAtsum-range"));
     }
-    if (name == "frmMarks") return TypeMarks(look);
+    if (name == "frmMarks") TypeMarks(look);
     for (const char* list : {"lstName", "lsttitles", "list1", "List1"}) {
       auto* found = dialog->findChild<QListWidget*>(QString::fromLatin1(list));
       if (!found || !found->isVisible() || found->count() == 0 || found->currentRow() >= 0)

@@ -2,7 +2,7 @@
 // The texts of the forms of the averages, word for word: teachers know them by heart.
 #include <gtest/gtest.h>
 
-#include "tests/desktop/portal/form_texts.h"
+#include "tests/desktop/forms/form_texts.h"
 
 namespace tallyroll {
 namespace {

@@ -14,7 +14,7 @@
 #include "desktop/grid/grid_painter.h"
 #include "desktop/grid/grid_widget.h"
 #include "tests/desktop/class_dialogs.h"
-#include "tests/desktop/portal/form_texts.h"
+#include "tests/desktop/forms/form_texts.h"
 
 namespace tallyroll {
 namespace {
