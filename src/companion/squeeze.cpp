@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "companion/squeeze.h"
 
-#include <dlfcn.h>
 #include <zstd.h>
 
 #include <memory>
 
+#include "platform/loaded_library.h"
 #include "store/safe_file.h"
 
 namespace tallyroll {
@@ -26,23 +26,16 @@ struct SqueezeCalls {
   decltype(&ZSTD_decompress) decompress = nullptr;
 };
 
-template <typename Call>
-bool FindCall(void* library, const char* name, Call& call) {
-  call = reinterpret_cast<Call>(dlsym(library, name));
-  return call != nullptr;
-}
-
-// False without the library. It stays loaded: loading it twice finds the same one.
+// False without the library.
 bool LoadSqueeze(SqueezeCalls& zstd) {
-  void* const library = dlopen("libzstd.so.1", RTLD_NOW | RTLD_LOCAL);
-  return library && FindCall(library, "ZSTD_isError", zstd.is_error) &&
-         FindCall(library, "ZSTD_compressBound", zstd.compress_bound) &&
-         FindCall(library, "ZSTD_createCCtx", zstd.create) &&
-         FindCall(library, "ZSTD_freeCCtx", zstd.free) &&
-         FindCall(library, "ZSTD_CCtx_setParameter", zstd.set) &&
-         FindCall(library, "ZSTD_compress2", zstd.compress) &&
-         FindCall(library, "ZSTD_getFrameContentSize", zstd.content_size) &&
-         FindCall(library, "ZSTD_decompress", zstd.decompress);
+  const LoadedLibrary library{"libzstd.so.1"};
+  return library.Find("ZSTD_isError", zstd.is_error) &&
+         library.Find("ZSTD_compressBound", zstd.compress_bound) &&
+         library.Find("ZSTD_createCCtx", zstd.create) && library.Find("ZSTD_freeCCtx", zstd.free) &&
+         library.Find("ZSTD_CCtx_setParameter", zstd.set) &&
+         library.Find("ZSTD_compress2", zstd.compress) &&
+         library.Find("ZSTD_getFrameContentSize", zstd.content_size) &&
+         library.Find("ZSTD_decompress", zstd.decompress);
 }
 
 }  // namespace

@@ -19,8 +19,12 @@ int MostSeatsPerRow(int columns) {
   return columns < kWideChart ? kMostSeatRows : kMostSeatsInWide;
 }
 
+bool CardsShowIds() {
+  return NameMode >= kFirstIdMode;
+}
+
 std::string SeatLabel(const Student& student) {
-  if (NameMode >= kFirstIdMode) return std::string(Trim(student.id));
+  if (CardsShowIds()) return std::string(Trim(student.id));
   const std::string_view last = student.lastname, first = student.firstname;
   return std::string(Trim(last.substr(0, kLastNameOnCard))) + ", " +
          std::string(Trim(first.substr(0, kFirstNameOnCard)));

@@ -28,6 +28,9 @@ struct Seat {
   friend bool operator==(const Seat&, const Seat&) = default;
 };
 
+// Whether a card shows the ID in place of the name.
+bool CardsShowIds();
+
 // What stands on a student's card, and by which the card finds its student again: the ID, or 12
 // characters of the last and 10 of the first name, as NameMode asks.
 std::string SeatLabel(const Student& student);

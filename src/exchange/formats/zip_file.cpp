@@ -1,12 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "exchange/formats/zip_file.h"
 
-#include <dlfcn.h>
 #include <zip.h>
 
 #include <array>
 #include <memory>
 #include <vector>
+
+#include "platform/loaded_library.h"
 
 namespace tallyroll {
 namespace {
@@ -38,36 +39,24 @@ struct ZipCalls {
   decltype(&zip_discard) discard = nullptr;
 };
 
-template <typename Call>
-bool Find(void* library, const char* name, Call& call) {
-  call = reinterpret_cast<Call>(dlsym(library, name));
-  return call != nullptr;
-}
-
-void* ZipLibrary() {
-  for (const char* name : {"libzip.so.4", "libzip.so.5"})
-    if (void* const library = dlopen(name, RTLD_NOW | RTLD_LOCAL)) return library;
-  return nullptr;
-}
-
-// False without the library. It stays loaded: loading it twice finds the same one.
+// False without the library.
 bool LoadZip(ZipCalls& zip) {
-  void* const library = ZipLibrary();
-  return library && Find(library, "zip_source_buffer_create", zip.source_buffer_create) &&
-         Find(library, "zip_source_free", zip.source_free) &&
-         Find(library, "zip_source_keep", zip.source_keep) &&
-         Find(library, "zip_source_open", zip.source_open) &&
-         Find(library, "zip_source_read", zip.source_read) &&
-         Find(library, "zip_source_close", zip.source_close) &&
-         Find(library, "zip_open_from_source", zip.open_from_source) &&
-         Find(library, "zip_get_num_entries", zip.get_num_entries) &&
-         Find(library, "zip_stat_index", zip.stat_index) &&
-         Find(library, "zip_fopen_index", zip.fopen_index) &&
-         Find(library, "zip_fread", zip.read) && Find(library, "zip_fclose", zip.fclose) &&
-         Find(library, "zip_source_buffer", zip.source_buffer) &&
-         Find(library, "zip_file_add", zip.file_add) &&
-         Find(library, "zip_file_set_mtime", zip.file_set_mtime) &&
-         Find(library, "zip_close", zip.close) && Find(library, "zip_discard", zip.discard);
+  const LoadedLibrary library{"libzip.so.4", "libzip.so.5"};
+  return library.Find("zip_source_buffer_create", zip.source_buffer_create) &&
+         library.Find("zip_source_free", zip.source_free) &&
+         library.Find("zip_source_keep", zip.source_keep) &&
+         library.Find("zip_source_open", zip.source_open) &&
+         library.Find("zip_source_read", zip.source_read) &&
+         library.Find("zip_source_close", zip.source_close) &&
+         library.Find("zip_open_from_source", zip.open_from_source) &&
+         library.Find("zip_get_num_entries", zip.get_num_entries) &&
+         library.Find("zip_stat_index", zip.stat_index) &&
+         library.Find("zip_fopen_index", zip.fopen_index) && library.Find("zip_fread", zip.read) &&
+         library.Find("zip_fclose", zip.fclose) &&
+         library.Find("zip_source_buffer", zip.source_buffer) &&
+         library.Find("zip_file_add", zip.file_add) &&
+         library.Find("zip_file_set_mtime", zip.file_set_mtime) &&
+         library.Find("zip_close", zip.close) && library.Find("zip_discard", zip.discard);
 }
 
 bool IsPlainName(std::string_view name) {
