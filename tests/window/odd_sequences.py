@@ -87,8 +87,8 @@ def grades(program):
     above = Atspi.Component.get_extents(program.field("Lowest Passing Score for Grade"),
                                         Atspi.CoordType.SCREEN)
     xdotool("mousemove", above.x + 20, above.y + 2 * above.height, "click", 5, "click", 5)
-    # The fill takes a value and Enter.
-    program.keys("alt+l", "Down", "Tab")
+    # The fill takes a value, the last of its five, and Enter.
+    program.keys("alt+l", "Down", "Down", "Down", "Down", "Tab")
     program.type("60")
     program.keys("Return")
     await_cell(program, 4, 2, "60", "Marks")

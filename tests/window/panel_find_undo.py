@@ -219,6 +219,7 @@ def narrow(program):
     window = xdotool("getactivewindow")
     xdotool("windowsize", "--sync", window, 900, 700)
     wait_for("no panel", lambda: program.find_label("Ada Ng") is None)
+    time.sleep(1.5)  # the name that was typed last would go on
     program.type("orr")
     find(program, "ratios", "Ratios")
     xdotool("windowsize", "--sync", window, 1400, 900)
