@@ -22,7 +22,7 @@ struct FormTexts {
   std::vector<std::string> texts;  // of labels, group boxes and buttons, in any order
 };
 
-const FormTexts kForms[] = {
+const FormTexts kGradeForms[] = {
     {"frmMarks",
      "Enter  Grades  Portal",
      {"Title of  Grade",
@@ -118,7 +118,7 @@ std::vector<std::string> TextsOf(const LoadedForm& form) {
 }
 
 TEST(GradeFormTexts, EveryFormReadsAsTeachersKnowIt) {
-  for (const FormTexts& form : kForms) {
+  for (const FormTexts& form : kGradeForms) {
     QDialog dialog;
     const LoadedForm loaded = Forms().Load(FormFile(form.portal), dialog);
     EXPECT_THAT(TextsOf(loaded), testing::UnorderedElementsAreArray(form.texts)) << form.portal;
