@@ -3,8 +3,6 @@
 
 #include <QAbstractButton>
 #include <QApplication>
-#include <QFormLayout>
-#include <QGridLayout>
 #include <QGroupBox>
 #include <QKeySequence>
 #include <QLabel>
@@ -23,6 +21,7 @@
 #include <map>
 
 #include "desktop/letter/rich_text_edit.h"
+#include "tests/desktop/reading_order.h"
 
 namespace tallyroll {
 namespace {
@@ -40,20 +39,7 @@ bool IsTabStop(const QWidget& window, const QWidget& widget) {
 void ReadInOrder(QWidget& widget, TabStops& order);
 
 void ReadInOrder(QLayout& layout, TabStops& order) {
-  std::map<std::pair<int, int>, QLayoutItem*> items;
-  for (int i = 0; i < layout.count(); ++i) {
-    std::pair<int, int> place{i, 0};
-    if (auto* grid = qobject_cast<QGridLayout*>(&layout)) {
-      int rows = 0, columns = 0;
-      grid->getItemPosition(i, &place.first, &place.second, &rows, &columns);
-    } else if (auto* fields = qobject_cast<QFormLayout*>(&layout)) {
-      QFormLayout::ItemRole role = QFormLayout::LabelRole;
-      fields->getItemPosition(i, &place.first, &role);
-      place.second = role;
-    }
-    items[place] = layout.itemAt(i);
-  }
-  for (const auto& [place, item] : items) {
+  for (QLayoutItem* item : ItemsInReadingOrder(layout)) {
     if (item->widget()) ReadInOrder(*item->widget(), order);
     if (item->layout()) ReadInOrder(*item->layout(), order);
   }

@@ -15,8 +15,8 @@
 #include <algorithm>
 #include <utility>
 
+#include "desktop/basics/names_of_parts.h"
 #include "desktop/basics/palette_icon.h"
-#include "desktop/basics/part_names.h"
 #include "desktop/basics/text_conversion.h"
 #include "desktop/grid/cell_list.h"
 #include "desktop/grid/grid_widget.h"

@@ -3,8 +3,6 @@
 
 #include <QAbstractButton>
 #include <QAction>
-#include <QFormLayout>
-#include <QGridLayout>
 #include <QGroupBox>
 #include <QKeySequence>
 #include <QLabel>
@@ -15,13 +13,14 @@
 #include <QStackedWidget>
 #include <QTabWidget>
 #include <algorithm>
-#include <map>
 #include <type_traits>
+#include <utility>
 
 #include "desktop/basics/text_conversion.h"
 #include "desktop/portal/form_loader.h"
 #include "desktop/portal/portal_dialog.h"
 #include "platform/chart.h"
+#include "tests/desktop/reading_order.h"
 
 namespace tallyroll {
 namespace {
@@ -64,20 +63,7 @@ QStringList CheckCaptions(Portal& portal, const LoadedForm& form) {
 void AddInReadingOrder(QWidget& widget, Widgets& order);
 
 void AddInReadingOrder(QLayout& layout, Widgets& order) {
-  std::map<std::pair<int, int>, QLayoutItem*> items;
-  for (int i = 0; i < layout.count(); ++i) {
-    std::pair<int, int> place{i, 0};
-    if (auto* grid = qobject_cast<QGridLayout*>(&layout)) {
-      int rows = 0, columns = 0;
-      grid->getItemPosition(i, &place.first, &place.second, &rows, &columns);
-    } else if (auto* fields = qobject_cast<QFormLayout*>(&layout)) {
-      QFormLayout::ItemRole role = QFormLayout::LabelRole;
-      fields->getItemPosition(i, &place.first, &role);
-      place.second = role;
-    }
-    items[place] = layout.itemAt(i);
-  }
-  for (const auto& [place, item] : items) {
+  for (QLayoutItem* item : ItemsInReadingOrder(layout)) {
     if (item->widget()) AddInReadingOrder(*item->widget(), order);
     if (item->layout()) AddInReadingOrder(*item->layout(), order);
   }

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "desktop/basics/part_names.h"
+#include "desktop/basics/names_of_parts.h"
 
 #include <QAbstractItemView>
 #include <QAbstractSpinBox>
