@@ -108,6 +108,7 @@ class SheetBinding : public Binding<PictureBox, QScrollArea> {
 
   void Draw() {
     view_->ShowSheet(control_, Room());
+    widget_.viewport()->update();  // the shadow of the sheet before lies there still
     if (view_->Words() != widget_.accessibleDescription())
       widget_.setAccessibleDescription(view_->Words());
   }

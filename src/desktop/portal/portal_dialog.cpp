@@ -15,6 +15,7 @@
 #include "desktop/basics/window_places.h"
 #include "desktop/portal/exit_tips.h"
 #include "desktop/portal/form_loader.h"
+#include "desktop/portal/page_stack.h"
 #include "desktop/portal/scrolling_body.h"
 #include "desktop/portal/wheel_guard.h"
 #include "platform/surroundings.h"
@@ -33,6 +34,14 @@ class Silence {
  private:
   int& count_;
 };
+
+// The size that was kept may be that of a lower page.
+void TakePlace(QDialog& dialog, const QString& name, ScrollingBody* body, QSize& room) {
+  RestorePlace(dialog, name);
+  if (!dialog.findChild<PageStack*>()) return;
+  room = QSize();
+  TakeRoom(dialog, body, room);
+}
 
 QAbstractButton* PressedByEnter(QObject& watched) {
   if (auto* button = qobject_cast<QPushButton*>(&watched)) return button;
@@ -281,7 +290,7 @@ void PortalDialog::showEvent(QShowEvent* event) {
 }
 
 void PortalDialog::RunModal() {
-  RestorePlace(*this, FromText(portal_.Name()));
+  TakePlace(*this, FromText(portal_.Name()), body_, room_);
   exec();
   // A window manager may lose the focus when a box and the Portal below it go at the same moment.
   if (parentWidget()) parentWidget()->activateWindow();
@@ -289,7 +298,7 @@ void PortalDialog::RunModal() {
 }
 
 void PortalDialog::RestoreAndShow() {
-  RestorePlace(*this, FromText(portal_.Name()));
+  TakePlace(*this, FromText(portal_.Name()), body_, room_);
   show();
 }
 

@@ -89,6 +89,16 @@ TEST_F(TakeRoomTest, AWindowIsAsHighAsItsPage) {
   EXPECT_EQ(Hidden(), QSize(0, 0));
 }
 
+TEST_F(TakeRoomTest, TheSizeKeptOfALowPageDoesNotCutAHighOne) {
+  OpenState = kImportNames;
+  OpenAsItIs(text);
+  dialog->SaveAndHide();
+  Find<QStackedWidget>("framecontrol").setCurrentIndex(1);
+  dialog->RestoreAndShow();
+  QCoreApplication::processEvents();
+  EXPECT_EQ(Hidden(), QSize(0, 0));
+}
+
 TEST_F(TakeRoomTest, AWindowMadeSmallStaysSmallWhileNothingNewIsShown) {
   OpenAsItIs(summary);
   const QSize small(dialog->width(), 320);
