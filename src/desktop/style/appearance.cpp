@@ -37,11 +37,21 @@ int KeptChoice(const QString& key, int most) {
 
 constexpr Density kDensities[] = {Density::kNormal, Density::kCompact, Density::kRoomy};
 
+// Whether a desktop or a user named what is shown. Otherwise the system takes the first that it has
+// of a few; another of these goes back to whoever set it up.
+bool IsChosen(const QFont& font) {
+  const QString found = QFontInfo(font).family();
+  if (found.startsWith(font.family(), Qt::CaseInsensitive)) return true;
+  constexpr const char* kStandIns[] = {"DejaVu Sans", "Nimbus Sans", "Liberation Sans",
+                                       "Bitstream Vera Sans"};
+  return std::ranges::none_of(
+      kStandIns, [&found](const char* name) { return found.startsWith(QLatin1String(name)); });
+}
+
 }  // namespace
 
 QFont UsualFont(const QFont& given) {
-  const QString found = QFontInfo(given).family();
-  if (!found.startsWith(QLatin1String("DejaVu"))) return given;
+  if (IsChosen(given)) return given;
   for (const char* name : {"Inter", "Noto Sans", "Open Sans"}) {
     QFont font{QString::fromLatin1(name)};
     if (QFontInfo(font).family() != QLatin1String(name)) continue;

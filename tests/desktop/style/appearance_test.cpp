@@ -115,5 +115,25 @@ TEST(HighContrast, IsBlackOnWhiteThroughout) {
   EXPECT_FALSE(IsHighContrast(palette));
 }
 
+TEST(UsualFont, ThatNobodyChoseIsInterALittleLarger) {
+  QFont given(QStringLiteral("Sans Serif"));
+  given.setPointSizeF(12);
+  const QString found = QFontInfo(given).family();
+  if (!found.startsWith(QStringLiteral("DejaVu")) && !found.startsWith(QStringLiteral("Nimbus")) &&
+      !found.startsWith(QStringLiteral("Liberation")))
+    GTEST_SKIP() << "this machine shows " << found.toStdString();
+  const QFont usual = UsualFont(given);
+  EXPECT_EQ(usual.family(), QStringLiteral("Inter"));
+  EXPECT_DOUBLE_EQ(usual.pointSizeF(), 13);  // 9.75 for 9
+}
+
+TEST(UsualFont, ThatADesktopNamesStays) {
+  QFont given(QStringLiteral("Liberation Sans"));
+  given.setPointSizeF(11);
+  const QFont usual = UsualFont(given);
+  EXPECT_EQ(usual.family(), QStringLiteral("Liberation Sans"));
+  EXPECT_DOUBLE_EQ(usual.pointSizeF(), 11);
+}
+
 }  // namespace
 }  // namespace tallyroll
