@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cstdint>
 #include <optional>
 
 #include "base/number_text.h"
@@ -14,7 +15,7 @@ namespace {
 constexpr std::string_view kSeparators = ";,\t";  // on equal terms the earlier one
 constexpr std::string_view kSeparatorLine = "sep=";
 constexpr int kRecordsLookedAt = 20;
-constexpr std::size_t kMostCells = 1000;
+constexpr std::size_t kMostColumns = 1000;
 constexpr char kQuote = '"';
 constexpr char kTextMark = '\'';
 
@@ -35,6 +36,11 @@ bool NeedsTextMark(std::string_view text) {
 bool TellsSeparator(std::string_view text) {
   return text.starts_with(kSeparatorLine) && text.size() > kSeparatorLine.size() &&
          std::string_view("\"\r\n").find(text[kSeparatorLine.size()]) == std::string_view::npos;
+}
+
+std::string ExcessOf(std::size_t records, std::size_t cells) {
+  if (records > kMostRecords) return PlainNumberText(std::int64_t{kMostRecords}) + " lines";
+  return cells > kMostCells ? PlainNumberText(std::int64_t{kMostCells}) + " cells" : "";
 }
 
 using Counts = std::array<int, kSeparators.size()>;
@@ -86,13 +92,16 @@ class Parser {
 
   CsvTable Table() {
     CsvTable table;
-    while (at_ < text_.size() && table.unclosed_line == 0 && !table.too_long) {
+    std::size_t cells = 0;
+    while (at_ < text_.size() && table.unclosed_line == 0 && table.excess.empty()) {
       CsvRecord record = Record();
       table.unclosed_line = unclosed_line_;
-      const bool blank = std::ranges::all_of(
-          record.cells, [](const CsvCell& cell) { return Trim(cell.text).empty(); });
-      table.too_long = !blank && table.records.size() == kMostRecords;
-      if (!blank && !table.too_long) table.records.push_back(std::move(record));
+      if (std::ranges::all_of(record.cells,
+                              [](const CsvCell& cell) { return Trim(cell.text).empty(); }))
+        continue;
+      cells += record.cells.size();
+      table.excess = ExcessOf(table.records.size() + 1, cells);
+      if (table.excess.empty()) table.records.push_back(std::move(record));
     }
     return table;
   }
@@ -103,7 +112,7 @@ class Parser {
     record.line = line_;
     do {
       CsvCell cell = Cell();
-      if (record.cells.size() < kMostCells) record.cells.push_back(std::move(cell));
+      if (record.cells.size() < kMostColumns) record.cells.push_back(std::move(cell));
     } while (Take(separator_));
     TakeLineEnd();
     return record;
@@ -175,7 +184,7 @@ std::string FaultOf(const CsvTable& table) {
   if (table.unclosed_line > 0)
     return "has a quotation mark in line " + PlainNumberText(table.unclosed_line) +
            " that is never closed";
-  return table.too_long ? "has more than " + PlainNumberText(kMostRecords) + " lines" : "";
+  return table.excess.empty() ? "" : "has more than " + table.excess;
 }
 
 std::string CsvField(std::string_view text, char separator) {

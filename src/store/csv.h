@@ -2,13 +2,16 @@
 // Comma-separated values as spreadsheets write and read them.
 #pragma once
 
+#include <cstddef>
 #include <string>
 #include <string_view>
 #include <vector>
 
 namespace tallyroll {
 
-inline constexpr int kMostRecords = 200'000;
+// Three hundred marks of a thousand students, each on a line of ten cells, and room beside them.
+inline constexpr std::size_t kMostRecords = 500'000;
+inline constexpr std::size_t kMostCells = 5'000'000;  // about a hundred bytes each while it is read
 
 struct CsvCell {
   std::string_view raw;  // as it stands in the file, its quotes included
@@ -23,7 +26,7 @@ struct CsvRecord {
 struct CsvTable {
   std::vector<CsvRecord> records;  // those in which anything stands
   int unclosed_line = 0;           // where a quote was opened that nothing closes; 0 is nowhere
-  bool too_long = false;           // more records than kMostRecords
+  std::string excess;              // of what there is too much ("500000 lines"); empty is nothing
 };
 
 // A semicolon, a comma or a tab, whichever parts the first records most often and evenly. A first

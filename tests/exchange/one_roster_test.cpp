@@ -95,6 +95,17 @@ TEST_F(OneRosterTest, AnArchiveThatUnpacksToTooMuchIsRefused) {
   EXPECT_TRUE(Unzip(Zip(files).bytes).files.empty());
 }
 
+// Three hundred marks of a thousand students, each a line as long as those that go out.
+TEST_F(OneRosterTest, AnArchiveOfABigClassIsUnpacked) {
+  const ZipFiles small = Unzip(
+      OutFile(ExchangeFormat::kOneRoster, MakeOutTable(ExchangeFormat::kOneRoster, {})).bytes);
+  const std::string& results = small.files.at("results.csv");
+  const std::size_t line = results.find('\n', results.find('\n') + 1) - results.find('\n');
+  EXPECT_GT(line, 150u);
+  const ZipBytes big = Zip({{"results.csv", std::string(300'000 * line, '0')}});
+  EXPECT_EQ(Unzip(big.bytes).refusal, "");
+}
+
 TEST_F(OneRosterTest, AnArchiveThatLiesAboutItsSizesIsRefused) {
   const std::string honest = Zip(School()).bytes;
   // The unpacked size of the first entry, in its local header and in the directory at the end.

@@ -74,9 +74,18 @@ TEST(Csv, CellsBehindTheThousandthAreLeft) {
 
 TEST(Csv, TooManyLinesAreTold) {
   std::string lines;
-  for (int i = 0; i < 200'000; ++i) lines += "a\n";
+  for (int i = 0; i < 500'000; ++i) lines += "a\n";
   EXPECT_EQ(FaultOf(ParseCsv(lines + "\n\n")), "");
-  EXPECT_EQ(FaultOf(ParseCsv(lines + "a")), "has more than 200000 lines");
+  EXPECT_EQ(FaultOf(ParseCsv(lines + "a")), "has more than 500000 lines");
+}
+
+// A small file could otherwise fill the memory of the machine.
+TEST(Csv, TooManyCellsAreTold) {
+  const std::string thousand = "a" + std::string(999, ',') + "\n";
+  std::string lines;
+  for (int i = 0; i < 5'000; ++i) lines += thousand;
+  EXPECT_EQ(FaultOf(ParseCsv(lines)), "");
+  EXPECT_EQ(FaultOf(ParseCsv(lines + "a")), "has more than 5000000 cells");
 }
 
 TEST(FindSeparator, IsTheOneOfTheFirstLines) {
