@@ -2,6 +2,7 @@
 #include <gmock/gmock.h>
 
 #include "exchange/formats/zip_file.h"
+#include "exchange/out_table.h"
 #include "tests/exchange/exchange_test.h"
 
 namespace tallyroll {
