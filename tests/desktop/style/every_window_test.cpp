@@ -182,6 +182,15 @@ TEST_F(EveryWindowTest, ALabelStandsNearerToItsFieldThanToTheOneBefore) {
   EXPECT_GT(pairs, 3);
 }
 
+// The toolkit would take the least size and forget the other.
+TEST_F(EveryWindowTest, NothingMustBeLargerThanItMay) {
+  ForEach([](const std::string& name, PortalDialog& window) {
+    for (const auto* each : window.findChildren<QWidget*>())
+      EXPECT_EQ(each->minimumSize().boundedTo(each->maximumSize()), each->minimumSize())
+          << name << ": " << each->objectName().toStdString();
+  });
+}
+
 // A caption needs its width; a label that wraps needs its height.
 TEST_F(EveryWindowTest, NoCaptionIsCut) {
   ForEach([](const std::string& name, PortalDialog& window) {
