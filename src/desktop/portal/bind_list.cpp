@@ -4,7 +4,6 @@
 #include <QKeyEvent>
 #include <QListWidget>
 #include <QMouseEvent>
-#include <QPainter>
 
 #include "desktop/basics/text_conversion.h"
 #include "desktop/basics/typed_ahead.h"
@@ -76,8 +75,6 @@ class ListBinding : public Binding<ListBox, QListWidget> {
 
   bool eventFilter(QObject* watched, QEvent* event) override {
     if (event->type() == QEvent::FocusIn && watched == &widget_) return TakeFocus(event);
-    if (event->type() == QEvent::Paint && watched == widget_.viewport() && widget_.count() == 0)
-      SayWhatWillStandHere();
     if (event->type() == QEvent::KeyPress) {
       by_mouse_ = false;
       const auto& key = *static_cast<const QKeyEvent*>(event);
@@ -139,13 +136,6 @@ class ListBinding : public Binding<ListBox, QListWidget> {
   }
 
   // A list says it by its description, to the eye as to a screen reader.
-  void SayWhatWillStandHere() const {
-    QPainter painter(widget_.viewport());
-    painter.setPen(widget_.palette().color(QPalette::PlaceholderText));
-    painter.drawText(widget_.viewport()->rect().adjusted(8, 8, -8, -8),
-                     Qt::AlignCenter | Qt::TextWordWrap, widget_.accessibleDescription());
-  }
-
   // With the focus the list makes its first line the current one, which nobody chose.
   bool TakeFocus(QEvent* event) {
     const QSignalBlocker silence(widget_);

@@ -26,6 +26,7 @@ namespace tallyroll {
 namespace {
 
 constexpr double kTwipsPerInch = 1440;
+constexpr double kUsualPoints = 9.75;  // of the screen's words, beside which a chart's are chosen
 constexpr int kSavedDotsPerInch = 300;
 
 QPolygonF PolygonOf(const ChartSpot& spot) {
@@ -87,8 +88,13 @@ ChartColors ChartWidget::Colors() const {
   return colors;
 }
 
+// All of a chart grows with the type of its window.
+double ChartWidget::PixelsATwip() const {
+  return logicalDpiX() / kTwipsPerInch * fontInfo().pointSizeF() / kUsualPoints;
+}
+
 ChartFrame ChartWidget::FrameInTwips() const {
-  return {0, 0, width() * kTwipsPerInch / logicalDpiX(), height() * kTwipsPerInch / logicalDpiY()};
+  return {0, 0, width() / PixelsATwip(), height() / PixelsATwip()};
 }
 
 void ChartWidget::DrawIfChanged() {
@@ -103,7 +109,7 @@ void ChartWidget::DrawIfChanged() {
   if (picture_.isNull() || !chart_) return;
   QPainter painter(&picture_);
   painter.setRenderHint(QPainter::Antialiasing);
-  ScaleToTwips(painter, *this);
+  painter.scale(PixelsATwip(), PixelsATwip());
   const ChartFrame frame = FrameInTwips();
   QtPrintTarget target({frame.width, frame.height, frame.width, frame.height}, &painter);
   spots_ = DrawChart(*chart_, target, frame, Colors());
@@ -120,10 +126,7 @@ const ChartSpot* ChartWidget::CurrentSpot() const {
 }
 
 QPoint ChartWidget::PlaceOf(const ChartSpot& spot) const {
-  const QPointF middle = PolygonOf(spot).boundingRect().center();
-  return QPointF(middle.x() * logicalDpiX() / kTwipsPerInch,
-                 middle.y() * logicalDpiY() / kTwipsPerInch)
-      .toPoint();
+  return (PolygonOf(spot).boundingRect().center() * PixelsATwip()).toPoint();
 }
 
 void ChartWidget::paintEvent(QPaintEvent* /*event*/) {
@@ -139,7 +142,7 @@ void ChartWidget::paintEvent(QPaintEvent* /*event*/) {
     painter.drawRect(rect().adjusted(1, 1, -1, -1));
   }
   if (const ChartSpot* spot = CurrentSpot()) {
-    ScaleToTwips(painter, *this);
+    painter.scale(PixelsATwip(), PixelsATwip());
     painter.setPen(QPen(QColor(Colors().text), 15, Qt::DashLine));
     painter.drawPolygon(PolygonOf(*spot));
   }
@@ -147,8 +150,7 @@ void ChartWidget::paintEvent(QPaintEvent* /*event*/) {
 
 // What lies above is found first.
 int ChartWidget::SpotAt(QPointF pixels) const {
-  const QPointF twips(pixels.x() * kTwipsPerInch / logicalDpiX(),
-                      pixels.y() * kTwipsPerInch / logicalDpiY());
+  const QPointF twips = pixels / PixelsATwip();
   for (int i = static_cast<int>(spots_.size()) - 1; i >= 0; --i)
     if (PolygonOf(spots_[static_cast<std::size_t>(i)]).containsPoint(twips, Qt::OddEvenFill))
       return i;

@@ -50,6 +50,7 @@ class ChartWidget : public QWidget, public SpokenAs {
 
  private:
   ChartColors Colors() const;
+  double PixelsATwip() const;
   ChartFrame FrameInTwips() const;
   bool IsEmpty() const { return !chart_ || chart_->Points() == 0; }
   void DrawIfChanged();

@@ -16,6 +16,14 @@ constexpr double kPageWidth = 8.5, kPageHeight = 11;  // inches
 constexpr int kPixelsAnInch = 12;
 constexpr double kWidestMargin = 1.5;
 
+// Smooth, and with flat ends: else a screen of fractions draws the four sides of unlike widths, and
+// the gaps close.
+void DrawDashes(QPainter& painter, const QRectF& rect, const QColor& color) {
+  const SmoothEdges smooth(painter);
+  painter.setPen(QPen(color, 1, Qt::DashLine, Qt::FlatCap, Qt::MiterJoin));
+  painter.drawRect(rect.adjusted(0.5, 0.5, -0.5, -0.5));
+}
+
 }  // namespace
 
 MarginSheet::MarginSheet(QWidget* parent) : QWidget(parent) {
@@ -52,8 +60,7 @@ void MarginSheet::paintEvent(QPaintEvent* /*event*/) {
   const Tokens& paper = LightTokens();
   DrawBox(painter, rect(), 0, Qt::white, t.border);
   const QRectF printed = PrintedPart();
-  painter.setPen(QPen(paper.focus, 1, Qt::DashLine));
-  painter.drawRect(printed);
+  DrawDashes(painter, printed, paper.focus);
   const double step = printed.height() / (kLines + 1);
   for (int i = 1; i <= kLines; ++i)
     painter.fillRect(QRectF(printed.left() + 4, printed.top() + i * step,

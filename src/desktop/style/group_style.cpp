@@ -89,7 +89,8 @@ std::optional<QRect> GroupPart(const QStyleOptionComplex& option, QStyle::SubCon
 
 bool DrawLine(const QStyleOption& option, StyleBrush& brush) {
   const bool chosen = option.state & QStyle::State_Selected;
-  const QRectF rect = QRectF(option.rect).adjusted(1, 0, -1, 0);
+  // Clear of the ring of the list on all sides: at the list's edge the two would run into one.
+  const QRectF rect = QRectF(option.rect).adjusted(1, 1, -1, -1);
   const double radius = brush.m.Px(kLineRadius);
   if (chosen)
     DrawBox(brush.painter, rect, radius, brush.enabled ? brush.t.selection : brush.t.hover);

@@ -7,6 +7,15 @@
 #include "desktop/style/program_style.h"
 
 namespace tallyroll {
+namespace {
+
+// Words that wrap have the room above and below them that a single line has.
+int HeightOfLine(int wanted, int words, const Measures& m) {
+  const bool wraps = wanted >= 2 * words;
+  return std::max(wanted + (wraps ? m.ListLine() - words : 0), m.ListLine());
+}
+
+}  // namespace
 
 QRect ProgramStyle::subElementRect(SubElement element, const QStyleOption* option,
                                    const QWidget* widget) const {
@@ -72,9 +81,8 @@ QSize ProgramStyle::sizeFromContents(ContentsType type, const QStyleOption* opti
     case CT_ItemViewItem: {
       QSize size = QProxyStyle::sizeFromContents(type, option, contents, widget);
       // A calendar's days have a width of their own.
-      if (!widget || !qobject_cast<const QCalendarWidget*>(widget->parentWidget()))
-        size.setHeight(std::max(size.height(), measures_.ListLine()));
-      return size;
+      if (widget && qobject_cast<const QCalendarWidget*>(widget->parentWidget())) return size;
+      return {size.width(), HeightOfLine(size.height(), option->fontMetrics.height(), measures_)};
     }
     default:
       return QProxyStyle::sizeFromContents(type, option, contents, widget);

@@ -91,6 +91,37 @@ TEST_F(ChartWidgetTest, OneSetIsDrawnInTheInkOfTheScreen) {
   EXPECT_EQ(picture.pixel(bar), TokensOf(widget().palette()).focus.rgb());
 }
 
+// Where the words above the points end: the first row without ink below the title.
+int BottomOfTitle(ChartWidget& chart) {
+  const QImage picture = chart.grab().toImage();
+  const auto has_ink = [&](int y) {
+    for (int x = 0; x < picture.width(); ++x)
+      if (picture.pixelColor(x, y).lightness() < 128) return true;
+    return false;
+  };
+  int y = 0;
+  while (y < picture.height() && !has_ink(y)) ++y;
+  while (y < picture.height() && has_ink(y)) ++y;
+  return y;
+}
+
+TEST_F(ChartWidgetTest, ItsWordsGrowWithTheTypeOfTheScreen) {
+  ChartWidget chart;
+  chart.setPalette(PaletteOf(LightTokens()));
+  chart.resize(1200, 900);
+  Chart quiz = portal.Graph1.chart;
+  quiz.dots.clear();
+  chart.ShowChart(&quiz, 1);
+  const int before = BottomOfTitle(chart);
+  const QPoint high = chart.PlaceOf(chart.Spots()[1]);
+  QFont large = chart.font();
+  large.setPointSizeF(2 * chart.fontInfo().pointSizeF());
+  chart.setFont(large);
+  EXPECT_NEAR(BottomOfTitle(chart), 2 * before, 3);
+  // The pointer finds a bar where it is drawn.
+  EXPECT_NEAR(chart.PlaceOf(chart.Spots()[1]).x(), high.x(), 40);
+}
+
 TEST_F(ChartWidgetTest, AnEmptyChartSaysWhatWillStandThere) {
   ChartWidget empty;
   empty.SetEmptyText(QStringLiteral("Choose a title"));

@@ -4,6 +4,7 @@
 
 #include <gtest/gtest.h>
 
+#include <QImage>
 #include <QLabel>
 #include <QListWidget>
 
@@ -35,6 +36,34 @@ TEST(EmptyTexts, EveryListAndGridHasOne) {
     }
   }
   EXPECT_GT(found, 40);
+  SetPlatform(nullptr);
+}
+
+bool IsOfOneColor(const QImage& picture) {
+  for (int y = 0; y < picture.height(); ++y)
+    for (int x = 0; x < picture.width(); ++x)
+      if (picture.pixel(x, y) != picture.pixel(0, 0)) return false;
+  return true;
+}
+
+// Words that are drawn twice come out bold.
+TEST(EmptyTexts, NothingElseIsDrawnInAnEmptyList) {
+  HeadlessSurroundings surroundings;
+  SetPlatform(&surroundings);
+  int found = 0;
+  for (const std::string_view name : PortalNames()) {
+    const std::unique_ptr<Portal> portal = MakePortalByName(name);
+    PortalDialog dialog(*portal);
+    for (auto* list : dialog.findChildren<QListWidget*>()) {
+      auto* notice = list->findChild<QLabel*>(QStringLiteral("EmptyNotice"));
+      if (list->count() > 0 || !notice) continue;
+      notice->hide();
+      EXPECT_TRUE(IsOfOneColor(list->viewport()->grab().toImage()))
+          << name << "." << list->objectName().toStdString();
+      ++found;
+    }
+  }
+  EXPECT_GT(found, 10);
   SetPlatform(nullptr);
 }
 

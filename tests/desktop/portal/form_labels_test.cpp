@@ -71,5 +71,34 @@ TEST(MarginSheet, ShowsWhatTheMarginsLeave) {
   EXPECT_EQ(sheet.PrintedPart(), QRectF(0, 0, 102, 132));
 }
 
+// The share of a row, or column, of the picture in which there is ink.
+double Inked(const QImage& picture, QPoint at, QPoint step) {
+  int inked = 0, all = 0;
+  for (; picture.rect().contains(at); at += step, ++all)
+    inked += picture.pixelColor(at).lightness() < 200 ? 1 : 0;
+  return static_cast<double>(inked) / all;
+}
+
+// Four pixels of ink, two of paper: the margins lie at the edges, below the line of the sheet.
+TEST(MarginSheet, DrawsDashesOfOneKindOnAScreenOfFractions) {
+  QWidget window;
+  MarginSheet sheet(&window);
+  QLineEdit left(&window), top(&window);
+  left.setObjectName(QStringLiteral("leftmarg"));
+  top.setObjectName(QStringLiteral("topmarg"));
+  left.setText(QStringLiteral("0.5"));
+  top.setText(QStringLiteral("0.5"));
+  sheet.resize(sheet.sizeHint());
+  constexpr double kScale = 1.5;
+  constexpr int kAt = 9;  // 0.5 inches of 12 pixels
+  QImage picture(sheet.size() * kScale, QImage::Format_RGB32);
+  picture.setDevicePixelRatio(kScale);
+  sheet.render(&picture);
+  const double across = Inked(picture, {30, kAt}, {1, 0});
+  EXPECT_GT(across, 0.5);
+  EXPECT_LT(across, 0.8);
+  EXPECT_NEAR(Inked(picture, {kAt, 30}, {0, 1}), across, 0.1);
+}
+
 }  // namespace
 }  // namespace tallyroll

@@ -124,6 +124,10 @@ TEST_F(EveryWindowTest, NothingIsCutBesideFreeRoom) {
   EXPECT_GT(cells, 0);
 }
 
+bool IsFieldOfOneLine(const QWidget& widget) {
+  return qobject_cast<const QLineEdit*>(&widget) || qobject_cast<const QComboBox*>(&widget);
+}
+
 // Beside it, not above it.
 bool IsOnOneLine(const QRect& label, const QRect& field) {
   return label.right() < field.left() && label.top() < field.bottom() &&
@@ -152,6 +156,39 @@ TEST_F(EveryWindowTest, ALabelStandsOnTheLineOfItsField) {
     });
   }
   EXPECT_GT(pairs, 100);
+}
+
+// What a label stands beside is seen by its distance: its field is the nearer neighbour.
+TEST_F(EveryWindowTest, ALabelStandsNearerToItsFieldThanToTheOneBefore) {
+  int pairs = 0;
+  ForEach([&pairs](const std::string& name, PortalDialog& window) {
+    const auto place_of = [&window](const QWidget& widget) {
+      return QRect(widget.mapTo(&window, QPoint(0, 0)), widget.size());
+    };
+    for (const auto* label : window.findChildren<QLabel*>()) {
+      const QWidget* field = label->buddy();
+      if (!label->isVisible() || !field || !field->isVisible()) continue;
+      const QRect one = place_of(*label), other = place_of(*field);
+      if (!IsOnOneLine(one, other)) continue;
+      for (const auto* each : window.findChildren<QWidget*>()) {
+        if (!each->isVisible() || each == field || each->isAncestorOf(label)) continue;
+        if (!IsFieldOfOneLine(*each) || !IsOnOneLine(place_of(*each), one)) continue;
+        ++pairs;
+        EXPECT_GT(one.left() - place_of(*each).right(), other.left() - one.right())
+            << name << ": " << label->objectName().toStdString();
+      }
+    }
+  });
+  EXPECT_GT(pairs, 3);
+}
+
+// The toolkit would take the least size and forget the other.
+TEST_F(EveryWindowTest, NothingMustBeLargerThanItMay) {
+  ForEach([](const std::string& name, PortalDialog& window) {
+    for (const auto* each : window.findChildren<QWidget*>())
+      EXPECT_EQ(each->minimumSize().boundedTo(each->maximumSize()), each->minimumSize())
+          << name << ": " << each->objectName().toStdString();
+  });
 }
 
 // A caption needs its width; a label that wraps needs its height.

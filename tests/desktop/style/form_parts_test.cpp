@@ -2,12 +2,14 @@
 // The parts of forms that the system brings itself, as a form lays them out.
 #include <QCheckBox>
 #include <QSettings>
+#include <QStackedWidget>
 
 #include "averages/portals/frmoptions.h"
 #include "averages/portals/frmpercents.h"
 #include "averages/portals/frmroundoff.h"
 #include "desktop/portal/form_labels.h"
 #include "desktop/portal/total_figure.h"
+#include "shell/frmWizard.h"
 #include "tests/desktop/class_dialogs.h"
 
 namespace tallyroll {
@@ -69,6 +71,19 @@ TEST_F(FormParts, ASentenceToTickThatFitsStandsOnOneLine) {
   tick.setText(QStringLiteral("Drop Lowest by Type"));
   EXPECT_EQ(tick.heightForWidth(600), tick.QCheckBox::sizeHint().height());
   EXPECT_GT(tick.heightForWidth(90), tick.heightForWidth(600));
+}
+
+TEST_F(FormParts, AHintStandsOnOneLineBelowItsField) {
+  frmWizard portal;
+  Open(portal);
+  auto& pages = *dialog->findChild<QStackedWidget*>();
+  for (const char* name : {"descriptionhint", "idhint"}) {
+    auto& hint = Find<QLabel>(name);
+    for (int i = 0; i < pages.count(); ++i)
+      if (pages.widget(i)->isAncestorOf(&hint)) pages.setCurrentIndex(i);
+    QCoreApplication::processEvents();
+    EXPECT_LE(hint.height(), hint.fontMetrics().lineSpacing() + 1) << name;
+  }
 }
 
 TEST_F(FormParts, AStateStandsOutWhereItIsOn) {
