@@ -178,7 +178,7 @@ TEST_F(MarkPanes, TheWaysToFillStandOneBelowTheOther) {
 TEST_F(MarkPanes, WhyAMarkMayBeASlipIsReadWhole) {
   frmMarks portal;
   Open(portal);
-  Resize(kSmallest);
+  Resize({1000, kSmallest.height()});
   grid().setFocus();
   for (const char* mark : {"18", "9.5", "200"}) {
     QTest::keyClicks(&grid(), QString::fromLatin1(mark));
@@ -188,9 +188,13 @@ TEST_F(MarkPanes, WhyAMarkMayBeASlipIsReadWhole) {
   QCoreApplication::processEvents();
   EXPECT_EQ(Find<QLabel>("progress").text(),
             QStringLiteral("3 of 40 entered, average 75.83, 1 to look at"));
-  const auto& doubt = Find<QLabel>("doubt");
+  auto& doubt = Find<QLabel>("doubt");
   EXPECT_EQ(doubt.text(), QStringLiteral("200 is above the maximum of 100"));
   EXPECT_GE(doubt.width(), doubt.sizeHint().width());
+  // Where there is no room for all of it, it says that there is more.
+  const QImage whole = doubt.grab().toImage();
+  doubt.setFixedWidth(doubt.sizeHint().width() / 2);
+  EXPECT_NE(doubt.grab().toImage(), whole.copy(doubt.rect()));
 }
 
 TEST_F(MarkPanes, TheKeysOfMarksStandInColumns) {
