@@ -144,8 +144,12 @@ void ListColumns::PaintWords(QPainter* painter, const QStyleOptionViewItem& opti
   painter->setPen(WordsColor(line));
   painter->setFont(line.font);
   for (int i = 0; i < parts.size(); ++i) {
-    const QRect place = line.rect.adjusted(left + Start(i), 0, 0, 0);
-    painter->drawText(place, Qt::AlignVCenter | Qt::TextSingleLine, parts[i]);
+    QRect place = line.rect.adjusted(left + Start(i), 0, 0, 0);
+    const bool number = codes_ && i == 0 && parts[i].at(0).isDigit();
+    if (number) place.setWidth(Start(1) - kGap);
+    const Qt::Alignment side = number ? Qt::AlignRight : Qt::AlignLeft;
+    painter->drawText(place, static_cast<int>(side | Qt::AlignVCenter) | Qt::TextSingleLine,
+                      parts[i]);
   }
 }
 

@@ -112,5 +112,29 @@ TEST_F(FieldEdges, WhatCodesStandForBeginsAtOneEdge) {
   EXPECT_NE(Behind(names, list, 0), Behind(names, list, 1));
 }
 
+// Left of there, where the line says something last.
+int EndOfWords(int right, QListWidget& list, int line) {
+  QRect place = list.visualItemRect(list.item(line));
+  place.setRight(right - 1);
+  const QImage picture = list.viewport()->grab(place).toImage();
+  const QRgb ground = picture.pixel(picture.width() - 1, 0);
+  for (int x = picture.width() - 1; x >= 0; --x)
+    for (int y = 0; y < picture.height(); ++y)
+      if (picture.pixel(x, y) != ground) return x;
+  return -1;
+}
+
+TEST_F(FieldEdges, NumbersEndAtOneEdge) {
+  QListWidget list;
+  ListColumns columns;
+  list.setItemDelegate(&columns);
+  list.addItems({QStringLiteral("  1  - One"), QStringLiteral("11  - Eleven")});
+  columns.Measure(list);
+  list.show();
+  const int end = EndOfWords(columns.Start(1), list, 0);
+  EXPECT_GT(end, 0);
+  EXPECT_EQ(end, EndOfWords(columns.Start(1), list, 1));
+}
+
 }  // namespace
 }  // namespace tallyroll
