@@ -4,13 +4,14 @@
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QMouseEvent>
+#include <algorithm>
 
 #include "desktop/basics/key_mapping.h"
 
 namespace tallyroll {
 namespace {
 
-constexpr int kWidth = 24;
+constexpr int kLeastWidth = 24;
 constexpr int kIntoArrow = 10;  // from the right, where the style has its arrow
 
 }  // namespace
@@ -20,7 +21,8 @@ DateArrow::DateArrow(QWidget* parent) : DateField(parent) {
 }
 
 QSize DateArrow::sizeHint() const {
-  return {kWidth, DateField::sizeHint().height()};
+  const int height = DateField::sizeHint().height();
+  return {std::max(kLeastWidth, height * 4 / 5), height};
 }
 
 // The day that it would show is nobody's choice.

@@ -29,15 +29,18 @@ ElidedLabel::ElidedLabel(QWidget* parent) : QLabel(parent) {
 
 // A part of a pixel too few would cost the last letters.
 QSize ElidedLabel::sizeHint() const {
+  if (wordWrap()) return QLabel::sizeHint();
   return {fontMetrics().horizontalAdvance(text()) + 2, fontMetrics().height()};
 }
 
 QSize ElidedLabel::minimumSizeHint() const {
+  if (wordWrap()) return QLabel::minimumSizeHint();
   const QSize least(fontMetrics().averageCharWidth() * kLeastLettersShown, fontMetrics().height());
   return least.boundedTo(sizeHint());
 }
 
 QString ElidedLabel::Shown() const {
+  if (wordWrap()) return text();
   return fontMetrics().elidedText(text(), Qt::ElideRight, contentsRect().width());
 }
 
@@ -48,7 +51,8 @@ bool ElidedLabel::event(QEvent* event) {
   return true;
 }
 
-void ElidedLabel::paintEvent(QPaintEvent* /*event*/) {
+void ElidedLabel::paintEvent(QPaintEvent* event) {
+  if (wordWrap()) return QLabel::paintEvent(event);
   QPainter painter(this);
   style()->drawItemText(&painter, contentsRect(), static_cast<int>(alignment()), palette(),
                         isEnabled(), Shown(), foregroundRole());

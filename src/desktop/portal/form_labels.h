@@ -9,7 +9,8 @@
 namespace tallyroll {
 
 // A line of a class's own words, however long they are. It never widens its window, and takes no
-// more than its words where the form says so; what has no room is told by a tip.
+// more than its words where the form says so; what has no room is told by a tip. One that wraps is
+// a label as any other.
 class ElidedLabel : public QLabel {
   Q_OBJECT
 

@@ -11,6 +11,7 @@
 #include <QLabel>
 #include <QLayout>
 #include <QScrollArea>
+#include <QTabWidget>
 #include <QToolButton>
 #include <algorithm>
 #include <utility>
@@ -122,6 +123,29 @@ void AlignFormLabels(const QObjectList& objects) {
   }
 }
 
+QList<QWidget*> LabelsOf(const QWidget& page) {
+  QList<QWidget*> labels;
+  const auto* form = qobject_cast<const QFormLayout*>(page.layout());
+  for (int row = 0; form && row < form->rowCount(); ++row)
+    if (const QLayoutItem* label = form->itemAt(row, QFormLayout::LabelRole))
+      if (label->widget()) labels << label->widget();
+  return labels;
+}
+
+// Fields begin at one edge whichever page of the tabs is in front.
+void AlignPages(const QObjectList& objects) {
+  for (QObject* object : objects) {
+    const auto* tabs = qobject_cast<const QTabWidget*>(object);
+    QList<QWidget*> labels;
+    for (int page = 0; tabs && page < tabs->count(); ++page)
+      labels << LabelsOf(*tabs->widget(page));
+    int widest = 0;
+    for (const QWidget* label : labels)
+      widest = std::max({widest, label->minimumWidth(), label->sizeHint().width()});
+    for (QWidget* label : labels) label->setMinimumWidth(widest);
+  }
+}
+
 void DrawTools(const QObjectList& objects) {
   for (QObject* object : objects)
     if (auto* tool = qobject_cast<QToolButton*>(object))
@@ -161,6 +185,7 @@ LoadedForm FormLoader::Load(const QString& file, QDialog& dialog) {
   PrepareLabels(form_.objects);
   NameParts(form_.objects);
   AlignFormLabels(form_.objects);
+  AlignPages(form_.objects);
   DrawTools(form_.objects);
   ComplainOfDynamicProperties();
   // A window takes no more room than what it will show.

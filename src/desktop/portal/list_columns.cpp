@@ -86,13 +86,34 @@ void PaintWithChip(QPainter& painter, QStyleOptionViewItem line, const QString& 
   PaintChip(painter, line.rect, behind, word, t.header, t.muted);
 }
 
+// "HW" and "-  Homework"; nothing for a line that is no such pair. The blanks between them were
+// counted for letters of one width.
+QStringList CodeAndName(const QString& line) {
+  constexpr qsizetype kLongestCode = 2;
+  const qsizetype dash = line.indexOf(QLatin1String(" -"));
+  const QString code = line.left(dash).trimmed(), name = line.mid(dash + 2).trimmed();
+  if (dash < 1 || code.size() > kLongestCode || name.isEmpty()) return {};
+  return {code, QLatin1String("-  ") + name};
+}
+
+bool AreCodes(const QListWidget& list) {
+  for (int row = 0; row < list.count(); ++row)
+    if (CodeAndName(list.item(row)->text()).isEmpty()) return false;
+  return list.count() > 0;
+}
+
 }  // namespace
 
+QStringList ListColumns::PartsOf(const QString& line) const {
+  return codes_ ? CodeAndName(line) : line.split(QLatin1Char('\t'));
+}
+
 void ListColumns::Measure(const QListWidget& list) {
+  codes_ = AreCodes(list);
   const QFontMetrics metrics(list.font());
   QList<int> widths;
   for (int row = 0; row < list.count(); ++row) {
-    const QStringList parts = list.item(row)->text().split(QLatin1Char('\t'));
+    const QStringList parts = PartsOf(list.item(row)->text());
     widths.resize(std::max(widths.size(), parts.size()));
     for (qsizetype i = 0; i < parts.size(); ++i)
       widths[i] = std::max(widths[i], metrics.horizontalAdvance(parts[i]));
@@ -114,25 +135,29 @@ void ListColumns::PaintWords(QPainter* painter, const QStyleOptionViewItem& opti
   initStyleOption(&line, index);
   if (const QString word = ChipWord(line); !word.isEmpty())
     return PaintWithChip(*painter, line, word);
-  if (!line.text.contains(QLatin1Char('\t')))
-    return QStyledItemDelegate::paint(painter, option, index);
-  const QStringList parts = std::exchange(line.text, QString()).split(QLatin1Char('\t'));
+  const QStringList parts = PartsOf(line.text);
+  if (parts.size() < 2) return QStyledItemDelegate::paint(painter, option, index);
+  line.text.clear();
   const QStyle& style = line.widget ? *line.widget->style() : *QApplication::style();
   style.drawControl(QStyle::CE_ItemViewItem, &line, painter, line.widget);
   const int left = TextLeft(line, style);
   painter->setPen(WordsColor(line));
   painter->setFont(line.font);
   for (int i = 0; i < parts.size(); ++i) {
-    const QRect place = line.rect.adjusted(left + Start(i), 0, 0, 0);
-    painter->drawText(place, Qt::AlignVCenter | Qt::TextSingleLine, parts[i]);
+    QRect place = line.rect.adjusted(left + Start(i), 0, 0, 0);
+    const bool number = codes_ && i == 0 && parts[i].at(0).isDigit();
+    if (number) place.setWidth(Start(1) - kGap);
+    const Qt::Alignment side = number ? Qt::AlignRight : Qt::AlignLeft;
+    painter->drawText(place, static_cast<int>(side | Qt::AlignVCenter) | Qt::TextSingleLine,
+                      parts[i]);
   }
 }
 
 QSize ListColumns::sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const {
   QSize size = QStyledItemDelegate::sizeHint(option, index);
   const int count = CountWidth(index.data(kCountRole).toInt());
-  const auto columns = index.data().toString().count(QLatin1Char('\t')) + 1;
-  if (columns == 1) return size + QSize(count, 0);
+  const auto columns = PartsOf(index.data().toString()).size();
+  if (columns < 2) return size + QSize(count, 0);
   QStyleOptionViewItem line = option;
   initStyleOption(&line, index);
   const QStyle& style = line.widget ? *line.widget->style() : *QApplication::style();

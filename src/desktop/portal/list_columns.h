@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Paints the lines of a list whose columns are parted by tabs, each column as wide as its longest,
-// the number that a line may have at its end, and the word that its form wants as a chip.
+// Paints the lines of a list whose columns are parted by tabs, or that are all codes with what they
+// stand for ("HW  - Homework"), each column as wide as its longest, the number that a line may have
+// at its end, and the word that its form wants as a chip.
 #pragma once
 
 #include <QList>
@@ -32,7 +33,10 @@ class ListColumns : public QStyledItemDelegate {
   void PaintWords(QPainter* painter, const QStyleOptionViewItem& option,
                   const QModelIndex& index) const;
 
+  QStringList PartsOf(const QString& line) const;
+
   QList<int> starts_{0};
+  bool codes_ = false;
 };
 
 }  // namespace tallyroll

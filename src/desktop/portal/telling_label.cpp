@@ -34,6 +34,10 @@ void Describe(QWidget& widget, const QString& text) {
 
 }  // namespace
 
+TellingLabel::TellingLabel(QWidget* parent) : ElidedLabel(parent) {
+  setSizePolicy({QSizePolicy::Preferred, QSizePolicy::Preferred, QSizePolicy::Label});
+}
+
 void TellingLabel::Tell(const QString& text) {
   setText(text);
   TakeBack();

@@ -3,16 +3,17 @@
 // focus is.
 #pragma once
 
-#include <QLabel>
 #include <QPointer>
+
+#include "desktop/portal/form_labels.h"
 
 namespace tallyroll {
 
-class TellingLabel : public QLabel {
+class TellingLabel : public ElidedLabel {
   Q_OBJECT
 
  public:
-  explicit TellingLabel(QWidget* parent = nullptr) : QLabel(parent) {}
+  explicit TellingLabel(QWidget* parent = nullptr);
 
   // Shows a text and tells it, once the focus has come to rest.
   void Tell(const QString& text);

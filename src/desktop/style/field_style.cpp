@@ -5,6 +5,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPainter>
+#include <QPlainTextEdit>
 
 #include "desktop/style/controls.h"
 #include "desktop/style/shapes.h"
@@ -14,6 +15,8 @@ namespace {
 
 constexpr double kFieldRadius = 6, kFrameRadius = 4;
 constexpr double kArrowRoom = 28, kBesideText = 8;
+// A field within keeps the toolkit's two pixels before its words.
+constexpr double kBesideField = 6;
 
 struct FieldLook {
   QColor fill, edge;
@@ -78,12 +81,15 @@ bool DrawFrame(const QStyleOption& option, StyleBrush& brush) {
     DrawBox(brush.painter, option.rect, 0, QColor(), brush.t.strong_line, 1);
     return true;
   }
+  // A field of several lines stands below those of one.
+  const bool field = qobject_cast<const QPlainTextEdit*>(widget) != nullptr;
+  const double radius = brush.m.Px(field ? kFieldRadius : kFrameRadius);
   if (!brush.enabled) {
-    DrawBox(brush.painter, option.rect, brush.m.Px(kFrameRadius), brush.t.window, brush.t.line, 1);
+    DrawBox(brush.painter, option.rect, radius, brush.t.window, brush.t.line, 1);
     return true;
   }
   const bool focus = brush.focus;
-  DrawBox(brush.painter, option.rect, brush.m.Px(kFrameRadius), brush.t.surface,
+  DrawBox(brush.painter, option.rect, radius, brush.t.surface,
           focus ? brush.t.focus : brush.t.border, focus ? 2 : 1);
   return true;
 }
@@ -141,9 +147,11 @@ std::optional<QRect> ChoicePart(const QStyleOptionComplex& option, QStyle::SubCo
       return QStyle::visualRect(
           option.direction, whole,
           QRect(whole.right() + 1 - arrow, whole.top(), arrow, whole.height()));
-    case QStyle::SC_ComboBoxEditField:
-      return QStyle::visualRect(option.direction, whole,
-                                whole.adjusted(m.Px(kBesideText), 2, -arrow, -2));
+    case QStyle::SC_ComboBoxEditField: {
+      const auto* combo = qstyleoption_cast<const QStyleOptionComboBox*>(&option);
+      const int before = m.Px(combo && combo->editable ? kBesideField : kBesideText);
+      return QStyle::visualRect(option.direction, whole, whole.adjusted(before, 2, -arrow, -2));
+    }
     default:
       return std::nullopt;
   }

@@ -29,6 +29,7 @@ constexpr NamedUse kUses[] = {
     {"name", TextUse::kName, QPalette::WindowText},
     {"heading", TextUse::kHeading, QPalette::WindowText},
     {"small", TextUse::kSmall, QPalette::PlaceholderText},
+    {"note", TextUse::kSmall, QPalette::WindowText},
     {"muted", TextUse::kText, QPalette::PlaceholderText},
     {"help", TextUse::kSmall, QPalette::WindowText},
 };

@@ -11,6 +11,7 @@
 #include <QScrollBar>
 
 #include "desktop/portal/scrolling_body.h"
+#include "desktop/style/appearance.h"
 #include "grades/frmEMarksS.h"
 #include "grades/frmEmarks.h"
 #include "grades/frmMarks.h"
@@ -143,6 +144,85 @@ TEST_F(MarkPanes, TheFillStandsInThePlaceOfTheKeysAndOfTheWayOut) {
   EXPECT_FALSE(Find<QRadioButton>("Option1").isVisible());
   EXPECT_TRUE(InSight(Find<QPushButton>("exit")));
   EXPECT_EQ(portal.Grid1.TextMatrix(1, 2), "ABS");
+}
+
+TEST_F(MarkPanes, EnterInTheFillPressesTheButtonThatStandsOut) {
+  frmMarks portal;
+  Open(portal);
+  const auto& ok = Find<QPushButton>("Command5");
+  const auto& way_out = Find<QPushButton>("exit");
+  EXPECT_TRUE(way_out.isDefault());
+  QTest::mouseClick(&Find<QPushButton>("fill"), Qt::LeftButton);
+  EXPECT_TRUE(ok.isDefault());
+  EXPECT_FALSE(way_out.isDefault());
+  QTest::mouseClick(&Find<QPushButton>("Command6"), Qt::LeftButton);
+  EXPECT_TRUE(way_out.isDefault());
+  EXPECT_FALSE(ok.isDefault());
+}
+
+TEST_F(MarkPanes, TheWaysToFillStandOneBelowTheOther) {
+  frmMarks portal;
+  Open(portal);
+  QTest::mouseClick(&Find<QPushButton>("fill"), Qt::LeftButton);
+  QCoreApplication::processEvents();
+  const auto middle = [this](const char* name) {
+    const auto& option = Find<QRadioButton>(name);
+    return option.mapTo(dialog.get(), option.rect().center()).y();
+  };
+  const int step = middle("Option2") - middle("Option1");
+  EXPECT_EQ(middle("Option4") - middle("Option3"), step);
+  // Half of what the field is higher than a row of options.
+  EXPECT_LE(middle("Option5") - middle("Option4"), step + 2);
+}
+
+TEST_F(MarkPanes, WhyAMarkMayBeASlipIsReadWhole) {
+  frmMarks portal;
+  Open(portal);
+  Resize({1000, kSmallest.height()});
+  grid().setFocus();
+  for (const char* mark : {"18", "9.5", "200"}) {
+    QTest::keyClicks(&grid(), QString::fromLatin1(mark));
+    QTest::keyClick(&grid(), Qt::Key_Return);
+  }
+  QTest::keyClick(&grid(), Qt::Key_Up);
+  QCoreApplication::processEvents();
+  EXPECT_EQ(Find<QLabel>("progress").text(),
+            QStringLiteral("3 of 40 entered, average 75.83, 1 to look at"));
+  auto& doubt = Find<QLabel>("doubt");
+  EXPECT_EQ(doubt.text(), QStringLiteral("200 is above the maximum of 100"));
+  EXPECT_GE(doubt.width(), doubt.sizeHint().width());
+  // Where there is no room for all of it, it says that there is more.
+  const QImage whole = doubt.grab().toImage();
+  doubt.setFixedWidth(doubt.sizeHint().width() / 2);
+  EXPECT_NE(doubt.grab().toImage(), whole.copy(doubt.rect()));
+}
+
+TEST_F(MarkPanes, TheKeysOfMarksStandInColumns) {
+  const auto columns_are_one = [this](std::initializer_list<const char*> column) {
+    const auto& first = Find<QPushButton>(*column.begin());
+    for (const char* name : column) {
+      const auto& key = Find<QPushButton>(name);
+      EXPECT_EQ(key.x(), first.x()) << name;
+      EXPECT_EQ(key.width(), first.width()) << name;
+    }
+  };
+  for (const Density density : {Density::kCompact, Density::kNormal, Density::kRoomy}) {
+    Appearance::Instance()->SetDensity(density);
+    CurrentStudent = 1;
+    frmEmarks by_title;
+    Open(by_title);
+    columns_are_one({"Command1", "nextempty"});
+    columns_are_one({"Command2", "pastemarks"});
+    columns_are_one({"Command3", "undomark"});
+    columns_are_one({"Command4", "redomark"});
+    dialog.reset();
+    frmEMarksS by_student;
+    Open(by_student);
+    columns_are_one({"Command1", "Command3", "nextempty", "undomark"});
+    columns_are_one({"Command2", "Command4", "pastemarks", "redomark"});
+    dialog.reset();
+  }
+  Appearance::Instance()->SetDensity(Density::kNormal);
 }
 
 TEST_F(MarkPanes, ASentenceStandsForTheFieldsUntilATitleIsChosen) {
