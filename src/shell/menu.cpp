@@ -13,7 +13,7 @@ MenuEntry& Menu::Add(MenuEntry entry) {
 MenuEntry& Menu::operator[](std::string_view name) {
   for (MenuEntry& entry : entries_)
     if (!entry.name.empty() && entry.name == name) return entry;
-  assert(!"no menu entry of that name");
+  assert(false && "no menu entry of that name");
   return entries_.front();
 }
 

@@ -75,7 +75,7 @@ class Maker {
   }
   template <typename Record>
   void FillFields(Record& record) {
-    ForEachField(record, [this](const char* /*name*/, auto& field) { Fill(field); });
+    ForEachField(record, [this](const char* /*name*/, auto& field) { this->Fill(field); });
   }
 
   void FillStudentLists(Student& s, const Class& c) {
