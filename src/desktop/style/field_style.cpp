@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Fields, choices, dates, and the frames of lists and sheets.
+#include <QAbstractScrollArea>
 #include <QComboBox>
 #include <QDateTimeEdit>
 #include <QLabel>
@@ -68,6 +69,13 @@ bool DrawField(QStyle::PrimitiveElement element, const QStyleOption& option, Sty
   }
 }
 
+// What a frame holds goes on to its line.
+QColor GroundWithin(const QWidget* widget, const Tokens& t) {
+  const auto* area = qobject_cast<const QAbstractScrollArea*>(widget);
+  const QPalette::ColorRole role = area ? area->viewport()->backgroundRole() : QPalette::Base;
+  return role == QPalette::Base ? t.surface : area->viewport()->palette().color(role);
+}
+
 bool DrawFrame(const QStyleOption& option, StyleBrush& brush) {
   const QWidget* widget = brush.widget;
   if (qobject_cast<const QLabel*>(widget)) {
@@ -83,7 +91,7 @@ bool DrawFrame(const QStyleOption& option, StyleBrush& brush) {
     return true;
   }
   const bool focus = brush.focus;
-  DrawBox(brush.painter, option.rect, brush.m.Px(kFrameRadius), brush.t.surface,
+  DrawBox(brush.painter, option.rect, brush.m.Px(kFrameRadius), GroundWithin(widget, brush.t),
           focus ? brush.t.focus : brush.t.border, focus ? 2 : 1);
   return true;
 }
