@@ -1,13 +1,17 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The parts of forms that the system brings itself, as a form lays them out.
 #include <QCheckBox>
+#include <QListWidget>
+#include <QPushButton>
 #include <QSettings>
+#include <QStackedWidget>
 
 #include "averages/portals/frmoptions.h"
 #include "averages/portals/frmpercents.h"
 #include "averages/portals/frmroundoff.h"
 #include "desktop/portal/form_labels.h"
 #include "desktop/portal/total_figure.h"
+#include "seating/frmseating.h"
 #include "tests/desktop/class_dialogs.h"
 
 namespace tallyroll {
@@ -39,6 +43,30 @@ TEST_F(FormParts, AWindowOpensAsLowAsItsFoldedExplanationLetsIt) {
   };
   const int unfolded = height();
   EXPECT_LT(height(), unfolded);
+}
+
+TEST_F(FormParts, AStepOfANewChartGoesOnWithEnter) {
+  frmseating portal;
+  Open(portal);
+  EXPECT_TRUE(Find<QPushButton>("newchart").isDefault());
+  Find<QPushButton>("newchart").click();
+  EXPECT_TRUE(Find<QPushButton>("okinfo").isDefault());
+  Find<QListWidget>("column").setCurrentRow(7);
+  Find<QListWidget>("seatsrow").setCurrentRow(7);
+  Find<QPushButton>("okinfo").click();
+  EXPECT_TRUE(Find<QPushButton>("chartok").isDefault());
+  Find<QPushButton>("optionsback").click();
+  EXPECT_TRUE(Find<QPushButton>("okinfo").isDefault());
+}
+
+TEST_F(FormParts, WhatActsOnListsEndsLevelWithThem) {
+  frmseating portal;
+  Open(portal);
+  Find<QStackedWidget>("step").setCurrentIndex(3);
+  QCoreApplication::processEvents();
+  const auto foot = [](const QWidget& widget) { return widget.geometry().bottom(); };
+  EXPECT_EQ(foot(Find<QPushButton>("addwish")), foot(Find<QListWidget>("wishother")));
+  EXPECT_EQ(foot(Find<QPushButton>("takewish")), foot(Find<QListWidget>("wishlist")));
 }
 
 TEST_F(FormParts, NothingMovesWhileATotalIsTyped) {
