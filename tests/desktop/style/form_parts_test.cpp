@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The parts of forms that the system brings itself, as a form lays them out.
 #include <QCheckBox>
+#include <QLabel>
 #include <QListWidget>
 #include <QPushButton>
 #include <QSettings>
@@ -57,6 +58,18 @@ TEST_F(FormParts, AStepOfANewChartGoesOnWithEnter) {
   EXPECT_TRUE(Find<QPushButton>("chartok").isDefault());
   Find<QPushButton>("optionsback").click();
   EXPECT_TRUE(Find<QPushButton>("okinfo").isDefault());
+}
+
+TEST_F(FormParts, TheChartStandsStillWhileACardIsCarried) {
+  frmseating portal;
+  Open(portal);
+  dialog->resize(1000, 620);
+  QCoreApplication::processEvents();
+  const int before = Find<QWidget>("Grid1").height();
+  Find<QLabel>("said").setText(QStringLiteral(
+      "Washington, Josephine is taken up: arrows carry, the blank puts down, Escape lets go."));
+  QCoreApplication::processEvents();
+  EXPECT_EQ(Find<QWidget>("Grid1").height(), before);
 }
 
 TEST_F(FormParts, WhatActsOnListsEndsLevelWithThem) {
