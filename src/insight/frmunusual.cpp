@@ -20,7 +20,7 @@ struct UnusualColumn {
 };
 // All of them stand beside one another on a small screen too.
 constexpr std::array kUnusualColumns = {UnusualColumn{"Student", 1900},
-                                        UnusualColumn{"Grade", 2200}, UnusualColumn{"Mark", 600},
+                                        UnusualColumn{"Grade", 2280}, UnusualColumn{"Mark", 600},
                                         UnusualColumn{"What", 2450}, UnusualColumn{"Why", 5720}};
 
 std::string FoundWords(std::size_t count) {

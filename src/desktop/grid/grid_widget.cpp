@@ -37,6 +37,8 @@ GridWidget::GridWidget(QWidget* parent)
   setFocusPolicy(Qt::StrongFocus);
   // Each paint fills what it is asked for; while Redraw is off the old picture stays.
   viewport()->setAttribute(Qt::WA_OpaquePaintEvent);
+  // A sheet ends on the ground of the window.
+  viewport()->setBackgroundRole(QPalette::Window);
   viewport()->setMouseTracking(true);
   InstallGridAccessibility();
 }

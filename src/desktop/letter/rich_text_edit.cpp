@@ -16,6 +16,7 @@
 
 #include "desktop/letter/rich_document.h"
 #include "desktop/letter/spelling_marks.h"
+#include "desktop/style/shapes.h"
 #include "desktop/style/tokens.h"
 #include "letters/text/rtf_reader.h"
 #include "letters/text/rtf_writer.h"
@@ -25,6 +26,7 @@ namespace {
 
 constexpr double kPaperEdge = 24;  // units of the document between the paper's edge and its text
 constexpr double kTwipsAnInchOfLetter = 1440;
+constexpr double kFrameCorner = 4;
 constexpr int kMostSuggestions = 6;
 constexpr const char* kRichFormats[] = {"text/rtf", "application/rtf", "text/richtext"};
 
@@ -139,16 +141,16 @@ bool RichTextEdit::event(QEvent* event) {
   return done;
 }
 
-// What the sheet lies on shows beside it.
+// What the sheet lies on shows beside it, as far as the line of the frame: a pixel, or the ring.
 void RichTextEdit::PaintDesk() {
-  const int edge = frameWidth();
+  const int edge = hasFocus() ? frameWidth() : 1;
   const QRect inside = rect().adjusted(edge, edge, -edge, -edge);
   QRegion desk(inside);
-  desk -= viewport()->geometry();
+  desk -= viewport()->geometry().adjusted(0, -edge, 0, edge);
   if (verticalScrollBar()->isVisible()) desk -= verticalScrollBar()->parentWidget()->geometry();
   QPainter painter(this);
   painter.setClipRegion(desk);
-  painter.fillRect(inside, TokensOf(QApplication::palette()).desk);
+  DrawBox(painter, inside, kFrameCorner - edge, TokensOf(QApplication::palette()).desk);
 }
 
 void RichTextEdit::resizeEvent(QResizeEvent* event) {

@@ -161,13 +161,14 @@ class TabBinding : public Binding<TabStrip, QTabWidget> {
 
 class PagesBinding : public Binding<Pages, QStackedWidget> {
  public:
-  using Binding::Binding;
+  PagesBinding(Pages& control, ControlRow& row, QStackedWidget& pages, BindingOwner& owner)
+      : Binding(control, row, pages, owner) {
+    QObject::connect(&pages, &QStackedWidget::currentChanged, this, [this] { GiveEnterToPage(); });
+  }
 
  protected:
   void ShowValue() override {
-    if (widget_.currentIndex() == control_.Current) return;
-    widget_.setCurrentIndex(control_.Current);
-    GiveEnterToPage();
+    if (widget_.currentIndex() != control_.Current) widget_.setCurrentIndex(control_.Current);
   }
 
  private:

@@ -8,7 +8,7 @@
 namespace tallyroll {
 namespace {
 
-constexpr double kMenuLeft = 32, kMenuRight = 28, kMenuInset = 4, kMenuRadius = 4;
+constexpr double kMenuLeft = 32, kMenuRight = 28, kMenuEdge = 16, kMenuInset = 4, kMenuRadius = 4;
 constexpr double kMenuRule = 9, kBarHeight = 32;
 
 void DrawSign(const QStyleOptionMenuItem& item, StyleBrush& b) {
@@ -31,7 +31,7 @@ void DrawSign(const QStyleOptionMenuItem& item, StyleBrush& b) {
 }
 
 void DrawMenuWords(const QStyleOptionMenuItem& item, StyleBrush& b) {
-  const QRect words = item.rect.adjusted(b.m.Px(kMenuLeft), 0, -b.m.Px(16), 0);
+  const QRect words = item.rect.adjusted(b.m.Px(kMenuLeft), 0, -b.m.Px(kMenuEdge), 0);
   const auto tab = item.text.indexOf(QLatin1Char('\t'));
   const QString caption = tab < 0 ? item.text : item.text.left(tab);
   b.painter.save();
@@ -48,13 +48,20 @@ void DrawMenuWords(const QStyleOptionMenuItem& item, StyleBrush& b) {
   b.painter.restore();
 }
 
+// Its tip stands where the keys of other lines end.
+void DrawSubmenuArrow(const QStyleOptionMenuItem& item, StyleBrush& b) {
+  const double size = b.m.Px(16) / 4.0;  // in quarters, so that it grows with the words
+  const QRectF arrow(item.rect.right() + 1 - b.m.Px(kMenuEdge) - size, item.rect.top(), size,
+                     item.rect.height());
+  DrawArrow(b.painter, arrow, Qt::RightArrow, b.enabled ? b.t.muted : b.t.off, size);
+}
+
 void DrawMenuLine(const QStyleOptionMenuItem& item, StyleBrush& b) {
   b.painter.fillRect(item.rect, b.t.raised);
   if (item.menuItemType == QStyleOptionMenuItem::Separator) {
     const QRect rule(item.rect.left() + b.m.Px(8), item.rect.center().y(),
                      item.rect.width() - 2 * b.m.Px(8), 1);
-    b.painter.fillRect(rule, b.t.line);
-    return;
+    return DrawRule(b.painter, rule, b.t.line);
   }
   if (item.state & QStyle::State_Selected) {
     const int inset = b.m.Px(kMenuInset);
@@ -64,9 +71,7 @@ void DrawMenuLine(const QStyleOptionMenuItem& item, StyleBrush& b) {
   DrawSign(item, b);
   DrawMenuWords(item, b);
   if (item.menuItemType != QStyleOptionMenuItem::SubMenu) return;
-  const QRectF arrow(item.rect.right() - b.m.Px(22), item.rect.top(), b.m.Px(14),
-                     item.rect.height());
-  DrawArrow(b.painter, arrow, Qt::RightArrow, b.enabled ? b.t.muted : b.t.off, b.m.Px(3.5));
+  DrawSubmenuArrow(item, b);
 }
 
 void DrawBarItem(const QStyleOptionMenuItem& item, StyleBrush& b) {

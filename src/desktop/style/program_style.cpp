@@ -63,7 +63,7 @@ void ProgramStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* o
     case PE_FrameTabWidget: {
       // The line below the tabs goes on to the end of their page.
       const QRect& r = option->rect;
-      return painter->fillRect(QRect(r.left(), r.top() - 1, r.width(), 1), brush.t.line);
+      return DrawRule(*painter, QRect(r.left(), r.top() - 1, r.width(), 1), brush.t.line);
     }
     case PE_PanelItemViewRow:
     case PE_FrameGroupBox:
@@ -72,7 +72,7 @@ void ProgramStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* o
       return;
     case PE_FrameTabBarBase: {
       const QRect& r = option->rect;
-      return painter->fillRect(QRect(r.left(), r.bottom(), r.width(), 1), brush.t.line);
+      return DrawRule(*painter, QRect(r.left(), r.bottom(), r.width(), 1), brush.t.line);
     }
     case PE_FrameFocusRect:
       // What draws its focus by itself has drawn it.
@@ -88,8 +88,8 @@ void ProgramStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* o
     case PE_IndicatorToolBarSeparator: {
       const QRect& r = option->rect;
       const int inset = r.height() / 5;
-      return painter->fillRect(QRect(r.center().x(), r.top() + inset, 1, r.height() - 2 * inset),
-                               brush.t.strong_line);
+      return DrawRule(*painter, QRect(r.center().x(), r.top() + inset, 1, r.height() - 2 * inset),
+                      brush.t.strong_line);
     }
     default:
       break;
@@ -135,11 +135,11 @@ void ProgramStyle::drawControl(ControlElement element, const QStyleOption* optio
       const bool down = frame && frame->frameShape == QFrame::VLine;
       const QPoint middle = option->rect.center();
       if (across)
-        return painter->fillRect(QRect(option->rect.left(), middle.y(), option->rect.width(), 1),
-                                 brush.t.line);
+        return DrawRule(*painter, QRect(option->rect.left(), middle.y(), option->rect.width(), 1),
+                        brush.t.line);
       if (down)
-        return painter->fillRect(QRect(middle.x(), option->rect.top(), 1, option->rect.height()),
-                                 brush.t.line);
+        return DrawRule(*painter, QRect(middle.x(), option->rect.top(), 1, option->rect.height()),
+                        brush.t.line);
       if (frame && frame->frameShape != QFrame::NoFrame) drawn = DrawFrame(*option, brush);
       break;
     }

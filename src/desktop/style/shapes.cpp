@@ -2,6 +2,9 @@
 #include "desktop/style/shapes.h"
 
 #include <QPainterPath>
+#include <QTransform>
+#include <algorithm>
+#include <cmath>
 
 namespace tallyroll {
 namespace {
@@ -25,6 +28,15 @@ void DrawBox(QPainter& painter, const QRectF& rect, double radius, const QColor&
   const double inset = line.isValid() ? width / 2 : 0;
   painter.drawRoundedRect(rect.adjusted(inset, inset, -inset, -inset), radius - inset,
                           radius - inset);
+}
+
+void DrawRule(QPainter& painter, const QRect& rule, const QColor& color) {
+  const QTransform to_dots = painter.deviceTransform();
+  const QRectF place = to_dots.mapRect(QRectF(rule));
+  const auto whole = [](double length) { return std::max(std::round(length), 1.0); };
+  const QRectF dots(std::round(place.left()), std::round(place.top()), whole(place.width()),
+                    whole(place.height()));
+  painter.fillRect(to_dots.inverted().mapRect(dots), color);
 }
 
 void DrawArrow(QPainter& painter, const QRectF& box, Qt::ArrowType way, const QColor& color,

@@ -24,6 +24,10 @@ class SmoothEdges {
 void DrawBox(QPainter& painter, const QRectF& rect, double radius, const QColor& fill,
              const QColor& line = QColor(), double width = 1);
 
+// A line as thick wherever it lies: at a fraction of a scale a pixel is one dot of the screen here
+// and two there.
+void DrawRule(QPainter& painter, const QRect& rule, const QColor& color);
+
 // An open arrow in the middle of the box.
 void DrawArrow(QPainter& painter, const QRectF& box, Qt::ArrowType way, const QColor& color,
                double size);

@@ -35,6 +35,7 @@ HelpWindow::HelpWindow(QWidget* parent) : QMainWindow(parent, Qt::Window) {
   setCentralWidget(browser_);
   find_ = new QLineEdit;
   AddTools();
+  statusBar()->setSizeGripEnabled(false);
   connect(browser_, &QTextBrowser::sourceChanged, this, [this] { statusBar()->clearMessage(); });
   resize(720, 640);
   KeepOnScreen(*this);

@@ -16,10 +16,11 @@ TEST(LetterPaper, LiesOnADeskInEveryLook) {
   constexpr int kFourInches = 4 * 1440;
   for (const Look& look : kLooks) {
     const WornLook worn(look);
-    RichTextEdit letter;
+    QWidget window;
+    RichTextEdit letter(&window);
     letter.SetPaper(kFourInches, 1);
     letter.resize(900, 300);
-    letter.show();
+    window.show();
     QCoreApplication::processEvents();
     const QImage picture = letter.grab().toImage();
     const QRgb desk = TokensOf(QApplication::palette()).desk.rgb();
@@ -27,6 +28,9 @@ TEST(LetterPaper, LiesOnADeskInEveryLook) {
     EXPECT_EQ(picture.pixel(860, 150), desk) << look.name;
     EXPECT_EQ(picture.pixel(450, 250), qRgb(255, 255, 255)) << look.name;
     EXPECT_NE(desk, qRgb(255, 255, 255)) << look.name;
+    letter.clearFocus();
+    // The frame has one line then, and the desk begins behind it.
+    EXPECT_EQ(letter.grab().toImage().pixel(1, 150), desk) << look.name;
   }
 }
 

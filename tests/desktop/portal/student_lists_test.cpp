@@ -60,6 +60,13 @@ class StudentLists : public testing::Test {
   std::unique_ptr<PortalDialog> dialog;
 };
 
+TEST_F(StudentLists, TheArrowsStandInTheMiddleOfTheLists) {
+  const auto& enter = *dialog->findChild<QPushButton*>(QLatin1String("enter"));
+  const auto& remove = *dialog->findChild<QPushButton*>(QLatin1String("remove"));
+  const int middle = (enter.geometry().top() + remove.geometry().bottom()) / 2;
+  EXPECT_NEAR(middle, List("orglist").geometry().center().y(), 2);
+}
+
 TEST_F(StudentLists, ShiftMarksARunOfLines) {
   EXPECT_TRUE(List("orglist").hasFocus());
   Key(Qt::Key_Home);

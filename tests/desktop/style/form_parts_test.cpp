@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The parts of forms that the system brings itself, as a form lays them out.
 #include <QCheckBox>
+#include <QLabel>
+#include <QListWidget>
+#include <QPushButton>
 #include <QSettings>
 #include <QStackedWidget>
 
@@ -9,6 +12,7 @@
 #include "averages/portals/frmroundoff.h"
 #include "desktop/portal/form_labels.h"
 #include "desktop/portal/total_figure.h"
+#include "seating/frmseating.h"
 #include "shell/frmWizard.h"
 #include "tests/desktop/class_dialogs.h"
 
@@ -41,6 +45,42 @@ TEST_F(FormParts, AWindowOpensAsLowAsItsFoldedExplanationLetsIt) {
   };
   const int unfolded = height();
   EXPECT_LT(height(), unfolded);
+}
+
+TEST_F(FormParts, AStepOfANewChartGoesOnWithEnter) {
+  frmseating portal;
+  Open(portal);
+  EXPECT_TRUE(Find<QPushButton>("newchart").isDefault());
+  Find<QPushButton>("newchart").click();
+  EXPECT_TRUE(Find<QPushButton>("okinfo").isDefault());
+  Find<QListWidget>("column").setCurrentRow(7);
+  Find<QListWidget>("seatsrow").setCurrentRow(7);
+  Find<QPushButton>("okinfo").click();
+  EXPECT_TRUE(Find<QPushButton>("chartok").isDefault());
+  Find<QPushButton>("optionsback").click();
+  EXPECT_TRUE(Find<QPushButton>("okinfo").isDefault());
+}
+
+TEST_F(FormParts, TheChartStandsStillWhileACardIsCarried) {
+  frmseating portal;
+  Open(portal);
+  dialog->resize(1000, 620);
+  QCoreApplication::processEvents();
+  const int before = Find<QWidget>("Grid1").height();
+  Find<QLabel>("said").setText(QStringLiteral(
+      "Washington, Josephine is taken up: arrows carry, the blank puts down, Escape lets go."));
+  QCoreApplication::processEvents();
+  EXPECT_EQ(Find<QWidget>("Grid1").height(), before);
+}
+
+TEST_F(FormParts, WhatActsOnListsEndsLevelWithThem) {
+  frmseating portal;
+  Open(portal);
+  Find<QStackedWidget>("step").setCurrentIndex(3);
+  QCoreApplication::processEvents();
+  const auto foot = [](const QWidget& widget) { return widget.geometry().bottom(); };
+  EXPECT_EQ(foot(Find<QPushButton>("addwish")), foot(Find<QListWidget>("wishother")));
+  EXPECT_EQ(foot(Find<QPushButton>("takewish")), foot(Find<QListWidget>("wishlist")));
 }
 
 TEST_F(FormParts, NothingMovesWhileATotalIsTyped) {

@@ -137,6 +137,21 @@ TEST(ListsInHighContrast, AChosenLineStandsOutAsTheDesktopWantsIt) {
   }
 }
 
+TEST(FrameOfASheet, HasNoSecondEdgeWithinItsLine) {
+  for (const Look& look : kLooks) {
+    const WornLook worn(look);
+    QWidget window;
+    GridWidget sheet(&window);
+    sheet.resize(200, 100);
+    window.show();
+    QApplication::processEvents();
+    sheet.clearFocus();
+    const QImage picture = sheet.grab().toImage();
+    EXPECT_NE(picture.pixel(0, 50), picture.pixel(1, 50)) << look.name;
+    EXPECT_EQ(picture.pixel(1, 50), picture.pixel(2, 50)) << look.name;
+  }
+}
+
 TEST(TabLine, GoesOnBehindTheLastTab) {
   QTabWidget tabs;
   tabs.addTab(new QWidget, QStringLiteral("One"));
