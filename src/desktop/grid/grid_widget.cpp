@@ -37,6 +37,7 @@ GridWidget::GridWidget(QWidget* parent)
   setFocusPolicy(Qt::StrongFocus);
   // Each paint fills what it is asked for; while Redraw is off the old picture stays.
   viewport()->setAttribute(Qt::WA_OpaquePaintEvent);
+  viewport()->setBackgroundRole(QPalette::Window);  // what lies beyond the sheet
   viewport()->setMouseTracking(true);
   InstallGridAccessibility();
 }
@@ -229,8 +230,17 @@ void GridWidget::paintEvent(QPaintEvent* event) {
     return;
   }
   MeasureIfChanged();
-  const GridPicture picture{*grid_,     rows_,   columns_,   colors_,    fonts_,
-                            hasFocus(), Range(), hover_.row, hover_.col, NoticeShown()};
+  const GridPicture picture{*grid_,
+                            rows_,
+                            columns_,
+                            colors_,
+                            fonts_,
+                            hasFocus(),
+                            Range(),
+                            hover_.row,
+                            hover_.col,
+                            NoticeShown(),
+                            !verticalScrollBar()->isVisible()};
   // Scrolling sideways asks for a strip and the headings; their common rectangle is everything.
   for (const QRect& area : event->region()) {
     painter.setClipRect(area);

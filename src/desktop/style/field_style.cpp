@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Fields, choices, dates, and the frames of lists and sheets.
+#include <QAbstractScrollArea>
 #include <QComboBox>
 #include <QDateTimeEdit>
 #include <QLabel>
@@ -49,6 +50,13 @@ void DrawShown(const QStyleOption& option, StyleBrush& b) {
           explains ? b.t.accent_soft : b.t.total);
 }
 
+// A frame is a pixel wider than its line, for that of the focus: there lies what lies within.
+QColor GroundWithin(const StyleBrush& b) {
+  const auto* area = qobject_cast<const QAbstractScrollArea*>(b.widget);
+  const QPalette::ColorRole role = area ? area->viewport()->backgroundRole() : QPalette::Base;
+  return role == QPalette::Base ? b.t.surface : area->palette().color(role);
+}
+
 }  // namespace
 
 bool DrawField(QStyle::PrimitiveElement element, const QStyleOption& option, StyleBrush& brush) {
@@ -83,7 +91,7 @@ bool DrawFrame(const QStyleOption& option, StyleBrush& brush) {
     return true;
   }
   const bool focus = brush.focus;
-  DrawBox(brush.painter, option.rect, brush.m.Px(kFrameRadius), brush.t.surface,
+  DrawBox(brush.painter, option.rect, brush.m.Px(kFrameRadius), GroundWithin(brush),
           focus ? brush.t.focus : brush.t.border, focus ? 2 : 1);
   return true;
 }

@@ -8,6 +8,7 @@
 #include <QLineEdit>
 #include <QListWidget>
 #include <QPushButton>
+#include <QScrollArea>
 #include <QTabBar>
 #include <QTabWidget>
 #include <QVBoxLayout>
@@ -134,6 +135,28 @@ TEST(ListsInHighContrast, AChosenLineStandsOutAsTheDesktopWantsIt) {
     EXPECT_EQ(picture.pixel(line.right() - 20, line.center().y()),
               TokensOf(QApplication::palette()).selection.rgb())
         << look.name;
+  }
+}
+
+// Beside the line of a frame there is room for that of the focus.
+TEST_F(LightOutlines, WithinAFrameBeginsWhatLiesThere) {
+  ProgramStyle style;
+  QWidget window;
+  QScrollArea desk(&window);
+  desk.setBackgroundRole(QPalette::Dark);
+  GridWidget sheet(&window);
+  QListWidget list(&window);
+  const Tokens t = LightTokens();
+  for (const auto& [area, ground] : {std::pair<QAbstractScrollArea*, QColor>{&desk, t.desk},
+                                     {&sheet, t.window},
+                                     {&list, t.surface}}) {
+    area->setStyle(&style);
+    area->resize(200, 100);
+    const QImage picture = area->grab().toImage();
+    EXPECT_EQ(picture.pixelColor(0, 50), t.border);
+    EXPECT_EQ(picture.pixelColor(1, 50), ground);
+    EXPECT_EQ(picture.pixelColor(100, 98), ground);
+    area->setStyle(nullptr);
   }
 }
 
