@@ -86,6 +86,8 @@ class Painting {
     for (const Band& column : bands_.columns) {
       const bool edge = column.start + column.size == picture_.columns.FixedSize();
       const int x = EndOf(column) - 1;
+      // The frame is the line there.
+      if (picture_.framed_right && x == view_.width() - 1) continue;
       (edge ? strong : faint).emplace_back(x, top, x, bottom);
     }
     painter_.setPen(tokens().grid_line);

@@ -27,7 +27,8 @@ struct GridPicture {
   CellRange range = {};  // what is selected
   int hover_row = -1;
   int hover_col = -1;
-  QString empty = {};  // what will stand here, while nothing does
+  QString empty = {};         // what will stand here, while nothing does
+  bool framed_right = false;  // it ends at its frame, not at a bar
 };
 
 // The columns that a heading of the merged row spans, as far as they can be seen.

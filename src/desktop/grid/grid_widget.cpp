@@ -231,8 +231,17 @@ void GridWidget::paintEvent(QPaintEvent* event) {
     return;
   }
   MeasureIfChanged();
-  const GridPicture picture{*grid_,     rows_,   columns_,   colors_,    fonts_,
-                            hasFocus(), Range(), hover_.row, hover_.col, NoticeShown()};
+  const GridPicture picture{*grid_,
+                            rows_,
+                            columns_,
+                            colors_,
+                            fonts_,
+                            hasFocus(),
+                            Range(),
+                            hover_.row,
+                            hover_.col,
+                            NoticeShown(),
+                            !verticalScrollBar()->isVisible()};
   // Scrolling sideways asks for a strip and the headings; their common rectangle is everything.
   for (const QRect& area : event->region()) {
     painter.setClipRect(area);

@@ -2,6 +2,7 @@
 #include "desktop/paper/qt_print_target.h"
 
 #include <QPaintDevice>
+#include <QPaintEngine>
 #include <QPainter>
 #include <algorithm>
 #include <cmath>
@@ -30,6 +31,13 @@ QFont PaperFont(const QString& name, double points, bool bold, bool italic = fal
   font.setBold(bold);
   font.setItalic(italic);
   return font;
+}
+
+// On a screen a line of one dot and a part would be one dot wide here and two there, as it falls.
+double WidthOfLine(const QPainter& painter, double width) {
+  const double dots = painter.deviceTransform().m22() * width;
+  const bool screen = painter.paintEngine()->type() == QPaintEngine::Raster;
+  return screen && dots > 1 ? width * std::round(dots) / dots : width;
 }
 
 }  // namespace
@@ -77,7 +85,7 @@ void QtPrintTarget::DrawLetters(double x, double base, std::u16string_view text,
 
 void QtPrintTarget::Line(double x1, double y1, double x2, double y2) {
   if (!Draws()) return;
-  painter_->setPen(QPen(QColor(ForeColor), LineWidth));
+  painter_->setPen(QPen(QColor(ForeColor), WidthOfLine(*painter_, LineWidth)));
   painter_->drawLine(PlaceOnSheet(x1, y1), PlaceOnSheet(x2, y2));
 }
 

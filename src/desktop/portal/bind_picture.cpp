@@ -7,6 +7,7 @@
 #include <QScrollArea>
 #include <QScrollBar>
 #include <QTimer>
+#include <algorithm>
 
 #include "desktop/portal/control_binding.h"
 #include "desktop/portal/sheet_view.h"
@@ -19,7 +20,7 @@ using OrnamentBinding = Binding<PictureBox, QWidget>;
 // To a screen reader the area with a sheet is a document, not a part of the window.
 QAccessibleInterface* MakeSpokenSheet(const QString&, QObject* object) {
   auto* area = qobject_cast<QScrollArea*>(object);
-  const bool has_sheet = area && qobject_cast<const SheetView*>(area->widget());
+  const bool has_sheet = area && area->findChild<const SheetView*>();
   return has_sheet ? new QAccessibleWidget(area, QAccessible::Document) : nullptr;
 }
 
@@ -29,7 +30,8 @@ class SheetBinding : public Binding<PictureBox, QScrollArea> {
  public:
   SheetBinding(PictureBox& control, ControlRow& row, QScrollArea& area, BindingOwner& owner)
       : Binding(control, row, area, owner),
-        view_(new SheetView),
+        desk_(new QWidget),
+        view_(new SheetView(desk_)),
         waits_(area.property("whenIdle").toBool()) {
     QAccessible::installFactory(MakeSpokenSheet);
     // What the form puts there stays its own.
@@ -40,7 +42,9 @@ class SheetBinding : public Binding<PictureBox, QScrollArea> {
     area.setBackgroundRole(QPalette::Dark);
     area.setAlignment(Qt::AlignCenter);
     area.setWidgetResizable(false);
-    area.setWidget(view_);
+    view_->resize(0, 0);
+    area.setWidget(desk_);
+    desk_->setAutoFillBackground(false);  // the shadow lies below it
     // The toolkit has taken the area for an empty one as soon as the form gave it a name.
     if (QAccessibleInterface* empty = QAccessible::queryAccessibleInterface(&area))
       QAccessible::deleteAccessibleInterface(QAccessible::uniqueId(empty));
@@ -61,15 +65,16 @@ class SheetBinding : public Binding<PictureBox, QScrollArea> {
   // The sheet lies on its desk and throws a shadow.
   bool eventFilter(QObject* watched, QEvent* event) override {
     if (waits_ && event->type() == QEvent::Show) rest_.start();
-    if (event->type() == QEvent::Resize && watched == widget_.viewport() &&
-        control_.Fit != SheetFit::kZoom)
-      FollowRoom();
+    if (event->type() == QEvent::Resize && watched == widget_.viewport()) {
+      LaySheet();
+      if (control_.Fit != SheetFit::kZoom) FollowRoom();
+    }
     if (event->type() != QEvent::Paint || watched != widget_.viewport())
       return ControlBinding::eventFilter(watched, event);
     QPainter painter(widget_.viewport());
     painter.fillRect(widget_.viewport()->rect(), widget_.palette().color(QPalette::Dark));
     constexpr int kDepth = 6, kDarkest = 36;
-    const QRect sheet = view_->geometry().translated(0, 1);
+    const QRect sheet(view_->mapTo(widget_.viewport(), QPoint(0, 1)), view_->size());
     if (sheet.isEmpty()) return true;
     painter.setPen(Qt::NoPen);
     for (int i = kDepth; i > 0; --i) {
@@ -82,10 +87,18 @@ class SheetBinding : public Binding<PictureBox, QScrollArea> {
  private:
   // What a fitted sheet has: the desk without its edge, whether or not a bar stands at its side.
   QSize Room() const {
-    constexpr int kEdge = 12;
     const bool never = widget_.verticalScrollBarPolicy() == Qt::ScrollBarAlwaysOff;
     const int bar = never ? 0 : widget_.verticalScrollBar()->sizeHint().width();
-    return widget_.size() - QSize(2 * kEdge + bar, 2 * kEdge);
+    const int beside = 2 * (kEdge + widget_.frameWidth());
+    return widget_.size() - QSize(beside + bar, beside);
+  }
+
+  // The desk goes on beside a sheet, but brings no bar for that alone.
+  void LaySheet() {
+    const int spare = (Room().width() + 2 * kEdge - view_->width()) / 2;
+    const int beside = spare < 0 ? kEdge : std::min(spare, kEdge);
+    view_->move(beside, kEdge);
+    desk_->setFixedSize(view_->size() + QSize(2 * beside, 2 * kEdge));
   }
 
   void FollowRoom() {
@@ -108,12 +121,17 @@ class SheetBinding : public Binding<PictureBox, QScrollArea> {
 
   void Draw() {
     view_->ShowSheet(control_, Room());
+    LaySheet();
     widget_.viewport()->update();  // the shadow of the sheet before lies there still
     if (view_->Words() != widget_.accessibleDescription())
       widget_.setAccessibleDescription(view_->Words());
   }
 
-  SheetView* view_;  // the area's
+  // Of the desk on every side of a sheet, however far it is scrolled.
+  static constexpr int kEdge = 12;
+
+  QWidget* desk_;  // the area's
+  SheetView* view_;
   QTimer rest_;
   bool waits_;
   unsigned laid_out_ = 0;  // the revision that the Portal has laid out

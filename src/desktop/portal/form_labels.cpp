@@ -41,13 +41,13 @@ QSize ElidedLabel::minimumSizeHint() const {
 
 QString ElidedLabel::Shown() const {
   if (wordWrap()) return text();
-  return fontMetrics().elidedText(text(), Qt::ElideRight, contentsRect().width());
+  return fontMetrics().elidedText(text().trimmed(), Qt::ElideRight, contentsRect().width());
 }
 
 bool ElidedLabel::event(QEvent* event) {
   if (event->type() != QEvent::ToolTip) return QLabel::event(event);
   const auto& asked = static_cast<const QHelpEvent&>(*event);
-  QToolTip::showText(asked.globalPos(), Shown() == text() ? QString() : text(), this);
+  QToolTip::showText(asked.globalPos(), Shown() == text().trimmed() ? QString() : text(), this);
   return true;
 }
 

@@ -8,6 +8,7 @@
 #include <QCoreApplication>
 #include <QFile>
 #include <QFormLayout>
+#include <QGridLayout>
 #include <QLabel>
 #include <QLayout>
 #include <QScrollArea>
@@ -73,13 +74,14 @@ bool IsOfClass(const QObject& object, const QString& class_name) {
   return class_name == QLatin1String(object.metaObject()->className());
 }
 
-// What a label's words are for, which the style draws them by, and whether it stands there without
-// any; the word that a list shows as a chip, and the field from which it is walked; the picture of
-// a tool, the word below it, and which tool is the main one; the button that Enter presses while a
-// page is shown; a sheet that waits for a pause.
+// What stands between the rows of a grid; what a label's words are for, which the style draws them
+// by, and whether it stands there without any; the word that a list shows as a chip, and the field
+// from which it is walked; the picture of a tool, the word below it, and which tool is the main
+// one; the button that Enter presses while a page is shown; a sheet that waits for a pause.
 bool IsOwnProperty(const QObject& object, const QByteArray& property) {
   return (property == "mainAction" && object.isWidgetType()) ||
          (property == "textUse" && qobject_cast<const QLabel*>(&object)) ||
+         (property == "verticalSpacing" && qobject_cast<const QGridLayout*>(&object)) ||
          (property == "toldIn" && qobject_cast<const QAbstractItemView*>(&object)) ||
          (property == "chipWord" && qobject_cast<const QAbstractItemView*>(&object)) ||
          (property == "hideWhileEmpty" && qobject_cast<const QLabel*>(&object)) ||
@@ -146,6 +148,15 @@ void AlignPages(const QObjectList& objects) {
   }
 }
 
+// The toolkit's loader knows but one distance for the rows and the columns of a grid.
+void SpaceRows(const QObjectList& objects) {
+  for (QObject* object : objects) {
+    auto* grid = qobject_cast<QGridLayout*>(object);
+    const QVariant rows = grid ? grid->property("verticalSpacing") : QVariant();
+    if (rows.isValid()) grid->setVerticalSpacing(rows.toInt());
+  }
+}
+
 void DrawTools(const QObjectList& objects) {
   for (QObject* object : objects)
     if (auto* tool = qobject_cast<QToolButton*>(object))
@@ -186,6 +197,7 @@ LoadedForm FormLoader::Load(const QString& file, QDialog& dialog) {
   NameParts(form_.objects);
   AlignFormLabels(form_.objects);
   AlignPages(form_.objects);
+  SpaceRows(form_.objects);
   DrawTools(form_.objects);
   ComplainOfDynamicProperties();
   // A window takes no more room than what it will show.

@@ -6,6 +6,7 @@
 #include <QPainter>
 #include <algorithm>
 
+#include "desktop/style/program_style.h"
 #include "desktop/style/tokens.h"
 
 namespace tallyroll {
@@ -13,6 +14,11 @@ namespace {
 
 constexpr double kWhole = 100;
 constexpr int kFigurePadding = 8;
+
+int FigurePadding() {
+  const auto* style = qobject_cast<const ProgramStyle*>(QApplication::style());
+  return style ? style->measures().Px(kFigurePadding) : kFigurePadding;
+}
 
 QFontMetrics FigureMetrics() {
   return QFontMetrics(FontFor(QApplication::font(), TextUse::kDisplay));
@@ -48,8 +54,8 @@ QString TotalFigure::Remainder() const {
 QSize TotalFigure::sizeHint() const {
   return {FigureMetrics().horizontalAdvance(QStringLiteral("100.00")) +
               BesideMetrics().horizontalAdvance(tr("%1 too much").arg(QStringLiteral("100.00"))) +
-              3 * kFigurePadding,
-          std::max(FigureMetrics().height(), 2 * BesideMetrics().height()) + kFigurePadding / 2};
+              3 * FigurePadding(),
+          std::max(FigureMetrics().height(), 2 * BesideMetrics().height()) + FigurePadding() / 2};
 }
 
 void TotalFigure::paintEvent(QPaintEvent*) {
@@ -64,8 +70,8 @@ void TotalFigure::paintEvent(QPaintEvent*) {
   painter.setBrush(reached ? t.success_soft : t.danger_soft);
   painter.drawRoundedRect(rect(), 6, 6);
   painter.setPen(reached ? t.success : t.danger);
-  const QRect room = rect().adjusted(kFigurePadding, 0, -kFigurePadding, 0);
-  const QRect figure = room.adjusted(0, 0, -words - kFigurePadding, 0);
+  const QRect room = rect().adjusted(FigurePadding(), 0, -FigurePadding(), 0);
+  const QRect figure = room.adjusted(0, 0, -words - FigurePadding(), 0);
   // A sum of many figures is as large as there is room for it.
   const bool fits = FigureMetrics().horizontalAdvance(text()) <= figure.width();
   painter.setFont(FontFor(QApplication::font(), fits ? TextUse::kDisplay : TextUse::kTitle));

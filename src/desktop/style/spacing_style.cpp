@@ -35,7 +35,8 @@ int SpaceBelow(QSizePolicy::ControlType upper, QSizePolicy::ControlType lower, c
 int SpaceBeside(QSizePolicy::ControlType left, QSizePolicy::ControlType right, const Measures& m) {
   if (left == QSizePolicy::GroupBox || right == QSizePolicy::GroupBox) return m.Px(kGroups);
   if (IsPane(left) && IsPane(right)) return m.Px(kGroups);
-  if (IsTick(left) && IsTick(right)) return m.Px(kRowOfButtons);
+  // Columns of options stand as far apart as the groups below them.
+  if (IsTick(left) && IsTick(right)) return m.Px(kGroups);
   if (left == QSizePolicy::Label || right == QSizePolicy::Label) return m.Px(kLabelToField);
   return m.Px(kFields);
 }

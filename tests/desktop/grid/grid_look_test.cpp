@@ -54,6 +54,24 @@ TEST_F(GridLook, BeyondTheLastCellIsTheWindow) {
             window);
 }
 
+TEST_F(GridLook, AColumnThatEndsAtTheFrameHasNoLineBesideIt) {
+  const auto ends_in_a_line = [this] {
+    const QRect last = widget.CellRect(3, 5);
+    const int beside = widget.width() - widget.viewport()->width();
+    widget.resize(last.right() + 1 + beside, widget.height());
+    Settle();
+    const QImage picture = Picture();
+    EXPECT_EQ(picture.width(), last.right() + 1);
+    const int y = last.center().y();
+    return picture.pixel(last.right(), y) != picture.pixel(last.right() - 4, y);
+  };
+  EXPECT_TRUE(ends_in_a_line());  // beside a bar
+  grid.SetSize(10, 6);
+  widget.UpdateFromGrid();
+  Settle();
+  EXPECT_FALSE(ends_in_a_line());
+}
+
 TEST_F(GridLook, EveryFifthRowEndsInAStrongerLine) {
   const QImage picture = Picture();
   const auto below = [&](int row) {

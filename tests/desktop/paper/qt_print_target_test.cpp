@@ -5,6 +5,8 @@
 
 #include <QImage>
 #include <QPainter>
+#include <cmath>
+#include <set>
 
 namespace tallyroll {
 namespace {
@@ -58,6 +60,25 @@ TEST(QtPrintTarget, ALineStandsWhereItsMarginsPutIt) {
   EXPECT_NEAR(ink.right(), 720 + 500 + 1100, 20);
   EXPECT_NEAR(ink.center().y(), 360 + 400 + 200, 15);
   EXPECT_LE(ink.height(), 20);
+}
+
+TEST(QtPrintTarget, LinesOfOneWidthAreEquallyWideWhereverTheyFallOnAScreen) {
+  for (const double dots : {1.17, 1.33, 1.5, 2.67}) {
+    QImage image(20, 400, QImage::Format_RGB32);
+    image.fill(Qt::white);
+    QPainter painter(&image);
+    painter.scale(dots / 10, dots / 10);  // a line is ten twips wide
+    QtPrintTarget target(kLetter, &painter);
+    target.ScaleTop = 0;
+    std::set<int> widths;
+    for (int i = 1; i < 12; ++i) target.Line(-700, 143 * i, 300, 143 * i);
+    for (int y = 0, wide = 0; y < image.height(); ++y) {
+      const bool ink = image.pixelColor(10, y) != Qt::white;
+      if (!ink && wide > 0) widths.insert(wide);
+      wide = ink ? wide + 1 : 0;
+    }
+    EXPECT_EQ(widths, std::set<int>{static_cast<int>(std::lround(dots))}) << dots;
+  }
 }
 
 TEST(QtPrintTarget, TextHangsBelowThePenAndIsAsWideAsMeasured) {

@@ -8,6 +8,7 @@
 #include <QPushButton>
 #include <QScreen>
 #include <QScrollArea>
+#include <QScrollBar>
 #include <QTest>
 #include <algorithm>
 #include <functional>
@@ -161,6 +162,41 @@ TEST_F(SheetViewTest, AFittedSheetIsAsWideAsItsDeskAndFollowsIt) {
   dialog->resize(dialog->width() + 150, dialog->height());
   QTest::qWait(50);
   EXPECT_TRUE(fits()) << area().widget()->width() << " of " << area().viewport()->width();
+}
+
+// It does not begin at the frame, as one would that is scrolled.
+TEST_F(SheetViewTest, AnEdgeOfTheDeskIsSeenAboveASheetAndScrollsAway) {
+  portal.sheet.Zoom = 1.4;
+  Open();
+  const auto top = [this] { return view().mapTo(area().viewport(), QPoint()).y(); };
+  EXPECT_EQ(top(), 12);
+  QScrollBar& down = *area().verticalScrollBar();
+  down.setValue(down.maximum());
+  EXPECT_LT(top(), 0);
+  EXPECT_EQ(top() + view().height(), area().viewport()->height() - 12);
+}
+
+TEST_F(SheetViewTest, TheEdgesOfTheDeskAloneBringNoBar) {
+  Open();
+  const int around = dialog->width() - area().width();
+  const int frame_and_bar =
+      2 * area().frameWidth() + area().verticalScrollBar()->sizeHint().width();
+  for (const int spare : {0, 1, 2, 23, 24, 60}) {
+    dialog->resize(view().width() + frame_and_bar + around + spare, 400);
+    QTest::qWait(10);
+    EXPECT_EQ(area().horizontalScrollBar()->maximum(), 0) << spare;
+    EXPECT_GE(view().mapTo(area().viewport(), QPoint()).x(), std::min(spare / 2, 12)) << spare;
+  }
+}
+
+TEST_F(SheetViewTest, AFittedPageNeedsNoBar) {
+  for (const SheetFit fit : {SheetFit::kPage, SheetFit::kWidth}) {
+    portal.sheet.Fit = fit;
+    Open();
+    EXPECT_EQ(area().horizontalScrollBar()->maximum(), 0);
+    const bool whole = fit == SheetFit::kPage;
+    EXPECT_EQ(area().verticalScrollBar()->maximum() == 0, whole);
+  }
 }
 
 TEST_F(SheetViewTest, AFittedPageIsSeenWhole) {

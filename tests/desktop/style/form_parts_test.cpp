@@ -1,20 +1,29 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The parts of forms that the system brings itself, as a form lays them out.
 #include <QCheckBox>
+#include <QGroupBox>
 #include <QLabel>
 #include <QListWidget>
 #include <QPushButton>
+#include <QRadioButton>
+#include <QScrollBar>
 #include <QSettings>
 #include <QStackedWidget>
+#include <cstdlib>
 
 #include "averages/portals/frmoptions.h"
 #include "averages/portals/frmpercents.h"
+#include "averages/portals/frmpoints.h"
 #include "averages/portals/frmroundoff.h"
+#include "averages/portals/frmscrnavg.h"
 #include "desktop/portal/form_labels.h"
 #include "desktop/portal/total_figure.h"
+#include "desktop/style/program_style.h"
+#include "printing/frmprintall.h"
 #include "seating/frmseating.h"
 #include "shell/frmWizard.h"
 #include "tests/desktop/class_dialogs.h"
+#include "tests/desktop/style/looks.h"
 
 namespace tallyroll {
 namespace {
@@ -29,6 +38,17 @@ class FormParts : public ClassDialogs {
   ~FormParts() override {
     dialog.reset();
     QSettings().clear();
+  }
+  int LeftOf(const QWidget& widget) const { return widget.mapTo(dialog.get(), QPoint()).x(); }
+  int RightOf(const QWidget& widget) const { return LeftOf(widget) + widget.width(); }
+  // From the left edge of the window: where the last ink of a figure ends.
+  int InkEnd(QWidget& figure) const {
+    const QImage picture = figure.grab().toImage();
+    const int middle = picture.height() / 2;
+    const QRgb ground = picture.pixel(picture.width() / 2, middle);
+    int x = picture.width() - 1;
+    while (x > 0 && picture.pixel(x, middle) == ground) --x;
+    return LeftOf(figure) + x;
   }
 };
 
@@ -133,6 +153,74 @@ TEST_F(FormParts, AStateStandsOutWhereItIsOn) {
   Open(portal);
   EXPECT_TRUE(Find<StateWord>("dsl").IsOn());
   EXPECT_FALSE(Find<StateWord>("dlt").IsOn());
+}
+
+// The two columns of reports and those of their options below.
+TEST_F(FormParts, OptionsStandBelowTheColumnsOfTheirReports) {
+  OpenState = 2;
+  for (const Look& look : kLooks) {
+    const WornLook worn(look);
+    frmprintall portal;
+    Open(portal);
+    EXPECT_EQ(LeftOf(Find<QRadioButton>("missing1")), LeftOf(Find<QRadioButton>("sort1")))
+        << look.name;
+    EXPECT_EQ(LeftOf(Find<QRadioButton>("allgrades1")), LeftOf(Find<QCheckBox>("attendance1")))
+        << look.name;
+    dialog.reset();
+  }
+}
+
+TEST_F(FormParts, ReportsStandOneBelowTheOtherThoughOneStandsAlone) {
+  OpenState = 2;
+  frmprintall portal;
+  Open(portal);
+  const auto top = [this](const char* name) { return Find<QRadioButton>(name).y(); };
+  EXPECT_EQ(top("sumatt") - top("gradesummary"), top("gradesummary") - top("allgrades1"));
+}
+
+TEST_F(FormParts, TheScaleOfTheRoundingHasNoGapAtItsSide) {
+  Current().Method = 0;
+  frmroundoff portal;
+  Open(portal);
+  EXPECT_EQ(LeftOf(Find<QGroupBox>("modegroup")) - RightOf(Find<GridWidget>("grdgrade")), 20);
+}
+
+TEST_F(FormParts, FiguresThatAreOnlyShownEndBelowEachOther) {
+  frmpoints portal;
+  Open(portal);
+  portal.totals.Caption = "100";
+  portal.extra.Caption = "100";
+  dialog->ShowControls();
+  EXPECT_LE(std::abs(InkEnd(Find<QLabel>("totals")) - InkEnd(Find<QLabel>("extra"))), 1);
+}
+
+TEST_F(FormParts, FourteenGradesOfAStudentAreSeenAtOnceAtEveryDensity) {
+  for (int i = 3; i <= 14; ++i) AddGrade("Grade", "T");
+  for (const Look& look : kLooks) {
+    const WornLook worn(look);
+    frmscrnavg portal;
+    portal.Load();
+    dialog = std::make_unique<PortalDialog>(portal);
+    dialog->show();
+    const auto& style = *qobject_cast<const ProgramStyle*>(QApplication::style());
+    dialog->resize(style.measures().Px(960), style.measures().Px(620));
+    QCoreApplication::processEvents();
+    EXPECT_EQ(Find<GridWidget>("grdgrade").verticalScrollBar()->maximum(),
+              Find<GridWidget>("grdgrade").verticalScrollBar()->minimum())
+        << look.name;
+    dialog.reset();
+  }
+}
+
+// Figures come with a place for their sign.
+TEST_F(FormParts, ALineBeginsAtItsEdgeThoughABlankStandsInFront) {
+  const auto picture = [](const char* text) {
+    ElidedLabel line;
+    line.setText(QLatin1String(text));
+    line.resize(200, 30);
+    return line.grab().toImage();
+  };
+  EXPECT_EQ(picture(" 75 (C)"), picture("75 (C)"));
 }
 
 TEST_F(FormParts, ALineOfAClasssWordsTakesNoMoreThanItsWordsAndShrinks) {

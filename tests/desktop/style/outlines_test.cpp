@@ -8,6 +8,7 @@
 #include <QLineEdit>
 #include <QListWidget>
 #include <QPushButton>
+#include <QScrollArea>
 #include <QTabBar>
 #include <QTabWidget>
 #include <QVBoxLayout>
@@ -149,6 +150,28 @@ TEST(FrameOfASheet, HasNoSecondEdgeWithinItsLine) {
     const QImage picture = sheet.grab().toImage();
     EXPECT_NE(picture.pixel(0, 50), picture.pixel(1, 50)) << look.name;
     EXPECT_EQ(picture.pixel(1, 50), picture.pixel(2, 50)) << look.name;
+  }
+}
+
+// Beside the line of a frame there is room for that of the focus.
+TEST_F(LightOutlines, WithinAFrameBeginsWhatLiesThere) {
+  ProgramStyle style;
+  QWidget window;
+  QScrollArea desk(&window);
+  desk.setBackgroundRole(QPalette::Dark);
+  GridWidget sheet(&window);
+  QListWidget list(&window);
+  const Tokens t = LightTokens();
+  for (const auto& [area, ground] : {std::pair<QAbstractScrollArea*, QColor>{&desk, t.desk},
+                                     {&sheet, t.window},
+                                     {&list, t.surface}}) {
+    area->setStyle(&style);
+    area->resize(200, 100);
+    const QImage picture = area->grab().toImage();
+    EXPECT_EQ(picture.pixelColor(0, 50), t.border);
+    EXPECT_EQ(picture.pixelColor(1, 50), ground);
+    EXPECT_EQ(picture.pixelColor(100, 98), ground);
+    area->setStyle(nullptr);
   }
 }
 

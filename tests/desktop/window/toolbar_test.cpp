@@ -2,9 +2,11 @@
 // The toolbar of a class window, and its icons.
 #include <gtest/gtest.h>
 
+#include <QDir>
 #include <QFile>
 #include <QIcon>
 #include <QMainWindow>
+#include <QMap>
 #include <QSignalSpy>
 #include <QSvgRenderer>
 #include <QToolButton>
@@ -155,6 +157,18 @@ TEST_F(FrameTest, EveryButtonHasAnIconThatCanBeSeenInLightAndDark) {
     ++icons;
   }
   EXPECT_EQ(icons, 15);
+}
+
+TEST(PaletteIcon, NoTwoPicturesAreAlike) {
+  const QPalette light(Qt::black, Qt::white);
+  QMap<QString, QImage> drawn;
+  for (const QFileInfo& file :
+       QDir(QStringLiteral(":/icons")).entryInfoList({QStringLiteral("*.svg")})) {
+    const QImage picture = PaletteIcon(file.completeBaseName(), light).pixmap(48).toImage();
+    EXPECT_EQ(drawn.key(picture).toStdString(), "") << file.fileName().toStdString();
+    drawn[file.completeBaseName()] = picture;
+  }
+  EXPECT_GE(drawn.size(), 30);
 }
 
 TEST(PaletteIcon, IsEmptyForANameWithoutAnIcon) {
