@@ -120,7 +120,7 @@ void AlignFormLabels(const QObjectList& objects) {
       if (!label || !label->widget() || !field) continue;
       const int height = field->sizeHint().height();
       // A figure may be larger than a field; beside a box of many lines the label stays above.
-      if (2 * height <= 3 * style->measures().Control()) label->widget()->setMinimumHeight(height);
+      if (height < 2 * style->measures().Control()) label->widget()->setMinimumHeight(height);
     }
   }
 }
