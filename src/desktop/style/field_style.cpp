@@ -1,10 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Fields, choices, dates, and the frames of lists and sheets.
+#include <QAbstractScrollArea>
 #include <QComboBox>
 #include <QDateTimeEdit>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPainter>
+#include <QScrollBar>
 
 #include "desktop/style/controls.h"
 #include "desktop/style/shapes.h"
@@ -68,6 +70,20 @@ bool DrawField(QStyle::PrimitiveElement element, const QStyleOption& option, Sty
   }
 }
 
+// Two scroll bars are one track round their corner: the frame fills it, as it fills what is shown.
+void DrawCornerOfBars(StyleBrush& brush) {
+  const auto* area = qobject_cast<const QAbstractScrollArea*>(brush.widget);
+  if (!area || !area->horizontalScrollBar()->isVisible() || !area->verticalScrollBar()->isVisible())
+    return;
+  const QRect room = area->contentsRect();
+  const QRect shown = area->viewport()->geometry();
+  QRect corner(shown.bottomRight() + QPoint(1, 1), room.bottomRight());
+  if (area->isRightToLeft())
+    corner =
+        QRect(QPoint(room.left(), shown.bottom() + 1), QPoint(shown.left() - 1, room.bottom()));
+  brush.painter.fillRect(corner, brush.t.window);
+}
+
 bool DrawFrame(const QStyleOption& option, StyleBrush& brush) {
   const QWidget* widget = brush.widget;
   if (qobject_cast<const QLabel*>(widget)) {
@@ -83,8 +99,11 @@ bool DrawFrame(const QStyleOption& option, StyleBrush& brush) {
     return true;
   }
   const bool focus = brush.focus;
-  DrawBox(brush.painter, option.rect, brush.m.Px(kFrameRadius), brush.t.surface,
-          focus ? brush.t.focus : brush.t.border, focus ? 2 : 1);
+  const double radius = brush.m.Px(kFrameRadius);
+  DrawBox(brush.painter, option.rect, radius, brush.t.surface);
+  DrawCornerOfBars(brush);
+  DrawBox(brush.painter, option.rect, radius, QColor(), focus ? brush.t.focus : brush.t.border,
+          focus ? 2 : 1);
   return true;
 }
 

@@ -89,7 +89,7 @@ std::optional<QRect> GroupPart(const QStyleOptionComplex& option, QStyle::SubCon
 
 bool DrawLine(const QStyleOption& option, StyleBrush& brush) {
   const bool chosen = option.state & QStyle::State_Selected;
-  const QRectF rect = QRectF(option.rect).adjusted(1, 0, -1, 0);
+  const QRectF rect = QRectF(option.rect).adjusted(1, 1, -1, -1);
   const double radius = brush.m.Px(kLineRadius);
   if (chosen)
     DrawBox(brush.painter, rect, radius, brush.enabled ? brush.t.selection : brush.t.hover);

@@ -137,6 +137,31 @@ TEST(ListsInHighContrast, AChosenLineStandsOutAsTheDesktopWantsIt) {
   }
 }
 
+TEST(ScrollBars, GoOnRoundTheirCorner) {
+  QListWidget list;
+  list.setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
+  list.setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
+  list.resize(200, 100);
+  list.show();
+  QApplication::processEvents();
+  const QPoint corner = list.viewport()->geometry().bottomRight() + QPoint(5, 5);
+  ASSERT_TRUE(list.contentsRect().contains(corner));
+  EXPECT_EQ(list.grab().toImage().pixelColor(corner), TokensOf(list.palette()).window);
+}
+
+// Line by line the ring of a chosen line would else grow together with that of its list.
+TEST(ChosenLine, KeepsOffTheFrameOfItsList) {
+  QListWidget list;
+  list.addItem(QStringLiteral("One"));
+  list.setCurrentRow(0);
+  list.resize(200, 100);
+  list.show();
+  QApplication::processEvents();
+  const QImage picture = list.viewport()->grab().toImage();
+  EXPECT_EQ(picture.pixelColor(100, list.visualItemRect(list.item(0)).top()),
+            TokensOf(list.palette()).surface);
+}
+
 TEST(TabLine, GoesOnBehindTheLastTab) {
   QTabWidget tabs;
   tabs.addTab(new QWidget, QStringLiteral("One"));
