@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The parts of forms that the system brings itself, as a form lays them out.
 #include <QCheckBox>
+#include <QLineEdit>
 #include <QSettings>
 
 #include "averages/portals/frmoptions.h"
@@ -8,6 +9,7 @@
 #include "averages/portals/frmroundoff.h"
 #include "desktop/portal/form_labels.h"
 #include "desktop/portal/total_figure.h"
+#include "roster/frmAdd.h"
 #include "tests/desktop/class_dialogs.h"
 
 namespace tallyroll {
@@ -39,6 +41,18 @@ TEST_F(FormParts, AWindowOpensAsLowAsItsFoldedExplanationLetsIt) {
   };
   const int unfolded = height();
   EXPECT_LT(height(), unfolded);
+}
+
+TEST_F(FormParts, FieldsKeepTheirGapsInATallerWindow) {
+  frmAdd portal;
+  Open(portal);
+  const auto step = [&] {
+    return Find<QLineEdit>("firstname").y() - Find<QLineEdit>("lastname").y();
+  };
+  const int before = step();
+  dialog->resize(dialog->width(), dialog->height() + 200);
+  QCoreApplication::processEvents();
+  EXPECT_EQ(step(), before);
 }
 
 TEST_F(FormParts, NothingMovesWhileATotalIsTyped) {
