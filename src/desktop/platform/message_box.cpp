@@ -7,6 +7,7 @@
 #include <QKeyEvent>
 #include <QLabel>
 #include <QMessageBox>
+#include <QStyle>
 
 #include "desktop/basics/text_conversion.h"
 #include "desktop/style/program_style.h"
@@ -119,6 +120,9 @@ void SetOut(QMessageBox& box) {
   QLabel* words = WordsOf(box);
   if (!rows || !words) return;
   rows->setHorizontalSpacing(words->fontMetrics().averageCharWidth());
+  // One line stands at the middle of its sign.
+  if (box.icon() != QMessageBox::NoIcon)
+    words->setMinimumHeight(box.style()->pixelMetric(QStyle::PM_MessageBoxIconSize));
   // A longer text has its width from the box, which may wrap it.
   const int least = words->fontMetrics().averageCharWidth() * kLeastLetters;
   if (words->sizeHint().width() < least) words->setMinimumWidth(least);

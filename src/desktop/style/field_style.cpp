@@ -7,6 +7,7 @@
 #include <QLineEdit>
 #include <QPainter>
 #include <QPlainTextEdit>
+#include <QScrollBar>
 
 #include "desktop/style/controls.h"
 #include "desktop/style/shapes.h"
@@ -79,6 +80,20 @@ bool DrawField(QStyle::PrimitiveElement element, const QStyleOption& option, Sty
   }
 }
 
+// Two scroll bars are one track round their corner: the frame fills it, as it fills what is shown.
+void DrawCornerOfBars(StyleBrush& brush) {
+  const auto* area = qobject_cast<const QAbstractScrollArea*>(brush.widget);
+  if (!area || !area->horizontalScrollBar()->isVisible() || !area->verticalScrollBar()->isVisible())
+    return;
+  const QRect room = area->contentsRect();
+  const QRect shown = area->viewport()->geometry();
+  QRect corner(shown.bottomRight() + QPoint(1, 1), room.bottomRight());
+  if (area->isRightToLeft())
+    corner =
+        QRect(QPoint(room.left(), shown.bottom() + 1), QPoint(shown.left() - 1, room.bottom()));
+  brush.painter.fillRect(corner, brush.t.window);
+}
+
 bool DrawFrame(const QStyleOption& option, StyleBrush& brush) {
   const QWidget* widget = brush.widget;
   if (qobject_cast<const QLabel*>(widget)) {
@@ -97,8 +112,10 @@ bool DrawFrame(const QStyleOption& option, StyleBrush& brush) {
     return true;
   }
   const bool focus = brush.focus;
-  DrawBox(brush.painter, option.rect, radius, GroundWithin(brush),
-          focus ? brush.t.focus : brush.t.border, focus ? 2 : 1);
+  DrawBox(brush.painter, option.rect, radius, GroundWithin(brush));
+  DrawCornerOfBars(brush);
+  DrawBox(brush.painter, option.rect, radius, QColor(), focus ? brush.t.focus : brush.t.border,
+          focus ? 2 : 1);
   return true;
 }
 

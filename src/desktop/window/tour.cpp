@@ -24,7 +24,7 @@ namespace tallyroll {
 namespace {
 
 constexpr std::string_view kTourSection = "startup", kTourKey = "TOUR";
-constexpr int kTourWidth = 400;
+constexpr int kTourWidth = 398;  // with its margins the card is as wide as the mark it stands below
 constexpr int kTourMargin = 16;
 constexpr int kTourGap = 10;   // between the card and what it points at
 constexpr int kMarkWidth = 3;  // of the line around the target
@@ -74,7 +74,7 @@ class TargetMark : public QWidget {
 
 // Below the target, above it, or within it where it fills the window.
 QPoint PlaceBeside(const QRect& target, const QSize& card, const QRect& room) {
-  const int x = std::clamp(target.center().x() - card.width() / 2, room.left() + kTourGap,
+  const int x = std::clamp(target.x() + (target.width() - card.width()) / 2, room.left() + kTourGap,
                            std::max(room.left(), room.right() - card.width() - kTourGap));
   const int below = target.bottom() + kTourGap;
   if (below + card.height() <= room.bottom()) return {x, below};

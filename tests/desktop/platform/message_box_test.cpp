@@ -8,6 +8,7 @@
 #include <QLabel>
 #include <QMessageBox>
 #include <QTimer>
+#include <cstdlib>
 #include <string>
 
 #include "desktop/style/program_style.h"
@@ -17,7 +18,8 @@ namespace {
 
 struct SeenBox {
   QSize words, needed;
-  int gap = 0;  // between the sign and the words
+  int gap = 0;      // between the sign and the words
+  int middles = 0;  // of the one below that of the other
 };
 
 SeenBox Look(const std::string& text) {
@@ -31,6 +33,7 @@ SeenBox Look(const std::string& text) {
     seen.needed = words->wordWrap() ? QSize(words->width(), words->heightForWidth(words->width()))
                                     : words->sizeHint();
     seen.gap = words->geometry().left() - sign->geometry().right();
+    seen.middles = words->geometry().center().y() - sign->geometry().center().y();
     box->done(QMessageBox::Ok);
   });
   ShowMessageBox({text, "NOTE", BoxButtons::kOk, BoxIcon::kInformation}, nullptr);
@@ -59,6 +62,10 @@ TEST(MessageBox, WrapsALineThatIsTooLongToReadWell) {
 
 TEST(MessageBox, PutsTheWordsBesideTheirSign) {
   EXPECT_LE(Look("File Error: 61").gap, 32);
+}
+
+TEST(MessageBox, PutsOneLineAtTheMiddleOfItsSign) {
+  EXPECT_LE(std::abs(Look("File Error: 61").middles), 1);
 }
 
 }  // namespace

@@ -3,6 +3,7 @@
 #include <QCheckBox>
 #include <QGroupBox>
 #include <QLabel>
+#include <QLineEdit>
 #include <QListWidget>
 #include <QPushButton>
 #include <QRadioButton>
@@ -20,6 +21,7 @@
 #include "desktop/portal/total_figure.h"
 #include "desktop/style/program_style.h"
 #include "printing/frmprintall.h"
+#include "roster/frmAdd.h"
 #include "seating/frmseating.h"
 #include "shell/frmWizard.h"
 #include "tests/desktop/class_dialogs.h"
@@ -101,6 +103,18 @@ TEST_F(FormParts, WhatActsOnListsEndsLevelWithThem) {
   const auto foot = [](const QWidget& widget) { return widget.geometry().bottom(); };
   EXPECT_EQ(foot(Find<QPushButton>("addwish")), foot(Find<QListWidget>("wishother")));
   EXPECT_EQ(foot(Find<QPushButton>("takewish")), foot(Find<QListWidget>("wishlist")));
+}
+
+TEST_F(FormParts, FieldsKeepTheirGapsInATallerWindow) {
+  frmAdd portal;
+  Open(portal);
+  const auto step = [&] {
+    return Find<QLineEdit>("firstname").y() - Find<QLineEdit>("lastname").y();
+  };
+  const int before = step();
+  dialog->resize(dialog->width(), dialog->height() + 200);
+  QCoreApplication::processEvents();
+  EXPECT_EQ(step(), before);
 }
 
 TEST_F(FormParts, NothingMovesWhileATotalIsTyped) {

@@ -175,6 +175,18 @@ TEST_F(LightOutlines, WithinAFrameBeginsWhatLiesThere) {
   }
 }
 
+TEST(ScrollBars, GoOnRoundTheirCorner) {
+  QListWidget list;
+  list.setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
+  list.setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
+  list.resize(200, 100);
+  list.show();
+  QApplication::processEvents();
+  const QPoint corner = list.viewport()->geometry().bottomRight() + QPoint(5, 5);
+  ASSERT_TRUE(list.contentsRect().contains(corner));
+  EXPECT_EQ(list.grab().toImage().pixelColor(corner), TokensOf(list.palette()).window);
+}
+
 TEST(TabLine, GoesOnBehindTheLastTab) {
   QTabWidget tabs;
   tabs.addTab(new QWidget, QStringLiteral("One"));

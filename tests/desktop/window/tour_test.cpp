@@ -58,6 +58,8 @@ TEST_F(TourTest, TheSampleIsOfferedAtItsButton) {
   EXPECT_EQ(tour()->Target()->objectName(), QString::fromLatin1(kSampleEntry));
   EXPECT_TRUE(Mark()->geometry().contains(PlaceOf(*tour()->Target())));
   EXPECT_FALSE(tour()->geometry().intersects(PlaceOf(*tour()->Target())));
+  EXPECT_EQ(tour()->geometry().left() + tour()->geometry().right(),
+            Mark()->geometry().left() + Mark()->geometry().right());
 }
 
 TEST_F(TourTest, EveryStepPointsAtARealControlAndStandsWithinTheWindow) {
