@@ -8,10 +8,12 @@ import os
 import pathlib
 import subprocess
 import sys
+import time
 
 from distributed import Client, get_worker
 
 SHARE = 50  # files that a worker takes at a time
+PATIENCE = 10  # seconds
 
 
 def share(files):
@@ -30,8 +32,13 @@ def share(files):
 
 
 def elsewhere(client, worker):
-    others = [address for address in client.scheduler_info()["workers"] if address != worker]
-    return {"workers": others} if others else {}
+    """Where else to try; another worker may still be on its way to the cluster."""
+    end = time.monotonic() + PATIENCE
+    while True:
+        others = [address for address in client.scheduler_info()["workers"] if address != worker]
+        if others or time.monotonic() > end:
+            return {"workers": others} if others else {}
+        time.sleep(0.2)
 
 
 def main(scheduler, folder):
@@ -40,7 +47,8 @@ def main(scheduler, folder):
     files = sorted(str(path) for path in pathlib.Path(folder).resolve().rglob("*.TYR"))
     shares = [files[i:i + SHARE] for i in range(0, len(files), SHARE)]
     results = client.gather(client.map(share, shares, pure=False, retries=2))
-    again = [client.submit(share, [file], pure=False, **elsewhere(client, result["worker"]))
+    places = {worker: elsewhere(client, worker) for worker in {result["worker"] for result in results if result["failed"]}}
+    again = [client.submit(share, [file], pure=False, **places[result["worker"]])
              for result in results for file in result["failed"]]
     second = client.gather(again)
     totals = {}
