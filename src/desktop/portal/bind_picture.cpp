@@ -20,7 +20,9 @@ using OrnamentBinding = Binding<PictureBox, QWidget>;
 // To a screen reader the area with a sheet is a document, not a part of the window.
 QAccessibleInterface* MakeSpokenSheet(const QString&, QObject* object) {
   auto* area = qobject_cast<QScrollArea*>(object);
-  const bool has_sheet = area && area->findChild<const SheetView*>();
+  const QWidget* desk = area ? area->widget() : nullptr;
+  const bool has_sheet =
+      desk && desk->findChild<const SheetView*>(QString(), Qt::FindDirectChildrenOnly);
   return has_sheet ? new QAccessibleWidget(area, QAccessible::Document) : nullptr;
 }
 

@@ -4,7 +4,7 @@ import time
 
 from gi.repository import Atspi
 from support.program import Failure, children, expect, is_shown, states, wait_for, walk
-from support.reader import Listener, faults_of, focus_faults, tab_faults
+from support.reader import Listener, await_whole, faults_of, focus_faults, tab_faults
 
 ROLE = Atspi.Role
 STATE = Atspi.StateType
@@ -150,6 +150,7 @@ class Tour:
         self.seen.append(title)
         if title in OF_THE_TOOLKIT:
             return
+        await_whole(window)
         self.note(title, focus_faults(window))
         self.note(title, faults_of(window))
         self.program.keys(*WANTED_FIRST.get(title, []))

@@ -1,5 +1,7 @@
 # SPDX-License-Identifier: GPL-3.0-or-later
 """A window as a screen reader and the Tab key meet it: what they would stumble over, one line each."""
+import time
+
 from gi.repository import Atspi, GLib
 from support.program import children, is_shown, states, wait_for
 
@@ -172,6 +174,17 @@ def control_of(node):
         node = node.get_parent()
     parent = node.get_parent()
     return parent if parent is not None and parent.get_role() in (ROLE.COMBO_BOX, ROLE.SPIN_BUTTON) else node
+
+
+def await_whole(window):
+    """A window that is still coming has neither all of its controls nor the focus."""
+    before, end = -1, time.monotonic() + 3
+    while time.monotonic() < end:
+        now = sum(1 for _ in shown_nodes(window))
+        if now == before and not focus_faults(window):
+            return
+        before = now
+        time.sleep(0.1)
 
 
 def focus_faults(window):
