@@ -6,6 +6,7 @@
 
 #include "exchange/formats/zip_file.h"
 #include "tests/cli/run_cli.h"
+#include "tests/support/sanitized.h"
 
 namespace tallyroll {
 namespace {
@@ -91,7 +92,7 @@ TEST_F(ExchangeCommandTest, WarningsAreToldAndMendedUnlessItIsToStay) {
 }
 
 // The sanitizers take more memory for themselves than is allowed here.
-#ifndef __SANITIZE_ADDRESS__
+#ifndef TALLYROLL_ADDRESS_SANITIZED
 TEST_F(ExchangeCommandTest, AnArchiveOfZerosIsRefusedInLittleMemory) {
   const std::string file = Build(kEssay);
   const ZipBytes zip = Zip({{"results.csv", std::string(std::size_t{300} << 20, '0')}});
