@@ -1,12 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "post/curl_mail_sender.h"
 
-#include <curl/curl.h>
-
 #include <algorithm>
 #include <cstring>
 
 #include "base/number_text.h"
+#include "post/curl_calls.h"
 #include "post/mail_exchange.h"
 
 namespace tallyroll {
@@ -51,7 +50,8 @@ int AskWhetherItGoesOn(void* user, curl_off_t, curl_off_t, curl_off_t, curl_off_
 }
 
 // What failed, to somebody who has never heard of the library.
-std::string InWords(CURLcode code, const MailAccount& account, const char* detail) {
+std::string InWords(const CurlCalls& curl, CURLcode code, const MailAccount& account,
+                    const char* detail) {
   switch (code) {
     case CURLE_COULDNT_RESOLVE_HOST:
       return "The server's name " + account.host + " couldn't be found.";
@@ -73,26 +73,32 @@ std::string InWords(CURLcode code, const MailAccount& account, const char* detai
     case CURLE_LOGIN_DENIED:
       return "The server " + account.host + " doesn't accept the user name and the password.";
     default:
-      return *detail ? detail : curl_easy_strerror(code);
+      return *detail ? detail : curl.easy_strerror(code);
   }
 }
 
 class CurlMailSender : public MailSender {
  public:
   explicit CurlMailSender(const MailAccount& account) : account_(account) {
-    curl_global_init(CURL_GLOBAL_DEFAULT);
-    handle_ = curl_easy_init();
+    loaded_ = LoadCurl(curl_);
+    if (!loaded_) return;
+    curl_.global_init(CURL_GLOBAL_DEFAULT);
+    handle_ = curl_.easy_init();
     if (handle_) SetUp();
   }
   ~CurlMailSender() override {
-    curl_slist_free_all(to_);
-    curl_easy_cleanup(handle_);
+    if (loaded_) {
+      curl_.slist_free_all(to_);
+      curl_.easy_cleanup(handle_);
+    }
     std::ranges::fill(account_.password, '\0');
   }
   CurlMailSender(const CurlMailSender&) = delete;
   CurlMailSender& operator=(const CurlMailSender&) = delete;
 
   MailResult Send(const MailToSend& mail, const MailHooks& hooks) override {
+    if (!loaded_)
+      return {MailOutcome::kStopped, "The library for mail (libcurl) is not installed."};
     if (!handle_) return {MailOutcome::kStopped, "The connection can't be prepared."};
     MailInWork work{mail, hooks, {}};
     Address(mail);
@@ -100,15 +106,15 @@ class CurlMailSender : public MailSender {
     Set(CURLOPT_DEBUGDATA, &work);
     Set(CURLOPT_XFERINFODATA, &work);
     detail_[0] = 0;
-    const CURLcode code = curl_easy_perform(handle_);
+    const CURLcode code = curl_.easy_perform(handle_);
     if (work.ended && !work.exchange.MayHaveGone()) return {MailOutcome::kStopped, "Cancelled"};
-    return work.exchange.Result(code == CURLE_OK ? "" : InWords(code, account_, detail_));
+    return work.exchange.Result(code == CURLE_OK ? "" : InWords(curl_, code, account_, detail_));
   }
 
  private:
   template <typename V>
   void Set(CURLoption option, V value) {
-    curl_easy_setopt(handle_, option, value);
+    curl_.easy_setopt(handle_, option, value);
   }
 
   void SetUp() {
@@ -145,14 +151,16 @@ class CurlMailSender : public MailSender {
 
   void Address(const MailToSend& mail) {
     const std::string from = "<" + mail.from + ">", to = "<" + mail.to + ">";
-    curl_slist_free_all(to_);
-    to_ = curl_slist_append(nullptr, to.c_str());
+    curl_.slist_free_all(to_);
+    to_ = curl_.slist_append(nullptr, to.c_str());
     Set(CURLOPT_MAIL_FROM, from.c_str());
     Set(CURLOPT_MAIL_RCPT, to_);
     Set(CURLOPT_INFILESIZE_LARGE, static_cast<curl_off_t>(mail.bytes.size()));
   }
 
   MailAccount account_;
+  CurlCalls curl_;
+  bool loaded_ = false;
   CURL* handle_ = nullptr;
   curl_slist* to_ = nullptr;
   char detail_[CURL_ERROR_SIZE] = {};
