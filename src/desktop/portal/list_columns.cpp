@@ -145,7 +145,7 @@ void ListColumns::PaintWords(QPainter* painter, const QStyleOptionViewItem& opti
   painter->setFont(line.font);
   for (int i = 0; i < parts.size(); ++i) {
     QRect place = line.rect.adjusted(left + Start(i), 0, 0, 0);
-    const bool number = codes_ && i == 0 && parts[i].at(0).isDigit();
+    const bool number = codes_ && i == 0 && !parts[i].isEmpty() && parts[i].front().isDigit();
     if (number) place.setWidth(Start(1) - kGap);
     const Qt::Alignment side = number ? Qt::AlignRight : Qt::AlignLeft;
     painter->drawText(place, static_cast<int>(side | Qt::AlignVCenter) | Qt::TextSingleLine,

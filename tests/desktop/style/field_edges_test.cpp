@@ -112,6 +112,16 @@ TEST_F(FieldEdges, WhatCodesStandForBeginsAtOneEdge) {
   EXPECT_NE(Behind(names, list, 0), Behind(names, list, 1));
 }
 
+TEST_F(FieldEdges, ANameWithoutACodeStandsBelowTheOthers) {
+  QListWidget list;
+  ListColumns columns;
+  list.setItemDelegate(&columns);
+  list.addItems({QStringLiteral("L    -  Lab"), QStringLiteral("      -  Lab")});
+  columns.Measure(list);
+  list.show();
+  EXPECT_EQ(Behind(columns.Start(1), list, 0), Behind(columns.Start(1), list, 1));
+}
+
 // Left of there, where the line says something last.
 int EndOfWords(int right, QListWidget& list, int line) {
   QRect place = list.visualItemRect(list.item(line));
