@@ -14,6 +14,7 @@
 #include "desktop/panel/missing_line.h"
 #include "desktop/panel/panel_pictures.h"
 #include "desktop/panel/panel_words.h"
+#include "desktop/style/shapes.h"
 #include "desktop/style/tokens.h"
 
 namespace tallyroll {
@@ -258,7 +259,7 @@ void SidePanel::FocusFirst() {
 void SidePanel::paintEvent(QPaintEvent* event) {
   QScrollArea::paintEvent(event);
   QPainter painter(viewport());
-  painter.fillRect(0, 0, 1, viewport()->height(), TokensOf(palette()).line);
+  DrawRule(painter, QRect(0, 0, 1, viewport()->height()), TokensOf(palette()).line);
 }
 
 void SidePanel::contextMenuEvent(QContextMenuEvent* event) {
