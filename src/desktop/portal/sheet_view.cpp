@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "desktop/portal/sheet_view.h"
 
+#include <QPaintEvent>
 #include <QPainter>
 #include <algorithm>
 
@@ -14,6 +15,11 @@ constexpr double kTwipsPerInch = 1440;
 constexpr double kLeastZoom = 0.1, kGreatestZoom = 3;
 
 }  // namespace
+
+// Nothing below it is painted with it: a shadow that is blended there takes longer than the sheet.
+SheetView::SheetView(QWidget* parent) : QWidget(parent) {
+  setAttribute(Qt::WA_OpaquePaintEvent);
+}
 
 // A report lets waiting events run while it is drawn, and one of them may ask for another page:
 // that is drawn when this one is done, never in the middle of it.
@@ -58,8 +64,11 @@ QPixmap SheetView::Draw(const PictureBox& box, double zoom) {
   return pixmap;
 }
 
-void SheetView::paintEvent(QPaintEvent* /*event*/) {
-  QPainter(this).drawPixmap(0, 0, sheet_);
+// A picture of a fraction of pixels ends a part of one before its widget does.
+void SheetView::paintEvent(QPaintEvent* event) {
+  QPainter painter(this);
+  painter.fillRect(event->rect(), Qt::white);
+  painter.drawPixmap(0, 0, sheet_);
 }
 
 }  // namespace tallyroll

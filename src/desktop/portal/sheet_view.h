@@ -13,7 +13,7 @@ class SheetView : public QWidget {
   Q_OBJECT
 
  public:
-  using QWidget::QWidget;
+  explicit SheetView(QWidget* parent = nullptr);
 
   // Draws the sheet anew when it has changed since the last time, and only then; as large as fits
   // `room` where the box asks for that.

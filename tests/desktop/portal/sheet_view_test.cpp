@@ -5,6 +5,7 @@
 #include <gtest/gtest.h>
 
 #include <QApplication>
+#include <QPaintEvent>
 #include <QPushButton>
 #include <QScreen>
 #include <QScrollArea>
@@ -174,6 +175,32 @@ TEST_F(SheetViewTest, AnEdgeOfTheDeskIsSeenAboveASheetAndScrollsAway) {
   down.setValue(down.maximum());
   EXPECT_LT(top(), 0);
   EXPECT_EQ(top() + view().height(), area().viewport()->height() - 12);
+}
+
+class PaintedPlaces : public QObject {
+ public:
+  QRegion places;
+
+ protected:
+  bool eventFilter(QObject*, QEvent* event) override {
+    if (event->type() == QEvent::Paint) places += static_cast<QPaintEvent*>(event)->region();
+    return false;
+  }
+};
+
+// Blending a shadow below a whole sheet would take longer than the sheet itself.
+TEST_F(SheetViewTest, NothingIsDrawnBelowASheetThatScrolls) {
+  portal.sheet.Zoom = 1.4;
+  Open();
+  QTest::qWait(1);
+  PaintedPlaces painted;
+  area().viewport()->installEventFilter(&painted);
+  area().verticalScrollBar()->setValue(50);
+  QTest::qWait(1);
+  const QRect sheet(view().mapTo(area().viewport(), QPoint()), view().size());
+  ASSERT_TRUE(sheet.contains(area().viewport()->rect().center()));
+  EXPECT_FALSE(painted.places.isEmpty());
+  EXPECT_FALSE(painted.places.intersects(sheet));
 }
 
 TEST_F(SheetViewTest, TheEdgesOfTheDeskAloneBringNoBar) {
