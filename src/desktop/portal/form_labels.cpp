@@ -27,10 +27,15 @@ ElidedLabel::ElidedLabel(QWidget* parent) : QLabel(parent) {
   setTextFormat(Qt::PlainText);
 }
 
+// A figure comes with a blank for its sign, which would set a line off from those above it.
+QString ElidedLabel::Words() const {
+  return text().trimmed();
+}
+
 // A part of a pixel too few would cost the last letters.
 QSize ElidedLabel::sizeHint() const {
   if (wordWrap()) return QLabel::sizeHint();
-  return {fontMetrics().horizontalAdvance(text()) + 2, fontMetrics().height()};
+  return {fontMetrics().horizontalAdvance(Words()) + 2, fontMetrics().height()};
 }
 
 QSize ElidedLabel::minimumSizeHint() const {
@@ -40,14 +45,14 @@ QSize ElidedLabel::minimumSizeHint() const {
 }
 
 QString ElidedLabel::Shown() const {
-  if (wordWrap()) return text();
-  return fontMetrics().elidedText(text().trimmed(), Qt::ElideRight, contentsRect().width());
+  if (wordWrap()) return Words();
+  return fontMetrics().elidedText(Words(), Qt::ElideRight, contentsRect().width());
 }
 
 bool ElidedLabel::event(QEvent* event) {
   if (event->type() != QEvent::ToolTip) return QLabel::event(event);
   const auto& asked = static_cast<const QHelpEvent&>(*event);
-  QToolTip::showText(asked.globalPos(), Shown() == text().trimmed() ? QString() : text(), this);
+  QToolTip::showText(asked.globalPos(), Shown() == Words() ? QString() : Words(), this);
   return true;
 }
 

@@ -25,6 +25,7 @@ class ElidedLabel : public QLabel {
   void paintEvent(QPaintEvent* event) override;
 
  private:
+  QString Words() const;
   QString Shown() const;
 };
 

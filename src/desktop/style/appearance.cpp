@@ -40,6 +40,7 @@ constexpr Density kDensities[] = {Density::kNormal, Density::kCompact, Density::
 // Whether a desktop or a user named what is shown. Otherwise the system takes the first that it has
 // of a few; another of these goes back to whoever set it up.
 bool IsChosen(const QFont& font) {
+  if (font.family().isEmpty()) return false;
   const QString found = QFontInfo(font).family();
   if (found.startsWith(font.family(), Qt::CaseInsensitive)) return true;
   constexpr const char* kStandIns[] = {"DejaVu Sans", "Nimbus Sans", "Liberation Sans",

@@ -4,9 +4,11 @@
 #include <gtest/gtest.h>
 
 #include <QHBoxLayout>
+#include <QHelpEvent>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QTest>
+#include <QToolTip>
 
 #include "analysis/frmsingles.h"
 #include "desktop/portal/form_pictures.h"
@@ -50,6 +52,24 @@ TEST(ListCount, FollowsTheList) {
   EXPECT_EQ(count.text(), QStringLiteral("1 chosen"));
   list.clear();
   EXPECT_EQ(count.text(), QStringLiteral("0 chosen"));
+}
+
+TEST(ElidedLabel, TellsNoTipOfWhatIsReadWhole) {
+  ElidedLabel line;
+  line.setText(QStringLiteral(" 75 (C) of 80"));
+  line.resize(200, 40);
+  const auto tip = [&line] {
+    QHelpEvent asked(QEvent::ToolTip, QPoint(5, 5), line.mapToGlobal(QPoint(5, 5)));
+    QCoreApplication::sendEvent(&line, &asked);
+    return QToolTip::text();
+  };
+  EXPECT_EQ(tip(), QString());
+  line.setWordWrap(true);
+  EXPECT_EQ(tip(), QString());
+  line.setWordWrap(false);
+  line.resize(30, 40);
+  EXPECT_EQ(tip(), line.text().trimmed());
+  QToolTip::hideText();
 }
 
 // A page of 8.5 by 11 inches, 102 pixels wide: an inch is 12.

@@ -127,6 +127,12 @@ TEST(UsualFont, ThatNobodyChoseIsInterALittleLarger) {
   EXPECT_DOUBLE_EQ(usual.pointSizeF(), 13);  // 9.75 for 9
 }
 
+TEST(UsualFont, ThatHasNoNameIsNobodysChoice) {
+  QFont unnamed;
+  unnamed.setFamilies({});
+  EXPECT_EQ(UsualFont(unnamed).family(), QStringLiteral("Inter"));
+}
+
 TEST(UsualFont, ThatADesktopNamesStays) {
   QFont given(QStringLiteral("Liberation Sans"));
   given.setPointSizeF(11);
