@@ -135,7 +135,6 @@ class ListBinding : public Binding<ListBox, QListWidget> {
     cards->dropped = [this](const std::string& source, const QPoint&) { UserDropped(source); };
   }
 
-  // A list says it by its description, to the eye as to a screen reader.
   // With the focus the list makes its first line the current one, which nobody chose.
   bool TakeFocus(QEvent* event) {
     const QSignalBlocker silence(widget_);

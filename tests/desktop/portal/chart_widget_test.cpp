@@ -113,13 +113,15 @@ TEST_F(ChartWidgetTest, ItsWordsGrowWithTheTypeOfTheScreen) {
   quiz.dots.clear();
   chart.ShowChart(&quiz, 1);
   const int before = BottomOfTitle(chart);
-  const QPoint high = chart.PlaceOf(chart.Spots()[1]);
   QFont large = chart.font();
   large.setPointSizeF(2 * chart.fontInfo().pointSizeF());
   chart.setFont(large);
   EXPECT_NEAR(BottomOfTitle(chart), 2 * before, 3);
   // The pointer finds a bar where it is drawn.
-  EXPECT_NEAR(chart.PlaceOf(chart.Spots()[1]).x(), high.x(), 40);
+  const ChartSpot bar = chart.Spots().at(1);
+  EXPECT_EQ(chart.grab().toImage().pixelColor(chart.PlaceOf(bar)), LightTokens().focus);
+  QTest::mouseClick(&chart, Qt::LeftButton, {}, chart.PlaceOf(bar));
+  EXPECT_EQ(chart.accessibleDescription().toStdString(), TellSpot(quiz, bar));
 }
 
 TEST_F(ChartWidgetTest, AnEmptyChartSaysWhatWillStandThere) {
