@@ -16,6 +16,7 @@
 
 #include "desktop/letter/rich_document.h"
 #include "desktop/letter/spelling_marks.h"
+#include "desktop/style/program_style.h"
 #include "desktop/style/shapes.h"
 #include "desktop/style/tokens.h"
 #include "letters/text/rtf_reader.h"
@@ -26,7 +27,6 @@ namespace {
 
 constexpr double kPaperEdge = 24;  // units of the document between the paper's edge and its text
 constexpr double kTwipsAnInchOfLetter = 1440;
-constexpr double kFrameCorner = 4;
 constexpr int kMostSuggestions = 6;
 constexpr const char* kRichFormats[] = {"text/rtf", "application/rtf", "text/richtext"};
 
@@ -150,7 +150,8 @@ void RichTextEdit::PaintDesk() {
   if (verticalScrollBar()->isVisible()) desk -= verticalScrollBar()->parentWidget()->geometry();
   QPainter painter(this);
   painter.setClipRegion(desk);
-  DrawBox(painter, inside, kFrameCorner - edge, TokensOf(QApplication::palette()).desk);
+  DrawBox(painter, inside, ScreenMeasures().FrameRadius() - edge,
+          TokensOf(QApplication::palette()).desk);
 }
 
 void RichTextEdit::resizeEvent(QResizeEvent* event) {

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "desktop/platform/message_box.h"
 
-#include <QApplication>
 #include <QCloseEvent>
 #include <QGridLayout>
 #include <QKeyEvent>
@@ -96,10 +95,9 @@ class DecisionBox : public QMessageBox {
   // A long line is hard to read: a text that is wider wraps.
   void SetLines() {
     QLabel* words = WordsOf(*this);
-    const auto* style = qobject_cast<const ProgramStyle*>(QApplication::style());
-    if (narrow_ || !words || !style) return;
+    if (narrow_ || !words) return;
     words->setWordWrap(false);
-    const int widest = style->measures().Px(kWidestLine);
+    const int widest = ScreenMeasures().Px(kWidestLine);
     const bool long_text = words->sizeHint().width() > widest;
     words->setWordWrap(long_text);
     if (!long_text) return;

@@ -4,14 +4,13 @@
 #include <QInputMethodEvent>
 #include <QKeyEvent>
 #include <QMimeData>
-#include <QStyle>
-#include <QStyleOptionFrame>
 #include <QTextBlock>
 #include <algorithm>
 #include <limits>
 
 #include "desktop/basics/refused_character.h"
 #include "desktop/basics/text_conversion.h"
+#include "desktop/style/program_style.h"
 
 namespace tallyroll {
 namespace {
@@ -26,21 +25,13 @@ bool IsInsertion(const QKeyEvent& event) {
          !(event.modifiers() & (Qt::ControlModifier | Qt::AltModifier));
 }
 
-// Where the words of a field of one line begin.
-int WordsOfAField(const QStyle& style) {
-  constexpr int kToolkitsOwn = 2;
-  QStyleOptionFrame field;
-  field.rect = QRect(0, 0, 100, 100);
-  field.lineWidth = 1;
-  return style.subElementRect(QStyle::SE_LineEditContents, &field).left() + kToolkitsOwn;
-}
-
 }  // namespace
 
 CodePageTextEdit::CodePageTextEdit(QWidget* parent) : QPlainTextEdit(parent) {
   setTabChangesFocus(true);
   const int own = frameWidth() + qRound(document()->documentMargin());
-  const int beside = std::max(0, WordsOfAField(*style()) - own);
+  // Its words begin where those of a field of one line do.
+  const int beside = std::max(0, ScreenMeasures().BesideWords() - own);
   setViewportMargins(beside, 0, beside, 0);
 }
 

@@ -4,7 +4,6 @@
 #include <QAbstractItemView>
 #include <QAction>
 #include <QActionGroup>
-#include <QApplication>
 #include <QCoreApplication>
 #include <QFile>
 #include <QFormLayout>
@@ -92,10 +91,8 @@ bool IsOwnProperty(const QObject& object, const QByteArray& property) {
 
 // The lengths in a form are those beside the usual font; they grow and shrink with it.
 void ScaleToFont(const QObjectList& objects, QDialog& dialog) {
-  const auto* style = qobject_cast<const ProgramStyle*>(QApplication::style());
-  if (!style) return;
-  const auto scaled = [style](int length) {
-    return length == QWIDGETSIZE_MAX ? length : style->measures().Px(length);
+  const auto scaled = [measures = ScreenMeasures()](int length) {
+    return length == QWIDGETSIZE_MAX ? length : measures.Px(length);
   };
   for (QObject* object : objects) {
     auto* widget = qobject_cast<QWidget*>(object);
@@ -110,8 +107,7 @@ void ScaleToFont(const QObjectList& objects, QDialog& dialog) {
 // The toolkit sets a label a little below the upper edge of its field, however high fields are:
 // each shall stand on the line of its field's words.
 void AlignFormLabels(const QObjectList& objects) {
-  const auto* style = qobject_cast<const ProgramStyle*>(QApplication::style());
-  if (!style) return;
+  const int higher_than_a_field = 2 * ScreenMeasures().Control();
   for (QObject* object : objects) {
     const auto* form = qobject_cast<const QFormLayout*>(object);
     for (int row = 0; form && row < form->rowCount(); ++row) {
@@ -120,7 +116,7 @@ void AlignFormLabels(const QObjectList& objects) {
       if (!label || !label->widget() || !field) continue;
       const int height = field->sizeHint().height();
       // A figure may be larger than a field; beside a box of many lines the label stays above.
-      if (height < 2 * style->measures().Control()) label->widget()->setMinimumHeight(height);
+      if (height < higher_than_a_field) label->widget()->setMinimumHeight(height);
     }
   }
 }

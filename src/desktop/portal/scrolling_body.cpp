@@ -52,17 +52,11 @@ int LackingOfSheets(const QDialog& dialog) {
   return lacking;
 }
 
-// A length that was chosen beside the usual font.
-int Scaled(double length) {
-  const auto* style = qobject_cast<const ProgramStyle*>(QApplication::style());
-  return style ? style->measures().Px(length) : static_cast<int>(length);
-}
-
 void HangMenu(QLayout& layout, QMenuBar& menu) {
   constexpr double kBelowMenu = 8;
   layout.setMenuBar(&menu);
   QMargins margins = layout.contentsMargins();
-  margins.setTop(Scaled(kBelowMenu));
+  margins.setTop(ScreenMeasures().Px(kBelowMenu));
   layout.setContentsMargins(margins);
 }
 
@@ -170,7 +164,7 @@ void SparePane::setVisible(bool wanted) {
 
 bool SparePane::HasRoom() const {
   constexpr double kLeastWindow = 860;
-  return window()->width() >= Scaled(kLeastWindow);
+  return window()->width() >= ScreenMeasures().Px(kLeastWindow);
 }
 
 bool SparePane::eventFilter(QObject* watched, QEvent* event) {

@@ -16,8 +16,7 @@ constexpr double kWhole = 100;
 constexpr int kFigurePadding = 8;
 
 int FigurePadding() {
-  const auto* style = qobject_cast<const ProgramStyle*>(QApplication::style());
-  return style ? style->measures().Px(kFigurePadding) : kFigurePadding;
+  return ScreenMeasures().Px(kFigurePadding);
 }
 
 QFontMetrics FigureMetrics() {

@@ -74,6 +74,9 @@ std::optional<QRect> ChoicePart(const QStyleOptionComplex& option, QStyle::SubCo
 std::optional<QSize> FieldSize(QStyle::ContentsType type, const QSize& contents, const Measures& m,
                                const QWidget* widget);
 
+// What the toolkit itself leaves free before words that are typed.
+inline constexpr int kToolkitsOwn = 2;
+
 // Left and right of a word in a menu bar.
 inline constexpr double kBarItemSide = 11;
 

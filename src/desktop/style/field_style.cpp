@@ -15,10 +15,8 @@
 namespace tallyroll {
 namespace {
 
-constexpr double kFieldRadius = 6, kFrameRadius = 4;
-constexpr double kArrowRoom = 28, kBesideText = 8;
-// A field within keeps the toolkit's two pixels before its words.
-constexpr double kBesideField = 6;
+constexpr double kFieldRadius = 6;
+constexpr double kArrowRoom = 28;
 
 struct FieldLook {
   QColor fill, edge;
@@ -50,7 +48,7 @@ void DrawShown(const QStyleOption& option, StyleBrush& b) {
   if (use == QLatin1String("sample"))
     return DrawBox(b.painter, option.rect, b.m.Px(kFieldRadius), b.t.surface, b.t.line, 1);
   const bool explains = use == QLatin1String("help");
-  DrawBox(b.painter, option.rect, b.m.Px(explains ? kFieldRadius : kFrameRadius),
+  DrawBox(b.painter, option.rect, explains ? b.m.Px(kFieldRadius) : b.m.FrameRadius(),
           explains ? b.t.accent_soft : b.t.total);
 }
 
@@ -59,6 +57,20 @@ QColor GroundWithin(const StyleBrush& b) {
   const auto* area = qobject_cast<const QAbstractScrollArea*>(b.widget);
   const QPalette::ColorRole role = area ? area->viewport()->backgroundRole() : QPalette::Base;
   return role == QPalette::Base ? b.t.surface : area->viewport()->palette().color(role);
+}
+
+// Two scroll bars are one track round their corner: the frame fills it, as it fills what is shown.
+void DrawCornerOfBars(StyleBrush& brush) {
+  const auto* area = qobject_cast<const QAbstractScrollArea*>(brush.widget);
+  if (!area || !area->horizontalScrollBar()->isVisible() || !area->verticalScrollBar()->isVisible())
+    return;
+  const QRect room = area->contentsRect();
+  const QRect shown = area->viewport()->geometry();
+  QRect corner(shown.bottomRight() + QPoint(1, 1), room.bottomRight());
+  if (area->isRightToLeft())
+    corner =
+        QRect(QPoint(room.left(), shown.bottom() + 1), QPoint(shown.left() - 1, room.bottom()));
+  brush.painter.fillRect(corner, brush.t.window);
 }
 
 }  // namespace
@@ -80,20 +92,6 @@ bool DrawField(QStyle::PrimitiveElement element, const QStyleOption& option, Sty
   }
 }
 
-// Two scroll bars are one track round their corner: the frame fills it, as it fills what is shown.
-void DrawCornerOfBars(StyleBrush& brush) {
-  const auto* area = qobject_cast<const QAbstractScrollArea*>(brush.widget);
-  if (!area || !area->horizontalScrollBar()->isVisible() || !area->verticalScrollBar()->isVisible())
-    return;
-  const QRect room = area->contentsRect();
-  const QRect shown = area->viewport()->geometry();
-  QRect corner(shown.bottomRight() + QPoint(1, 1), room.bottomRight());
-  if (area->isRightToLeft())
-    corner =
-        QRect(QPoint(room.left(), shown.bottom() + 1), QPoint(shown.left() - 1, room.bottom()));
-  brush.painter.fillRect(corner, brush.t.window);
-}
-
 bool DrawFrame(const QStyleOption& option, StyleBrush& brush) {
   const QWidget* widget = brush.widget;
   if (qobject_cast<const QLabel*>(widget)) {
@@ -106,7 +104,7 @@ bool DrawFrame(const QStyleOption& option, StyleBrush& brush) {
   }
   // A field of several lines stands below those of one.
   const bool field = qobject_cast<const QPlainTextEdit*>(widget) != nullptr;
-  const double radius = brush.m.Px(field ? kFieldRadius : kFrameRadius);
+  const double radius = field ? brush.m.Px(kFieldRadius) : brush.m.FrameRadius();
   if (!brush.enabled) {
     DrawBox(brush.painter, option.rect, radius, brush.t.window, brush.t.line, 1);
     return true;
@@ -174,7 +172,7 @@ std::optional<QRect> ChoicePart(const QStyleOptionComplex& option, QStyle::SubCo
           QRect(whole.right() + 1 - arrow, whole.top(), arrow, whole.height()));
     case QStyle::SC_ComboBoxEditField: {
       const auto* combo = qstyleoption_cast<const QStyleOptionComboBox*>(&option);
-      const int before = m.Px(combo && combo->editable ? kBesideField : kBesideText);
+      const int before = m.BesideWords() - (combo && combo->editable ? kToolkitsOwn : 0);
       return QStyle::visualRect(option.direction, whole, whole.adjusted(before, 2, -arrow, -2));
     }
     default:
@@ -187,13 +185,13 @@ std::optional<QSize> FieldSize(QStyle::ContentsType type, const QSize& contents,
   const int height = std::max(m.Control(), contents.height() + 4);
   switch (type) {
     case QStyle::CT_LineEdit:
-      return QSize(contents.width() + 2 * m.Px(kBesideText), height);
+      return QSize(contents.width() + 2 * m.BesideWords(), height);
     case QStyle::CT_ComboBox:
-      return QSize(contents.width() + m.Px(kBesideText + kArrowRoom + 4), height);
+      return QSize(contents.width() + m.BesideWords() + m.Px(kArrowRoom + 4), height);
     case QStyle::CT_SpinBox:
       if (!IsDate(widget)) return std::nullopt;
       // Its contents are a field with the height of a control already.
-      return QSize(contents.width() + m.Px(kBesideText + kArrowRoom),
+      return QSize(contents.width() + m.BesideWords() + m.Px(kArrowRoom),
                    std::max(m.Control(), contents.height()));
     default:
       return std::nullopt;

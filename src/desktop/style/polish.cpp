@@ -34,9 +34,6 @@ constexpr NamedUse kUses[] = {
     {"help", TextUse::kSmall, QPalette::WindowText},
 };
 
-// A figure that is only shown stands as far within its ground as one in a field.
-constexpr double kBesideFigure = 8;
-
 bool IsShownFigure(const QLabel& label, const QByteArray& use) {
   return label.frameShape() == QFrame::StyledPanel && (use.isEmpty() || use == "display");
 }
@@ -44,7 +41,8 @@ bool IsShownFigure(const QLabel& label, const QByteArray& use) {
 // A label says by its property "textUse" what its words are for.
 void PolishLabel(QLabel& label, const Measures& m) {
   const QByteArray wanted = label.property("textUse").toByteArray();
-  if (IsShownFigure(label, wanted)) label.setIndent(m.Px(kBesideFigure) - label.frameWidth());
+  // As far within its ground as a figure in a field.
+  if (IsShownFigure(label, wanted)) label.setIndent(m.BesideWords() - label.frameWidth());
   if (wanted.isEmpty()) return;
   for (const NamedUse& each : kUses) {
     if (wanted != each.name) continue;

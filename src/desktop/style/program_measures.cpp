@@ -11,8 +11,9 @@ namespace {
 
 // Words that wrap have the room above and below them that a single line has.
 int HeightOfLine(int wanted, int words, const Measures& m) {
-  const bool wraps = wanted >= 2 * words;
-  return std::max(wanted + (wraps ? m.ListLine() - words : 0), m.ListLine());
+  const bool wraps = wanted > words * 3 / 2;
+  const int around = std::max(m.ListLine() - words, 0);
+  return std::max(wanted + (wraps ? around : 0), m.ListLine());
 }
 
 }  // namespace
@@ -22,7 +23,8 @@ QRect ProgramStyle::subElementRect(SubElement element, const QStyleOption* optio
   if (element == SE_LineEditContents) {
     const auto* frame = qstyleoption_cast<const QStyleOptionFrame*>(option);
     if (!frame || frame->lineWidth == 0) return option->rect;
-    return option->rect.adjusted(measures_.Px(6), 2, -measures_.Px(6), -2);
+    const int beside = measures_.BesideWords() - kToolkitsOwn;
+    return option->rect.adjusted(beside, 2, -beside, -2);
   }
   if (element == SE_TabWidgetTabContents) {
     const auto* tabs = qstyleoption_cast<const QStyleOptionTabWidgetFrame*>(option);

@@ -213,4 +213,9 @@ bool ProgramStyle::eventFilter(QObject* watched, QEvent* event) {
   return false;
 }
 
+Measures ScreenMeasures() {
+  const auto* style = qobject_cast<const ProgramStyle*>(QApplication::style());
+  return style ? style->measures() : Measures();
+}
+
 }  // namespace tallyroll

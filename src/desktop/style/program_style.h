@@ -55,4 +55,7 @@ class ProgramStyle : public QProxyStyle {
   bool alt_is_held_ = false;
 };
 
+// Those of the application's style; of the usual font where the toolkit draws.
+Measures ScreenMeasures();
+
 }  // namespace tallyroll

@@ -6,6 +6,7 @@
 #include <QImage>
 
 #include "desktop/letter/rich_text_edit.h"
+#include "desktop/style/program_style.h"
 #include "desktop/style/tokens.h"
 #include "tests/desktop/style/looks.h"
 
@@ -32,6 +33,35 @@ TEST(LetterPaper, LiesOnADeskInEveryLook) {
     // The frame has one line then, and the desk begins behind it.
     EXPECT_EQ(letter.grab().toImage().pixel(1, 150), desk) << look.name;
   }
+}
+
+// However large the type is, and the corners with it.
+TEST(LetterPaper, ItsDeskLeavesTheCornersOfItsFrame) {
+  const QFont before = QApplication::font();
+  QApplication::setFont(QFont(before.family(), 30));
+  QApplication::setStyle(new ProgramStyle(Measures(Density::kNormal, QApplication::font())));
+  QWidget window;
+  RichTextEdit letter(&window);
+  letter.resize(900, 300);
+  window.show();
+  QCoreApplication::processEvents();
+  letter.clearFocus();
+  const auto corner = [&letter] { return letter.grab(QRect(0, 0, 12, 12)).toImage(); };
+  const QImage bare = corner();
+  letter.SetPaper(4 * 1440, 1);
+  QCoreApplication::processEvents();
+  const QImage papered = corner();
+  const Tokens t = TokensOf(QApplication::palette());
+  int of_the_frame = 0;
+  for (int y = 0; y < 12; ++y)
+    for (int x = 0; x < 12; ++x)
+      if (const QColor color = bare.pixelColor(x, y); color == t.window || color == t.border) {
+        EXPECT_EQ(papered.pixelColor(x, y), color) << x << ", " << y;
+        ++of_the_frame;
+      }
+  EXPECT_GT(of_the_frame, 10);
+  QApplication::setFont(before);
+  QApplication::setStyle(new ProgramStyle(Measures(Density::kNormal, before)));
 }
 
 }  // namespace

@@ -1,9 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The edges that the eye runs down: where fields begin, and where their words do.
+#include <QComboBox>
 #include <QDateEdit>
+#include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QPlainTextEdit>
+#include <QPushButton>
 #include <QTabWidget>
 
 #include "desktop/portal/date_field.h"
@@ -53,6 +56,43 @@ TEST_F(FieldEdges, ADateBeginsWhereATextDoes) {
   code.setCursorPosition(0);
   day->setCursorPosition(0);
   EXPECT_EQ(WordsOf(*day), WordsOf(code));
+}
+
+// From its left edge, behind its frame and its ground.
+int InkWithin(QWidget& field) {
+  const QImage picture = field.grab().toImage();
+  const int top = picture.height() / 2 - 3;
+  for (int x = 4; x < picture.width(); ++x)
+    for (int y = top; y < top + 6; ++y)
+      if (picture.pixelColor(x, y).lightness() < 160) return x;
+  return -1;
+}
+
+TEST_F(FieldEdges, AChoiceAndAFigureBeginWhereATextDoesAtEveryDensity) {
+  const QString words = QStringLiteral("HHH");
+  for (const Density density : {Density::kCompact, Density::kNormal, Density::kRoomy}) {
+    Appearance::Instance()->SetDensity(density);
+    QWidget window;
+    QLineEdit text(words, &window);
+    QComboBox choice(&window), typed(&window);
+    QLabel figure(words, &window);
+    choice.addItem(words);
+    typed.setEditable(true);
+    typed.addItem(words);
+    figure.setFrameShape(QFrame::StyledPanel);
+    for (QWidget* each : std::initializer_list<QWidget*>{&text, &choice, &typed, &figure})
+      each->resize(120, each->sizeHint().height());
+    QPushButton other(&window);
+    window.show();
+    other.setFocus();
+    QCoreApplication::processEvents();
+    const int edge = InkWithin(text);
+    EXPECT_GT(edge, 0);
+    EXPECT_EQ(InkWithin(choice), edge) << static_cast<int>(density);
+    EXPECT_EQ(InkWithin(typed), edge) << static_cast<int>(density);
+    EXPECT_EQ(InkWithin(figure), edge) << static_cast<int>(density);
+  }
+  Appearance::Instance()->SetDensity(Density::kNormal);
 }
 
 TEST_F(FieldEdges, ATextOfSeveralLinesBeginsWhereOneOfOneLineDoes) {

@@ -46,5 +46,15 @@ TEST_F(ListLines, AreAsFarApartWhenTheirWordsWrap) {
   EXPECT_NEAR(HeightOf(1) - HeightOf(0), list.fontMetrics().lineSpacing(), 2);
 }
 
+TEST_F(ListLines, AreAsFarApartInEveryType) {
+  for (double points = 6; points <= 30; points += 0.25) {
+    QFont font = list.font();
+    font.setPointSizeF(points);
+    list.setFont(font);
+    QCoreApplication::processEvents();
+    EXPECT_NEAR(HeightOf(1) - HeightOf(0), list.fontMetrics().lineSpacing(), 2) << points;
+  }
+}
+
 }  // namespace
 }  // namespace tallyroll
