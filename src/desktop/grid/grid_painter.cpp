@@ -24,6 +24,7 @@ class Painting {
         bands_(BandsWithin(picture, view, area)),
         view_(view),
         area_(area),
+        heading_(MergedHeading()),
         cells_(painter, picture.grid, picture.colors, picture.fonts) {}
 
   void Run() {
@@ -37,6 +38,32 @@ class Painting {
   }
 
  private:
+  // The merged row, if it is painted, and what it says over which columns.
+  struct Heading {
+    Band row;
+    std::vector<Band> columns;  // all in view, over which a heading is centred
+    std::vector<HeadingSpan> spans;
+
+    bool GoesOnBehind(const Band& column) const {
+      return std::ranges::any_of(spans, [&](const HeadingSpan& span) {
+        return column.index >= columns[static_cast<std::size_t>(span.first)].index &&
+               column.index < columns[static_cast<std::size_t>(span.last)].index;
+      });
+    }
+  };
+  Heading MergedHeading() const {
+    const auto row = std::ranges::find_if(
+        bands_.rows, [this](const Band& b) { return grid_.MergeRow(b.index); });
+    if (row == bands_.rows.end()) return {};
+    Heading heading{*row, picture_.columns.Visible(grid_.LeftCol, view_.width()), {}};
+    heading.spans = MergedSpans(grid_, heading.columns);
+    // A pinned column is named below.
+    std::erase_if(heading.spans, [&](const HeadingSpan& span) {
+      return heading.columns[static_cast<std::size_t>(span.first)].index < grid_.FixedCols;
+    });
+    return heading;
+  }
+
   const Tokens& tokens() const { return picture_.colors.tokens(); }
   static QRect CellOf(const Band& row, const Band& column) {
     return {column.start, row.start, column.size, row.size};
@@ -92,7 +119,13 @@ class Painting {
       const int x = EndOf(column) - 1;
       // The frame is the line there.
       if (picture_.framed_right && x == view_.width() - 1) continue;
-      if (top <= bottom) draw({x, top, 1, bottom - top + 1}, edge);
+      const QRect whole(x, top, 1, bottom - top + 1);
+      if (!heading_.GoesOnBehind(column)) {
+        draw(whole, edge);
+        continue;
+      }
+      draw(whole & QRect(x, 0, 1, heading_.row.start), edge);
+      draw(whole & QRect(x, EndOf(heading_.row), 1, bottom + 1), edge);
     }
     for (const QRect& rule : strong) DrawRule(painter_, rule, tokens().strong_line);
   }
@@ -115,25 +148,13 @@ class Painting {
             color, kRing);
   }
 
-  // A heading covers the lines below it.
   void PaintMergedRow() {
-    const auto row = std::find_if(bands_.rows.begin(), bands_.rows.end(),
-                                  [this](const Band& b) { return grid_.MergeRow(b.index); });
-    if (row == bands_.rows.end()) return;
-    // All columns in view, not only those to be painted: the heading is centred over what is seen.
-    const std::vector<Band> columns = picture_.columns.Visible(grid_.LeftCol, view_.width());
-    for (const HeadingSpan& span : MergedSpans(grid_, columns)) {
-      const Band& first = columns[static_cast<std::size_t>(span.first)];
-      const Band& last = columns[static_cast<std::size_t>(span.last)];
-      if (first.index < grid_.FixedCols) continue;  // named below
+    for (const HeadingSpan& span : heading_.spans) {
+      const Band& first = heading_.columns[static_cast<std::size_t>(span.first)];
+      const Band& last = heading_.columns[static_cast<std::size_t>(span.last)];
       const int right = std::min(EndOf(last), view_.width());
-      const QRect cell(first.start, row->start, right - first.start, row->size);
-      painter_.fillRect(cell, tokens().header);
-      DrawRule(painter_, {cell.left(), cell.bottom(), cell.width(), 1}, tokens().grid_line);
-      const bool ends_in_view = EndOf(last) <= view_.width() - (picture_.framed_right ? 1 : 0);
-      if (ends_in_view)
-        DrawRule(painter_, {cell.right(), cell.top(), 1, cell.height()}, tokens().grid_line);
-      cells_.GroupHead(grid_.TextMatrix(row->index, first.index), cell);
+      const QRect cell(first.start, heading_.row.start, right - first.start, heading_.row.size);
+      cells_.GroupHead(grid_.TextMatrix(heading_.row.index, first.index), cell);
     }
   }
 
@@ -172,6 +193,7 @@ class Painting {
   GridBands bands_;
   QSize view_;
   QRect area_;
+  Heading heading_;
   CellPainter cells_;
 };
 

@@ -60,6 +60,7 @@ void DrawBox(QPainter& painter, const QRectF& rect, double radius, const QColor&
 }
 
 void DrawRule(QPainter& painter, const QRect& rule, const QColor& color) {
+  if (rule.isEmpty()) return;
   const QTransform to_dots = painter.deviceTransform();
   const QRectF place = to_dots.mapRect(QRectF(rule));
   QRectF dots(QPointF(std::round(place.left()), std::round(place.top())),

@@ -26,7 +26,7 @@ void DrawBox(QPainter& painter, const QRectF& rect, double radius, const QColor&
              const QColor& line = QColor(), double width = 1);
 
 // A line as thick wherever it lies: at a fraction of a scale a pixel is one dot of the screen here
-// and two there.
+// and two there. It ends where what lies behind it begins, which may be painted again without it.
 void DrawRule(QPainter& painter, const QRect& rule, const QColor& color);
 
 // An open arrow in the middle of the box.

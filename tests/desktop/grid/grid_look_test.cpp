@@ -92,6 +92,47 @@ TEST_F(GridLook, AColumnThatEndsAtTheFrameHasNoLineBesideIt) {
   EXPECT_FALSE(ends_in_a_line());
 }
 
+TEST_F(GridLook, ARowThatIsPaintedAgainComesOutTheSameAtEveryScale) {
+  for (const double scale : {1.0, 1.25, 1.5, 1.75, 2.0}) {
+    QImage whole(widget.viewport()->size() * scale, QImage::Format_RGB32);
+    whole.setDevicePixelRatio(scale);
+    widget.viewport()->render(&whole);
+    for (int row = 2; row < 12; ++row) {
+      QImage again = whole;
+      const QRect place(0, widget.CellRect(row, 2).top(), widget.viewport()->width(),
+                        widget.CellRect(row, 2).height());
+      widget.viewport()->render(&again, place.topLeft(), place, {});
+      EXPECT_EQ(again, whole) << scale << ", row " << row;
+    }
+  }
+}
+
+// A heading ends where a column does, but neither at the frame nor where it goes on out of view.
+TEST_F(GridLook, AHeadingEndsInALineOnlyWhereOneGoesOnBelow) {
+  for (const int columns : {6, 20}) {
+    grid.SetSize(10, columns);
+    for (int col = 2; col < columns; ++col)
+      grid.SetTextMatrix(0, col, "HEADING " + std::to_string(col / 3));
+    widget.UpdateFromGrid();
+    const int beside = widget.width() - widget.viewport()->width();
+    if (columns == 6) widget.resize(widget.CellRect(3, 5).right() + 1 + beside, widget.height());
+    if (columns == 20) widget.resize(widget.CellRect(3, 7).left() + 20 + beside, widget.height());
+    Settle();
+    const QImage picture = Picture();
+    const auto is_line = [&](int x, int y) {
+      const QColor color = picture.pixelColor(x, y);
+      return color == Colors().grid_line || color == Colors().strong_line;
+    };
+    int ends = 0;
+    for (int x = widget.CellRect(3, 2).left(); x < picture.width(); ++x) {
+      if (!is_line(x, 3)) continue;
+      EXPECT_TRUE(is_line(x, widget.CellRect(3, 2).top() + 3)) << columns << ": " << x;
+      ++ends;
+    }
+    EXPECT_GT(ends, 0);
+  }
+}
+
 TEST_F(GridLook, EveryFifthRowEndsInAStrongerLine) {
   const QImage picture = Picture();
   const auto below = [&](int row) {
