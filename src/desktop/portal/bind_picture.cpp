@@ -122,9 +122,11 @@ class SheetBinding : public Binding<PictureBox, QScrollArea> {
   }
 
   void Draw() {
+    const QSize before = view_->size();
     view_->ShowSheet(control_, Room());
     LaySheet();
-    widget_.viewport()->update();  // the shadow of the sheet before lies there still
+    // The shadow of the sheet before lies there still.
+    if (view_->size() != before) widget_.viewport()->update();
     if (view_->Words() != widget_.accessibleDescription())
       widget_.setAccessibleDescription(view_->Words());
   }

@@ -203,6 +203,23 @@ TEST_F(SheetViewTest, NothingIsDrawnBelowASheetThatScrolls) {
   EXPECT_FALSE(painted.places.intersects(sheet));
 }
 
+TEST_F(SheetViewTest, WhatChangesNothingPaintsNothingAndASmallerSheetLeavesNoShadow) {
+  Open();
+  QTest::qWait(1);
+  PaintedPlaces painted;
+  area().viewport()->installEventFilter(&painted);
+  Press();
+  QTest::qWait(1);
+  EXPECT_TRUE(painted.places.isEmpty());
+  const QRect before(view().mapTo(area().viewport(), QPoint()), view().size());
+  portal.when_pressed = [this] { portal.sheet.Zoom = 0.25; };
+  Press();
+  QTest::qWait(1);
+  const QRect after(view().mapTo(area().viewport(), QPoint()), view().size());
+  const QRegion bared = QRegion(before) - after;
+  EXPECT_EQ(bared & area().viewport()->rect() & painted.places, bared & area().viewport()->rect());
+}
+
 TEST_F(SheetViewTest, TheEdgesOfTheDeskAloneBringNoBar) {
   Open();
   const int around = dialog->width() - area().width();
