@@ -43,7 +43,7 @@ TEST_F(ListLines, TheRingOfTheFirstStandsClearOfThatOfTheList) {
 
 TEST_F(ListLines, AreAsFarApartWhenTheirWordsWrap) {
   EXPECT_EQ(HeightOf(0), HeightOf(2));
-  EXPECT_NEAR(HeightOf(1) - HeightOf(0), list.fontMetrics().lineSpacing(), 2);
+  EXPECT_NEAR(HeightOf(1) - HeightOf(0), list.fontMetrics().height(), 2);
 }
 
 TEST_F(ListLines, AreAsFarApartInEveryType) {
@@ -52,7 +52,7 @@ TEST_F(ListLines, AreAsFarApartInEveryType) {
     font.setPointSizeF(points);
     list.setFont(font);
     QCoreApplication::processEvents();
-    EXPECT_NEAR(HeightOf(1) - HeightOf(0), list.fontMetrics().lineSpacing(), 2) << points;
+    EXPECT_NEAR(HeightOf(1) - HeightOf(0), list.fontMetrics().height(), 2) << points;
   }
 }
 
