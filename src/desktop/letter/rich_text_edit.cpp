@@ -7,7 +7,6 @@
 #include <QKeyEvent>
 #include <QMenu>
 #include <QMimeData>
-#include <QPainter>
 #include <QScrollBar>
 #include <QTextDocument>
 #include <QTextDocumentFragment>
@@ -16,9 +15,6 @@
 
 #include "desktop/letter/rich_document.h"
 #include "desktop/letter/spelling_marks.h"
-#include "desktop/style/program_style.h"
-#include "desktop/style/shapes.h"
-#include "desktop/style/tokens.h"
 #include "letters/text/rtf_reader.h"
 #include "letters/text/rtf_writer.h"
 
@@ -91,6 +87,8 @@ void RichTextEdit::LayOut() {
     setLineWrapMode(QTextEdit::WidgetWidth);
   }
   CentreSheet();
+  // What the sheet lies on shows beside it.
+  setBackgroundRole(paper_ > 0 ? QPalette::Dark : QPalette::NoRole);
   // What was laid out for another size is laid out again.
   document()->setDefaultFont(document()->defaultFont());
   ensureCursorVisible();
@@ -133,25 +131,6 @@ void RichTextEdit::keyPressEvent(QKeyEvent* event) {
   cursor.joinPreviousEditBlock();
   cursor.setBlockFormat(format);
   cursor.endEditBlock();
-}
-
-bool RichTextEdit::event(QEvent* event) {
-  const bool done = QTextEdit::event(event);
-  if (event->type() == QEvent::Paint && paper_ > 0) PaintDesk();
-  return done;
-}
-
-// What the sheet lies on shows beside it, as far as the line of the frame: a pixel, or the ring.
-void RichTextEdit::PaintDesk() {
-  const int edge = hasFocus() ? frameWidth() : 1;
-  const QRect inside = rect().adjusted(edge, edge, -edge, -edge);
-  QRegion desk(inside);
-  desk -= viewport()->geometry().adjusted(0, -edge, 0, edge);
-  if (verticalScrollBar()->isVisible()) desk -= verticalScrollBar()->parentWidget()->geometry();
-  QPainter painter(this);
-  painter.setClipRegion(desk);
-  DrawBox(painter, inside, ScreenMeasures().FrameRadius() - edge,
-          TokensOf(QApplication::palette()).desk);
 }
 
 void RichTextEdit::resizeEvent(QResizeEvent* event) {

@@ -29,7 +29,6 @@ class RichTextEdit : public QTextEdit {
   void SetSpelling(Spelling* spelling);
 
  protected:
-  bool event(QEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
   bool focusNextPrevChild(bool next) override;
   void resizeEvent(QResizeEvent* event) override;
@@ -42,7 +41,6 @@ class RichTextEdit : public QTextEdit {
   void LayOut();
   void CentreSheet();
   void PaintAsPaper();
-  void PaintDesk();
   QTextCursor WrongWordAt(QTextCursor place) const;
   void AddSuggestions(QMenu& menu, const QTextCursor& place);
 

@@ -15,7 +15,7 @@
 namespace tallyroll {
 namespace {
 
-constexpr double kFieldRadius = 6;
+constexpr double kFieldRadius = 6, kFrameRadius = 4;
 constexpr double kArrowRoom = 28;
 
 struct FieldLook {
@@ -48,14 +48,16 @@ void DrawShown(const QStyleOption& option, StyleBrush& b) {
   if (use == QLatin1String("sample"))
     return DrawBox(b.painter, option.rect, b.m.Px(kFieldRadius), b.t.surface, b.t.line, 1);
   const bool explains = use == QLatin1String("help");
-  DrawBox(b.painter, option.rect, explains ? b.m.Px(kFieldRadius) : b.m.FrameRadius(),
+  DrawBox(b.painter, option.rect, b.m.Px(explains ? kFieldRadius : kFrameRadius),
           explains ? b.t.accent_soft : b.t.total);
 }
 
-// A frame is a pixel wider than its line, for that of the focus: there lies what lies within.
+// A frame is a pixel wider than its line, for that of the focus: there lies what lies within, or
+// the desk that is seen beside a sheet.
 QColor GroundWithin(const StyleBrush& b) {
   const auto* area = qobject_cast<const QAbstractScrollArea*>(b.widget);
-  const QPalette::ColorRole role = area ? area->viewport()->backgroundRole() : QPalette::Base;
+  QPalette::ColorRole role = area ? area->viewport()->backgroundRole() : QPalette::Base;
+  if (area && area->backgroundRole() == QPalette::Dark) role = QPalette::Dark;
   return role == QPalette::Base ? b.t.surface : area->viewport()->palette().color(role);
 }
 
@@ -104,7 +106,7 @@ bool DrawFrame(const QStyleOption& option, StyleBrush& brush) {
   }
   // A field of several lines stands below those of one.
   const bool field = qobject_cast<const QPlainTextEdit*>(widget) != nullptr;
-  const double radius = field ? brush.m.Px(kFieldRadius) : brush.m.FrameRadius();
+  const double radius = brush.m.Px(field ? kFieldRadius : kFrameRadius);
   if (!brush.enabled) {
     DrawBox(brush.painter, option.rect, radius, brush.t.window, brush.t.line, 1);
     return true;

@@ -25,8 +25,6 @@ class Measures {
   int Tab() const { return Px(Of(34, 40, 46)); }
   // From the edge of a field, a choice or a figure to its words: they begin below each other.
   int BesideWords() const { return Px(8); }
-  // Of the frame round a list, a sheet, a letter.
-  int FrameRadius() const { return Px(4); }
   // Of a row with a tick or an option.
   int TickRow() const { return Px(Of(23, 26, 31)); }
 

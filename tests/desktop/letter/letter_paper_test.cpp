@@ -35,6 +35,30 @@ TEST(LetterPaper, LiesOnADeskInEveryLook) {
   }
 }
 
+TEST(LetterPaper, ItsDeskBeginsBehindTheFrameAtEveryScale) {
+  QWidget window;
+  RichTextEdit letter(&window);
+  letter.resize(900, 300);
+  letter.SetPaper(4 * 1440, 1);
+  window.show();
+  const Tokens t = TokensOf(QApplication::palette());
+  for (const bool focus : {false, true}) {
+    QCoreApplication::processEvents();
+    focus ? letter.setFocus() : letter.clearFocus();
+    ASSERT_EQ(letter.hasFocus(), focus);
+    for (const double scale : {1.0, 1.25, 1.5, 1.75, 2.0}) {
+      QImage picture((QSizeF(letter.size()) * scale).toSize(), QImage::Format_RGB32);
+      picture.setDevicePixelRatio(scale);
+      letter.render(&picture);
+      const int y = qRound(150 * scale);
+      int x = 0;
+      while (picture.pixelColor(x, y) == (focus ? t.focus : t.border)) ++x;
+      EXPECT_GE(x, 1) << scale;
+      EXPECT_EQ(picture.pixelColor(x, y), t.desk) << scale << (focus ? ", focus" : "");
+    }
+  }
+}
+
 // However large the type is, and the corners with it.
 TEST(LetterPaper, ItsDeskLeavesTheCornersOfItsFrame) {
   const QFont before = QApplication::font();
