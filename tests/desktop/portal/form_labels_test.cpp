@@ -54,24 +54,6 @@ TEST(ListCount, FollowsTheList) {
   EXPECT_EQ(count.text(), QStringLiteral("0 chosen"));
 }
 
-TEST(ElidedLabel, TellsNoTipOfWhatIsReadWhole) {
-  ElidedLabel line;
-  line.setText(QStringLiteral(" 75 (C) of 80"));
-  line.resize(200, 40);
-  const auto tip = [&line] {
-    QHelpEvent asked(QEvent::ToolTip, QPoint(5, 5), line.mapToGlobal(QPoint(5, 5)));
-    QCoreApplication::sendEvent(&line, &asked);
-    return QToolTip::text();
-  };
-  EXPECT_EQ(tip(), QString());
-  line.setWordWrap(true);
-  EXPECT_EQ(tip(), QString());
-  line.setWordWrap(false);
-  line.resize(30, 40);
-  EXPECT_EQ(tip(), line.text().trimmed());
-  QToolTip::hideText();
-}
-
 // A page of 8.5 by 11 inches, 102 pixels wide: an inch is 12.
 TEST(MarginSheet, ShowsWhatTheMarginsLeave) {
   QWidget window;
@@ -118,6 +100,24 @@ TEST(MarginSheet, DrawsDashesOfOneKindOnAScreenOfFractions) {
   EXPECT_GT(across, 0.5);
   EXPECT_LT(across, 0.8);
   EXPECT_NEAR(Inked(picture, {kAt, 30}, {0, 1}), across, 0.1);
+}
+
+TEST(ElidedLabel, TellsNoTipOfWhatIsReadWhole) {
+  ElidedLabel line;
+  line.setText(QStringLiteral(" 75 (C) of 80"));
+  line.resize(200, 40);
+  const auto tip = [&line] {
+    QHelpEvent asked(QEvent::ToolTip, QPoint(5, 5), line.mapToGlobal(QPoint(5, 5)));
+    QCoreApplication::sendEvent(&line, &asked);
+    return QToolTip::text();
+  };
+  EXPECT_EQ(tip(), QString());
+  line.setWordWrap(true);
+  EXPECT_EQ(tip(), QString());
+  line.setWordWrap(false);
+  line.resize(30, 40);
+  EXPECT_EQ(tip(), line.text().trimmed());
+  QToolTip::hideText();
 }
 
 }  // namespace
