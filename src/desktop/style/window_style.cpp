@@ -13,7 +13,19 @@ namespace {
 
 constexpr double kTitleButton = 32;
 
-// The lines of a button in the title of a window, within a square of 16.
+// Two angles one behind the other, pointing right or down.
+void AddChevrons(QPainterPath& path, bool right) {
+  for (const double at : {4.0, 8.5}) {
+    const auto point = [&](double along, double across) {
+      return right ? QPointF(at + along, across) : QPointF(across, at + along);
+    };
+    path.moveTo(point(0, 4.5));
+    path.lineTo(point(3.5, 8));
+    path.lineTo(point(0, 11.5));
+  }
+}
+
+// The lines of a button in the title of a window or at the end of a bar, within a square of 16.
 QPainterPath TitleGlyph(QStyle::StandardPixmap icon) {
   QPainterPath path;
   switch (icon) {
@@ -37,6 +49,12 @@ QPainterPath TitleGlyph(QStyle::StandardPixmap icon) {
       path.lineTo(12, 12);
       path.moveTo(12, 4);
       path.lineTo(4, 12);
+      break;
+    case QStyle::SP_ToolBarHorizontalExtensionButton:
+      AddChevrons(path, true);
+      break;
+    case QStyle::SP_ToolBarVerticalExtensionButton:
+      AddChevrons(path, false);
       break;
     default:
       break;
@@ -217,6 +235,9 @@ QIcon SignFor(QStyle::StandardPixmap icon, const Measures&) {
     case QStyle::SP_TitleBarMaxButton:
     case QStyle::SP_TitleBarNormalButton:
     case QStyle::SP_TitleBarCloseButton:
+    // What else stands for "more" would be looked for in the desktop's set of icons, at each start.
+    case QStyle::SP_ToolBarHorizontalExtensionButton:
+    case QStyle::SP_ToolBarVerticalExtensionButton:
       return QIcon(new SignEngine(icon));
     default:
       return {};
