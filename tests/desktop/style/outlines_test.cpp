@@ -106,7 +106,7 @@ QColor Over(const QColor& ground, const QColor& color) {
                 mix(ground.blue(), color.blue()));
 }
 
-TEST_F(DarkOutlines, TheButtonsOfAClassWindowAndOfACrowdedBarAreDrawnInLightLines) {
+TEST_F(DarkOutlines, TheSignsOfWindowsBarsAndFilesAreDrawnInLightLines) {
   const ProgramStyle style;
   const QColor button = PaletteOf(DarkTokens()).color(QPalette::Button);
   for (const auto icon :
