@@ -48,7 +48,7 @@ class SeatsWidget::Head : public QWidget {
     const Tokens t = TokensOf(palette());
     painter.fillRect(rect(), t.window);
     painter.fillRect(board, t.header);
-    painter.fillRect(board.left(), board.bottom(), board.width(), 1, t.strong_line);
+    DrawRule(painter, QRect(board.left(), board.bottom(), board.width(), 1), t.strong_line);
     painter.setFont(FontFor(font(), TextUse::kHeading));
     painter.setPen(t.text);
     painter.drawText(board, Qt::AlignCenter, QStringLiteral("Front of the room"));
