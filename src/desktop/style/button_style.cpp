@@ -185,7 +185,8 @@ QSize PushSize(const QStyleOptionButton& button, const QSize& contents, const Me
   const bool sign_alone = Bare(button.text).size() == 1;
   const bool flat = button.features & QStyleOptionButton::Flat;
   const int least = m.Px(sign_alone ? kArrowButton : flat ? 0 : kLeastButton);
-  return {std::max(least, width + 2 * m.Px(flat ? 10 : kBesideWord)),
+  const int beside = m.Px(sign_alone ? 4 : flat ? 10 : kBesideWord);
+  return {std::max(least, width + 2 * beside),
           std::max(m.Control(), contents.height() + m.Px(6))};
 }
 
