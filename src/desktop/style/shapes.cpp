@@ -13,6 +13,32 @@ QPen RoundPen(const QColor& color, double width) {
   return QPen(color, width, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin);
 }
 
+// That many dots and one at least.
+double WholeDots(double length) {
+  return std::max(std::round(length), 1.0);
+}
+
+// A ring fills the two pixels that a frame leaves it, which may be the lesser number of dots.
+double DotsOfLine(double width, double scale) {
+  return width < 2 ? WholeDots(width * scale) : std::floor(width * scale);
+}
+
+struct BoxPlace {
+  QRectF rect;
+  double width;  // of its line
+};
+
+// At a fraction of a scale an edge between two dots would be smeared over both.
+BoxPlace OnWholeDots(const QPainter& painter, const QRectF& rect, double width) {
+  const QTransform to_dots = painter.deviceTransform();
+  const double scale = to_dots.m11();
+  if (to_dots.type() > QTransform::TxScale || scale == std::floor(scale)) return {rect, width};
+  const QRectF place = to_dots.mapRect(rect);
+  const QPointF first(std::round(place.left()), std::round(place.top()));
+  const QPointF end(std::round(place.right()), std::round(place.bottom()));
+  return {to_dots.inverted().mapRect(QRectF(first, end)), DotsOfLine(width, scale) / scale};
+}
+
 }  // namespace
 
 SmoothEdges::SmoothEdges(QPainter& painter) : painter_(painter) {
@@ -23,19 +49,26 @@ SmoothEdges::SmoothEdges(QPainter& painter) : painter_(painter) {
 void DrawBox(QPainter& painter, const QRectF& rect, double radius, const QColor& fill,
              const QColor& line, double width) {
   const SmoothEdges smooth(painter);
+  // A disc stays round, wherever it lies.
+  const bool disc = 2 * radius >= std::min(rect.width(), rect.height());
+  const BoxPlace place = disc ? BoxPlace{rect, width} : OnWholeDots(painter, rect, width);
   painter.setBrush(fill.isValid() ? QBrush(fill) : QBrush(Qt::NoBrush));
-  painter.setPen(line.isValid() ? QPen(line, width) : QPen(Qt::NoPen));
-  const double inset = line.isValid() ? width / 2 : 0;
-  painter.drawRoundedRect(rect.adjusted(inset, inset, -inset, -inset), radius - inset,
+  painter.setPen(line.isValid() ? QPen(line, place.width) : QPen(Qt::NoPen));
+  const double inset = line.isValid() ? place.width / 2 : 0;
+  painter.drawRoundedRect(place.rect.adjusted(inset, inset, -inset, -inset), radius - inset,
                           radius - inset);
 }
 
 void DrawRule(QPainter& painter, const QRect& rule, const QColor& color) {
   const QTransform to_dots = painter.deviceTransform();
   const QRectF place = to_dots.mapRect(QRectF(rule));
-  const auto whole = [](double length) { return std::max(std::round(length), 1.0); };
-  const QRectF dots(std::round(place.left()), std::round(place.top()), whole(place.width()),
-                    whole(place.height()));
+  QRectF dots(QPointF(std::round(place.left()), std::round(place.top())),
+              QPointF(std::round(place.right()), std::round(place.bottom())));
+  // Thin from its far side: there what lies behind it begins.
+  if (rule.width() < rule.height())
+    dots.setLeft(dots.right() - WholeDots(place.width()));
+  else
+    dots.setTop(dots.bottom() - WholeDots(place.height()));
   painter.fillRect(to_dots.inverted().mapRect(dots), color);
 }
 

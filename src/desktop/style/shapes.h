@@ -20,7 +20,8 @@ class SmoothEdges {
   QPainter& painter_;
 };
 
-// A box with round corners whose line lies within the rectangle. An invalid colour draws nothing.
+// A box with round corners whose line lies within the rectangle, on whole dots of the screen. An
+// invalid colour draws nothing.
 void DrawBox(QPainter& painter, const QRectF& rect, double radius, const QColor& fill,
              const QColor& line = QColor(), double width = 1);
 

@@ -54,6 +54,26 @@ TEST_F(GridLook, BeyondTheLastCellIsTheWindow) {
             window);
 }
 
+TEST_F(GridLook, ItsLinesAreOfOneThicknessAtEveryScale) {
+  for (const double scale : {1.0, 1.25, 1.5, 1.75, 2.0}) {
+    QImage picture((QSizeF(widget.viewport()->size()) * scale).toSize(), QImage::Format_RGB32);
+    picture.setDevicePixelRatio(scale);
+    widget.viewport()->render(&picture);
+    // Above the words of a row, past the columns that stay.
+    const int y = qRound((widget.CellRect(4, 2).top() + 2) * scale);
+    int dots = 0, lines = 0;
+    for (int x = qRound(widget.CellRect(4, 2).left() * scale); x < picture.width(); ++x) {
+      if (picture.pixelColor(x, y) == Colors().grid_line) {
+        ++dots;
+      } else if (dots > 0) {
+        EXPECT_EQ(std::exchange(dots, 0), qRound(scale)) << scale;
+        ++lines;
+      }
+    }
+    EXPECT_GE(lines, 4) << scale;
+  }
+}
+
 TEST_F(GridLook, AColumnThatEndsAtTheFrameHasNoLineBesideIt) {
   const auto ends_in_a_line = [this] {
     const QRect last = widget.CellRect(3, 5);
