@@ -2,6 +2,7 @@
 # The three kinds of connection, with and without a login, and certificates that must not be taken.
 import email
 import email.policy
+import os
 import pathlib
 import subprocess
 
@@ -13,10 +14,10 @@ def arrived(box):
     return [email.message_from_bytes(each[2], policy=email.policy.default) for each in box.arrived]
 
 
-def look_at_one(path, box, encrypted, *options):
+def look_at_one(path, box, encrypted, *options, **popen):
     """One message arrives, and says what was sent."""
     before = len(box.arrived)
-    status, out, err = mail(path, "--student", "1", "--subject", "\u00c9l\u00e8ve", "--again", *options)
+    status, out, err = mail(path, "--student", "1", "--subject", "\u00c9l\u00e8ve", "--again", *options, **popen)
     expect("status", (status, err), (0, ""))
     expect("state", states(out), ["sent"])
     expect("arrived", len(box.arrived), before + 1)
@@ -63,6 +64,13 @@ def tell(folder):
     pdf = [part.get_content() for part in message.iter_attachments()]
     expect("PDF", [part[:5] for part in pdf], [b"%PDF-"])
     expect("its name", [part.get_filename() for part in message.iter_attachments()], ["Ng1, Ad\u00e8le.pdf"])
+    # A password that can be read once reaches the program that draws, too.
+    reading, writing = os.pipe()
+    os.write(writing, b"s3cret\n")
+    os.close(writing)
+    look_at_one(path, box, True, *at, "--ca", cert, "--user", "ada", "--password-from", reading, "--pdf",
+                pass_fds=[reading])
+    os.close(reading)
     refused(path, box, "not trusted", *at, *login)
     secret.write_text("wrong\n")
     refused(path, box, "535", *at, "--ca", cert, *login)

@@ -3,6 +3,8 @@
 
 namespace tallyroll {
 
+void BecomeProgramThatDraws() {}
+
 PdfOutcome WritePdf(const std::string& /*path*/, const std::string& /*title*/) {
   return {"PDF is not available here"};
 }

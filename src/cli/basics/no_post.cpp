@@ -3,8 +3,6 @@
 
 namespace tallyroll {
 
-void BecomeProgramThatSends() {}
-
 std::unique_ptr<MailSender> OpenMailSender(const MailAccount& /*account*/) {
   return nullptr;
 }

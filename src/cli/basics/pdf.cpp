@@ -8,6 +8,8 @@
 
 namespace tallyroll {
 
+void BecomeProgramThatDraws() {}
+
 PdfOutcome WritePdf(const std::string& path, const std::string& title) {
   const OffscreenApplication application;
   if (!LayOutReport()) return {};

@@ -17,6 +17,10 @@ struct PdfOutcome {
   int error = 0;        // why there is no file, as a run-time error number
 };
 
+// Where another program draws, it takes over here: before a password was read that cannot be read
+// twice, or a run was begun.
+void BecomeProgramThatDraws();
+
 // Lays the report of Job.ReportCode out and writes its pages. Where the report itself ended the
 // run, Job.PrintFlag tells.
 PdfOutcome WritePdf(const std::string& path, const std::string& title);

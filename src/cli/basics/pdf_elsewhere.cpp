@@ -5,14 +5,13 @@
 #include "cli/basics/program_elsewhere.h"
 
 namespace tallyroll {
-namespace {
 
-constexpr const char* kWithQt = "tallyroll-pdf";
-
-}  // namespace
+void BecomeProgramThatDraws() {
+  RunElsewhere("tallyroll-pdf");
+}
 
 PdfOutcome WritePdf(const std::string& /*path*/, const std::string& /*title*/) {
-  RunElsewhere(kWithQt);
+  BecomeProgramThatDraws();
   return {"PDF is not available here"};
 }
 
@@ -28,7 +27,7 @@ PdfOutcome WritePdfPage(const std::string& path, const std::string& title,
 
 std::string PngOf(double /*width*/, double /*height*/, int /*dots_per_inch*/,
                   const std::function<void(PrintTarget&)>& /*draw*/) {
-  RunElsewhere(kWithQt);
+  BecomeProgramThatDraws();
   return {};
 }
 

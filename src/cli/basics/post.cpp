@@ -9,6 +9,4 @@ std::unique_ptr<MailSender> OpenMailSender(const MailAccount& account) {
   return MakeCurlMailSender(account);
 }
 
-void BecomeProgramThatSends() {}
-
 }  // namespace tallyroll

@@ -193,7 +193,7 @@ CommandResult CarryOut(const MailOptions& options, const MailContents& contents,
 CommandResult Mail(const MailOptions& options) {
   std::string reason = CheckMailOptions(options);
   if (!reason.empty()) return Refused(options.file, reason);
-  if (Sends(options) || options.pdf) BecomeProgramThatSends();
+  if (options.pdf) BecomeProgramThatDraws();
   const auto subject = CodePageFromUtf8(SubjectOf(options));
   if (!subject) return Refused(options.file, "the subject has characters that a class cannot hold");
   NameMode = options.name_mode;

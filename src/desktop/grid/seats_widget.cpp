@@ -7,6 +7,7 @@
 #include <cmath>
 
 #include "desktop/basics/text_conversion.h"
+#include "desktop/style/shapes.h"
 #include "desktop/style/tokens.h"
 
 namespace tallyroll {
@@ -47,7 +48,7 @@ class SeatsWidget::Head : public QWidget {
     const Tokens t = TokensOf(palette());
     painter.fillRect(rect(), t.window);
     painter.fillRect(board, t.header);
-    painter.fillRect(board.left(), board.bottom(), board.width(), 1, t.strong_line);
+    DrawRule(painter, QRect(board.left(), board.bottom(), board.width(), 1), t.strong_line);
     painter.setFont(FontFor(font(), TextUse::kHeading));
     painter.setPen(t.text);
     painter.drawText(board, Qt::AlignCenter, QStringLiteral("Front of the room"));
@@ -95,12 +96,16 @@ void SeatsWidget::PaintSeat(QPainter& painter, int row, int col) const {
   const bool lifted = grid()->Style(row, col) == CellStyle::kInWork;
   const bool current = row == grid()->Row && col == grid()->Col;
   const Tokens t = TokensOf(palette());
-  painter.setBrush(lifted ? t.selection : taken ? t.surface : t.window);
-  QPen pen(t.border, 1, taken && !lifted ? Qt::SolidLine : Qt::DashLine);
-  if (current) pen = QPen(hasFocus() ? t.focus : t.border, kSeatRing);
-  painter.setPen(pen);
-  const double inset = pen.widthF() / 2;
-  painter.drawRoundedRect(QRectF(seat).adjusted(inset, inset, -inset, -inset), kRadius, kRadius);
+  const QColor ground = lifted ? t.selection : taken ? t.surface : t.window;
+  if (current) {
+    DrawBox(painter, seat, kRadius, ground, hasFocus() ? t.focus : t.border, kSeatRing);
+  } else if (taken && !lifted) {
+    DrawBox(painter, seat, kRadius, ground, t.border);
+  } else {
+    painter.setBrush(ground);
+    painter.setPen(QPen(t.border, 1, Qt::DashLine));
+    painter.drawRoundedRect(QRectF(seat).adjusted(0.5, 0.5, -0.5, -0.5), kRadius, kRadius);
+  }
   if (taken) PaintCard(painter, seat.adjusted(kMargin, kMargin, -kMargin, -kMargin), row, col);
 }
 

@@ -9,9 +9,9 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QShortcut>
-#include <utility>
 
 #include "desktop/basics/text_conversion.h"
+#include "desktop/platform/file_lists.h"
 
 namespace tallyroll {
 namespace {
@@ -57,21 +57,6 @@ void SetName(QFileDialog& dialog, const QString& path) {
   dialog.selectFile(file.dir().exists() ? path : file.fileName());
 }
 
-// The toolkit leaves its lists without a name.
-void NameLists(const QFileDialog& dialog) {
-  constexpr std::pair<const char*, const char*> kNames[] = {{"lookInCombo", "Look in"},
-                                                            {"sidebar", "Places"},
-                                                            {"listView", "Files"},
-                                                            {"treeView", "Files"},
-                                                            {"fileTypeCombo", "Files of type"}};
-  for (const auto& [list, name] : kNames)
-    if (auto* found = dialog.findChild<QWidget*>(QString::fromLatin1(list))) {
-      found->setAccessibleName(QString::fromLatin1(name));
-      // A choice is called by what is chosen.
-      if (qobject_cast<QComboBox*>(found)) found->setAccessibleDescription(found->accessibleName());
-    }
-}
-
 void SetUp(QFileDialog& dialog, const FileDialogRequest& request) {
   dialog.setOption(QFileDialog::DontUseNativeDialog);
   dialog.setAcceptMode(request.save ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
@@ -83,7 +68,6 @@ void SetUp(QFileDialog& dialog, const FileDialogRequest& request) {
   if (!filters.isEmpty()) dialog.setNameFilters(filters);
   dialog.setDefaultSuffix(FromText(request.default_extension));
   SetName(dialog, FromPath(request.filename));
-  NameLists(dialog);
 }
 
 // Below the dialog's own fields, whose names stand in the first column.
@@ -122,6 +106,7 @@ QStringList FiltersOf(const QString& filter) {
 std::optional<std::string> ShowFileDialog(const FileDialogRequest& request, QWidget* parent) {
   CaseBlindDialog dialog(parent);
   SetUp(dialog, request);
+  const FileLists lists(dialog);
   const QComboBox* encodings = request.encoding ? AddEncodings(dialog, *request.encoding) : nullptr;
   QObject::connect(new QShortcut(Qt::Key_F1, &dialog), &QShortcut::activated, &dialog,
                    [&request] { Platform().ShowHelp(request.help_context); });

@@ -57,6 +57,9 @@ bool ShowFontDialog(std::string& name, float& points, QWidget* parent) {
   font.setPointSizeF(points);
   QFontDialog dialog(font, parent);
   dialog.setOption(QFontDialog::DontUseNativeDialog);
+  // Some ten names of fonts at once, in type of any size.
+  const QFontMetrics metrics = dialog.fontMetrics();
+  dialog.resize(QSize(80 * metrics.averageCharWidth(), 34 * metrics.height()));
   if (dialog.exec() != QDialog::Accepted) return false;
   const QFont chosen = dialog.selectedFont();
   std::optional<std::string> family = ToText(chosen.family());

@@ -8,6 +8,7 @@
 #include <QMimeData>
 #include <QPainter>
 #include <QPolygonF>
+#include <QStyleOptionFrame>
 #include <QToolTip>
 #include <algorithm>
 #include <utility>
@@ -27,6 +28,7 @@ namespace {
 
 constexpr double kTwipsPerInch = 1440;
 constexpr double kUsualPoints = 9.75;  // of the screen's words, beside which a chart's are chosen
+constexpr int kFrame = 2;
 constexpr int kSavedDotsPerInch = 300;
 
 QPolygonF PolygonOf(const ChartSpot& spot) {
@@ -132,14 +134,15 @@ QPoint ChartWidget::PlaceOf(const ChartSpot& spot) const {
 void ChartWidget::paintEvent(QPaintEvent* /*event*/) {
   DrawIfChanged();
   QPainter painter(this);
+  // The frame of lists and sheets; what lies within begins behind the room for the focus.
+  QStyleOptionFrame frame;
+  frame.initFrom(this);
+  style()->drawPrimitive(QStyle::PE_Frame, &frame, &painter, this);
+  painter.setClipRect(rect().adjusted(kFrame, kFrame, -kFrame, -kFrame));
   painter.drawPixmap(0, 0, picture_);
   if (IsEmpty()) {
     painter.setPen(TokensOf(palette()).muted);
     painter.drawText(rect(), Qt::AlignCenter | Qt::TextWordWrap, empty_text_);
-  }
-  if (hasFocus()) {
-    painter.setPen(QPen(TokensOf(palette()).focus, 2));
-    painter.drawRect(rect().adjusted(1, 1, -1, -1));
   }
   if (const ChartSpot* spot = CurrentSpot()) {
     painter.scale(PixelsATwip(), PixelsATwip());
@@ -174,13 +177,9 @@ bool ChartWidget::event(QEvent* event) {
 
 void ChartWidget::mouseMoveEvent(QMouseEvent* event) {
   DrawIfChanged();
-  const int spot = SpotAt(event->position());
-  GoTo(spot, false);
-  if (CurrentSpot())
-    QToolTip::showText(event->globalPosition().toPoint(),
-                       FromText(TellSpot(*chart_, *CurrentSpot())), this);
-  else
-    QToolTip::hideText();
+  GoTo(SpotAt(event->position()), false);
+  const QString told = CurrentSpot() ? FromText(TellSpot(*chart_, *CurrentSpot())) : QString();
+  QToolTip::showText(event->globalPosition().toPoint(), told, this);
 }
 
 void ChartWidget::leaveEvent(QEvent* event) {

@@ -7,7 +7,10 @@
 #include <QMouseEvent>
 #include <QPainter>
 #include <QSettings>
+#include <algorithm>
 
+#include "desktop/portal/form_labels.h"
+#include "desktop/style/shapes.h"
 #include "desktop/style/tokens.h"
 
 namespace tallyroll {
@@ -92,9 +95,14 @@ QFont FoldingText::TextFont() const {
   return FontFor(QApplication::font(), TextUse::kSmall);
 }
 
+// The field goes on to the end of its row, its lines do not.
+int FoldingText::WordsWidth(int width) const {
+  return std::min(width - 2 * kFoldPadding, ReadableLine(QFontMetrics(TextFont())));
+}
+
 QRect FoldingText::TextRect(int width) const {
   const QFontMetrics metrics(TextFont());
-  const QRect room(0, 0, width - 2 * kFoldPadding, 10000);
+  const QRect room(0, 0, WordsWidth(width), 10000);
   return metrics.boundingRect(room, Qt::TextWordWrap, ShownText());
 }
 
@@ -114,14 +122,12 @@ QSize FoldingText::minimumSizeHint() const {
 void FoldingText::paintEvent(QPaintEvent*) {
   const Tokens t = TokensOf(palette());
   QPainter painter(this);
-  painter.setRenderHint(QPainter::Antialiasing);
-  painter.setPen(hasFocus() ? QPen(t.focus, 2) : QPen(Qt::NoPen));
-  painter.setBrush(t.accent_soft);
-  painter.drawRoundedRect(QRectF(rect()).adjusted(1, 1, -1, -1), kFoldRadius, kFoldRadius);
+  DrawBox(painter, rect(), kFoldRadius, t.accent_soft, hasFocus() ? t.focus : QColor(), 2);
   painter.setFont(TextFont());
   painter.setPen(t.text);
   const QRect room = rect().adjusted(kFoldPadding, kFoldPadding, -kFoldPadding, -kFoldPadding);
-  painter.drawText(room, Qt::TextWordWrap, ShownText());
+  const QRect words(room.topLeft(), QSize(WordsWidth(width()), room.height()));
+  painter.drawText(words, Qt::TextWordWrap, ShownText());
   painter.setPen(t.focus);
   painter.drawText(room, Qt::AlignLeft | Qt::AlignBottom, folded_ ? tr("More...") : tr("Less"));
 }

@@ -34,6 +34,7 @@ class FoldingText : public QLabel {
  private:
   QString SettingsKey() const;
   QFont TextFont() const;
+  int WordsWidth(int width) const;
   QRect TextRect(int width) const;
 
   bool folded_ = false;

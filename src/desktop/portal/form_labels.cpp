@@ -63,6 +63,34 @@ void ElidedLabel::paintEvent(QPaintEvent* event) {
                         isEnabled(), Shown(), foregroundRole());
 }
 
+int ReadableLine(const QFontMetrics& metrics) {
+  constexpr double kAlphabetsALine = 3.1;
+  const int alphabet = metrics.horizontalAdvance(QStringLiteral("abcdefghijklmnopqrstuvwxyz"));
+  return static_cast<int>(alphabet * kAlphabetsALine);
+}
+
+HelpText::HelpText(QWidget* parent) : QLabel(parent) {
+  setIndent(0);
+  setWordWrap(true);
+}
+
+int HelpText::BesideWords() const {
+  return contentsMargins().left() + contentsMargins().right() + 2 * margin();
+}
+
+int HelpText::heightForWidth(int width) const {
+  return QLabel::heightForWidth(std::min(width, BesideWords() + ReadableLine(fontMetrics())));
+}
+
+void HelpText::paintEvent(QPaintEvent* /*event*/) {
+  QPainter painter(this);
+  drawFrame(&painter);
+  QRect words = contentsRect().adjusted(margin(), margin(), -margin(), -margin());
+  words.setWidth(std::min(words.width(), ReadableLine(fontMetrics())));
+  style()->drawItemText(&painter, words, static_cast<int>(alignment()) | Qt::TextWordWrap,
+                        palette(), isEnabled(), text(), foregroundRole());
+}
+
 bool StateWord::IsOn() const {
   return !text().startsWith(QLatin1String("Not "));
 }

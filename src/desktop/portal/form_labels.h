@@ -29,6 +29,26 @@ class ElidedLabel : public QLabel {
   QString Shown() const;
 };
 
+// How wide the lines of a long text may be, of whatever is written in it: the eye finds the next
+// line below some 85 letters.
+int ReadableLine(const QFontMetrics& metrics);
+
+// A text that explains. Its ground is as wide as what stands above it; its lines end earlier.
+class HelpText : public QLabel {
+  Q_OBJECT
+
+ public:
+  explicit HelpText(QWidget* parent = nullptr);
+
+  int heightForWidth(int width) const override;
+
+ protected:
+  void paintEvent(QPaintEvent* event) override;
+
+ private:
+  int BesideWords() const;
+};
+
 // Whether a setting is on, in the words of its Portal: what is on stands out, what is off is muted.
 class StateWord : public QLabel {
   Q_OBJECT

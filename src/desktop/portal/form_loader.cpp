@@ -58,6 +58,7 @@ QWidget* MakeOwnWidget(const QString& class_name, QWidget* parent) {
   if (class_name == QLatin1String("tallyroll::CodeKey")) return new CodeKey(parent);
   if (class_name == QLatin1String("tallyroll::DateArrow")) return new DateArrow(parent);
   if (class_name == QLatin1String("tallyroll::ElidedLabel")) return new ElidedLabel(parent);
+  if (class_name == QLatin1String("tallyroll::HelpText")) return new HelpText(parent);
   if (class_name == QLatin1String("tallyroll::ListCount")) return new ListCount(parent);
   if (class_name == QLatin1String("tallyroll::PageStack")) return new PageStack(parent);
   if (class_name == QLatin1String("tallyroll::MarginSheet")) return new MarginSheet(parent);

@@ -64,15 +64,17 @@ std::optional<QRect> ButtonPart(QStyle::SubElement element, const QStyleOption& 
 std::optional<QSize> ButtonSize(QStyle::ContentsType type, const QStyleOption* option,
                                 const QSize& contents, const Measures& m, const QWidget* widget);
 
-// Fields, choices, dates, the frames of lists and sheets.
+// Fields, choices, dates, numbers with an arrow up and one down, the frames of lists and sheets.
 bool DrawField(QStyle::PrimitiveElement element, const QStyleOption& option, StyleBrush& brush);
 bool DrawChoice(const QStyleOptionComplex& option, StyleBrush& brush);
 bool DrawChoiceText(const QStyleOption& option, StyleBrush& brush);
 bool DrawFrame(const QStyleOption& option, StyleBrush& brush);
+bool DrawSpin(const QStyleOptionComplex& option, StyleBrush& brush);
 std::optional<QRect> ChoicePart(const QStyleOptionComplex& option, QStyle::SubControl part,
                                 const Measures& m);
-std::optional<QSize> FieldSize(QStyle::ContentsType type, const QSize& contents, const Measures& m,
-                               const QWidget* widget);
+std::optional<QRect> SpinPart(const QStyleOptionComplex& option, QStyle::SubControl part,
+                              const Measures& m);
+std::optional<QSize> FieldSize(QStyle::ContentsType type, const QSize& contents, const Measures& m);
 
 // What the toolkit itself leaves free before words that are typed.
 inline constexpr int kToolkitsOwn = 2;
@@ -95,6 +97,10 @@ std::optional<QRect> GroupPart(const QStyleOptionComplex& option, QStyle::SubCon
                                const Measures& m, const QWidget* widget);
 bool DrawProgress(QStyle::ControlElement element, const QStyleOption& option, StyleBrush& brush);
 
+// Heads of lists with columns.
+bool DrawHead(QStyle::ControlElement element, const QStyleOption& option, StyleBrush& brush);
+Qt::ArrowType SortArrow(const QStyleOption& option);
+
 // Lines of lists.
 bool DrawLine(const QStyleOption& option, StyleBrush& brush);
 
@@ -104,8 +110,8 @@ bool DrawWindowButtons(const QStyleOptionComplex& option, StyleBrush& brush);
 std::optional<QRect> TitleBarPart(const QStyleOptionComplex& option, QStyle::SubControl part,
                                   const Measures& m);
 
-// Signs of message boxes, buttons of windows, arrows; null for any other.
-QIcon SignFor(QStyle::StandardPixmap icon, const Measures& m);
+// Signs of message boxes, buttons of windows, arrows, files; null for any other.
+QIcon SignFor(QStyle::StandardPixmap icon);
 
 // The distance of two neighbours by their kinds.
 int SpaceBetween(QSizePolicy::ControlType one, QSizePolicy::ControlType other,

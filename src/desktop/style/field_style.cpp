@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Fields, choices, dates, and the frames of lists and sheets.
+// Fields, choices, dates, numbers to step through, and the frames of lists and sheets.
 #include <QAbstractScrollArea>
 #include <QComboBox>
 #include <QDateTimeEdit>
@@ -29,6 +29,15 @@ FieldLook LookOfField(const StyleBrush& b, bool read_only) {
   if (read_only && b.enabled) look.edge = b.t.strong_line;
   if (b.hover && !read_only) look.edge = Mix(b.t.border, b.t.text, 0.33);
   if (b.focus) look = {look.fill, b.t.focus, 2};
+  return look;
+}
+
+// A date or a number holds a field, which has the focus for it.
+FieldLook LookOfBox(const StyleBrush& b) {
+  FieldLook look = LookOfField(b, false);
+  const QWidget* field = b.widget ? b.widget->focusWidget() : nullptr;
+  if (b.enabled && field && field->hasFocus() && b.widget->isAncestorOf(field))
+    look = {look.fill, b.t.focus, 2};
   return look;
 }
 
@@ -123,12 +132,7 @@ bool DrawChoice(const QStyleOptionComplex& option, StyleBrush& brush) {
   const auto* combo = qstyleoption_cast<const QStyleOptionComboBox*>(&option);
   if (!combo) return false;
   const bool date = IsDate(brush.widget);
-  // A date's field has the focus for it.
-  const bool field_has_focus =
-      brush.enabled && brush.widget && brush.widget->isAncestorOf(brush.widget->focusWidget()) &&
-      brush.widget->focusWidget() && brush.widget->focusWidget()->hasFocus();
-  FieldLook look = LookOfField(brush, false);
-  if (field_has_focus) look = {look.fill, brush.t.focus, 2};
+  FieldLook look = LookOfBox(brush);
   if (brush.hover && !combo->editable) look.fill = Mix(brush.t.surface, brush.t.hover, 0.5);
   if (combo->frame)
     DrawBox(brush.painter, combo->rect, brush.m.Px(kFieldRadius), look.fill, look.edge, look.width);
@@ -142,6 +146,27 @@ bool DrawChoice(const QStyleOptionComplex& option, StyleBrush& brush) {
   QRectF box(0, 0, brush.m.Px(16), brush.m.Px(16));
   box.moveCenter(QRectF(arrow).center());
   DrawCalendar(brush.painter, box, sign);
+  return true;
+}
+
+bool DrawSpin(const QStyleOptionComplex& option, StyleBrush& brush) {
+  const auto* spin = qstyleoption_cast<const QStyleOptionSpinBox*>(&option);
+  if (!spin) return false;
+  const FieldLook look = LookOfBox(brush);
+  if (spin->frame)
+    DrawBox(brush.painter, spin->rect, brush.m.Px(kFieldRadius), look.fill, look.edge, look.width);
+  if (spin->buttonSymbols == QAbstractSpinBox::NoButtons) return true;
+  const auto step = [&](QStyle::SubControl part, Qt::ArrowType way, bool can) {
+    const bool pointed = brush.hover && can && (spin->activeSubControls & part);
+    const QRect place = brush.style.subControlRect(QStyle::CC_SpinBox, spin, part, brush.widget);
+    const QColor sign = !brush.enabled || !can ? brush.t.off
+                        : pointed              ? brush.t.text
+                                               : brush.t.muted;
+    DrawArrow(brush.painter, place, way, sign, brush.m.Px(3));
+  };
+  step(QStyle::SC_SpinBoxUp, Qt::UpArrow, spin->stepEnabled & QAbstractSpinBox::StepUpEnabled);
+  step(QStyle::SC_SpinBoxDown, Qt::DownArrow,
+       spin->stepEnabled & QAbstractSpinBox::StepDownEnabled);
   return true;
 }
 
@@ -182,8 +207,35 @@ std::optional<QRect> ChoicePart(const QStyleOptionComplex& option, QStyle::SubCo
   }
 }
 
-std::optional<QSize> FieldSize(QStyle::ContentsType type, const QSize& contents, const Measures& m,
-                               const QWidget* widget) {
+std::optional<QRect> SpinPart(const QStyleOptionComplex& option, QStyle::SubControl part,
+                              const Measures& m) {
+  const auto* spin = qstyleoption_cast<const QStyleOptionSpinBox*>(&option);
+  if (!spin) return std::nullopt;
+  const QRect& whole = spin->rect;
+  const bool steps = spin->buttonSymbols != QAbstractSpinBox::NoButtons;
+  const int arrows = steps ? std::min(m.Px(kArrowRoom), whole.width()) : 0;
+  const int edge = steps ? 3 : 0;  // the two arrows stand nearer to each other than to the frame
+  const QRect both(whole.right() + 1 - arrows, whole.top() + edge, arrows,
+                   whole.height() - 2 * edge);
+  const auto visual = [&](const QRect& place) {
+    return QStyle::visualRect(spin->direction, whole, place);
+  };
+  switch (part) {
+    case QStyle::SC_SpinBoxFrame:
+      return whole;
+    case QStyle::SC_SpinBoxUp:
+      return visual(both.adjusted(0, 0, 0, -both.height() / 2));
+    case QStyle::SC_SpinBoxDown:
+      return visual(both.adjusted(0, (both.height() + 1) / 2, 0, 0));
+    case QStyle::SC_SpinBoxEditField:
+      return visual(whole.adjusted(m.BesideWords() - kToolkitsOwn, 2, -std::max(arrows, 2), -2));
+    default:
+      return std::nullopt;
+  }
+}
+
+std::optional<QSize> FieldSize(QStyle::ContentsType type, const QSize& contents,
+                               const Measures& m) {
   const int height = std::max(m.Control(), contents.height() + 4);
   switch (type) {
     case QStyle::CT_LineEdit:
@@ -191,7 +243,6 @@ std::optional<QSize> FieldSize(QStyle::ContentsType type, const QSize& contents,
     case QStyle::CT_ComboBox:
       return QSize(contents.width() + m.BesideWords() + m.Px(kArrowRoom + 4), height);
     case QStyle::CT_SpinBox:
-      if (!IsDate(widget)) return std::nullopt;
       // Its contents are a field with the height of a control already.
       return QSize(contents.width() + m.BesideWords() + m.Px(kArrowRoom),
                    std::max(m.Control(), contents.height()));

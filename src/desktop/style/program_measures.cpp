@@ -31,6 +31,12 @@ QRect ProgramStyle::subElementRect(SubElement element, const QStyleOption* optio
     const int bar = tabs ? tabs->tabBarSize.height() : 0;
     return option->rect.adjusted(0, bar + measures_.Px(12), 0, 0);
   }
+  if (element == SE_HeaderArrow) {
+    const int side = measures_.Px(10);
+    const QRect& r = option->rect;
+    const QRect arrow(r.right() + 1 - side - measures_.Px(8), r.top(), side, r.height());
+    return visualRect(option->direction, r, arrow);
+  }
   if (const auto part = ButtonPart(element, *option, measures_))
     return visualRect(option->direction, option->rect, *part);
   return QProxyStyle::subElementRect(element, option, widget);
@@ -42,6 +48,9 @@ QRect ProgramStyle::subControlRect(ComplexControl control, const QStyleOptionCom
   switch (control) {
     case CC_ComboBox:
       place = ChoicePart(*option, part, measures_);
+      break;
+    case CC_SpinBox:
+      place = SpinPart(*option, part, measures_);
       break;
     case CC_ScrollBar:
       place = ScrollBarPart(*option, part, measures_);
@@ -61,7 +70,7 @@ QRect ProgramStyle::subControlRect(ComplexControl control, const QStyleOptionCom
 QSize ProgramStyle::sizeFromContents(ContentsType type, const QStyleOption* option,
                                      const QSize& contents, const QWidget* widget) const {
   if (const auto size = ButtonSize(type, option, contents, measures_, widget)) return *size;
-  if (const auto size = FieldSize(type, contents, measures_, widget)) return *size;
+  if (const auto size = FieldSize(type, contents, measures_)) return *size;
   if (const auto size = MenuSize(type, option, contents, measures_)) return *size;
   switch (type) {
     case CT_TabBarTab:
@@ -79,6 +88,10 @@ QSize ProgramStyle::sizeFromContents(ContentsType type, const QStyleOption* opti
         for (const SubControl each : {SC_MdiMinButton, SC_MdiNormalButton, SC_MdiCloseButton})
           buttons += (all->subControls & each) ? 1 : 0;
       return {buttons * measures_.Px(26), measures_.Px(26)};
+    }
+    case CT_HeaderSection: {
+      const QSize size = QProxyStyle::sizeFromContents(type, option, contents, widget);
+      return {size.width(), std::max(size.height(), measures_.ListLine())};
     }
     case CT_ItemViewItem: {
       QSize size = QProxyStyle::sizeFromContents(type, option, contents, widget);

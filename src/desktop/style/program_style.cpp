@@ -78,6 +78,8 @@ void ProgramStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* o
       // What draws its focus by itself has drawn it.
       if (qobject_cast<const QAbstractItemView*>(widget)) return;
       return DrawBox(*painter, option->rect, measures_.Px(4), QColor(), brush.t.focus, 2);
+    case PE_IndicatorHeaderArrow:
+      return DrawArrow(*painter, option->rect, SortArrow(*option), brush.t.muted, measures_.Px(4));
     case PE_PanelMenu:
       return painter->fillRect(option->rect, brush.t.raised);
     case PE_FrameMenu:
@@ -124,6 +126,10 @@ void ProgramStyle::drawControl(ControlElement element, const QStyleOption* optio
     case CE_TabBarTabLabel:
       drawn = DrawTab(element, *option, brush);
       break;
+    case CE_HeaderSection:
+    case CE_HeaderEmptyArea:
+      drawn = DrawHead(element, *option, brush);
+      break;
     case CE_ProgressBarGroove:
     case CE_ProgressBarContents:
     case CE_ProgressBarLabel:
@@ -162,6 +168,9 @@ void ProgramStyle::drawComplexControl(ComplexControl control, const QStyleOption
     case CC_ScrollBar:
       drawn = DrawScrollBar(*option, brush);
       break;
+    case CC_SpinBox:
+      drawn = DrawSpin(*option, brush);
+      break;
     case CC_GroupBox:
       drawn = DrawGroup(*option, brush);
       break;
@@ -182,13 +191,13 @@ void ProgramStyle::drawComplexControl(ComplexControl control, const QStyleOption
 
 QIcon ProgramStyle::standardIcon(StandardPixmap icon, const QStyleOption* option,
                                  const QWidget* widget) const {
-  const QIcon sign = SignFor(icon, measures_);
+  const QIcon sign = SignFor(icon);
   return sign.isNull() ? QProxyStyle::standardIcon(icon, option, widget) : sign;
 }
 
 QPixmap ProgramStyle::standardPixmap(StandardPixmap icon, const QStyleOption* option,
                                      const QWidget* widget) const {
-  const QIcon sign = SignFor(icon, measures_);
+  const QIcon sign = SignFor(icon);
   if (sign.isNull()) return QProxyStyle::standardPixmap(icon, option, widget);
   return sign.pixmap(measures_.Px(16));
 }

@@ -85,6 +85,8 @@ std::optional<int> MeasureOf(QStyle::PixelMetric metric, const Measures& m, cons
       return m.Px(32);
     case QStyle::PM_ScrollView_ScrollBarSpacing:
       return 0;
+    case QStyle::PM_HeaderMargin:
+      return m.Px(8);
     case QStyle::PM_TabBarTabHSpace:
       return m.Px(24);
     case QStyle::PM_TabBarTabVSpace:

@@ -86,7 +86,9 @@ QSize ToolSize(const QStyleOption* option, const QSize& contents, const Measures
                                  : tool->fontMetrics;
   const int word = contents.width() - width(tool->fontMetrics, tool->text) +
                    width(shown, WordOfTool(*tool, widget));
-  return QSize(std::max(tool->iconSize.width(), word), contents.height()) + beside;
+  const QSize whole = QSize(std::max(tool->iconSize.width(), word), contents.height()) + beside;
+  // Drawn as a button it is as high as one, and as the choices in its row.
+  return IsMainTool(widget) ? QSize(whole.width(), m.Control()) : whole;
 }
 
 }  // namespace tallyroll

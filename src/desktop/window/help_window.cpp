@@ -36,6 +36,10 @@ HelpWindow::HelpWindow(QWidget* parent) : QMainWindow(parent, Qt::Window) {
   find_ = new QLineEdit;
   AddTools();
   statusBar()->setSizeGripEnabled(false);
+  // It has a strip of its own only while it says something.
+  connect(statusBar(), &QStatusBar::messageChanged, statusBar(),
+          [bar = statusBar()](const QString& said) { bar->setVisible(!said.isEmpty()); });
+  statusBar()->hide();
   connect(browser_, &QTextBrowser::sourceChanged, this, [this] { statusBar()->clearMessage(); });
   resize(720, 640);
   KeepOnScreen(*this);

@@ -9,6 +9,7 @@
 #include <QDir>
 #include <QFile>
 #include <QFileDialog>
+#include <QHeaderView>
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QPushButton>
@@ -16,6 +17,7 @@
 #include <QTemporaryDir>
 #include <QTest>
 #include <QTimer>
+#include <QTreeView>
 
 #include "averages/portals/frmpoints.h"
 #include "desktop/basics/text_conversion.h"
@@ -247,6 +249,32 @@ TEST_F(QtSurroundingsTest, ADialogWithoutATextAsksForNoEncoding) {
     dialog.reject();
   });
   surroundings.FileDialog({});
+}
+
+// What a column holds is read whole: which of two files is the newer one is told by their dates.
+TEST_F(QtSurroundingsTest, TheColumnsOfAFileDialogAreAsWideAsWhatTheyHold) {
+  const QTemporaryDir folder;
+  QFile file(folder.filePath(QStringLiteral("Algebra.TYR")));
+  EXPECT_TRUE(file.open(QIODevice::WriteOnly));
+  FileDialogRequest request;
+  request.folder = ToPath(folder.path());
+  WithNextWindow<QFileDialog>([](QFileDialog& dialog) {
+    auto* files = dialog.findChild<QTreeView*>(QStringLiteral("treeView"));
+    // Files are read, and looked at for what they are, beside the dialog.
+    const auto is_wide_enough = [files](int column) {
+      const QModelIndex cell = files->model()->index(0, column, files->rootIndex());
+      return cell.isValid() && files->columnWidth(column) >= files->sizeHintForIndex(cell).width();
+    };
+    for (int column = 0; column < files->model()->columnCount(); ++column)
+      EXPECT_TRUE(QTest::qWaitFor([&] { return is_wide_enough(column); })) << column;
+    EXPECT_EQ(files->header()->length(), files->viewport()->width());
+    dialog.reject();
+  });
+  surroundings.FileDialog(request);
+  // The toolkit keeps columns for every program of the user: theirs stay free to be pulled.
+  const QFileDialog other;
+  EXPECT_EQ(other.findChild<QTreeView*>(QStringLiteral("treeView"))->header()->sectionResizeMode(0),
+            QHeaderView::Interactive);
 }
 
 TEST_F(QtSurroundingsTest, F1InAFileDialogShowsItsHelp) {

@@ -9,6 +9,7 @@
 #include <QClipboard>
 #include <QFile>
 #include <QImage>
+#include <QListWidget>
 #include <QMimeData>
 #include <QPushButton>
 #include <QTemporaryDir>
@@ -89,6 +90,25 @@ TEST_F(ChartWidgetTest, OneSetIsDrawnInTheInkOfTheScreen) {
   const QPoint bar = widget().PlaceOf(widget().Spots().at(1));
   const QImage picture = widget().grab().toImage();
   EXPECT_EQ(picture.pixel(bar), TokensOf(widget().palette()).focus.rgb());
+}
+
+TEST_F(ChartWidgetTest, StandsInTheFrameOfEveryList) {
+  for (const bool focused : {false, true}) {
+    QWidget window;
+    ChartWidget chart(&window);
+    QListWidget list(&window);
+    QPushButton other(&window);
+    for (QWidget* each : {static_cast<QWidget*>(&chart), static_cast<QWidget*>(&list)})
+      each->resize(200, 100);
+    window.show();
+    const auto corner = [&](QWidget& framed) {
+      (focused ? &framed : static_cast<QWidget*>(&other))->setFocus();
+      QCoreApplication::processEvents();
+      return framed.grab(QRect(0, 0, 12, 12)).toImage();
+    };
+    window.activateWindow();
+    EXPECT_EQ(corner(chart), corner(list)) << focused;
+  }
 }
 
 // Where the words above the points end: the first row without ink below the title.

@@ -12,6 +12,7 @@
 
 #include "analysis/frmsingles.h"
 #include "desktop/portal/form_pictures.h"
+#include "insight/frmunusual.h"
 #include "tests/desktop/class_dialogs.h"
 
 namespace tallyroll {
@@ -52,6 +53,26 @@ TEST(ListCount, FollowsTheList) {
   EXPECT_EQ(count.text(), QStringLiteral("1 chosen"));
   list.clear();
   EXPECT_EQ(count.text(), QStringLiteral("0 chosen"));
+}
+
+// The width of every line, beside that of ninety letters of a sentence.
+TEST_F(LongWords, ThatExplainWrapWhereTheEyeStillFindsTheNextLine) {
+  frmunusual portal;
+  Open(portal);
+  auto& rule = Find<QLabel>("rule");
+  ASSERT_GT(rule.text().size(), 90);
+  const int ninety = rule.fontMetrics().horizontalAdvance(rule.text().left(90));
+  EXPECT_LE(ReadableLine(rule.fontMetrics()), ninety);
+  EXPECT_GE(ReadableLine(rule.fontMetrics()), ninety * 3 / 4);
+  dialog->resize(dialog->width() * 2, dialog->height());
+  QCoreApplication::processEvents();
+  EXPECT_GT(rule.width(), 2 * ninety);
+  EXPECT_GE(rule.height(), 2 * rule.fontMetrics().height());
+  const QImage picture = rule.grab().toImage();
+  const QRgb ground = picture.pixel(picture.width() - 20, picture.height() / 2);
+  const int behind = rule.fontMetrics().height() + ninety;
+  for (int y = 0; y < picture.height(); ++y)
+    EXPECT_EQ(picture.pixel(behind, y), ground) << y;
 }
 
 // A page of 8.5 by 11 inches, 102 pixels wide: an inch is 12.

@@ -14,6 +14,7 @@
 #include "printing/frmprintpre.h"
 #include "tests/desktop/keyboard_round.h"
 #include "tests/desktop/spoken_window.h"
+#include "tests/desktop/style/looks.h"
 #include "tests/printing/report_test.h"
 
 namespace tallyroll {
@@ -137,6 +138,16 @@ TEST_F(PreviewKeysTest, AToolIsNamedInFullWhateverStandsOnIt) {
   }
   const QFontMetrics metrics(Find("nine").font());
   EXPECT_LT(Find("nine").width(), metrics.horizontalAdvance(QStringLiteral("Save to Text File")));
+}
+
+TEST_F(PreviewKeysTest, PrintIsAsHighAsTheChoicesInItsRow) {
+  for (const Look& look : kLooks) {
+    const WornLook worn(look);
+    Open(19, 3);
+    EXPECT_EQ(Find("seven").height(), Find("size").height()) << look.name;
+    EXPECT_EQ(Find("seven").height(), Find("pagenum").height()) << look.name;
+    dialog.reset();
+  }
 }
 
 TEST_F(PreviewKeysTest, PrintIsTheOneThatIsFilled) {

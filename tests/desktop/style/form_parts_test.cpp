@@ -12,14 +12,18 @@
 #include <QStackedWidget>
 #include <cstdlib>
 
+#include "attendance/frmAtsum.h"
+#include "attendance/frmAtt.h"
 #include "averages/portals/frmoptions.h"
 #include "averages/portals/frmpercents.h"
 #include "averages/portals/frmpoints.h"
 #include "averages/portals/frmroundoff.h"
 #include "averages/portals/frmscrnavg.h"
+#include "desktop/portal/code_key.h"
 #include "desktop/portal/form_labels.h"
 #include "desktop/portal/total_figure.h"
 #include "desktop/style/program_style.h"
+#include "desktop/style/tokens.h"
 #include "printing/frmprintall.h"
 #include "roster/frmAdd.h"
 #include "seating/frmseating.h"
@@ -197,6 +201,37 @@ TEST_F(FormParts, TheScaleOfTheRoundingHasNoGapAtItsSide) {
   frmroundoff portal;
   Open(portal);
   EXPECT_EQ(LeftOf(Find<QGroupBox>("modegroup")) - RightOf(Find<GridWidget>("grdgrade")), 20);
+}
+
+// 30 days in September, 31 in October, which are wider: the window shows both.
+TEST_F(FormParts, TheKeyToTheCodesEndsWithTheMonth) {
+  frmAtt portal;
+  Open(portal);
+  dialog->resize(1200, 500);
+  for (int month = 0; month < 2; ++month) {
+    QCoreApplication::processEvents();
+    EXPECT_LT(RightOf(grid()), dialog->width() - 20);
+    EXPECT_EQ(RightOf(Find<CodeKey>("codekey")), RightOf(grid())) << month;
+    EXPECT_EQ(LeftOf(Find<QPushButton>("Command1")), LeftOf(grid())) << month;
+    EXPECT_EQ(LeftOf(Find<QPushButton>("Command2")) - RightOf(Find<QPushButton>("Command1")), 8);
+    EXPECT_EQ(LeftOf(Find<QLabel>("monthlabel")) - RightOf(Find<QPushButton>("Command2")), 12);
+    Find<QPushButton>("Command2").click();
+  }
+}
+
+TEST_F(FormParts, TheRingOfAnOptionGoesRoundItsWords) {
+  frmAtsum portal;
+  Open(portal);
+  auto& option = Find<QRadioButton>("Summary");
+  QTest::keyClick(dialog.get(), Qt::Key_Tab);
+  option.setFocus(Qt::TabFocusReason);
+  QCoreApplication::processEvents();
+  ASSERT_GT(option.width(), option.sizeHint().width() + 20);
+  const QImage picture = option.grab().toImage();
+  const QColor ring = TokensOf(QApplication::palette()).focus;
+  int end = picture.width() - 1;
+  while (end > 0 && picture.pixelColor(end, picture.height() / 2) != ring) --end;
+  EXPECT_NEAR(end, option.sizeHint().width() - 1, 2);
 }
 
 TEST_F(FormParts, FiguresThatAreOnlyShownEndBelowEachOther) {

@@ -106,11 +106,13 @@ QColor Over(const QColor& ground, const QColor& color) {
                 mix(ground.blue(), color.blue()));
 }
 
-TEST_F(DarkOutlines, TheButtonsOfAClassWindowAreDrawnInLightLines) {
+TEST_F(DarkOutlines, TheSignsOfWindowsBarsAndFilesAreDrawnInLightLines) {
   const ProgramStyle style;
   const QColor button = PaletteOf(DarkTokens()).color(QPalette::Button);
-  for (const auto icon : {QStyle::SP_TitleBarMinButton, QStyle::SP_TitleBarNormalButton,
-                          QStyle::SP_TitleBarCloseButton}) {
+  for (const auto icon :
+       {QStyle::SP_TitleBarMinButton, QStyle::SP_TitleBarNormalButton,
+        QStyle::SP_TitleBarCloseButton, QStyle::SP_ToolBarHorizontalExtensionButton,
+        QStyle::SP_ToolBarVerticalExtensionButton}) {
     const QImage picture = style.standardIcon(icon, nullptr, nullptr).pixmap(16, 16).toImage();
     double best = 1;
     for (int x = 0; x < picture.width(); ++x)

@@ -167,9 +167,13 @@ TEST_F(HelpWindowTest, FindsWordsAndBeginsAgainAtTheTop) {
 
 TEST_F(HelpWindowTest, SaysWhenWordsAreNotThere) {
   help.ShowTopic(110);
+  EXPECT_TRUE(help.statusBar()->isHidden());
   help.findChild<QLineEdit*>(QStringLiteral("find"))->setText(QStringLiteral("zebra"));
   EXPECT_FALSE(help.FindNext());
   EXPECT_EQ(help.statusBar()->currentMessage(), QStringLiteral("\"zebra\" is not on this page."));
+  EXPECT_FALSE(help.statusBar()->isHidden());
+  help.ShowTopic(0);
+  EXPECT_TRUE(help.statusBar()->isHidden());
 }
 
 TEST(HelpOnTop, KeepsOneWindowForTheFrame) {
