@@ -5,6 +5,7 @@
 
 #include "base/text.h"
 #include "desktop/grid/grid_grounds.h"
+#include "desktop/style/shapes.h"
 
 namespace tallyroll {
 namespace {
@@ -69,10 +70,15 @@ class Painting {
     return HasCurrentCell(grid_) && column.index == grid_.Col;
   }
 
+  struct Line {
+    QRect along;
+    Qt::Edge edge;
+  };
+
   void PaintLines() {
-    std::vector<QLine> faint, strong;
-    const int right = bands_.columns.empty() ? -1 : EndOf(bands_.columns.back()) - 1;
-    const int bottom = bands_.rows.empty() ? -1 : EndOf(bands_.rows.back()) - 1;
+    std::vector<Line> faint, strong;
+    const int right = bands_.columns.empty() ? 0 : EndOf(bands_.columns.back());
+    const int bottom = bands_.rows.empty() ? 0 : EndOf(bands_.rows.back());
     const int left = std::max(area_.left(), 0), top = std::max(area_.top(), 0);
     for (const Band& row : bands_.rows) {
       const bool last_head = row.index == grid_.FixedRows - 1;
@@ -80,20 +86,23 @@ class Painting {
       // The two lines of a head are one over the pinned columns.
       const bool within_head = row.index < grid_.FixedRows - 1;
       const int from = within_head ? std::max(left, picture_.columns.FixedSize()) : left;
-      const int y = EndOf(row) - 1;
-      if (from <= right) (last_head || fifth ? strong : faint).emplace_back(from, y, right, y);
+      const QRect along(from, row.start, right - from, row.size);
+      (last_head || fifth ? strong : faint).push_back({along, Qt::BottomEdge});
     }
     for (const Band& column : bands_.columns) {
       const bool edge = column.start + column.size == picture_.columns.FixedSize();
-      const int x = EndOf(column) - 1;
       // The frame is the line there.
-      if (picture_.framed_right && x == view_.width() - 1) continue;
-      (edge ? strong : faint).emplace_back(x, top, x, bottom);
+      if (picture_.framed_right && EndOf(column) == view_.width()) continue;
+      const QRect along(column.start, top, column.size, bottom - top);
+      (edge ? strong : faint).push_back({along, Qt::RightEdge});
     }
-    painter_.setPen(tokens().grid_line);
-    painter_.drawLines(faint.data(), static_cast<int>(faint.size()));
-    painter_.setPen(tokens().strong_line);
-    painter_.drawLines(strong.data(), static_cast<int>(strong.size()));
+    PaintLines(faint, tokens().grid_line);
+    PaintLines(strong, tokens().strong_line);
+  }
+
+  void PaintLines(const std::vector<Line>& lines, const QColor& color) {
+    for (const Line& line : lines)
+      if (!line.along.isEmpty()) DrawEdge(painter_, line.along, line.edge, color);
   }
 
   // Round the cell in work; and where its row and its column begin.
@@ -110,12 +119,8 @@ class Painting {
     if (row != bands_.rows.end() && grid_.FixedCols > 0 && picture_.columns.FixedSize() > 0)
       painter_.fillRect(0, row->start, picture_.fonts.Px(3), row->size - 1, color);
     if (row == bands_.rows.end() || column == bands_.columns.end()) return;
-    const QRectF ring = QRectF(CellOf(*row, *column)).adjusted(0, 0, -1, -1);
-    painter_.setRenderHint(QPainter::Antialiasing);
-    painter_.setPen(QPen(color, kRing));
-    painter_.setBrush(tokens().surface);
-    painter_.drawRoundedRect(ring.adjusted(1, 1, -1, -1), kRingRadius, kRingRadius);
-    painter_.setRenderHint(QPainter::Antialiasing, false);
+    const QRect within = CellOf(*row, *column).adjusted(0, 0, -1, -1);
+    DrawBox(painter_, within, kRingRadius + kRing / 2, tokens().surface, color, kRing);
   }
 
   // A heading covers the lines below it.

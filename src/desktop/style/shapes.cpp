@@ -13,6 +13,21 @@ QPen RoundPen(const QColor& color, double width) {
   return QPen(color, width, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin);
 }
 
+// A line's thickness in whole dots: a frame keeps room for no more, so a half goes down.
+double WholeLine(double dots) {
+  return std::max(std::ceil(dots - 0.5), 1.0);
+}
+
+// A box of whole pixels, as large as the dots that its widget may paint on. At a fraction of a
+// scale its edges would else lie across dots: paler here than there, and cut where the widget ends.
+QRectF OnDots(const QTransform& to_dots, const QRectF& rect) {
+  return to_dots.inverted().mapRect(QRectF(to_dots.mapRect(rect).toRect()));
+}
+
+bool OfWholePixels(const QRectF& rect) {
+  return rect == QRectF(rect.toRect());
+}
+
 }  // namespace
 
 SmoothEdges::SmoothEdges(QPainter& painter) : painter_(painter) {
@@ -23,10 +38,17 @@ SmoothEdges::SmoothEdges(QPainter& painter) : painter_(painter) {
 void DrawBox(QPainter& painter, const QRectF& rect, double radius, const QColor& fill,
              const QColor& line, double width) {
   const SmoothEdges smooth(painter);
+  const QTransform to_dots = painter.deviceTransform();
+  QRectF box = rect;
+  // What is round all round has no edge that could lie across dots.
+  if (OfWholePixels(rect) && radius < std::min(rect.width(), rect.height()) / 2) {
+    box = OnDots(to_dots, rect);
+    if (width == std::floor(width)) width = WholeLine(width * to_dots.m22()) / to_dots.m22();
+  }
   painter.setBrush(fill.isValid() ? QBrush(fill) : QBrush(Qt::NoBrush));
   painter.setPen(line.isValid() ? QPen(line, width) : QPen(Qt::NoPen));
   const double inset = line.isValid() ? width / 2 : 0;
-  painter.drawRoundedRect(rect.adjusted(inset, inset, -inset, -inset), radius - inset,
+  painter.drawRoundedRect(box.adjusted(inset, inset, -inset, -inset), radius - inset,
                           radius - inset);
 }
 
@@ -36,6 +58,18 @@ void DrawRule(QPainter& painter, const QRect& rule, const QColor& color) {
   const auto whole = [](double length) { return std::max(std::round(length), 1.0); };
   const QRectF dots(std::round(place.left()), std::round(place.top()), whole(place.width()),
                     whole(place.height()));
+  painter.fillRect(to_dots.inverted().mapRect(dots), color);
+}
+
+void DrawEdge(QPainter& painter, const QRect& rect, Qt::Edge edge, const QColor& color) {
+  const QTransform to_dots = painter.deviceTransform();
+  const QRectF place = to_dots.mapRect(QRectF(rect));
+  QRectF dots(QPointF(std::round(place.left()), std::round(place.top())),
+              QPointF(std::round(place.right()), std::round(place.bottom())));
+  if (edge == Qt::BottomEdge)
+    dots.setTop(dots.bottom() - WholeLine(to_dots.m22()));
+  else
+    dots.setLeft(dots.right() - WholeLine(to_dots.m11()));
   painter.fillRect(to_dots.inverted().mapRect(dots), color);
 }
 

@@ -28,6 +28,10 @@ void DrawBox(QPainter& painter, const QRectF& rect, double radius, const QColor&
 // and two there.
 void DrawRule(QPainter& painter, const QRect& rule, const QColor& color);
 
+// A line within the rectangle, along its right or its lower edge: as thick wherever it lies, and it
+// ends where a ground of the same rectangle ends.
+void DrawEdge(QPainter& painter, const QRect& rect, Qt::Edge edge, const QColor& color);
+
 // An open arrow in the middle of the box.
 void DrawArrow(QPainter& painter, const QRectF& box, Qt::ArrowType way, const QColor& color,
                double size);
