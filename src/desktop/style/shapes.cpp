@@ -21,7 +21,10 @@ double WholeLine(double dots) {
 // A box of whole pixels, as large as the dots that its widget may paint on. At a fraction of a
 // scale its edges would else lie across dots: paler here than there, and cut where the widget ends.
 QRectF OnDots(const QTransform& to_dots, const QRectF& rect) {
-  return to_dots.inverted().mapRect(QRectF(to_dots.mapRect(rect).toRect()));
+  // The painter cuts lengths to 64ths of a dot, so none may come back a hair too short.
+  constexpr double kHair = 1.0 / 1024;
+  const QRectF dots = to_dots.mapRect(rect).toRect();
+  return to_dots.inverted().mapRect(dots.translated(kHair, kHair));
 }
 
 bool OfWholePixels(const QRectF& rect) {

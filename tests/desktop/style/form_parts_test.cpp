@@ -12,6 +12,7 @@
 #include <QStackedWidget>
 #include <cstdlib>
 
+#include "averages/portals/frminfo.h"
 #include "averages/portals/frmoptions.h"
 #include "averages/portals/frmpercents.h"
 #include "averages/portals/frmpoints.h"
@@ -43,14 +44,30 @@ class FormParts : public ClassDialogs {
   }
   int LeftOf(const QWidget& widget) const { return widget.mapTo(dialog.get(), QPoint()).x(); }
   int RightOf(const QWidget& widget) const { return LeftOf(widget) + widget.width(); }
-  // From the left edge of the window: where the last ink of a figure ends.
+  static int Px(double length) {
+    return qobject_cast<const ProgramStyle*>(QApplication::style())->measures().Px(length);
+  }
+  // In the height that its form gives it, however small the screen of the tests is.
+  void ExpectNoGradeHidden(Portal& portal, int height, const Look& look) {
+    portal.Load();
+    dialog = std::make_unique<PortalDialog>(portal);
+    dialog->show();
+    dialog->resize(Px(960), Px(height));
+    QCoreApplication::processEvents();
+    const QScrollBar* bar = Find<GridWidget>("grdgrade").verticalScrollBar();
+    EXPECT_EQ(bar->maximum(), bar->minimum())
+        << dialog->objectName().toStdString() << " " << look.name;
+    dialog.reset();
+  }
+  // From the left edge of the window: where the last ink of a figure ends, and the room that its
+  // font keeps behind a nought.
   int InkEnd(QWidget& figure) const {
     const QImage picture = figure.grab().toImage();
     const int middle = picture.height() / 2;
     const QRgb ground = picture.pixel(picture.width() / 2, middle);
     int x = picture.width() - 1;
     while (x > 0 && picture.pixel(x, middle) == ground) --x;
-    return LeftOf(figure) + x;
+    return LeftOf(figure) + x + qRound(QFontMetricsF(figure.font()).rightBearing(u'0'));
   }
 };
 
@@ -196,7 +213,7 @@ TEST_F(FormParts, TheScaleOfTheRoundingHasNoGapAtItsSide) {
   Current().Method = 0;
   frmroundoff portal;
   Open(portal);
-  EXPECT_EQ(LeftOf(Find<QGroupBox>("modegroup")) - RightOf(Find<GridWidget>("grdgrade")), 20);
+  EXPECT_EQ(LeftOf(Find<QGroupBox>("modegroup")) - RightOf(Find<GridWidget>("grdgrade")), Px(20));
 }
 
 TEST_F(FormParts, FiguresThatAreOnlyShownEndBelowEachOther) {
@@ -212,16 +229,22 @@ TEST_F(FormParts, FourteenGradesOfAStudentAreSeenAtOnceAtEveryDensity) {
   for (int i = 3; i <= 14; ++i) AddGrade("Grade", "T");
   for (const Look& look : kLooks) {
     const WornLook worn(look);
-    frmscrnavg portal;
-    portal.Load();
-    dialog = std::make_unique<PortalDialog>(portal);
-    dialog->show();
-    const auto& style = *qobject_cast<const ProgramStyle*>(QApplication::style());
-    dialog->resize(style.measures().Px(960), style.measures().Px(620));
-    QCoreApplication::processEvents();
-    EXPECT_EQ(Find<GridWidget>("grdgrade").verticalScrollBar()->maximum(),
-              Find<GridWidget>("grdgrade").verticalScrollBar()->minimum())
-        << look.name;
+    frmscrnavg averages;
+    ExpectNoGradeHidden(averages, 626, look);
+    frminfo information;
+    ExpectNoGradeHidden(information, 626, look);
+  }
+}
+
+// In a picture of the screen's own dots, as large beside the words at every density.
+TEST_F(FormParts, ThePictureOfTheWizardGrowsWithTheFont) {
+  for (const Look& look : kLooks) {
+    const WornLook worn(look);
+    frmWizard portal;
+    Open(portal);
+    const QPixmap picture = Find<QLabel>("Picture2").pixmap();
+    EXPECT_EQ(picture.deviceIndependentSize(), QSizeF(Px(128), Px(128))) << look.name;
+    EXPECT_EQ(picture.devicePixelRatio(), qApp->devicePixelRatio()) << look.name;
     dialog.reset();
   }
 }
