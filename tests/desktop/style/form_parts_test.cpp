@@ -47,12 +47,12 @@ class FormParts : public ClassDialogs {
   static int Px(double length) {
     return qobject_cast<const ProgramStyle*>(QApplication::style())->measures().Px(length);
   }
-  // In the height that its form gives it, however small the screen of the tests is.
-  void ExpectNoGradeHidden(Portal& portal, int height, const Look& look) {
+  // In the height that its form gives it, however narrow the screen of the tests is.
+  void ExpectNoGradeHidden(Portal& portal, const Look& look) {
     portal.Load();
     dialog = std::make_unique<PortalDialog>(portal);
     dialog->show();
-    dialog->resize(Px(960), Px(height));
+    dialog->resize(Px(960), dialog->height());
     QCoreApplication::processEvents();
     const QScrollBar* bar = Find<GridWidget>("grdgrade").verticalScrollBar();
     EXPECT_EQ(bar->maximum(), bar->minimum())
@@ -230,9 +230,9 @@ TEST_F(FormParts, FourteenGradesOfAStudentAreSeenAtOnceAtEveryDensity) {
   for (const Look& look : kLooks) {
     const WornLook worn(look);
     frmscrnavg averages;
-    ExpectNoGradeHidden(averages, 626, look);
+    ExpectNoGradeHidden(averages, look);
     frminfo information;
-    ExpectNoGradeHidden(information, 626, look);
+    ExpectNoGradeHidden(information, look);
   }
 }
 
