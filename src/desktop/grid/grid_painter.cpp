@@ -12,7 +12,7 @@ namespace {
 
 constexpr double kShade = 8;
 constexpr double kRing = 2;
-constexpr double kRingRadius = 2.5;
+constexpr double kRingRadius = 3.5;
 constexpr double kNoticeMargin = 12;
 
 class Painting {
@@ -70,15 +70,13 @@ class Painting {
     return HasCurrentCell(grid_) && column.index == grid_.Col;
   }
 
-  struct Line {
-    QRect along;
-    Qt::Edge edge;
-  };
-
   void PaintLines() {
-    std::vector<Line> faint, strong;
-    const int right = bands_.columns.empty() ? 0 : EndOf(bands_.columns.back());
-    const int bottom = bands_.rows.empty() ? 0 : EndOf(bands_.rows.back());
+    std::vector<QRect> strong;
+    const auto draw = [&](const QRect& rule, bool is_strong) {
+      is_strong ? strong.push_back(rule) : DrawRule(painter_, rule, tokens().grid_line);
+    };
+    const int right = bands_.columns.empty() ? -1 : EndOf(bands_.columns.back()) - 1;
+    const int bottom = bands_.rows.empty() ? -1 : EndOf(bands_.rows.back()) - 1;
     const int left = std::max(area_.left(), 0), top = std::max(area_.top(), 0);
     for (const Band& row : bands_.rows) {
       const bool last_head = row.index == grid_.FixedRows - 1;
@@ -86,23 +84,17 @@ class Painting {
       // The two lines of a head are one over the pinned columns.
       const bool within_head = row.index < grid_.FixedRows - 1;
       const int from = within_head ? std::max(left, picture_.columns.FixedSize()) : left;
-      const QRect along(from, row.start, right - from, row.size);
-      (last_head || fifth ? strong : faint).push_back({along, Qt::BottomEdge});
+      const int y = EndOf(row) - 1;
+      if (from <= right) draw({from, y, right - from + 1, 1}, last_head || fifth);
     }
     for (const Band& column : bands_.columns) {
       const bool edge = column.start + column.size == picture_.columns.FixedSize();
+      const int x = EndOf(column) - 1;
       // The frame is the line there.
-      if (picture_.framed_right && EndOf(column) == view_.width()) continue;
-      const QRect along(column.start, top, column.size, bottom - top);
-      (edge ? strong : faint).push_back({along, Qt::RightEdge});
+      if (picture_.framed_right && x == view_.width() - 1) continue;
+      if (top <= bottom) draw({x, top, 1, bottom - top + 1}, edge);
     }
-    PaintLines(faint, tokens().grid_line);
-    PaintLines(strong, tokens().strong_line);
-  }
-
-  void PaintLines(const std::vector<Line>& lines, const QColor& color) {
-    for (const Line& line : lines)
-      if (!line.along.isEmpty()) DrawEdge(painter_, line.along, line.edge, color);
+    for (const QRect& rule : strong) DrawRule(painter_, rule, tokens().strong_line);
   }
 
   // Round the cell in work; and where its row and its column begin.
@@ -119,8 +111,8 @@ class Painting {
     if (row != bands_.rows.end() && grid_.FixedCols > 0 && picture_.columns.FixedSize() > 0)
       painter_.fillRect(0, row->start, picture_.fonts.Px(3), row->size - 1, color);
     if (row == bands_.rows.end() || column == bands_.columns.end()) return;
-    const QRect within = CellOf(*row, *column).adjusted(0, 0, -1, -1);
-    DrawBox(painter_, within, kRingRadius + kRing / 2, tokens().surface, color, kRing);
+    DrawBox(painter_, CellOf(*row, *column).adjusted(0, 0, -1, -1), kRingRadius, tokens().surface,
+            color, kRing);
   }
 
   // A heading covers the lines below it.
@@ -136,7 +128,11 @@ class Painting {
       if (first.index < grid_.FixedCols) continue;  // named below
       const int right = std::min(EndOf(last), view_.width());
       const QRect cell(first.start, row->start, right - first.start, row->size);
-      painter_.fillRect(cell.adjusted(0, 0, -1, -1), tokens().header);
+      painter_.fillRect(cell, tokens().header);
+      DrawRule(painter_, {cell.left(), cell.bottom(), cell.width(), 1}, tokens().grid_line);
+      const bool ends_in_view = EndOf(last) <= view_.width() - (picture_.framed_right ? 1 : 0);
+      if (ends_in_view)
+        DrawRule(painter_, {cell.right(), cell.top(), 1, cell.height()}, tokens().grid_line);
       cells_.GroupHead(grid_.TextMatrix(row->index, first.index), cell);
     }
   }

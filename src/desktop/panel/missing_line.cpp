@@ -8,6 +8,7 @@
 
 #include "desktop/basics/text_conversion.h"
 #include "desktop/panel/panel_words.h"
+#include "desktop/style/shapes.h"
 #include "desktop/style/tokens.h"
 #include "grades/mark_notes.h"
 
@@ -48,10 +49,11 @@ void MissingLine::paintEvent(QPaintEvent*) {
   const Tokens t = TokensOf(palette());
   const double radius = PanelPx(*this, kMissingRadius);
   QPainter painter(this);
-  painter.setRenderHint(QPainter::Antialiasing);
-  painter.setPen(hasFocus() ? QPen(t.focus, 2) : QPen(Qt::NoPen));
-  painter.setBrush(isDown() ? t.pressed : underMouse() ? t.hover : QColor(Qt::transparent));
-  painter.drawRoundedRect(QRectF(rect()).adjusted(1, 1, -1, -1), radius, radius);
+  DrawBox(painter, rect(), radius,
+          isDown()       ? t.pressed
+          : underMouse() ? t.hover
+                         : QColor(),
+          hasFocus() ? t.focus : QColor(), 2);
 }
 
 void MissingLine::mouseDoubleClickEvent(QMouseEvent* event) {

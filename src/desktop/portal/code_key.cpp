@@ -39,7 +39,8 @@ std::array<int, kCodeWords.size() + 1> PlacesOf(const GridFonts& fonts) {
 }  // namespace
 
 CodeKey::CodeKey(QWidget* parent) : QWidget(parent), SpokenAs(QAccessible::Graphic) {
-  setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+  // It takes what its row leaves free, and stands at the end of it.
+  setSizePolicy(QSizePolicy::Minimum, QSizePolicy::Fixed);
   QStringList words;
   for (const CodeWord& each : kCodeWords)
     words << QStringLiteral("%1 %2").arg(QLatin1String(each.code), QLatin1String(each.word));
@@ -58,10 +59,11 @@ void CodeKey::paintEvent(QPaintEvent*) {
   QPainter painter(this);
   painter.setRenderHint(QPainter::Antialiasing);
   const int side = fonts.chip.WidthOf("M") + fonts.Px(kChipSide);
+  const int left = width() - sizeHint().width();
   const int baseline = (height() - fonts.chip.Height()) / 2 + fonts.chip.Ascent();
   for (std::size_t i = 0; i < kCodeWords.size(); ++i) {
     const ChipLook look = colors.ChipOf(kCodeWords[i].mark);
-    const QRect chip(places[i], 1, side, height() - 2);
+    const QRect chip(left + places[i], 1, side, height() - 2);
     painter.setPen(Qt::NoPen);
     painter.setBrush(look.ground);
     painter.drawRoundedRect(chip, fonts.Px(4), fonts.Px(4));

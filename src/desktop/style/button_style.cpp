@@ -21,6 +21,7 @@ bool Wraps(const QWidget* widget) {
 
 constexpr double kButtonRadius = 6, kSmallRadius = 4;
 constexpr double kIndicatorSide = 16, kIndicatorGap = 8, kIndicatorInset = 3;
+constexpr double kBehindWords = 6;
 constexpr double kLeastButton = 84, kArrowButton = 36, kBesideWord = 14;
 
 QColor GroundOf(const StyleBrush& b) {
@@ -147,19 +148,24 @@ void DrawTickRow(const QStyleOptionButton& button, bool round, StyleBrush& b) {
   DrawIndicatorIn(box, round, button.state & QStyle::State_NoChange, b);
   const QRect words =
       button.rect.adjusted(box.right() + 1 - button.rect.left() + b.m.Px(kIndicatorGap), 0, 0, 0);
+  const int flags = Qt::AlignVCenter | Qt::AlignLeft | b.Mnemonic(button) |
+                    (wraps ? static_cast<int>(Qt::TextWordWrap) : 0);
   b.painter.save();
   b.painter.setPen(b.Text());
-  const int wrapped = wraps ? static_cast<int>(Qt::TextWordWrap) : 0;
-  b.painter.drawText(words, Qt::AlignVCenter | Qt::AlignLeft | wrapped | b.Mnemonic(button),
-                     button.text);
+  b.painter.drawText(words, flags, button.text);
   b.painter.restore();
-  if (b.shows_focus) DrawBox(b.painter, button.rect, b.m.Px(kSmallRadius), QColor(), b.t.focus, 2);
+  if (!b.shows_focus) return;
+  // Round the sign and its words, however wide its pane lets the row be.
+  QRect ring = button.rect;
+  const int end = button.fontMetrics.boundingRect(words, flags, button.text).right();
+  ring.setRight(std::min(ring.right(), end + b.m.Px(kBehindWords)));
+  DrawBox(b.painter, ring, b.m.Px(kSmallRadius), QColor(), b.t.focus, 2);
 }
 
 QSize TickSize(const QStyleOptionButton& button, const Measures& m) {
   const int text = button.fontMetrics.size(Qt::TextShowMnemonic, button.text).width();
   const int lines = button.fontMetrics.size(Qt::TextShowMnemonic, button.text).height();
-  return {m.Px(kIndicatorInset + kIndicatorSide + kIndicatorGap + 6) + text,
+  return {m.Px(kIndicatorInset + kIndicatorSide + kIndicatorGap + kBehindWords) + text,
           std::max(m.TickRow(), lines + m.Px(6))};
 }
 

@@ -18,12 +18,13 @@ void DrawTabShape(const QStyleOptionTab& tab, StyleBrush& b) {
   const QRectF rect(tab.rect);
   if (b.hover && !front)
     DrawBox(b.painter, rect.adjusted(2, 4, -2, -4), b.m.Px(kTabRadius), b.t.hover);
-  b.painter.fillRect(QRect(tab.rect.left(), tab.rect.bottom(), tab.rect.width(), 1), b.t.line);
+  DrawRule(b.painter, QRect(tab.rect.left(), tab.rect.bottom(), tab.rect.width(), 1), b.t.line);
   if (!front) return;
   const int line = b.m.Px(kTabUnderline);
-  b.painter.fillRect(QRect(tab.rect.left() + b.m.Px(4), tab.rect.bottom() + 1 - line,
-                           tab.rect.width() - 2 * b.m.Px(4), line),
-                     b.enabled ? b.t.focus : b.t.off);
+  DrawRule(b.painter,
+           QRect(tab.rect.left() + b.m.Px(4), tab.rect.bottom() + 1 - line,
+                 tab.rect.width() - 2 * b.m.Px(4), line),
+           b.enabled ? b.t.focus : b.t.off);
 }
 
 void DrawTabWord(const QStyleOptionTab& tab, StyleBrush& b) {

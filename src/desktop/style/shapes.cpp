@@ -13,22 +13,30 @@ QPen RoundPen(const QColor& color, double width) {
   return QPen(color, width, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin);
 }
 
-// A line's thickness in whole dots: a frame keeps room for no more, so a half goes down.
-double WholeLine(double dots) {
-  return std::max(std::ceil(dots - 0.5), 1.0);
+// That many dots and one at least.
+double WholeDots(double length) {
+  return std::max(std::round(length), 1.0);
 }
 
-// A box of whole pixels, as large as the dots that its widget may paint on. At a fraction of a
-// scale its edges would else lie across dots: paler here than there, and cut where the widget ends.
-QRectF OnDots(const QTransform& to_dots, const QRectF& rect) {
-  // The painter cuts lengths to 64ths of a dot, so none may come back a hair too short.
-  constexpr double kHair = 1.0 / 1024;
-  const QRectF dots = to_dots.mapRect(rect).toRect();
-  return to_dots.inverted().mapRect(dots.translated(kHair, kHair));
+// A ring fills the two pixels that a frame leaves it, which may be the lesser number of dots.
+double DotsOfLine(double width, double scale) {
+  return width < 2 ? WholeDots(width * scale) : std::floor(width * scale);
 }
 
-bool OfWholePixels(const QRectF& rect) {
-  return rect == QRectF(rect.toRect());
+struct BoxPlace {
+  QRectF rect;
+  double width;  // of its line
+};
+
+// At a fraction of a scale an edge between two dots would be smeared over both.
+BoxPlace OnWholeDots(const QPainter& painter, const QRectF& rect, double width) {
+  const QTransform to_dots = painter.deviceTransform();
+  const double scale = to_dots.m11();
+  if (to_dots.type() > QTransform::TxScale || scale == std::floor(scale)) return {rect, width};
+  const QRectF place = to_dots.mapRect(rect);
+  const QPointF first(std::round(place.left()), std::round(place.top()));
+  const QPointF end(std::round(place.right()), std::round(place.bottom()));
+  return {to_dots.inverted().mapRect(QRectF(first, end)), DotsOfLine(width, scale) / scale};
 }
 
 }  // namespace
@@ -41,38 +49,26 @@ SmoothEdges::SmoothEdges(QPainter& painter) : painter_(painter) {
 void DrawBox(QPainter& painter, const QRectF& rect, double radius, const QColor& fill,
              const QColor& line, double width) {
   const SmoothEdges smooth(painter);
-  const QTransform to_dots = painter.deviceTransform();
-  QRectF box = rect;
-  // What is round all round has no edge that could lie across dots.
-  if (OfWholePixels(rect) && radius < std::min(rect.width(), rect.height()) / 2) {
-    box = OnDots(to_dots, rect);
-    if (width == std::floor(width)) width = WholeLine(width * to_dots.m22()) / to_dots.m22();
-  }
+  // A disc stays round, wherever it lies.
+  const bool disc = 2 * radius >= std::min(rect.width(), rect.height());
+  const BoxPlace place = disc ? BoxPlace{rect, width} : OnWholeDots(painter, rect, width);
   painter.setBrush(fill.isValid() ? QBrush(fill) : QBrush(Qt::NoBrush));
-  painter.setPen(line.isValid() ? QPen(line, width) : QPen(Qt::NoPen));
-  const double inset = line.isValid() ? width / 2 : 0;
-  painter.drawRoundedRect(box.adjusted(inset, inset, -inset, -inset), radius - inset,
+  painter.setPen(line.isValid() ? QPen(line, place.width) : QPen(Qt::NoPen));
+  const double inset = line.isValid() ? place.width / 2 : 0;
+  painter.drawRoundedRect(place.rect.adjusted(inset, inset, -inset, -inset), radius - inset,
                           radius - inset);
 }
 
 void DrawRule(QPainter& painter, const QRect& rule, const QColor& color) {
   const QTransform to_dots = painter.deviceTransform();
   const QRectF place = to_dots.mapRect(QRectF(rule));
-  const auto whole = [](double length) { return std::max(std::round(length), 1.0); };
-  const QRectF dots(std::round(place.left()), std::round(place.top()), whole(place.width()),
-                    whole(place.height()));
-  painter.fillRect(to_dots.inverted().mapRect(dots), color);
-}
-
-void DrawEdge(QPainter& painter, const QRect& rect, Qt::Edge edge, const QColor& color) {
-  const QTransform to_dots = painter.deviceTransform();
-  const QRectF place = to_dots.mapRect(QRectF(rect));
   QRectF dots(QPointF(std::round(place.left()), std::round(place.top())),
               QPointF(std::round(place.right()), std::round(place.bottom())));
-  if (edge == Qt::BottomEdge)
-    dots.setTop(dots.bottom() - WholeLine(to_dots.m22()));
+  // Thin from its far side: there what lies behind it begins.
+  if (rule.width() < rule.height())
+    dots.setLeft(dots.right() - WholeDots(place.width()));
   else
-    dots.setLeft(dots.right() - WholeLine(to_dots.m11()));
+    dots.setTop(dots.bottom() - WholeDots(place.height()));
   painter.fillRect(to_dots.inverted().mapRect(dots), color);
 }
 

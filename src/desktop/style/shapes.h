@@ -20,17 +20,14 @@ class SmoothEdges {
   QPainter& painter_;
 };
 
-// A box with round corners whose line lies within the rectangle. An invalid colour draws nothing.
+// A box with round corners whose line lies within the rectangle, on whole dots of the screen. An
+// invalid colour draws nothing.
 void DrawBox(QPainter& painter, const QRectF& rect, double radius, const QColor& fill,
              const QColor& line = QColor(), double width = 1);
 
 // A line as thick wherever it lies: at a fraction of a scale a pixel is one dot of the screen here
 // and two there.
 void DrawRule(QPainter& painter, const QRect& rule, const QColor& color);
-
-// A line within the rectangle, along its right or its lower edge: as thick wherever it lies, and it
-// ends where a ground of the same rectangle ends.
-void DrawEdge(QPainter& painter, const QRect& rect, Qt::Edge edge, const QColor& color);
 
 // An open arrow in the middle of the box.
 void DrawArrow(QPainter& painter, const QRectF& box, Qt::ArrowType way, const QColor& color,

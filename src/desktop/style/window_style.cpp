@@ -151,8 +151,8 @@ bool DrawTitleBar(const QStyleOptionComplex& option, StyleBrush& brush) {
   const bool front = bar->titleBarState & QStyle::State_Active;
   const QColor words = front ? brush.t.text : brush.t.muted;
   brush.painter.fillRect(bar->rect, front ? brush.t.raised : brush.t.header);
-  brush.painter.fillRect(QRect(bar->rect.left(), bar->rect.bottom(), bar->rect.width(), 1),
-                         brush.t.line);
+  DrawRule(brush.painter, QRect(bar->rect.left(), bar->rect.bottom(), bar->rect.width(), 1),
+           brush.t.line);
   const auto part = [&](QStyle::SubControl which) {
     return brush.style.subControlRect(QStyle::CC_TitleBar, bar, which, brush.widget);
   };

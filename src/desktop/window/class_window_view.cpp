@@ -144,17 +144,16 @@ bool ClassWindowView::HasRoomForPanel() const {
 void ClassWindowView::FitPanel() {
   if (HasRoomForPanel()) insists_on_panel_ = false;
   const bool shown = wants_panel_ && (HasRoomForPanel() || insists_on_panel_);
-  if (panel_->isVisibleTo(panel_->parentWidget()) != shown) panel_->setVisible(shown);
+  if (panel_->isVisibleTo(panel_->parentWidget()) == shown) return;
+  panel_->setVisible(shown);
+  Sync();  // what tells of it: the menu's tick, the button of the status line
 }
 
 void ClassWindowView::TogglePanel() {
-  const bool shown = panel_->isVisibleTo(panel_->parentWidget());
   if (panel_->isAncestorOf(focusWidget())) grid_->setFocus();
-  wants_panel_ = !shown;
-  insists_on_panel_ = !shown;
+  wants_panel_ = insists_on_panel_ = !panel_->isVisibleTo(panel_->parentWidget());
   QSettings().setValue(PanelKey(), wants_panel_);
   FitPanel();
-  Sync();
 }
 
 void ClassWindowView::resizeEvent(QResizeEvent* event) {

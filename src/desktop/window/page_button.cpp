@@ -6,6 +6,7 @@
 #include <QPainter>
 
 #include "desktop/basics/palette_icon.h"
+#include "desktop/style/shapes.h"
 #include "desktop/style/tokens.h"
 
 namespace tallyroll {
@@ -13,7 +14,7 @@ namespace {
 
 // Pixels of the plan, which is drawn for a font of 13.
 constexpr double kPlannedFont = 13;
-constexpr double kCardHeight = 60, kLineHeight = 49;
+constexpr double kCardHeight = 60;
 constexpr double kTile = 40, kTileRadius = 6, kGlyph = 22;
 constexpr double kMargin = 14, kCardRadius = 10, kLineRadius = 6;
 constexpr double kRing = 2;
@@ -45,8 +46,14 @@ int PageButton::Px(double of_plan) const {
   return qRound(of_plan * QFontInfo(font()).pixelSize() / kPlannedFont);
 }
 
+int PageButton::Corner() const {
+  return Px(kind_ == Kind::kCard ? kCardRadius : kLineRadius);
+}
+
+// A card with one line is as high as a card by itself.
 QSize PageButton::sizeHint() const {
-  return {Px(kLeastWidth), Px(kind_ == Kind::kCard ? kCardHeight : kLineHeight)};
+  const int around = kind_ == Kind::kCard ? 0 : 2 * kPageCardMargin - 1;
+  return {Px(kLeastWidth), Px(kCardHeight) - around};
 }
 
 QSize PageButton::minimumSizeHint() const {
@@ -62,25 +69,15 @@ void PageButton::keyPressEvent(QKeyEvent* event) {
 void PageButton::PaintGround(QPainter& painter) const {
   const Tokens t = TokensOf(palette());
   const bool card = kind_ == Kind::kCard;
-  const double radius = Px(card ? kCardRadius : kLineRadius);
-  const QRectF edge = QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5);
-  const QColor usual = card ? t.raised : QColor(Qt::transparent);
+  const double radius = Corner();
+  const QColor usual = card ? t.raised : QColor();
   const QColor ground = isDown() ? t.pressed : underMouse() ? t.hover : usual;
-  painter.setPen(card ? QPen(t.line) : QPen(Qt::NoPen));
-  painter.setBrush(ground);
-  painter.drawRoundedRect(edge, radius, radius);
-  if (!hasFocus()) return;
-  painter.setPen(QPen(t.focus, kRing));
-  painter.setBrush(Qt::NoBrush);
-  painter.drawRoundedRect(QRectF(rect()).adjusted(1, 1, -1, -1), radius, radius);
+  DrawBox(painter, rect(), radius, ground, card ? t.line : QColor());
+  if (hasFocus()) DrawBox(painter, rect(), radius, QColor(), t.focus, kRing);
 }
 
 void PageButton::PaintIcon(QPainter& painter, const QRect& tile) const {
-  if (kind_ == Kind::kCard) {
-    painter.setPen(Qt::NoPen);
-    painter.setBrush(TokensOf(palette()).accent_soft);
-    painter.drawRoundedRect(tile, Px(kTileRadius), Px(kTileRadius));
-  }
+  DrawBox(painter, tile, Px(kTileRadius), TokensOf(palette()).accent_soft);
   QRect glyph(0, 0, Px(kGlyph), Px(kGlyph));
   glyph.moveCenter(tile.center());
   PaletteIcon(icon_, palette()).paint(&painter, glyph);
@@ -91,13 +88,14 @@ void PageButton::paintEvent(QPaintEvent*) {
   QPainter painter(this);
   painter.setRenderHint(QPainter::Antialiasing);
   PaintGround(painter);
-  const int margin = Px(kMargin);
+  // The words of a line begin below those of a card: its card is wider by its own margin.
+  const int margin = Px(kMargin) - (kind_ == Kind::kLine ? kPageCardMargin : 0);
   QRect tile(margin, 0, Px(kTile), Px(kTile));
   tile.moveTop((height() - tile.height()) / 2);
   PaintIcon(painter, tile);
   const QFont title = FontFor(font(), TextUse::kHeading), small = FontFor(font(), TextUse::kSmall);
   const QFontMetrics of_title(title), of_small(small);
-  const int left = tile.right() + margin, room = width() - left - margin;
+  const int left = tile.right() + Px(kMargin), room = width() - left - margin;
   int y = (height() - of_title.height() - of_small.height()) / 2;
   painter.setFont(title);
   painter.setPen(t.text);
@@ -119,11 +117,7 @@ void PageButton::paintEvent(QPaintEvent*) {
 void PageCard::paintEvent(QPaintEvent*) {
   const Tokens t = TokensOf(palette());
   QPainter painter(this);
-  painter.setRenderHint(QPainter::Antialiasing);
-  painter.setPen(t.line);
-  painter.setBrush(t.raised);
-  const double radius = kCardRadius;
-  painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), radius, radius);
+  DrawBox(painter, rect(), kCardRadius, t.raised, t.line);
 }
 
 }  // namespace tallyroll

@@ -18,6 +18,9 @@ class PageButton : public QCommandLinkButton {
   void SetFacts(const QString& facts);
   QString facts() const { return facts_; }
 
+  // How far its corners are rounded.
+  int Corner() const;
+
   QSize sizeHint() const override;
   QSize minimumSizeHint() const override;
 
@@ -34,6 +37,9 @@ class PageButton : public QCommandLinkButton {
   QString icon_;
   QString facts_;
 };
+
+// What lies between a card's edge and the lines in it.
+inline constexpr int kPageCardMargin = 6;
 
 // The ground that lines stand on.
 class PageCard : public QWidget {

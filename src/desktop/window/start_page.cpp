@@ -141,7 +141,7 @@ QVBoxLayout* StartPage::MakeRecent() {
   recent->addWidget(new PageText(tr("Recent classes"), TextUse::kHeading));
   auto* card = new PageCard;
   auto* lines = new QVBoxLayout(card);
-  lines->setContentsMargins(6, 6, 6, 6);
+  lines->setContentsMargins(kPageCardMargin, kPageCardMargin, kPageCardMargin, kPageCardMargin - 1);
   lines->setSpacing(0);
   for (int i = 0; i < kRecentFiles; ++i) {
     auto* line = new PageButton(PageButton::Kind::kLine, QStringLiteral("Grades"));

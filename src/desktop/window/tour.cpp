@@ -15,7 +15,9 @@
 #include <initializer_list>
 
 #include "desktop/grid/grid_widget.h"
+#include "desktop/style/shapes.h"
 #include "desktop/style/tokens.h"
+#include "desktop/window/page_button.h"
 #include "desktop/window/toolbar_view.h"
 #include "platform/surroundings.h"
 #include "store/settings.h"
@@ -24,11 +26,12 @@ namespace tallyroll {
 namespace {
 
 constexpr std::string_view kTourSection = "startup", kTourKey = "TOUR";
-constexpr int kTourWidth = 398;  // with its margins the card is as wide as the mark it stands below
+constexpr int kTourWidth = 394;  // with its margins the card is as wide as the mark it stands below
 constexpr int kTourMargin = 16;
-constexpr int kTourGap = 10;   // between the card and what it points at
-constexpr int kMarkWidth = 3;  // of the line around the target
-constexpr double kMarkRadius = 6;
+constexpr int kTourGap = 10;    // between the card and what it points at
+constexpr int kMarkWidth = 3;   // of the line around the target
+constexpr int kMarkBeyond = 1;  // of that beyond it: the rest covers the target's own line
+constexpr double kTourRadius = 6, kTableCorner = 4, kToolCorner = 6;
 
 struct TourStep {
   const char* tool;  // the toolbar's button; null for the table
@@ -53,24 +56,11 @@ constexpr TourStep kTourSteps[Tour::kSteps] = {
      QT_TR_NOOP("Reports for you, the students and the school: seen first, then printed or saved. "
                 "F1 explains the window you are in, Ctrl+K finds every command.")}};
 
-// A line around a real control, which stays within reach of the mouse.
-class TargetMark : public QWidget {
- public:
-  explicit TargetMark(QWidget* parent) : QWidget(parent) {
-    setAttribute(Qt::WA_TransparentForMouseEvents);
-    setObjectName(QStringLiteral("TourMark"));
-  }
-
- protected:
-  void paintEvent(QPaintEvent*) override {
-    QPainter painter(this);
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(QPen(TokensOf(palette()).focus, kMarkWidth));
-    const double inset = kMarkWidth / 2.0;
-    painter.drawRoundedRect(QRectF(rect()).adjusted(inset, inset, -inset, -inset), kMarkRadius,
-                            kMarkRadius);
-  }
-};
+// How far the corners of what is pointed at are rounded.
+double CornerOf(const QWidget* target) {
+  if (const auto* button = qobject_cast<const PageButton*>(target)) return button->Corner();
+  return qobject_cast<const GridWidget*>(target) ? kTableCorner : kToolCorner;
+}
 
 // Below the target, above it, or within it where it fills the window.
 QPoint PlaceBeside(const QRect& target, const QSize& card, const QRect& room) {
@@ -86,6 +76,29 @@ QPoint PlaceBeside(const QRect& target, const QSize& card, const QRect& room) {
 
 }  // namespace
 
+// A line around a real control, which stays within reach of the mouse.
+class TourMark : public QWidget {
+ public:
+  explicit TourMark(QWidget* parent) : QWidget(parent) {
+    setAttribute(Qt::WA_TransparentForMouseEvents);
+    setObjectName(QStringLiteral("TourMark"));
+  }
+  void PointAt(const QWidget& target, const QRect& place) {
+    corner_ = CornerOf(&target) + kMarkBeyond;
+    setGeometry(place);
+    update();
+  }
+
+ protected:
+  void paintEvent(QPaintEvent*) override {
+    QPainter painter(this);
+    DrawBox(painter, rect(), corner_, QColor(), TokensOf(palette()).focus, kMarkWidth);
+  }
+
+ private:
+  double corner_ = 0;
+};
+
 bool IsFirstStart() {
   const auto setting = [](std::string_view application, std::string_view key) {
     return Platform().ReadSetting(application, kTourSection, key, "");
@@ -99,7 +112,7 @@ bool IsFirstStart() {
 Tour::Tour(QMainWindow& frame)
     : QWidget(&frame),
       frame_(frame),
-      mark_(new TargetMark(&frame)),
+      mark_(new TourMark(&frame)),
       title_(new QLabel),
       text_(new QLabel),
       back_(new QPushButton(tr("Back"))),
@@ -189,7 +202,8 @@ void Tour::PlaceIt() {
   mark_->setVisible(target_ != nullptr);
   if (target_) {
     const QRect place(target_->mapTo(&frame_, QPoint(0, 0)), target_->size());
-    mark_->setGeometry(place.adjusted(-kMarkWidth, -kMarkWidth, kMarkWidth, kMarkWidth) & room);
+    const QRect around = place.adjusted(-kMarkBeyond, -kMarkBeyond, kMarkBeyond, kMarkBeyond);
+    mark_->PointAt(*target_, around & room);
     move(PlaceBeside(place, size(), room));
   } else {
     move(room.center() - rect().center());
@@ -213,10 +227,7 @@ bool Tour::eventFilter(QObject* watched, QEvent* event) {
 void Tour::paintEvent(QPaintEvent*) {
   const Tokens t = TokensOf(palette());
   QPainter painter(this);
-  painter.setRenderHint(QPainter::Antialiasing);
-  painter.setPen(QPen(t.focus, 1));
-  painter.setBrush(t.raised);
-  painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), kMarkRadius, kMarkRadius);
+  DrawBox(painter, rect(), kTourRadius, t.raised, t.focus);
 }
 
 void Tour::Leave() {

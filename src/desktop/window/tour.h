@@ -11,6 +11,8 @@ class QPushButton;
 
 namespace tallyroll {
 
+class TourMark;
+
 // Whether neither this version nor one before it ever kept settings here, and the tour was not
 // offered yet. Asked before the settings are loaded.
 bool IsFirstStart();
@@ -46,7 +48,7 @@ class Tour : public QWidget {
   QWidget* TargetOf(int step) const;
 
   QMainWindow& frame_;
-  QWidget* mark_;  // the frame around the target
+  TourMark* mark_;  // the frame around the target
   QLabel* title_;
   QLabel* text_;
   QPushButton* back_;

@@ -56,12 +56,13 @@ TEST_F(GridLook, BeyondTheLastCellIsTheWindow) {
 
 // A line between rows is as thick as every other, also where a pixel is no whole number of dots,
 // and no ground is seen below the last.
-TEST_F(GridLook, ItsLinesAreOfOneThicknessAtEveryScale) {
+TEST_F(GridLook, ItsRowsEndInOneLineAtEveryScale) {
   grid.SetSize(12, 20);
   widget.UpdateFromGrid();
   const QRect last = widget.CellRect(11, 6);
   const Tokens t = Colors();
-  for (const auto& [scale, dots] : {std::pair(1.25, 1), {1.5, 1}, {1.75, 2}, {2.0, 2}}) {
+  for (const double scale : {1.0, 1.25, 1.5, 1.75, 2.0}) {
+    const int dots = qRound(scale);
     QImage picture((QSizeF(widget.viewport()->size()) * scale).toSize(), QImage::Format_RGB32);
     picture.setDevicePixelRatio(scale);
     widget.viewport()->render(&picture);
@@ -77,6 +78,26 @@ TEST_F(GridLook, ItsLinesAreOfOneThicknessAtEveryScale) {
     EXPECT_EQ(runs.last(), dots) << scale << ": the last line ends with the sheet";
     runs.removeAll(0);
     EXPECT_EQ(runs, QList<int>(10, dots)) << scale;
+  }
+}
+
+TEST_F(GridLook, ItsLinesAreOfOneThicknessAtEveryScale) {
+  for (const double scale : {1.0, 1.25, 1.5, 1.75, 2.0}) {
+    QImage picture((QSizeF(widget.viewport()->size()) * scale).toSize(), QImage::Format_RGB32);
+    picture.setDevicePixelRatio(scale);
+    widget.viewport()->render(&picture);
+    // Above the words of a row, past the columns that stay.
+    const int y = qRound((widget.CellRect(4, 2).top() + 2) * scale);
+    int dots = 0, lines = 0;
+    for (int x = qRound(widget.CellRect(4, 2).left() * scale); x < picture.width(); ++x) {
+      if (picture.pixelColor(x, y) == Colors().grid_line) {
+        ++dots;
+      } else if (dots > 0) {
+        EXPECT_EQ(std::exchange(dots, 0), qRound(scale)) << scale;
+        ++lines;
+      }
+    }
+    EXPECT_GE(lines, 4) << scale;
   }
 }
 

@@ -12,15 +12,17 @@
 #include <QStackedWidget>
 #include <cstdlib>
 
-#include "averages/portals/frminfo.h"
+#include "attendance/frmAtsum.h"
+#include "attendance/frmAtt.h"
 #include "averages/portals/frmoptions.h"
 #include "averages/portals/frmpercents.h"
 #include "averages/portals/frmpoints.h"
 #include "averages/portals/frmroundoff.h"
-#include "averages/portals/frmscrnavg.h"
+#include "desktop/portal/code_key.h"
 #include "desktop/portal/form_labels.h"
 #include "desktop/portal/total_figure.h"
 #include "desktop/style/program_style.h"
+#include "desktop/style/tokens.h"
 #include "printing/frmprintall.h"
 #include "roster/frmAdd.h"
 #include "seating/frmseating.h"
@@ -46,18 +48,6 @@ class FormParts : public ClassDialogs {
   int RightOf(const QWidget& widget) const { return LeftOf(widget) + widget.width(); }
   static int Px(double length) {
     return qobject_cast<const ProgramStyle*>(QApplication::style())->measures().Px(length);
-  }
-  // In the height that its form gives it, however narrow the screen of the tests is.
-  void ExpectNoGradeHidden(Portal& portal, const Look& look) {
-    portal.Load();
-    dialog = std::make_unique<PortalDialog>(portal);
-    dialog->show();
-    dialog->resize(Px(960), dialog->height());
-    QCoreApplication::processEvents();
-    const QScrollBar* bar = Find<GridWidget>("grdgrade").verticalScrollBar();
-    EXPECT_EQ(bar->maximum(), bar->minimum())
-        << dialog->objectName().toStdString() << " " << look.name;
-    dialog.reset();
   }
   // From the left edge of the window: where the last ink of a figure ends, and the room that its
   // font keeps behind a nought.
@@ -216,6 +206,37 @@ TEST_F(FormParts, TheScaleOfTheRoundingHasNoGapAtItsSide) {
   EXPECT_EQ(LeftOf(Find<QGroupBox>("modegroup")) - RightOf(Find<GridWidget>("grdgrade")), Px(20));
 }
 
+// 30 days in September, 31 in October, which are wider: the window shows both.
+TEST_F(FormParts, TheKeyToTheCodesEndsWithTheMonth) {
+  frmAtt portal;
+  Open(portal);
+  dialog->resize(1200, 500);
+  for (int month = 0; month < 2; ++month) {
+    QCoreApplication::processEvents();
+    EXPECT_LT(RightOf(grid()), dialog->width() - 20);
+    EXPECT_EQ(RightOf(Find<CodeKey>("codekey")), RightOf(grid())) << month;
+    EXPECT_EQ(LeftOf(Find<QPushButton>("Command1")), LeftOf(grid())) << month;
+    EXPECT_EQ(LeftOf(Find<QPushButton>("Command2")) - RightOf(Find<QPushButton>("Command1")), 8);
+    EXPECT_EQ(LeftOf(Find<QLabel>("monthlabel")) - RightOf(Find<QPushButton>("Command2")), 12);
+    Find<QPushButton>("Command2").click();
+  }
+}
+
+TEST_F(FormParts, TheRingOfAnOptionGoesRoundItsWords) {
+  frmAtsum portal;
+  Open(portal);
+  auto& option = Find<QRadioButton>("Summary");
+  QTest::keyClick(dialog.get(), Qt::Key_Tab);
+  option.setFocus(Qt::TabFocusReason);
+  QCoreApplication::processEvents();
+  ASSERT_GT(option.width(), option.sizeHint().width() + 20);
+  const QImage picture = option.grab().toImage();
+  const QColor ring = TokensOf(QApplication::palette()).focus;
+  int end = picture.width() - 1;
+  while (end > 0 && picture.pixelColor(end, picture.height() / 2) != ring) --end;
+  EXPECT_NEAR(end, option.sizeHint().width() - 1, 2);
+}
+
 TEST_F(FormParts, FiguresThatAreOnlyShownEndBelowEachOther) {
   frmpoints portal;
   Open(portal);
@@ -223,30 +244,6 @@ TEST_F(FormParts, FiguresThatAreOnlyShownEndBelowEachOther) {
   portal.extra.Caption = "100";
   dialog->ShowControls();
   EXPECT_LE(std::abs(InkEnd(Find<QLabel>("totals")) - InkEnd(Find<QLabel>("extra"))), 1);
-}
-
-TEST_F(FormParts, FourteenGradesOfAStudentAreSeenAtOnceAtEveryDensity) {
-  for (int i = 3; i <= 14; ++i) AddGrade("Grade", "T");
-  for (const Look& look : kLooks) {
-    const WornLook worn(look);
-    frmscrnavg averages;
-    ExpectNoGradeHidden(averages, look);
-    frminfo information;
-    ExpectNoGradeHidden(information, look);
-  }
-}
-
-// In a picture of the screen's own dots, as large beside the words at every density.
-TEST_F(FormParts, ThePictureOfTheWizardGrowsWithTheFont) {
-  for (const Look& look : kLooks) {
-    const WornLook worn(look);
-    frmWizard portal;
-    Open(portal);
-    const QPixmap picture = Find<QLabel>("Picture2").pixmap();
-    EXPECT_EQ(picture.deviceIndependentSize(), QSizeF(Px(128), Px(128))) << look.name;
-    EXPECT_EQ(picture.devicePixelRatio(), qApp->devicePixelRatio()) << look.name;
-    dialog.reset();
-  }
 }
 
 // Figures come with a place for their sign.

@@ -28,6 +28,8 @@ namespace {
 
 class FramePictures : public FrameTest {
  protected:
+  static constexpr int kLongerThanKeysRest = 150;  // milliseconds: the panel follows by then
+
   // As a first start leaves it: the sample lies in the teacher's folder, and was opened before.
   FramePictures() {
     QApplication::setWindowIcon(PaletteIcon(QStringLiteral("tallyroll"), QPalette(Qt::white)));
@@ -53,7 +55,6 @@ class FramePictures : public FrameTest {
   void KeepClass(const QString& look) {
     constexpr int kRow = 8, kColumn = 4;
     window->Current()->findChild<GridWidget*>()->MoveTo(kRow, kColumn);
-    constexpr int kLongerThanKeysRest = 150;
     QTest::qWait(kLongerThanKeysRest);
     Keep(*window, look, QStringLiteral("class"));
     window->resize(1000, 500);
@@ -67,11 +68,13 @@ class FramePictures : public FrameTest {
     auto* tour = window->findChild<Tour*>();
     ASSERT_NE(tour, nullptr);
     tour->findChildren<QPushButton*>().at(button)->click();
-    QTest::qWait(50);
+    QTest::qWait(kLongerThanKeysRest);
   }
   // The offer on the start page, and the steps in the class that it opens.
   void KeepTour(const QString& look) {
     constexpr int kNext = 2;
+    window->activateWindow();  // again, after the boxes
+    EXPECT_TRUE(QTest::qWaitForWindowActive(window.get()));
     window->OfferTour();
     Settle();
     Keep(*window, look, QStringLiteral("tour-offer"));

@@ -125,13 +125,17 @@ TEST_F(SidePanelTest, FollowsWhatAPortalChangedOnceItIsLeft) {
 }
 
 TEST_F(SidePanelTest, HidesItselfInANarrowWindowAndComesBack) {
+  const auto* button = view().findChild<QToolButton*>(QStringLiteral("panel"));
   EXPECT_TRUE(panel().isVisible());
   window->resize(kNarrow);
   Settle();
   EXPECT_FALSE(panel().isVisible());
+  EXPECT_FALSE(button->isChecked());
+  EXPECT_FALSE(form().menu["mnupanel"].checked);
   window->resize(kWide);
   Settle();
   EXPECT_TRUE(panel().isVisible());
+  EXPECT_TRUE(button->isChecked());
   EXPECT_EQ(Said("name"), QStringLiteral("Al Adams"));
 }
 

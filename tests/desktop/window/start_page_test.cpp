@@ -12,10 +12,12 @@
 #include <QSignalSpy>
 #include <QTest>
 
+#include "desktop/style/tokens.h"
 #include "desktop/window/page_button.h"
 #include "shell/data_folder.h"
 #include "shell/recent_facts.h"
 #include "store/settings.h"
+#include "tests/desktop/style/looks.h"
 #include "tests/desktop/window/frame_fixture.h"
 
 namespace tallyroll {
@@ -105,6 +107,30 @@ TEST_F(StartPageTest, ListsRecentClassesByNameAndFolder) {
   EXPECT_EQ(Button("mnuFileList0")->description().toStdString(), folder + "/");
   EXPECT_EQ(Button("mnuFileList0")->accessibleName().toStdString(), Path("MATH & MORE.TYR"));
   EXPECT_FALSE(Button("mnuFileList1")->isVisible());
+}
+
+// From the left edge of its card: where the ground of its icon begins, and its own height.
+QPoint TileAndHeight(QWidget& card, QWidget& shown) {
+  const QImage picture = shown.grab().toImage();
+  const QColor tile = TokensOf(QApplication::palette()).accent_soft;
+  int x = 0;
+  while (x < picture.width() && picture.pixelColor(x, picture.height() / 2) != tile) ++x;
+  return {shown.mapTo(&card, QPoint(x, 0)).x(), card.height()};
+}
+
+TEST_F(StartPageTest, ARecentClassStandsAsTheCardsDo) {
+  RecentFiles[0] = WriteClass("MATH.TYR");
+  FrameForm->RebuildRecentMenu();
+  window->Sync();
+  Settle();
+  QWidget& way = *Button("mnuOpen");
+  QWidget& line = *Button("mnuFileList0");
+  for (const Look& look : kLooks) {
+    if (look.text.isValid()) continue;  // without soft grounds
+    const WornLook worn(look);
+    Settle();
+    EXPECT_EQ(TileAndHeight(*line.parentWidget(), line), TileAndHeight(way, way)) << look.name;
+  }
 }
 
 TEST_F(StartPageTest, OpensARecentClass) {

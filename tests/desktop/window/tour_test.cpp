@@ -9,6 +9,7 @@
 #include <filesystem>
 
 #include "desktop/grid/grid_widget.h"
+#include "desktop/style/tokens.h"
 #include "desktop/window/class_window_view.h"
 #include "desktop/window/start_page.h"
 #include "shell/data_folder.h"
@@ -60,6 +61,16 @@ TEST_F(TourTest, TheSampleIsOfferedAtItsButton) {
   EXPECT_FALSE(tour()->geometry().intersects(PlaceOf(*tour()->Target())));
   EXPECT_EQ(tour()->geometry().left() + tour()->geometry().right(),
             Mark()->geometry().left() + Mark()->geometry().right());
+}
+
+TEST_F(TourTest, TheMarkCoversTheLineOfTheCardItStandsRound) {
+  Offer();
+  const QRect place = PlaceOf(*tour()->Target());
+  const QImage picture = window->grab(place).toImage();
+  const QColor line = TokensOf(QApplication::palette()).line;
+  for (int y = 0; y < picture.height(); ++y)
+    for (int x = 0; x < picture.width(); ++x)
+      ASSERT_NE(picture.pixelColor(x, y), line) << x << ", " << y;
 }
 
 TEST_F(TourTest, EveryStepPointsAtARealControlAndStandsWithinTheWindow) {
