@@ -2,6 +2,7 @@
 // Windows and pictures are as large as what they show, at every density.
 #include <QLabel>
 #include <QScrollBar>
+#include <QSettings>
 
 #include "averages/portals/frminfo.h"
 #include "averages/portals/frmscrnavg.h"
@@ -15,6 +16,7 @@ namespace {
 
 class FormSizes : public ClassDialogs {
  protected:
+  FormSizes() { QSettings().clear(); }  // sizes that were kept
   static int Px(double length) {
     return qobject_cast<const ProgramStyle*>(QApplication::style())->measures().Px(length);
   }
