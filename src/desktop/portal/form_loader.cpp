@@ -76,8 +76,9 @@ bool IsOfClass(const QObject& object, const QString& class_name) {
 
 // What stands between the rows of a grid; what a label's words are for, which the style draws them
 // by, and whether it stands there without any; the word that a list shows as a chip, and the field
-// from which it is walked; the picture of a tool, the word below it, and which tool is the main
-// one; the button that Enter presses while a page is shown; a sheet that waits for a pause.
+// from which it is walked; the picture of a label or a tool, the word below it, and which tool is
+// the main one; the button that Enter presses while a page is shown; a sheet that waits for a
+// pause.
 bool IsOwnProperty(const QObject& object, const QByteArray& property) {
   return (property == "mainAction" && object.isWidgetType()) ||
          (property == "textUse" && qobject_cast<const QLabel*>(&object)) ||
@@ -86,6 +87,7 @@ bool IsOwnProperty(const QObject& object, const QByteArray& property) {
          (property == "chipWord" && qobject_cast<const QAbstractItemView*>(&object)) ||
          (property == "hideWhileEmpty" && qobject_cast<const QLabel*>(&object)) ||
          (property == "whenIdle" && qobject_cast<const QScrollArea*>(&object)) ||
+         (property == "iconName" && qobject_cast<const QLabel*>(&object)) ||
          ((property == "iconName" || property == "shortWord" || property == "mainTool") &&
           qobject_cast<const QToolButton*>(&object));
 }
@@ -154,10 +156,17 @@ void SpaceRows(const QObjectList& objects) {
   }
 }
 
-void DrawTools(const QObjectList& objects) {
-  for (QObject* object : objects)
-    if (auto* tool = qobject_cast<QToolButton*>(object))
-      tool->setIcon(ThemeIcon(tool->property("iconName").toString()));
+// As sharp as the screen is; the picture of a label grows with the font besides.
+void DrawPictures(const QObjectList& objects) {
+  constexpr double kPictureSide = 128;
+  const auto* style = qobject_cast<const ProgramStyle*>(QApplication::style());
+  const int side = style ? style->measures().Px(kPictureSide) : static_cast<int>(kPictureSide);
+  for (QObject* object : objects) {
+    const QIcon icon = ThemeIcon(object->property("iconName").toString());
+    if (auto* tool = qobject_cast<QToolButton*>(object)) tool->setIcon(icon);
+    auto* label = qobject_cast<QLabel*>(object);
+    if (label && !icon.isNull()) label->setPixmap(icon.pixmap(side));
+  }
 }
 
 void PrepareLabels(const QObjectList& objects) {
@@ -195,7 +204,7 @@ LoadedForm FormLoader::Load(const QString& file, QDialog& dialog) {
   AlignFormLabels(form_.objects);
   AlignPages(form_.objects);
   SpaceRows(form_.objects);
-  DrawTools(form_.objects);
+  DrawPictures(form_.objects);
   ComplainOfDynamicProperties();
   // A window takes no more room than what it will show.
   for (QObject* object : form_.objects)

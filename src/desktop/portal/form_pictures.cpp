@@ -71,10 +71,7 @@ void MarginSheet::paintEvent(QPaintEvent* /*event*/) {
 void SideStrip::paintEvent(QPaintEvent* /*event*/) {
   constexpr double kStripRadius = 10;
   QPainter painter(this);
-  painter.setRenderHint(QPainter::Antialiasing);
-  painter.setPen(Qt::NoPen);
-  painter.setBrush(TokensOf(palette()).accent_soft);
-  painter.drawRoundedRect(rect(), kStripRadius, kStripRadius);
+  DrawBox(painter, rect(), kStripRadius, TokensOf(palette()).accent_soft);
 }
 
 }  // namespace tallyroll

@@ -7,6 +7,7 @@
 #include <algorithm>
 
 #include "desktop/style/program_style.h"
+#include "desktop/style/shapes.h"
 #include "desktop/style/tokens.h"
 
 namespace tallyroll {
@@ -64,10 +65,7 @@ void TotalFigure::paintEvent(QPaintEvent*) {
   const int words = std::max(BesideMetrics().horizontalAdvance(beside),
                              BesideMetrics().horizontalAdvance(remainder));
   QPainter painter(this);
-  painter.setRenderHint(QPainter::Antialiasing);
-  painter.setPen(Qt::NoPen);
-  painter.setBrush(reached ? t.success_soft : t.danger_soft);
-  painter.drawRoundedRect(rect(), 6, 6);
+  DrawBox(painter, rect(), 6, reached ? t.success_soft : t.danger_soft);
   painter.setPen(reached ? t.success : t.danger);
   const QRect room = rect().adjusted(FigurePadding(), 0, -FigurePadding(), 0);
   const QRect figure = room.adjusted(0, 0, -words - FigurePadding(), 0);

@@ -178,8 +178,9 @@ QSize ChipSize(const QStyleOptionButton& button, const Measures& m, const QWidge
 
 QSize PushSize(const QStyleOptionButton& button, const QSize& contents, const Measures& m,
                const QWidget* widget) {
-  if (ArrowFor(button.text) != Qt::NoArrow) return {m.Px(kArrowButton), m.Control()};
   if (IsChip(widget)) return ChipSize(button, m, *widget);
+  // An arrow, or another sign alone: as wide whatever the font makes of it.
+  if (Bare(button.text).size() == 1) return {m.Px(kArrowButton), m.Control()};
   int width = contents.width();
   const bool may_be_main =
       button.features & (QStyleOptionButton::DefaultButton | QStyleOptionButton::AutoDefaultButton);
@@ -188,11 +189,9 @@ QSize PushSize(const QStyleOptionButton& button, const QSize& contents, const Me
     width +=
         strong.horizontalAdvance(button.text) - button.fontMetrics.horizontalAdvance(button.text);
   }
-  const bool sign_alone = Bare(button.text).size() == 1;
   const bool flat = button.features & QStyleOptionButton::Flat;
-  const int least = m.Px(sign_alone ? kArrowButton : flat ? 0 : kLeastButton);
-  const int beside = m.Px(sign_alone ? 4 : flat ? 10 : kBesideWord);
-  return {std::max(least, width + 2 * beside),
+  const int least = m.Px(flat ? 0 : kLeastButton);
+  return {std::max(least, width + 2 * m.Px(flat ? 10 : kBesideWord)),
           std::max(m.Control(), contents.height() + m.Px(6))};
 }
 

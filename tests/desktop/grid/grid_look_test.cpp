@@ -54,6 +54,33 @@ TEST_F(GridLook, BeyondTheLastCellIsTheWindow) {
             window);
 }
 
+// A line between rows is as thick as every other, also where a pixel is no whole number of dots,
+// and no ground is seen below the last.
+TEST_F(GridLook, ItsRowsEndInOneLineAtEveryScale) {
+  grid.SetSize(12, 20);
+  widget.UpdateFromGrid();
+  const QRect last = widget.CellRect(11, 6);
+  const Tokens t = Colors();
+  for (const double scale : {1.0, 1.25, 1.5, 1.75, 2.0}) {
+    const int dots = qRound(scale);
+    QImage picture((QSizeF(widget.viewport()->size()) * scale).toSize(), QImage::Format_RGB32);
+    picture.setDevicePixelRatio(scale);
+    widget.viewport()->render(&picture);
+    const int x = qRound((last.left() + 4) * scale), end = qRound((last.bottom() + 1) * scale);
+    QList<int> runs;
+    for (int y = qRound(widget.CellRect(2, 6).top() * scale); y < end; ++y) {
+      const QColor color = picture.pixelColor(x, y);
+      const bool line = color == t.grid_line || color == t.strong_line;
+      if (!line) runs << 0;
+      if (line && !runs.isEmpty()) ++runs.last();
+    }
+    ASSERT_FALSE(runs.isEmpty());
+    EXPECT_EQ(runs.last(), dots) << scale << ": the last line ends with the sheet";
+    runs.removeAll(0);
+    EXPECT_EQ(runs, QList<int>(10, dots)) << scale;
+  }
+}
+
 TEST_F(GridLook, ItsLinesAreOfOneThicknessAtEveryScale) {
   for (const double scale : {1.0, 1.25, 1.5, 1.75, 2.0}) {
     QImage picture((QSizeF(widget.viewport()->size()) * scale).toSize(), QImage::Format_RGB32);

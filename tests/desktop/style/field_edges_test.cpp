@@ -12,6 +12,7 @@
 #include "desktop/portal/date_field.h"
 #include "desktop/portal/list_columns.h"
 #include "desktop/style/appearance.h"
+#include "desktop/style/program_style.h"
 #include "grades/frmMarks.h"
 #include "roster/frmAdd.h"
 #include "roster/frmEdit.h"
@@ -114,7 +115,7 @@ TEST_F(FieldEdges, FieldsBeginAtOneEdgeWhicheverPageIsInFront) {
   ExpectOneEdge(add, {"lastname", "email", "address"});
 }
 
-// A sign of 16 in a button as high as its field: 24 by 30, and never a sliver.
+// A sign of 16 in a button as high as its field: 24 by 30 in the usual font, and never a sliver.
 TEST_F(FieldEdges, TheArrowOfADateGrowsWithItsHeight) {
   const auto size = [](Density density) {
     Appearance::Instance()->SetDensity(density);
@@ -124,7 +125,9 @@ TEST_F(FieldEdges, TheArrowOfADateGrowsWithItsHeight) {
   };
   const QSize usual = size(Density::kNormal), roomy = size(Density::kRoomy);
   Appearance::Instance()->SetDensity(Density::kNormal);
-  EXPECT_EQ(usual, QSize(24, 30));
+  const auto* style = qobject_cast<const ProgramStyle*>(QApplication::style());
+  ASSERT_NE(style, nullptr);
+  EXPECT_EQ(usual, QSize(24, style->measures().Control()));
   EXPECT_GT(roomy.width(), usual.width());
 }
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Contrast as the eye meets it: of the pixels of every window's picture, whatever drew them.
 #include <QAbstractButton>
+#include <QAbstractSpinBox>
 #include <QComboBox>
 #include <QImage>
 #include <QLabel>
@@ -100,13 +101,21 @@ class PixelContrast : public EveryWindow {
         expect(*tabs, tabs->tabRect(i).adjusted(6, 6, -6, -6), kReadable, tabs->tabText(i));
   }
 
-  // What a field begins and ends with.
+  // What a field begins and ends with. That of a choice or a date stands within an edge.
   template <typename Expect>
   static void LookAtEdges(const QWidget& window, const Expect& expect) {
-    for (const auto* edit : window.findChildren<QLineEdit*>())
-      if (Counts(*edit) && !edit->isReadOnly() && !qobject_cast<QComboBox*>(edit->parentWidget()))
-        expect(*edit, QRect(edit->width() / 2, 0, 4, edit->height() / 3), kSeen,
+    const auto look = [&](const QWidget& field) {
+      if (Counts(field))
+        expect(field, QRect(field.width() / 2, 0, 4, field.height() / 3), kSeen,
                QStringLiteral("edge"));
+    };
+    for (const auto* edit : window.findChildren<QLineEdit*>()) {
+      const QWidget* parent = edit->parentWidget();
+      if (!edit->isReadOnly() && !qobject_cast<const QComboBox*>(parent) &&
+          !qobject_cast<const QAbstractSpinBox*>(parent))
+        look(*edit);
+    }
+    for (const auto* date : window.findChildren<QAbstractSpinBox*>()) look(*date);
   }
 
   template <typename Expect>
