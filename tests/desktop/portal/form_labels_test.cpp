@@ -71,8 +71,7 @@ TEST_F(LongWords, ThatExplainWrapWhereTheEyeStillFindsTheNextLine) {
   const QImage picture = rule.grab().toImage();
   const QRgb ground = picture.pixel(picture.width() - 20, picture.height() / 2);
   const int behind = rule.fontMetrics().height() + ninety;
-  for (int y = 0; y < picture.height(); ++y)
-    EXPECT_EQ(picture.pixel(behind, y), ground) << y;
+  for (int y = 0; y < picture.height(); ++y) EXPECT_EQ(picture.pixel(behind, y), ground) << y;
 }
 
 // A page of 8.5 by 11 inches, 102 pixels wide: an inch is 12.

@@ -216,8 +216,9 @@ TEST_F(FormParts, TheKeyToTheCodesEndsWithTheMonth) {
     EXPECT_LT(RightOf(grid()), dialog->width() - 20);
     EXPECT_EQ(RightOf(Find<CodeKey>("codekey")), RightOf(grid())) << month;
     EXPECT_EQ(LeftOf(Find<QPushButton>("Command1")), LeftOf(grid())) << month;
-    EXPECT_EQ(LeftOf(Find<QPushButton>("Command2")) - RightOf(Find<QPushButton>("Command1")), 8);
-    EXPECT_EQ(LeftOf(Find<QLabel>("monthlabel")) - RightOf(Find<QPushButton>("Command2")), 12);
+    EXPECT_EQ(LeftOf(Find<QPushButton>("Command2")) - RightOf(Find<QPushButton>("Command1")),
+              Px(8));
+    EXPECT_EQ(LeftOf(Find<QLabel>("monthlabel")) - RightOf(Find<QPushButton>("Command2")), Px(12));
     Find<QPushButton>("Command2").click();
   }
 }
